@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds the benchmarks and runs them.
+# What follows the command goes to the benchmark program: ./bench.sh --benchmark_filter=replay
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+. tools/setup.sh
+
+wantpackages $runpackages $benchpackages
+configure build CMAKE_BUILD_TYPE=Release TESSALY_BENCH=ON
+build build bench
+QT_QPA_PLATFORM=offscreen exec build/bench "$@"

@@ -1,0 +1,11 @@
+#!/usr/bin/env bash
+# Installs what is missing, builds everything with warnings as errors and runs every test.
+# What follows the command goes to ctest: ./test.sh -R projector
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")"
+. tools/setup.sh
+
+wantpackages $runpackages $testpackages
+configure build CMAKE_BUILD_TYPE=Release TESSALY_TESTS=ON TESSALY_WERROR=ON
+build build
+QT_QPA_PLATFORM=offscreen ctest --test-dir build -j2 --output-on-failure "$@"
