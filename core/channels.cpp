@@ -1,0 +1,215 @@
+// Channels over the system's files. A record is appended with one write and taken back where it did not go in whole,
+// so that a design file never holds half a record.
+
+#include "core/channels.h"
+
+#include "core/failure.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <filesystem>
+#include <map>
+#include <optional>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <time.h>
+#include <unistd.h>
+
+namespace tessaly {
+
+namespace {
+
+struct appending {
+    std::string path;
+    std::string text;
+    int handle;
+};
+
+struct channelstate {
+    std::optional<textinput> input;
+    std::optional<appending> output;
+    bool open() const { return input || output; }
+};
+
+constexpr int lastchannel = 2;
+std::array<channelstate, lastchannel + 1> channels;
+
+channelstate& channelof(int channel) { return channels.at(static_cast<std::size_t>(channel)); }
+
+[[noreturn]] void systemfailure(const std::string& path, const char* what, int error) {
+    const auto kind =
+        error == ENOENT || error == ENOTDIR ? failurekind::filenotfound : failurekind::fileaccess;
+    throw failure(kind, path + " (" + what + "): " + std::strerror(error));
+}
+
+void expectfree(int channel, std::string_view path) {
+    const channelstate& c = channelof(channel);
+    if (!c.open()) return;
+    throw failure(failurekind::filealreadyopen, "channel " + std::to_string(channel) + " still holds " +
+                                                    (c.input ? c.input->path : c.output->path) + " while opening " +
+                                                    std::string(path));
+}
+
+// What tells that a file on disk is still the one whose bytes are kept.
+struct filestamp {
+    dev_t device;
+    ino_t node;
+    off_t size;
+    timespec changed, modified;
+
+    explicit filestamp(const struct stat& s)
+        : device(s.st_dev), node(s.st_ino), size(s.st_size), changed(s.st_ctim), modified(s.st_mtim) {}
+    // The system's clock for files ticks in steps: a file that was written within the last one can change again
+    // without its stamp showing it.
+    bool settled() const {
+        timespec now{};
+        ::clock_gettime(CLOCK_REALTIME, &now);
+        const double age = static_cast<double>(now.tv_sec - changed.tv_sec) +
+                           1e-9 * static_cast<double>(now.tv_nsec - changed.tv_nsec);
+        return age > 0.1;
+    }
+    bool operator==(const filestamp& o) const {
+        const auto same = [](const timespec& a, const timespec& b) {
+            return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
+        };
+        return device == o.device && node == o.node && size == o.size && same(changed, o.changed) &&
+               same(modified, o.modified);
+    }
+};
+
+struct keptfile {
+    filestamp stamp;
+    std::shared_ptr<const std::string> bytes;
+};
+
+std::string readwhole(int handle, const std::string& path, const char* what) {
+    std::string bytes;
+    char block[1 << 16];
+    for (;;) {
+        const ssize_t got = ::read(handle, block, sizeof block);
+        if (got == 0) return bytes;
+        if (got < 0) {
+            if (errno == EINTR) continue;
+            const int error = errno;
+            ::close(handle);
+            systemfailure(path, what, error);
+        }
+        bytes.append(block, static_cast<std::size_t>(got));
+    }
+}
+
+// Writes all of text at the end of the file behind handle, or leaves the file at its length and tells the error.
+int appendwhole(int handle, const std::string& text) {
+    struct stat before {};
+    if (::fstat(handle, &before) != 0) return errno;
+    std::size_t done = 0;
+    while (done < text.size()) {
+        const ssize_t wrote = ::write(handle, text.data() + done, text.size() - done);
+        if (wrote < 0 && errno == EINTR) continue;
+        if (wrote <= 0) {
+            const int error = wrote < 0 ? errno : ENOSPC;
+            if (done > 0 && ::ftruncate(handle, before.st_size) != 0) return errno;
+            return error;
+        }
+        done += static_cast<std::size_t>(wrote);
+    }
+    return 0;
+}
+
+}  // namespace
+
+std::string systempath(std::string_view path) {
+    std::string result(path);
+    std::replace(result.begin(), result.end(), '\\', '/');
+    return result;
+}
+
+std::string textinput::place(int atline, int atfield) const {
+    return path + ", line " + std::to_string(atline) + ", field " + std::to_string(atfield);
+}
+
+std::shared_ptr<const std::string> filebytes(std::string_view path, const char* what) {
+    static std::map<std::string, keptfile, std::less<>> kept;
+    const std::string system = systempath(path);
+    struct stat now {};
+    if (::stat(system.c_str(), &now) != 0) systemfailure(std::string(path), what, errno);
+    const auto found = kept.find(system);
+    if (found != kept.end() && found->second.stamp == filestamp(now)) return found->second.bytes;
+
+    const int handle = ::open(system.c_str(), O_RDONLY | O_CLOEXEC);
+    if (handle < 0) systemfailure(std::string(path), what, errno);
+    ::fstat(handle, &now);  // of the file really read
+    auto bytes = std::make_shared<const std::string>(readwhole(handle, std::string(path), what));
+    ::close(handle);
+    kept.erase(system);
+    if (filestamp(now).settled()) kept.emplace(system, keptfile{filestamp(now), bytes});
+    return bytes;
+}
+
+void openinput(int channel, std::string_view path, const char* what) {
+    expectfree(channel, path);
+    textinput opened;
+    opened.path = path;
+    opened.bytes = filebytes(path, what);
+    channelof(channel).input = std::move(opened);
+}
+
+void openappend(int channel, std::string_view path, const char* what) {
+    expectfree(channel, path);
+    const int handle = ::open(systempath(path).c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666);
+    if (handle < 0) systemfailure(std::string(path), what, errno);
+    channelof(channel).output = appending{std::string(path), {}, handle};
+}
+
+void writetext(int channel, std::string_view text) {
+    channelstate& c = channelof(channel);
+    if (!c.output) throw failure(failurekind::invalidcall, "channel " + std::to_string(channel) + " is not open for writing");
+    c.output->text += text;
+}
+
+void closechannel(int channel) {
+    channelstate& c = channelof(channel);
+    c.input.reset();
+    if (!c.output) return;
+    const appending closing = std::move(*c.output);
+    c.output.reset();
+    int error = appendwhole(closing.handle, closing.text);
+    if (::close(closing.handle) != 0 && error == 0) error = errno;
+    if (error != 0) systemfailure(closing.path, "could not be written, it stands as it was", error);
+}
+
+textinput& channelinput(int channel) {
+    channelstate& c = channelof(channel);
+    if (!c.input) throw failure(failurekind::invalidcall, "channel " + std::to_string(channel) + " is not open for reading");
+    return *c.input;
+}
+
+void forgetchannels() {
+    for (channelstate& c : channels) {
+        if (c.output) ::close(c.output->handle);
+        c = channelstate{};
+    }
+}
+
+void deletefile(std::string_view path) {
+    if (::unlink(systempath(path).c_str()) != 0) systemfailure(std::string(path), "could not be deleted", errno);
+}
+
+std::vector<std::string> filesin(std::string_view folder) {
+    std::error_code error;
+    std::vector<std::string> names;
+    std::filesystem::directory_iterator files(systempath(folder), error), end;
+    for (; !error && files != end; files.increment(error)) {
+        const std::string name = files->path().filename().string();
+        std::error_code ignored;
+        if (name.front() != '.' && !files->is_directory(ignored)) names.push_back(name);
+    }
+    if (error) systemfailure(std::string(folder), "folder", error.value());
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+}  // namespace tessaly

@@ -1,0 +1,124 @@
+// The windows and named controls as the tables give them, and the few operations on them.
+
+#include "core/controls.h"
+
+#include "core/channels.h"
+
+#include <map>
+
+namespace tessaly {
+
+namespace {
+
+constexpr colour nocolour{};
+constexpr colour grey{192, 192, 192};
+constexpr colour darkgrey{64, 64, 64};
+constexpr colour red{255, 0, 0};
+constexpr colour white{255, 255, 255};
+
+std::map<std::string, control*, std::less<>>& controlsbyname() {
+    static std::map<std::string, control*, std::less<>> byname;
+    return byname;
+}
+
+}  // namespace
+
+window::window(const char* itsname, const char* itstitle, int itswidth, int itsheight, colour itsback)
+    : name(itsname), title(itstitle), widthtwips(itswidth), heighttwips(itsheight), back(itsback) {}
+
+// clang-format off
+window startform   ("startform",    "Tessaly Girder and Panel", 12540,  8520, darkgrey);
+window vistaplan   ("vistaplan",    "Tessaly Girder and Panel", 15330, 10605, grey);
+window layoutgirder("layoutgirder", "Layout Girders",            9255,  6855, {255, 255, 192});
+window layoutpanels("layoutpanels", "Panels Layout",             7680,  6240, {192, 192, 255});
+window layoutroof  ("layoutroof",   "Roof Layout",               6645,  4935, {255, 128, 128});
+window easyviews   ("easyviews",    "Easy views",               14745, 10515, {192, 192, 255});
+window instructions("instructions", "Tessaly Panel and Girder", 19200, 12990, {177, 199, 228});
+// clang-format on
+
+#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, spoken)                          \
+    control name{&in,  controlkind::kind, #name,          {left, top, width, height}, text, shown,                     \
+                 back, !(back == nocolour), tooltip, spoken};
+#include "core/controls.def"
+#undef CONTROL
+
+control* wantedfocus = nullptr;
+std::function<void()> repaintmainwindow;
+bool programended = false;
+
+const std::vector<window*>& allwindows() {
+    static const std::vector<window*> windows{&startform,  &vistaplan, &layoutgirder, &layoutpanels,
+                                              &layoutroof, &easyviews, &instructions};
+    return windows;
+}
+
+void forgetcontrols() {
+    struct firststate {
+        control* c;
+        control state;
+    };
+    static std::vector<firststate> first;
+    if (first.empty()) {
+#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, spoken)                          \
+    first.push_back({&name, name});
+#include "core/controls.def"
+#undef CONTROL
+    }
+    controlsbyname().clear();
+    for (window* w : allwindows()) {
+        w->created = w->shown = false;
+        w->raised = 0;
+        w->controls.clear();
+    }
+    for (firststate& f : first) {
+        *f.c = f.state;
+        addcontrol(*f.c);
+    }
+    wantedfocus = nullptr;
+    programended = false;
+}
+
+void addcontrol(control& added) {
+    added.in->controls.push_back(&added);
+    controlsbyname()[added.name] = &added;
+}
+
+control* findcontrol(std::string_view name) {
+    const auto found = controlsbyname().find(name);
+    return found == controlsbyname().end() ? nullptr : found->second;
+}
+
+window* findwindow(std::string_view name) {
+    for (window* w : allwindows())
+        if (w->name == name) return w;
+    return nullptr;
+}
+
+const std::string& selectedtext(const control& list) {
+    static const std::string nothing;
+    const auto place = static_cast<std::size_t>(list.selected);
+    return list.selected >= 0 && place < list.items.size() ? list.items[place] : nothing;
+}
+
+void showwindow(window& w) {
+    static int showings = 0;
+    w.created = w.shown = true;
+    w.raised = ++showings;
+}
+
+void hidewindow(window& w) {
+    w.created = true;
+    w.shown = false;
+}
+
+void setfolder(control& filelist, std::string_view folder) {
+    filelist.folder = folder;
+    refresh(filelist);
+}
+
+void refresh(control& filelist) {
+    filelist.items = filesin(filelist.folder);
+    filelist.selected = -1;
+}
+
+}  // namespace tessaly

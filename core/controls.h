@@ -1,0 +1,97 @@
+// Windows and controls as plain state. The logic reads and writes this state and never sees a widget; a window layer
+// carries it to the screen and back, and tools/play drives it with no screen at all. One string is a control's name
+// here, in the tables and on its widget.
+#pragma once
+
+#include "core/colour.h"
+
+#include <functional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tessaly {
+
+enum class controlkind { button, picturebutton, label, textbox, page, list, filelist, combobox, picturebox, frame };
+
+struct twips {  // of the window's design grid; 15 twips are one pixel
+    int left, top, width, height;
+};
+constexpr int twipsperpixel = 15;
+
+struct control;
+
+struct window {
+    window(const char* itsname, const char* itstitle, int itswidth, int itsheight, colour itsback);
+
+    const char* name;
+    const char* title;
+    int widthtwips, heighttwips;  // of the interior
+    colour back;
+    bool created = false;             // made on first use, kept until exit
+    bool shown = false;
+    int raised = 0;                   // grows at each showing: the window with the highest stands in front
+    std::vector<control*> controls;   // in the order of the tables
+};
+
+struct control {
+    window* in;
+    controlkind kind;
+    std::string name;
+    twips place;
+    std::string text;  // caption, or text of a box; UTF-8
+    bool shown;
+    colour back;       // meant only where coloured
+    bool coloured;
+    std::string tooltip;
+    std::string spoken;              // for screen readers; the caption where empty
+    std::string folder = {};         // of a file list, as users write it
+    std::vector<std::string> items = {};
+    int selected = -1;               // place in items, -1: none
+    int elementnumber = 0;           // of a layout button
+};
+
+// The windows, in the order in which reports list them.
+extern window startform, vistaplan, layoutgirder, layoutpanels, layoutroof, easyviews, instructions;
+const std::vector<window*>& allwindows();
+
+// The controls with a name of their own; position buttons of layouts and quick views come from their families.
+#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, spoken) extern control name;
+#include "core/controls.def"
+#undef CONTROL
+
+// Puts windows and controls back to their first state: the named controls in their windows' lists, nothing shown.
+void forgetcontrols();
+
+// Adds a control to the end of its window's list; it must outlive the program's run.
+void addcontrol(control& added);
+
+// The control of that name in any window, or nullptr.
+control* findcontrol(std::string_view name);
+window* findwindow(std::string_view name);
+
+// The text of the selected item, "" where nothing is selected.
+const std::string& selectedtext(const control& list);
+
+// Makes a window visible and puts it in front, creating it on first use; hides it, creating it on first use.
+void showwindow(window& w);
+void hidewindow(window& w);
+
+inline void show(control& c) { c.shown = true; }
+inline void hide(control& c) { c.shown = false; }
+
+// Points a file list at its folder, or reads that folder again: every visible file by bare name, nothing selected.
+// Fails with file not found where there is no such folder.
+void setfolder(control& filelist, std::string_view folder);
+void refresh(control& filelist);
+
+// The control that is to get the keyboard focus after this event; nullptr: the focus stays.
+extern control* wantedfocus;
+
+// Asks the main window for a repaint of its own surface; set by the window layer.
+extern std::function<void()> repaintmainwindow;
+
+// Set by exitbtn: the program is to end with status 0 once the event is over.
+extern bool programended;
+
+}  // namespace tessaly

@@ -1,0 +1,33 @@
+// The words of failures, and the checked division.
+
+#include "core/failure.h"
+
+#include <utility>
+
+namespace tessaly {
+
+std::string_view kindname(failurekind kind) {
+    switch (kind) {
+    case failurekind::filenotfound: return "file not found";
+    case failurekind::fileaccess: return "file access error";
+    case failurekind::filealreadyopen: return "file already open";
+    case failurekind::inputpastend: return "input past end of file";
+    case failurekind::overflow: return "overflow";
+    case failurekind::subscript: return "subscript out of range";
+    case failurekind::typemismatch: return "type mismatch";
+    case failurekind::divisionbyzero: return "division by zero";
+    case failurekind::invalidcall: return "invalid call";
+    }
+    return "unknown failure";
+}
+
+failure::failure(failurekind failed, std::string why) : kind(failed), detail(std::move(why)) {
+    report = std::string(kindname(kind)) + ": " + detail;
+}
+
+double quotient(double dividend, double divisor, const char* what) {
+    if (divisor == 0) throw failure(failurekind::divisionbyzero, what);
+    return dividend / divisor;
+}
+
+}  // namespace tessaly

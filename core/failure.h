@@ -1,0 +1,40 @@
+// Failures: one exception type for everything that can go wrong while the building set runs.
+// A failure is thrown once, by the operation that finds it. The few traps of the program are try/catch
+// exactly where the behaviour has a trap; everything else reaches the top of the event, is shown and ends the program.
+#pragma once
+
+#include <exception>
+#include <string>
+#include <string_view>
+
+namespace tessaly {
+
+enum class failurekind {
+    filenotfound,     // no such file or folder
+    fileaccess,       // the system refuses to read, write or delete it
+    filealreadyopen,  // the channel is still in use
+    inputpastend,     // a read behind the last field of a file
+    overflow,         // a number outside the range of its place
+    subscript,        // an index outside a table
+    typemismatch,     // a text met arithmetic and is no number
+    divisionbyzero,   // a quotient with divisor 0
+    invalidcall,      // an operation given something it cannot work on
+};
+
+// The words of a kind as reports show them, such as "file not found".
+std::string_view kindname(failurekind kind);
+
+struct failure : std::exception {
+    failure(failurekind failed, std::string why);
+
+    failurekind kind;
+    std::string detail;  // what a person needs to mend it: file, line, field, what was expected
+    std::string report;  // kind and detail in one line, as shown
+
+    const char* what() const noexcept override { return report.c_str(); }
+};
+
+// dividend / divisor; fails with division by zero naming what was being computed.
+double quotient(double dividend, double divisor, const char* what);
+
+}  // namespace tessaly

@@ -1,0 +1,158 @@
+// The field rules, in one scanner over the bytes of the open file.
+
+#include "core/fields.h"
+
+#include "core/channels.h"
+#include "core/failure.h"
+
+namespace tessaly {
+
+namespace {
+
+bool isblank(char c) { return c == ' ' || c == '\t'; }
+bool islineend(char c) { return c == '\n' || c == '\r'; }
+
+struct scanner {
+    textinput& in;
+    const std::string& bytes;
+    const char* what;
+
+    scanner(int channel, const char* sought) : in(channelinput(channel)), bytes(*in.bytes), what(sought) {}
+
+    bool atend() const { return in.at >= bytes.size(); }
+    char next() const { return bytes[in.at]; }
+
+    [[noreturn]] void pastend() const {
+        throw failure(failurekind::inputpastend, in.place() + ": the file ends while looking for " + what);
+    }
+    void skipblanks() {
+        while (!atend() && isblank(next())) ++in.at;
+    }
+    // Takes a line end, carriage return and line feed counting as one.
+    void takelineend() {
+        if (next() == '\r' && in.at + 1 < bytes.size() && bytes[in.at + 1] == '\n') ++in.at;
+        ++in.at;
+        ++in.line;
+        in.field = 1;
+    }
+    // Takes the separator that closes a field, if one stands here.
+    void takeseparator() {
+        if (atend()) return;
+        if (next() == ',') {
+            ++in.at;
+            ++in.field;
+        } else if (islineend(next())) {
+            takelineend();
+        } else {
+            ++in.field;
+        }
+    }
+    void skipblanklines() {
+        skipblanks();
+        while (in.field == 1 && !atend() && islineend(next())) {
+            takelineend();
+            skipblanks();
+        }
+    }
+    // From the opening quote to the next one, line ends included; then the separator.
+    std::string_view takequoted() {
+        const std::size_t from = ++in.at;
+        while (!atend() && next() != '"') {
+            if (next() == '\n') ++in.line;
+            ++in.at;
+        }
+        const std::string_view text(bytes.data() + from, in.at - from);
+        if (!atend()) ++in.at;
+        skipblanks();
+        takeseparator();
+        return text;
+    }
+    std::string_view tocommaorlineend() {
+        const std::size_t from = in.at;
+        while (!atend() && next() != ',' && !islineend(next())) ++in.at;
+        return {bytes.data() + from, in.at - from};
+    }
+    // The front of the field up to a blank: the whole of it, or the number that ends there.
+    std::string_view toblank() const {
+        std::size_t to = in.at;
+        while (to < bytes.size() && bytes[to] != ',' && !islineend(bytes[to]) && !isblank(bytes[to])) ++to;
+        return {bytes.data() + in.at, to - in.at};
+    }
+    std::optional<double> takenumber() {
+        const std::string_view front = toblank();
+        std::optional<double> number;
+        try {
+            number = strictnumber(front);
+        } catch (const failure& beyond) {
+            throw failure(beyond.kind, in.place() + ": " + beyond.detail + " (" + what + ")");
+        }
+        if (number) {
+            in.at += front.size();
+            skipblanks();
+            takeseparator();
+        }
+        return number;
+    }
+    // The field that begins here, its blanks skipped.
+    value takevalue() {
+        if (atend()) pastend();
+        const std::string origin = next() == '"' ? in.place() + " (" + what + ")" : std::string();
+        if (next() == '"') return value(takequoted(), origin);
+        if (const auto number = takenumber()) return value(*number);
+        const std::string place = in.place() + " (" + what + ")";
+        const std::string_view text = tocommaorlineend();
+        takeseparator();
+        return text.empty() ? value() : value(text, place);
+    }
+};
+
+}  // namespace
+
+value readvalue(int channel, const char* what) {
+    scanner s(channel, what);
+    s.skipblanklines();
+    return s.takevalue();
+}
+
+value readrecordfield(int channel, const char* what) {
+    scanner s(channel, what);
+    s.skipblanks();
+    return s.takevalue();
+}
+
+int readlabel(int channel, const char* what) {
+    scanner s(channel, what);
+    s.skipblanklines();
+    if (s.atend()) s.pastend();
+    const int line = s.in.line, field = s.in.field;
+    double label = 0;
+    if (s.next() == '"') {
+        label = strictnumber(s.takequoted()).value_or(0);
+    } else if (const auto number = s.takenumber()) {
+        label = *number;
+    } else {
+        s.tocommaorlineend();
+        s.takeseparator();
+    }
+    label = nearestwhole(label);
+    if (label < -32768 || label > 32767)
+        throw failure(failurekind::overflow, s.in.place(line, field) + ": " + shortesttext(label) + " as " + what +
+                                                 ", a whole number -32768..32767 was expected");
+    return static_cast<int>(label);
+}
+
+std::string_view readtextfield(int channel, const char* what) {
+    scanner s(channel, what);
+    s.skipblanks();
+    if (s.atend()) s.pastend();
+    if (s.next() == '"') return s.takequoted();
+    const std::string_view text = s.tocommaorlineend();
+    s.takeseparator();
+    return text;
+}
+
+void findkey(int channel, const char* key) {
+    while (readtextfield(channel, key) != key) continue;
+}
+
+}  // namespace tessaly

@@ -1,0 +1,132 @@
+// Values and the one place where numbers and text meet.
+
+#include "core/value.h"
+
+#include "core/failure.h"
+
+#include <charconv>
+#include <cmath>
+#include <deque>
+#include <limits>
+#include <unordered_map>
+
+namespace tessaly {
+
+namespace {
+
+struct pooled {
+    std::string text;
+    std::string origin;
+};
+
+std::deque<pooled>& pool() {
+    static std::deque<pooled> texts(2);  // the first two places stand for empty and number
+    return texts;
+}
+
+std::uint32_t poolplace(std::string_view text, std::string_view origin) {
+    static std::unordered_map<std::string, std::uint32_t> places;
+    std::string key(text);
+    key += '\0';
+    key += origin;
+    const auto next = static_cast<std::uint32_t>(pool().size());
+    const auto [found, fresh] = places.emplace(std::move(key), next);
+    if (fresh) pool().push_back({std::string(text), std::string(origin)});
+    return found->second;
+}
+
+bool isblank(char c) { return c == ' ' || c == '\t'; }
+bool isdigit(char c) { return c >= '0' && c <= '9'; }
+
+// The length of the number at the front of text (sign, digits, point, digits, exponent), 0 when there are no digits.
+std::size_t numberlength(std::string_view text) {
+    std::size_t at = 0;
+    std::size_t digits = 0;
+    if (at < text.size() && (text[at] == '+' || text[at] == '-')) ++at;
+    for (; at < text.size() && isdigit(text[at]); ++at) ++digits;
+    if (at < text.size() && text[at] == '.')
+        for (++at; at < text.size() && isdigit(text[at]); ++at) ++digits;
+    if (digits == 0) return 0;
+    if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
+        std::size_t power = at + 1;
+        if (power < text.size() && (text[power] == '+' || text[power] == '-')) ++power;
+        if (power < text.size() && isdigit(text[power])) {
+            while (power < text.size() && isdigit(text[power])) ++power;
+            at = power;
+        }
+    }
+    return at;
+}
+
+// text holds a number and nothing else. Beyond double precision: infinity with its sign, or 0.
+double parsed(std::string_view text) {
+    if (text.front() == '+') text.remove_prefix(1);
+    double number = 0;
+    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
+    if (result.ec != std::errc::result_out_of_range) return number;
+    const auto power = text.find_first_of("eE");
+    const bool tiny = power != std::string_view::npos && text[power + 1] == '-';
+    if (tiny) return 0;
+    const double huge = std::numeric_limits<double>::infinity();
+    return text.front() == '-' ? -huge : huge;
+}
+
+}  // namespace
+
+value::value(std::string_view text, std::string_view origin) : form(poolplace(text, origin)) {}
+
+bool value::is(std::string_view text) const {
+    if (istext()) return pool()[form].text == text;
+    return empty() && text.empty();
+}
+
+std::string value::text() const {
+    if (istext()) return pool()[form].text;
+    return empty() ? std::string() : generaltext(figure);
+}
+
+double value::converted() const {
+    const pooled& held = pool()[form];
+    if (const auto number = strictnumber(held.text)) return *number;
+    throw failure(failurekind::typemismatch, (held.origin.empty() ? std::string() : held.origin + ": ") + "\"" +
+                                                 held.text + "\" where a number was expected");
+}
+
+std::optional<double> strictnumber(std::string_view text) {
+    while (!text.empty() && isblank(text.front())) text.remove_prefix(1);
+    while (!text.empty() && isblank(text.back())) text.remove_suffix(1);
+    if (text.empty() || numberlength(text) != text.size()) return std::nullopt;
+    const double number = parsed(text);
+    if (std::isinf(number)) throw failure(failurekind::overflow, "the number " + std::string(text) + " is too large");
+    return number;
+}
+
+double Val(std::string_view text) {
+    while (!text.empty() && isblank(text.front())) text.remove_prefix(1);
+    const std::size_t length = numberlength(text);
+    if (length == 0) return 0;
+    const double number = parsed(text.substr(0, length));
+    if (std::isinf(number)) return std::copysign(std::numeric_limits<double>::max(), number);
+    return number;
+}
+
+std::string generaltext(double number) {
+    if (number == 0) return "0";  // also -0
+    char digits[40];
+    const auto end = std::to_chars(digits, digits + sizeof digits, number, std::chars_format::general, 15).ptr;
+    std::string text(digits, end);
+    for (char& c : text)
+        if (c == 'e') c = 'E';
+    return text;
+}
+
+std::string shortesttext(double number) {
+    char digits[40];
+    return std::string(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+}
+
+std::string boxtext(const value& v, std::size_t n) { return v.text().substr(0, n); }
+
+double nearestwhole(double number) { return std::nearbyint(number); }
+
+}  // namespace tessaly

@@ -1,0 +1,67 @@
+// Values: what a scalar or a table element holds. A value is empty, a number or a text, in 16 bytes; texts live
+// in one pool, each with the place it came from, so that a report can name file, line and field of a bad figure.
+// Numbers and text meet in this file only, and no locale has a say in it.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <type_traits>
+
+namespace tessaly {
+
+class value {
+  public:
+    value() = default;  // empty: 0 in arithmetic, "" as text
+
+    template <class number>
+        requires std::is_arithmetic_v<number>
+    value(number n) : figure(static_cast<double>(n)), form(isfigure) {}
+
+    // A text stays text until arithmetic meets it. origin: where it was read, for reports.
+    value(std::string_view text, std::string_view origin = {});
+    value(const char* text) : value(std::string_view(text)) {}
+    value(const std::string& text) : value(std::string_view(text)) {}
+
+    bool empty() const { return form == isempty; }
+    bool isnumber() const { return form == isfigure; }
+    bool istext() const { return form > isfigure; }
+    // True for a text of exactly these characters; an empty value is the empty text, a number is never a text.
+    bool is(std::string_view text) const;
+
+    // The number: 0 for empty, a text converted strictly; fails with type mismatch where it is no number.
+    operator double() const { return form <= isfigure ? figure : converted(); }
+
+    // The text: "" for empty, a number's general text.
+    std::string text() const;
+
+  private:
+    static constexpr std::uint32_t isempty = 0, isfigure = 1;
+    double converted() const;
+
+    double figure = 0;
+    std::uint32_t form = isempty;  // above isfigure: place of the text in the pool
+};
+static_assert(sizeof(value) <= 16);
+
+// A text that is a number as a whole: blanks around it, sign, digits with one point, exponent. Nothing for any
+// other text; fails with overflow where the number is beyond double precision.
+std::optional<double> strictnumber(std::string_view text);
+
+// The numeric value of a text by its leading digits (blanks before, sign, point, exponent); 0 when there are none.
+double Val(std::string_view text);
+
+// A number's general text: at most 15 significant digits, no leading blank, no separators.
+std::string generaltext(double number);
+
+// A number's shortest text that reads back as the same number.
+std::string shortesttext(double number);
+
+// The text of v cut to its first n characters, as the boxes show figures; it cuts, it never rounds.
+std::string boxtext(const value& v, std::size_t n);
+
+// The nearest whole number, halves to the even one.
+double nearestwhole(double number);
+
+}  // namespace tessaly

@@ -1,0 +1,40 @@
+// The persistent image in memory behind a picture box, with exact lines: the end points are rounded to the nearest
+// pixel (halves up), the line between them lights on each column (or row, where it is steep) the pixel nearest to it
+// (halves up), whichever end comes first, and clipping never moves a pixel.
+#pragma once
+
+#include "render/surface.h"
+
+#include <cstdint>
+#include <functional>
+#include <vector>
+
+namespace tessaly {
+
+class raster : public surface {
+  public:
+    raster(int width, int height);  // white
+
+    void line(float x1, float y1, float x2, float y2, colour c) override;
+    void wash(int x1, int x2, int y1, int y2, colour c) override;
+    void save(const std::string& path) override;
+    void setpicture(const std::string& path) override;
+
+    int width() const { return wide; }
+    int height() const { return high; }
+    const std::uint32_t* pixels() const { return image.data(); }  // row after row, 0xffRRGGBB
+    std::uint32_t* pixels() { return image.data(); }
+    colour at(int x, int y) const;
+    void clear();  // white again
+
+  private:
+    int wide, high;
+    std::vector<std::uint32_t> image;
+};
+
+// Picture files are a library's work: the program sets these two. Both take a path of this system and fail as
+// surface::save and surface::setpicture do.
+extern std::function<void(const raster&, const std::string& path)> writepicture;
+extern std::function<void(raster&, const std::string& path)> readpicture;
+
+}  // namespace tessaly

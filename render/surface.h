@@ -1,0 +1,48 @@
+// The drawing surface: a picture box with a persistent image, one drawing unit a pixel, x right and y down, origin at
+// the top left corner. What falls outside is discarded. The logic draws on it and never asks what is behind it.
+#pragma once
+
+#include "core/colour.h"
+
+#include <string>
+
+namespace tessaly {
+
+// The corners of a solid face in viewport pixels; 1-2 and 3-4 are opposite edges, and so are 1-3 and 2-4.
+struct facecorners {
+    double x1, y1, x2, y2, x3, y3, x4, y4;
+};
+
+class surface {
+  public:
+    virtual ~surface() = default;
+
+    // One straight line, 1 pixel wide, opaque, both ends included.
+    virtual void line(float x1, float y1, float x2, float y2, colour c) = 0;
+
+    // Horizontal lines from x1 to x2, one for each y from y1 to y2 ascending.
+    virtual void wash(int x1, int x2, int y1, int y2, colour c);
+
+    // The fill of a face: the lines between edges 1-2 and 3-4 at t/n for t = 0..n, then those between edges 1-3 and 2-4.
+    virtual void web(const facecorners& f, int n, colour c);
+
+    // Saves the image as an uncompressed bitmap file; path as users write it. Fails with file access error.
+    virtual void save(const std::string& path) = 0;
+
+    // Makes a bitmap file the background picture: unscaled at the top left, later drawing goes on top of it.
+    // Fails with file not found, with invalid call where the file is no picture.
+    virtual void setpicture(const std::string& path) = 0;
+
+    // Brings what was drawn to the screen at once, in the middle of an event.
+    virtual void flush() {}
+};
+
+// The building's surface, 897 x 581, and the progress strip of the solid replays, 17 x 705. Set by the program.
+extern surface* viewportsurface;
+extern surface* progresssurface;
+
+// Lines t = 0..n between edge (ax, ay)-(bx, by) and edge (cx, cy)-(dx, dy), drawn one by one.
+void sweep(surface& on, double ax, double ay, double bx, double by, double cx, double cy, double dx, double dy, int n,
+           colour c);
+
+}  // namespace tessaly
