@@ -5,7 +5,7 @@
 runpackages="cmake ninja-build g++ qt6-base-dev qt6-svg-dev|libqt6svg6-dev qt6-wayland fonts-dejavu-core"
 testpackages="libgtest-dev libgmock-dev"
 benchpackages="libbenchmark-dev"
-checkpackages="clang clang-format xvfb xdotool x11-utils imagemagick"
+checkpackages="git clang clang-format xvfb xdotool x11-utils imagemagick"
 
 # installed NAME: whether the package of that name is installed (not merely known or half removed).
 installed() {
