@@ -1,0 +1,33 @@
+// Design files: the lasting form of a building, one record of eleven fields a click, in the order of the clicks.
+#pragma once
+
+#include "core/value.h"
+
+#include <initializer_list>
+#include <string>
+
+namespace tessaly {
+
+// One line of text fields as records are written: texts in double quotes, numbers bare, commas between, CR LF behind.
+std::string recordline(std::initializer_list<value> fields);
+
+// Appends the record of a click to "designs\" + family + floorname + ".txt" on channel 1. number, x, y, code: constants
+// of the clicked button. reads: elementkind, rotx, rotz, placex, placey, facecode, floorname; fails: file already open,
+// file access error, file not found (folder).
+void recordelement(const char* family, int number, int x, int y, const value& code);
+
+// Turns a record's kind and code back into placemode and datafile; a kind other than "girder", "panel" and "roof", or a
+// code outside the table, leaves what it cannot tell as it was.
+void elementfileforcode(const value& kind, const value& code);
+
+// The code of a panel's prefix and part ("full", "left", "righ", "both"); 0 for a pair that is not in the table.
+int panelcodefor(const std::string& prefix, const std::string& part);
+
+// Sets floornum, floorname and placez from a design file's name: the digit behind "girders", "panels" or "roofs".
+// Fails with type mismatch where the name tells no floor.
+void floorfromname(const std::string& name);
+
+// Sets floorname and placez for floor numbers 1..10; any other number leaves them.
+void setfloor(const value& floor);
+
+}  // namespace tessaly

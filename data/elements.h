@@ -1,0 +1,32 @@
+// Element files: points, lines in five groups, cubes and flat quads of one element, read into the world, placed and
+// drawn as wires.
+#pragma once
+
+#include "core/value.h"
+
+namespace tessaly {
+
+// Reads "datah\" + datafile into the world, places it by placemode and plots it; with preopened 1 reads the file open on
+// channel 1 up to its framing and returns. reads: datafile, preopened, placemode, placex.., rotx, rotz;
+// writes: the world tables, placex, placey, rotx, drawset; draws on viewport; fails: file not found, input past end of
+// file, overflow, subscript, type mismatch, division by zero. A failure leaves channel 1 open.
+void readelements();
+
+// The placement routines: points 1..100 from the base tables, turned by rotz or rotx degrees and moved to the place.
+void rotzplace();   // about Z
+void rotxplace();   // about X; leaves radians in rotx
+void shiftplace();  // moved only
+
+// Degrees to radians with the truncated pi that shows in the coordinates.
+constexpr double radians(double degrees) { return degrees * 3.14159 / 180; }
+
+// Where the next cube goes.
+struct cubeslots {
+    int point, quad, line;
+};
+
+// Expands a cube with corners (x1, y1, z1) and (x2, y2, z2) into eight points, twelve lines and six faces.
+void expandcube(cubeslots& next, const value& x1, const value& y1, const value& z1, const value& x2, const value& y2,
+                const value& z2, const value& grade, const value& colour);
+
+}  // namespace tessaly

@@ -1,0 +1,13 @@
+// The solid painter: sorts the quads of the element in the tables by their nearest corner and paints the 100 nearest,
+// farthest first, each as a dense web of lines between its opposite edges, with its framing lines on top.
+#pragma once
+
+namespace tessaly {
+
+// Paints the element that readelements has just drawn.
+// reads: quads, framing counts, rotz, panelcode, firstfilename, secondfilename, elementkind, eye, ptx.., screenx..;
+// writes: quaddist, quadcornerdist1..4, quadorder, quadcolour on turned elements, scratch points and lines from 7001,
+// group 11; draws on viewport; fails: as projectdraw, and subscript for a framing count beyond the tables.
+void paintsolids();
+
+}  // namespace tessaly
