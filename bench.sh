@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh
 
-wantpackages $runpackages $benchpackages
+wantpackages "${runpackages[@]}" "${benchpackages[@]}"
 configure build CMAKE_BUILD_TYPE=Release TESSALY_BENCH=ON
 build build bench
 QT_QPA_PLATFORM=offscreen exec build/bench "$@"
