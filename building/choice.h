@@ -19,10 +19,10 @@ void clickdoor4btn();
 void clickpostbeambtn();
 void clickroofbtn();
 
-void clickfloorbtn();    // shows floorlist
-void pickfloorlist();    // copies the picked floor into the floor box and hides the list
-void clickwiresolidbtn();   // "solid" and "wireframe" in turn; any other text stays
-void clickwritefilebtn();   // "on" and "off" in turn; any other text stays
+void clickfloorbtn();      // shows floorlist
+void pickfloorlist();      // copies the picked floor into the floor box and hides the list
+void clickwiresolidbtn();  // "solid" and "wireframe" in turn; any other text stays
+void clickwritefilebtn();  // "on" and "off" in turn; any other text stays
 
 // The three snip buttons of the panel layout set the text of panelsnipper.
 void clicksnipleftbtn();

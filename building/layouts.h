@@ -8,15 +8,15 @@ namespace tessaly {
 // A family of position buttons. x = x0 + 192 i and y = y0 + 192 j in layout units, i = 0..cols-1, j = 0..rows-1; the
 // button's name spells x and y, its number runs through j first. Places on the window are twips.
 struct family {
-    const char* word;      // front of the button's name
+    const char* word;  // front of the button's name
     window* on;
-    const char* datafile;  // "": chosen by prefix and snip
-    const char* kind;      // elementkind
-    const char* files;     // family word of the design file
-    int first, cols, rows; // number of the first button; extent of i and of j
-    int x0, y0;            // layout units
-    int mode, rotx, rotz, face, code;  // placement, degrees, facecode; code -1: panelcode
-    int dx, dy;            // the element's middle less x and y, layout units
+    const char* datafile;                   // "": chosen by prefix and snip
+    const char* kind;                       // elementkind
+    const char* files;                      // family word of the design file
+    int first, cols, rows;                  // number of the first button; extent of i and of j
+    int x0, y0;                             // layout units
+    int mode, rotx, rotz, face, code;       // placement, degrees, facecode; code -1: panelcode
+    int dx, dy;                             // the element's middle less x and y, layout units
     int left0, top0, pitch, width, height;  // twips: Left = left0 + pitch j, Top = top0 + pitch i
     colour back;
     const char* spoken;
@@ -25,8 +25,8 @@ struct family {
 // A button's own figures, worked out from its family.
 struct position {
     const family* of;
-    int number;          // on the element map
-    int x, y;            // layout units, as in the name
+    int number;            // on the element map
+    int x, y;              // layout units, as in the name
     int middlex, middley;  // fields 3 and 4 of its record
 };
 

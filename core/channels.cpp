@@ -40,8 +40,7 @@ std::array<channelstate, lastchannel + 1> channels;
 channelstate& channelof(int channel) { return channels.at(static_cast<std::size_t>(channel)); }
 
 [[noreturn]] void systemfailure(const std::string& path, const char* what, int error) {
-    const auto kind =
-        error == ENOENT || error == ENOTDIR ? failurekind::filenotfound : failurekind::fileaccess;
+    const auto kind = error == ENOENT || error == ENOTDIR ? failurekind::filenotfound : failurekind::fileaccess;
     throw failure(kind, path + " (" + what + "): " + std::strerror(error));
 }
 
@@ -166,7 +165,8 @@ void openappend(int channel, std::string_view path, const char* what) {
 
 void writetext(int channel, std::string_view text) {
     channelstate& c = channelof(channel);
-    if (!c.output) throw failure(failurekind::invalidcall, "channel " + std::to_string(channel) + " is not open for writing");
+    if (!c.output)
+        throw failure(failurekind::invalidcall, "channel " + std::to_string(channel) + " is not open for writing");
     c.output->text += text;
 }
 
@@ -183,7 +183,8 @@ void closechannel(int channel) {
 
 textinput& channelinput(int channel) {
     channelstate& c = channelof(channel);
-    if (!c.input) throw failure(failurekind::invalidcall, "channel " + std::to_string(channel) + " is not open for reading");
+    if (!c.input)
+        throw failure(failurekind::invalidcall, "channel " + std::to_string(channel) + " is not open for reading");
     return *c.input;
 }
 

@@ -15,7 +15,7 @@ std::string systempath(std::string_view path);
 
 // A file open for reading, held whole, and where its next field begins. line and field count from 1.
 struct textinput {
-    std::string path;         // as users know it
+    std::string path;  // as users know it
     std::shared_ptr<const std::string> bytes;
     std::size_t at = 0;
     int line = 1, field = 1;

@@ -14,11 +14,10 @@ namespace {
 std::uint8_t component(double figure) {
     const double whole = nearestwhole(figure);
     if (!(whole >= -32768 && whole <= 32767))
-        throw failure(failurekind::overflow, "colour component " + shortesttext(figure) +
-                                                 ", a whole number -32768..32767 was expected");
+        throw failure(failurekind::overflow,
+                      "colour component " + shortesttext(figure) + ", a whole number -32768..32767 was expected");
     if (whole < 0)
-        throw failure(failurekind::invalidcall,
-                      "colour component " + shortesttext(figure) + ", 0..255 was expected");
+        throw failure(failurekind::invalidcall, "colour component " + shortesttext(figure) + ", 0..255 was expected");
     return static_cast<std::uint8_t>(std::min(whole, 255.0));
 }
 

@@ -36,9 +36,11 @@ window easyviews   ("easyviews",    "Easy views",               14745, 10515, {1
 window instructions("instructions", "Tessaly Panel and Girder", 19200, 12990, {177, 199, 228});
 // clang-format on
 
+// clang-format off
 #define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, spoken)                          \
     control name{&in,  controlkind::kind, #name,          {left, top, width, height}, text, shown,                     \
                  back, !(back == nocolour), tooltip, spoken};
+// clang-format on
 #include "core/controls.def"
 #undef CONTROL
 

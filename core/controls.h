@@ -28,10 +28,10 @@ struct window {
     const char* title;
     int widthtwips, heighttwips;  // of the interior
     colour back;
-    bool created = false;             // made on first use, kept until exit
+    bool created = false;  // made on first use, kept until exit
     bool shown = false;
-    int raised = 0;                   // grows at each showing: the window with the highest stands in front
-    std::vector<control*> controls;   // in the order of the tables
+    int raised = 0;                  // grows at each showing: the window with the highest stands in front
+    std::vector<control*> controls;  // in the order of the tables
 };
 
 struct control {
@@ -41,14 +41,14 @@ struct control {
     twips place;
     std::string text;  // caption, or text of a box; UTF-8
     bool shown;
-    colour back;       // meant only where coloured
+    colour back;  // meant only where coloured
     bool coloured;
     std::string tooltip;
-    std::string spoken;              // for screen readers; the caption where empty
-    std::string folder = {};         // of a file list, as users write it
+    std::string spoken;       // for screen readers; the caption where empty
+    std::string folder = {};  // of a file list, as users write it
     std::vector<std::string> items = {};
-    int selected = -1;               // place in items, -1: none
-    int elementnumber = 0;           // of a layout button
+    int selected = -1;      // place in items, -1: none
+    int elementnumber = 0;  // of a layout button
 };
 
 // The windows, in the order in which reports list them.

@@ -16,8 +16,7 @@ class value {
     value() = default;  // empty: 0 in arithmetic, "" as text
 
     template <class number>
-        requires std::is_arithmetic_v<number>
-    value(number n) : figure(static_cast<double>(n)), form(isfigure) {}
+    requires std::is_arithmetic_v<number> value(number n) : figure(static_cast<double>(n)), form(isfigure) {}
 
     // A text stays text until arithmetic meets it. origin: where it was read, for reports.
     value(std::string_view text, std::string_view origin = {});

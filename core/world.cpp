@@ -16,12 +16,12 @@ tablebase* tablebase::first = nullptr;
 #define TABLE(name) name(#name)
 table<value, lastpoint, clearedpoints> TABLE(basex), TABLE(basey), TABLE(basez), TABLE(ptx), TABLE(pty), TABLE(ptz);
 table<value, lastpoint> TABLE(savex), TABLE(savey), TABLE(savez);
-table<double, lastpoint> TABLE(planex), TABLE(planey), TABLE(planez), TABLE(planedist), TABLE(planecos),
-    TABLE(planeup), TABLE(planeside), TABLE(screenx), TABLE(screeny);
+table<double, lastpoint> TABLE(planex), TABLE(planey), TABLE(planez), TABLE(planedist), TABLE(planecos), TABLE(planeup),
+    TABLE(planeside), TABLE(screenx), TABLE(screeny);
 table<value, lastline> TABLE(lineend1), TABLE(lineend2);
 table<value, lastgroup> TABLE(groupfirst), TABLE(grouplast);
-table<value, lastquad, clearedpoints> TABLE(quad1), TABLE(quad2), TABLE(quad3), TABLE(quad4), TABLE(quadcolour), TABLE(quadface),
-    TABLE(quadgrade), TABLE(framing1), TABLE(framing2);
+table<value, lastquad, clearedpoints> TABLE(quad1), TABLE(quad2), TABLE(quad3), TABLE(quad4), TABLE(quadcolour),
+    TABLE(quadface), TABLE(quadgrade), TABLE(framing1), TABLE(framing2);
 table<double, lastquad> TABLE(quaddist), TABLE(quadcornerdist1), TABLE(quadcornerdist2), TABLE(quadcornerdist3),
     TABLE(quadcornerdist4);
 table<value, lastquad> TABLE(quadorder);
@@ -31,8 +31,8 @@ table<value, lastcolour> TABLE(palred), TABLE(palgreen), TABLE(palblue);
 table<value, 12 * 9> TABLE(viewpreset);
 table<value, lastrecord> TABLE(rdnumber), TABLE(rdgirdernumber), TABLE(rdpanelnumber), TABLE(rdroofnumber),
     TABLE(rdcode), TABLE(rdgirdercode), TABLE(rdpanelcode), TABLE(rdroofcode), TABLE(rdx), TABLE(rdy), TABLE(rdrotx),
-    TABLE(rdrotz), TABLE(rdplacex), TABLE(rdplacey), TABLE(rdplacez), TABLE(rdface), TABLE(rdtrailer),
-    TABLE(rdkind), TABLE(rdorder);
+    TABLE(rdrotz), TABLE(rdplacex), TABLE(rdplacey), TABLE(rdplacez), TABLE(rdface), TABLE(rdtrailer), TABLE(rdkind),
+    TABLE(rdorder);
 #undef TABLE
 
 value ptcount[5], linecount[linegroups + 1], wirecolour[linegroups + 1], drawset, rowgrade, rowcolour;
@@ -52,8 +52,10 @@ value capname, capsidecar, bmpfile, bmpstem, bmpext, bmpimage, bmpsidecar;
 
 namespace {
 
-#define SHOWN(name) {#name, &name, true}
-#define KEPT(name) {#name, &name, false}
+#define SHOWN(name)                                                                                                    \
+    { #name, &name, true }
+#define KEPT(name)                                                                                                     \
+    { #name, &name, false }
 const scalar scalars[] = {
     // clang-format off
     SHOWN(perpx), SHOWN(perpy), SHOWN(perpz), SHOWN(focusx), SHOWN(focusy), SHOWN(focusz), SHOWN(mag),

@@ -8,39 +8,39 @@
 
 namespace tessaly {
 
-constexpr int lastpoint = 10000;  // of the point tables
-constexpr int lastline = 20000;   // of the line table
-constexpr int lastquad = 10000;   // of the quad and cube tables
-constexpr int lastgroup = 255;    // of the group bounds
-constexpr int lastcolour = 256;   // of the palette
-constexpr int lastrecord = 1000;  // of the design record tables
-constexpr int clearedpoints = 7000;       // what resetworld clears of points and quads
+constexpr int lastpoint = 10000;     // of the point tables
+constexpr int lastline = 20000;      // of the line table
+constexpr int lastquad = 10000;      // of the quad and cube tables
+constexpr int lastgroup = 255;       // of the group bounds
+constexpr int lastcolour = 256;      // of the palette
+constexpr int lastrecord = 1000;     // of the design record tables
+constexpr int clearedpoints = 7000;  // what resetworld clears of points and quads
 constexpr int clearedcubecolours = 700;
 constexpr int linegroups = 10;
-constexpr int referencepoint = 8001;   // the picture plane's up reference
-constexpr int framingscratch = 7001;   // first point and first line of the painter's framing lines
+constexpr int referencepoint = 8001;  // the picture plane's up reference
+constexpr int framingscratch = 7001;  // first point and first line of the painter's framing lines
 constexpr int framinggroup = 11;
-constexpr double sentinel = 9999;      // ends rows in all data files, and marks a failed point in screeny
+constexpr double sentinel = 9999;  // ends rows in all data files, and marks a failed point in screeny
 
 // ---- points: parallel tables, one index is one point ----------------------------------------------------
 // Blocks start at 1, 2001, 4001, 6001 and are walked over their count; 8001 is the up reference; 7001.. is also
 // framing scratch. The readers fill model coordinates, the projector all others. resetworld clears 1..7000 only.
-extern table<value, lastpoint, clearedpoints> basex, basey, basez;  // model units, as placed; the display never writes them
-extern table<value, lastpoint, clearedpoints> ptx, pty, ptz;        // model units; relative to the focus while displaying
-extern table<value, lastpoint> savex, savey, savez;  // copy of ptx.. from which the near-side walk starts
-extern table<double, lastpoint> planex, planey, planez;  // model units: the sight line's hit of the picture plane
-extern table<double, lastpoint> planedist;               // model units: distance of that hit from the plane's centre
-extern table<double, lastpoint> planecos;                // cosine of the angle between hit and up reference
-extern table<double, lastpoint> planeup, planeside;      // model units on the picture plane
-extern table<double, lastpoint> screenx, screeny;  // viewport pixels, y down; screeny 9999: given up in this pass
-extern value ptcount[5];                           // points in use of blocks 1..4
+extern table<value, lastpoint, clearedpoints> basex, basey, basez;  // model units, as placed; not the display's
+extern table<value, lastpoint, clearedpoints> ptx, pty, ptz;  // model units; relative to the focus while displaying
+extern table<value, lastpoint> savex, savey, savez;           // copy of ptx.. from which the near-side walk starts
+extern table<double, lastpoint> planex, planey, planez;       // model units: the sight line's hit of the picture plane
+extern table<double, lastpoint> planedist;           // model units: distance of that hit from the plane's centre
+extern table<double, lastpoint> planecos;            // cosine of the angle between hit and up reference
+extern table<double, lastpoint> planeup, planeside;  // model units on the picture plane
+extern table<double, lastpoint> screenx, screeny;    // viewport pixels, y down; screeny 9999: given up in this pass
+extern value ptcount[5];                             // points in use of blocks 1..4
 inline value &ptcount1 = ptcount[1], &ptcount2 = ptcount[2], &ptcount3 = ptcount[3], &ptcount4 = ptcount[4];
 extern value drawset;  // 2: a projection walks blocks 1 to 4; anything else: blocks 1, 3 and 4
 
 // ---- lines: group after group without gaps --------------------------------------------------------------
-extern table<value, lastline> lineend1, lineend2;    // point index of each end; only the counts make them valid
-extern value linecount[linegroups + 1];              // lines of groups 1..10
-extern value wirecolour[linegroups + 1];             // palette index of groups 1..10; group 10's is never written
+extern table<value, lastline> lineend1, lineend2;      // point index of each end; only the counts make them valid
+extern value linecount[linegroups + 1];                // lines of groups 1..10
+extern value wirecolour[linegroups + 1];               // palette index of groups 1..10; group 10's is never written
 extern table<value, lastgroup> groupfirst, grouplast;  // first and last line of a group; 11 is framing's
 inline value &linecount1 = linecount[1], &linecount2 = linecount[2], &linecount3 = linecount[3],
              &linecount4 = linecount[4], &linecount5 = linecount[5], &linecount6 = linecount[6],
@@ -52,19 +52,20 @@ inline value &wirecolour1 = wirecolour[1], &wirecolour2 = wirecolour[2], &wireco
              &wirecolour10 = wirecolour[10];
 
 // ---- quads: flat four-cornered faces; going around gives 1, 2, 4, 3 --------------------------------------
+// The rails are 1-2 and 3-4, quad3 lies across from quad1.
 // AUTOPLANE: faces start at 1, AUTOCUBE400: faces at 4001, AUTOCUBE600: faces at 6001, ten slots a cube.
-extern table<value, lastquad, clearedpoints> quad1, quad2, quad3, quad4;  // point indexes; rails 1-2 and 3-4, quad3 across from quad1
-extern table<value, lastquad, clearedpoints> quadcolour;                  // palette index; the painter changes it on turned elements
-extern table<value, lastquad, clearedpoints> quadface, quadgrade;         // kept with the quad; nothing draws by them
-extern table<value, lastquad, clearedpoints> framing1, framing2;          // framing lines along the two directions; 0: none
-extern table<double, lastquad> quaddist;                   // model units: nearest corner to the eye; the sort uses it up
+extern table<value, lastquad, clearedpoints> quad1, quad2, quad3, quad4;  // point indexes
+extern table<value, lastquad, clearedpoints> quadcolour;  // palette index; the painter changes it on turned ones
+extern table<value, lastquad, clearedpoints> quadface, quadgrade;  // kept with the quad; nothing draws by them
+extern table<value, lastquad, clearedpoints> framing1, framing2;   // framing lines along the two directions; 0: none
+extern table<double, lastquad> quaddist;  // model units: nearest corner to the eye; the sort uses it up
 extern table<double, lastquad> quadcornerdist1, quadcornerdist2, quadcornerdist3, quadcornerdist4;  // 1, 3, 2, 4
-extern table<value, lastquad> quadorder;                   // quad indexes, nearest first
+extern table<value, lastquad> quadorder;  // quad indexes, nearest first
 
 // ---- cubes: by cube number 400..599 and 600..799 ---------------------------------------------------------
-extern table<value, lastquad, clearedpoints> cubegrade;       // field 8 of a cube row
+extern table<value, lastquad, clearedpoints> cubegrade;        // field 8 of a cube row
 extern table<value, lastquad, clearedcubecolours> cubecolour;  // field 9, a palette index
-extern value rowgrade, rowcolour;                     // the same two of a whole cube row of an axis-cube file
+extern value rowgrade, rowcolour;                              // the same two of a whole cube row of an axis-cube file
 
 // ---- colours ---------------------------------------------------------------------------------------------
 extern table<value, lastcolour> palred, palgreen, palblue;  // 0..255 by palette index; 1..236 are filled, 0 is black
@@ -84,32 +85,32 @@ extern value plotstate;                     // empty until the first start group
 extern value skipfixup;                     // one-shot: the next projectdraw passes over fix-up and scale step
 extern value rebasedone;                    // 0 after projectdraw, 1 once rebasepoints has run for the view
 extern value magshown;                      // the figure of magtxt, a tenth of mag
-extern double planeseedx, planeseedy, planeseedz;           // a point near the eye, relative to the focus
-extern double planecentrex, planecentrey, planecentrez;     // picture plane's centre, relative to the focus
-extern int walkcount;                                       // countdown of the near-side walk, shared by a line's ends
-extern value curgroup, curwirecolour;                       // line group being drawn and its palette index
+extern double planeseedx, planeseedy, planeseedz;        // a point near the eye, relative to the focus
+extern double planecentrex, planecentrey, planecentrez;  // picture plane's centre, relative to the focus
+extern int walkcount;                                    // countdown of the near-side walk, shared by a line's ends
+extern value curgroup, curwirecolour;                    // line group being drawn and its palette index
 
 // ---- placement of the element about to be read -----------------------------------------------------------
-extern value datafile;               // name of the element file under datah
-extern value elementkind;            // "girder", "panel" or "roof"
-extern value placemode;              // 0 the file's script, 1 and 4 turn about Z, 2 about X, 3 and 5 shift only
+extern value datafile;                // name of the element file under datah
+extern value elementkind;             // "girder", "panel" or "roof"
+extern value placemode;               // 0 the file's script, 1 and 4 turn about Z, 2 about X, 3 and 5 shift only
 extern value placex, placey, placez;  // layout units; placement turns x and y into world units in place
-extern value rotz;                   // degrees about Z; a script leaves radians here
-extern value rotx;                   // degrees about X; placement overwrites it with radians
-extern value facecode, spareface;    // recorded and carried along; nothing draws by them
+extern value rotz;                    // degrees about Z; a script leaves radians here
+extern value rotx;                    // degrees about X; placement overwrites it with radians
+extern value facecode, spareface;     // recorded and carried along; nothing draws by them
 
 // ---- run mode --------------------------------------------------------------------------------------------
-extern value floorname;    // "1".."10", in design file names
-extern value floornum;     // the number read from the floor box or a file name
-extern value drawmode;     // 1 wireframe, 2 solid
-extern value recordmode;   // 1 recording to the design file, 0 not
+extern value floorname;             // "1".."10", in design file names
+extern value floornum;              // the number read from the floor box or a file name
+extern value drawmode;              // 1 wireframe, 2 solid
+extern value recordmode;            // 1 recording to the design file, 0 not
 extern value recordtext, drawtext;  // the texts of writefilebox and wiresolid as last read
-extern value palname;      // palette file's name without folder and extension
-extern value panelprefix;  // first part of the panel file's name, set by the eight panel buttons
-extern value panelcode;    // code of the panel last chosen or replayed; the painter reads it
+extern value palname;               // palette file's name without folder and extension
+extern value panelprefix;           // first part of the panel file's name, set by the eight panel buttons
+extern value panelcode;             // code of the panel last chosen or replayed; the painter reads it
 extern value girdercode, roofcode, anycode, anynumber;  // codes and number of the record being replayed
 extern value firstfilename, secondfilename;             // names last picked in the file lists; the painter reads them
-extern value preopened;    // 1..4: the reader of that number finds its file open on channel 1
+extern value preopened;  // 1..4: the reader of that number finds its file open on channel 1
 
 // ---- start-up --------------------------------------------------------------------------------------------
 extern table<value, 12 * 9> viewpreset;  // twelve records of nine values (record r starts at 9r - 8), eye relative
@@ -117,31 +118,31 @@ extern value startgroup1, startgroup2, startgroup3;  // file names without folde
 extern value startstep, startprefix, startdone;
 
 // ---- view controls ---------------------------------------------------------------------------------------
-extern value rotstage;                          // 1 X falls, 2 Y rises, 3 X rises, 4 Y falls
-extern value rotboxx, rotboxy;                  // absolute eye as last read from the boxes by an arrow
-extern value focusinc, focussign, focusstep;    // vertical focus step, its direction, and the signed step of shiftz
-extern value maginc, shiftinc;                  // steps of magnification (box units) and shifts (pixels)
-extern value perpsumx, perpsumy, perpsumz;      // eye plus focus after a step
+extern value rotstage;                        // 1 X falls, 2 Y rises, 3 X rises, 4 Y falls
+extern value rotboxx, rotboxy;                // absolute eye as last read from the boxes by an arrow
+extern value focusinc, focussign, focusstep;  // vertical focus step, its direction, and the signed step of shiftz
+extern value maginc, shiftinc;                // steps of magnification (box units) and shifts (pixels)
+extern value perpsumx, perpsumy, perpsumz;    // eye plus focus after a step
 
 // ---- the solid painter -----------------------------------------------------------------------------------
-extern int divisions;                                       // intervals of the fill
-extern value facecolour, framecolour;                       // palette indexes of the quad being painted
-extern value railstart1, railend1, railstart2, railend2;    // point indexes of the edges that framing lines join
+extern int divisions;                                     // intervals of the fill
+extern value facecolour, framecolour;                     // palette indexes of the quad being painted
+extern value railstart1, railend1, railstart2, railend2;  // point indexes of the edges that framing lines join
 extern value framen, framesecond;
 
 // ---- design records of a replay: one index is one record -------------------------------------------------
 // Filled by the file readers; rdorder is never cleared, so a slot that a sort does not fill keeps its old figure.
 extern table<value, lastrecord> rdnumber, rdgirdernumber, rdpanelnumber, rdroofnumber;  // element number; 0: unused
 extern table<value, lastrecord> rdcode, rdgirdercode, rdpanelcode, rdroofcode;          // element code
-extern table<value, lastrecord> rdx, rdy;              // layout units, less 488 and 680 once sorted
-extern table<value, lastrecord> rdrotx, rdrotz;        // degrees
+extern table<value, lastrecord> rdx, rdy;                      // layout units, less 488 and 680 once sorted
+extern table<value, lastrecord> rdrotx, rdrotz;                // degrees
 extern table<value, lastrecord> rdplacex, rdplacey, rdplacez;  // layout units
 extern table<value, lastrecord> rdface, rdtrailer, rdkind, rdorder;
-extern value combinedcount;                            // records of both files of a combined replay
+extern value combinedcount;  // records of both files of a combined replay
 
 // ---- captures --------------------------------------------------------------------------------------------
-extern value capname, capsidecar;                               // names of bitmap and view record being written
-extern value bmpfile, bmpstem, bmpext, bmpimage, bmpsidecar;    // names of an image retrieval
+extern value capname, capsidecar;                             // names of bitmap and view record being written
+extern value bmpfile, bmpstem, bmpext, bmpimage, bmpsidecar;  // names of an image retrieval
 
 // A scalar by name, for reports of the program's state and for forgetting it.
 struct scalar {

@@ -3,8 +3,8 @@
 
 namespace tessaly {
 
-// Read "datah\" + datafile, run its script and plot it; or, with preopened at the reader's own value (2, 3, 4), read the
-// file open on channel 1 and return. Fail as readelements.
+// Read "datah\" + datafile, run its script and plot it; or, with preopened at the reader's own value (2, 3, 4), read
+// the file open on channel 1 and return. Fail as readelements.
 void readcubex();
 void readcubey();
 void readcubez();

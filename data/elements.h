@@ -6,10 +6,10 @@
 
 namespace tessaly {
 
-// Reads "datah\" + datafile into the world, places it by placemode and plots it; with preopened 1 reads the file open on
-// channel 1 up to its framing and returns. reads: datafile, preopened, placemode, placex.., rotx, rotz;
-// writes: the world tables, placex, placey, rotx, drawset; draws on viewport; fails: file not found, input past end of
-// file, overflow, subscript, type mismatch, division by zero. A failure leaves channel 1 open.
+// Reads "datah\" + datafile into the world, places it by placemode and plots it; with preopened 1 reads the file open
+// on channel 1 up to its framing and returns. reads: datafile, preopened, placemode, placex.., rotx, rotz; writes: the
+// world tables, placex, placey, rotx, drawset; draws on viewport; fails: file not found, input past end of file,
+// overflow, subscript, type mismatch, division by zero. A failure leaves channel 1 open.
 void readelements();
 
 // The placement routines: points 1..100 from the base tables, turned by rotz or rotx degrees and moved to the place.

@@ -15,8 +15,8 @@ void plotgroups();
 // groups and writes the view back to the boxes.
 // reads: points, lines, groups, wire colours, palette, drawset, plotstate, view state;
 // writes: ptx.. savex.. plane.. screenx.. view state, the nine view boxes; draws on viewport;
-// fails: division by zero (eye at the focus, a point at the plane's centre, eye straight above the focus), type mismatch
-// (a text among points or view values), subscript (a line end or colour outside its table).
+// fails: division by zero (eye at the focus, a point at the plane's centre, eye straight above the focus), type
+// mismatch (a text among points or view values), subscript (a line end or colour outside its table).
 void projectdraw();
 
 // ---- the projector's steps, shared with redraw and painter ----------------------------------------------

@@ -23,7 +23,8 @@ class surface {
     // Horizontal lines from x1 to x2, one for each y from y1 to y2 ascending.
     virtual void wash(int x1, int x2, int y1, int y2, colour c);
 
-    // The fill of a face: the lines between edges 1-2 and 3-4 at t/n for t = 0..n, then those between edges 1-3 and 2-4.
+    // The fill of a face: the lines between edges 1-2 and 3-4 at t/n for t = 0..n, then those between edges 1-3 and
+    // 2-4.
     virtual void web(const facecorners& f, int n, colour c);
 
     // Saves the image as an uncompressed bitmap file; path as users write it. Fails with file access error.
