@@ -1,0 +1,121 @@
+// Design files: writing a record, and turning codes and names back into what the click had set.
+
+#include "building/designfiles.h"
+
+#include "core/channels.h"
+#include "core/failure.h"
+#include "core/world.h"
+
+namespace tessaly {
+
+namespace {
+
+constexpr int recordtrailer = 64;
+constexpr double floorheight = 128;  // layout units
+
+struct panelrow {
+    const char* prefix;
+    int codes[4];  // full, left, righ, both
+};
+constexpr const char* panelparts[4] = {"full", "left", "righ", "both"};  // four letters each, "righ" on purpose
+constexpr panelrow panelrows[] = {
+    // clang-format off
+    {"st-panels-1or-",   { 1,  2,  3, 31}},
+    {"st-panels-2or-",   { 4,  5,  6, 32}},
+    {"st-panels-3or-",   { 7,  8,  9, 33}},
+    {"st-panels-1yel-",  {10, 11, 12, 34}},
+    {"st-panels-2yel-",  {13, 14, 15, 35}},
+    {"st-panels-3yel-",  {16, 17, 18, 36}},
+    {"st-panels-2door-", {19, 20, 21, 37}},
+    {"st-panels-4door-", {22, 23, 24, 38}},
+    // clang-format on
+};
+
+struct girderrow {
+    int code, mode;
+    const char* file;
+};
+constexpr girderrow girderrows[] = {{41, 2, "st-post.txt"}, {42, 3, "st-beam.txt"}, {43, 4, "st-beam.txt"}};
+
+// The code as a number; 0, which is no element's, for a text that is none.
+double codenumber(const value& code) { return code.istext() ? strictnumber(code.text()).value_or(0) : double(code); }
+
+void panelfile(double code) {
+    for (const panelrow& row : panelrows)
+        for (int part = 0; part < 4; ++part)
+            if (row.codes[part] == code) datafile = std::string(row.prefix) + panelparts[part] + ".txt";
+}
+
+// The first n characters of a UTF-8 text.
+std::string_view firstcharacters(std::string_view text, int n) {
+    std::size_t end = 0;
+    for (; n > 0 && end < text.size(); --n) {
+        ++end;
+        while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) ++end;
+    }
+    return text.substr(0, end);
+}
+
+}  // namespace
+
+std::string recordline(std::initializer_list<value> fields) {
+    std::string line;
+    for (const value& field : fields) {
+        if (!line.empty() || &field != fields.begin()) line += ',';
+        line += field.istext() ? '"' + field.text() + '"' : field.text();
+    }
+    return line + "\r\n";
+}
+
+void recordelement(const char* family, int number, int x, int y, const value& code) {
+    openappend(1, std::string("designs\\") + family + floorname.text() + ".txt", "design file");
+    writetext(1, recordline({elementkind, number, x, y, code, rotx, rotz, placex, placey, facecode, recordtrailer}));
+    closechannel(1);
+}
+
+int panelcodefor(const std::string& prefix, const std::string& part) {
+    for (const panelrow& row : panelrows)
+        for (int p = 0; p < 4; ++p)
+            if (prefix == row.prefix && part == panelparts[p]) return row.codes[p];
+    return 0;
+}
+
+void elementfileforcode(const value& kind, const value& code) {
+    if (kind.is("girder")) {
+        for (const girderrow& row : girderrows) {
+            if (row.code != codenumber(code)) continue;
+            placemode = row.mode;
+            datafile = row.file;
+        }
+    } else if (kind.is("panel")) {
+        placemode = 1;
+        panelfile(codenumber(code));
+    } else if (kind.is("roof")) {
+        placemode = 5;
+        datafile = "st-roof.txt";
+    }
+}
+
+void floorfromname(const std::string& name) {
+    const std::string letters = name.substr(0, 4);
+    const int length = letters == "gird" ? 8 : letters == "pane" ? 7 : letters == "roof" ? 6 : 0;
+    const std::string_view stem = firstcharacters(name, length);
+    const char digit = stem.empty() ? ' ' : stem.back();
+    if (digit < '0' || digit > '9')
+        throw failure(failurekind::typemismatch,
+                      "designs\\" + name +
+                          ": the name tells no floor; a name girders, panels or roofs (or with their "
+                          "first four letters, as long) and the floor's digit was expected");
+    floornum = digit - '0';
+    setfloor(floornum == 0 ? value(10) : floornum);
+}
+
+void setfloor(const value& floor) {
+    for (int number = 1; number <= 10; ++number) {
+        if (floor != number) continue;
+        floorname = std::to_string(number);
+        placez = floorheight * (number - 1);
+    }
+}
+
+}  // namespace tessaly

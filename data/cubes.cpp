@@ -1,0 +1,150 @@
+// Axis-cube files: seven sections, each with its own first point and quad, in pairs of one line group. A row of more
+// than a hundred cubes runs on into the next section's slots, which overwrites them without notice.
+
+#include "data/cubes.h"
+
+#include "core/channels.h"
+#include "core/controls.h"
+#include "core/failure.h"
+#include "core/fields.h"
+#include "core/world.h"
+#include "data/elements.h"
+#include "data/transforms.h"
+#include "render/palette.h"
+#include "render/projector.h"
+
+namespace tessaly {
+
+namespace {
+
+enum axis { alongx, alongy, alongz };
+
+// A section of one cube row: the number of its first cube, its first point and quad.
+struct section {
+    const char* key;
+    int base, first;
+};
+constexpr section rows[] = {
+    // clang-format off
+    {"AUTOCUBE000:",   0,    1},
+    {"AUTOCUBE100:", 100, 1001},
+    {"AUTOCUBE200:", 200, 2001},
+    {"AUTOCUBE300:", 300, 3001},
+    {"AUTOCUBE400:", 400, 4001},
+    {"AUTOCUBE500:", 500, 5001},
+    // clang-format on
+};
+constexpr int singlesfirst = 600, singleslast = 699, singlespoint = 6001;
+
+void readcuberow(axis stepped, int base, cubeslots& next) {
+    value corner[6];
+    for (value& v : corner) v = readvalue(1, "a corner coordinate of a cube row");
+    const value step = readvalue(1, "the step of a cube row");
+    const value last = readvalue(1, "the last cube's number of a cube row");
+    rowgrade = readvalue(1, "the grade of a cube row");
+    rowcolour = readvalue(1, "the colour of a cube row");
+
+    value &first = corner[stepped], &second = corner[stepped + 3];
+    first = first - step;
+    second = second - step;
+    for (int c = base; c <= last; ++c) {
+        first = first + step;
+        second = second + step;
+        expandcube(next, corner[0], corner[1], corner[2], corner[3], corner[4], corner[5], rowgrade, rowcolour);
+    }
+}
+
+void readsinglecubes(cubeslots& next) {
+    for (int c = singlesfirst; c <= singleslast; ++c) {
+        const int label = readlabel(1, "the label of a cube row");
+        value corner[6];
+        for (value& v : corner) v = readvalue(1, "a corner coordinate of a cube row");
+        cubegrade.set(c, readvalue(1, "the grade of a cube row"));
+        cubecolour.set(c, readvalue(1, "the colour of a cube row"));
+        if (label == sentinel) return;
+        expandcube(next, corner[0], corner[1], corner[2], corner[3], corner[4], corner[5], cubegrade[c], cubecolour[c]);
+    }
+}
+
+// Rows of first quad, last quad and count: the same face of each cube of a row, ten slots apart. The end row clears the
+// slot at which the walk of the row before it stopped.
+void readcubeframing(const char* key, table<value, lastquad, clearedpoints>& framing) {
+    findkey(1, key);
+    double walked = 0;
+    for (;;) {
+        const int line = channelinput(1).line, field = channelinput(1).field;
+        const value first = readvalue(1, "the first quad of a framing row");
+        const value last = readvalue(1, "the last quad of a framing row");
+        const value count = readvalue(1, "the count of a framing row");
+        try {
+            if (!count.istext() && count == sentinel) {
+                framing.set(value(walked), 0);
+                return;
+            }
+            for (walked = first; walked <= last; walked += 10) framing.set(value(walked), count);
+        } catch (const failure& miss) {
+            throw failure(miss.kind, channelinput(1).place(line, field) + ": " + miss.detail + " (" + key + ")");
+        }
+    }
+}
+
+void readcubesections(axis stepped) {
+    findkey(1, "WIRECOLORS:");
+    for (int group = 6; group <= 9; ++group) wirecolour[group] = readvalue(1, "a wire colour (WIRECOLORS:)");
+
+    cubeslots next{1, 1, 1};
+    int pairstart = 1;  // first line of the pair of sections being read
+    const auto closepair = [&](int group, int block) {
+        linecount[group] = next.line - pairstart;
+        ptcount[block] = next.point - 1 - (block - 1) * 2000;
+        pairstart = next.line;
+    };
+    for (const section& s : rows) {
+        findkey(1, s.key);
+        if (s.base == 200) closepair(6, 1);
+        if (s.base == 400) closepair(7, 2);
+        next.point = next.quad = s.first;
+        readcuberow(stepped, s.base, next);
+    }
+    findkey(1, "AUTOCUBE600:");
+    closepair(8, 3);
+    next.point = next.quad = singlespoint;
+    readsinglecubes(next);
+    closepair(9, 4);
+    readcubeframing("AUTOFRAMING1:", framing1);
+    readcubeframing("AUTOFRAMING2:", framing2);
+}
+
+void readcubefile(axis stepped, int ownpreopened) {
+    resetworld();
+    const bool opened = preopened == ownpreopened;
+    if (!opened) openinput(1, "datah\\" + datafile.text(), "axis-cube file");
+    readcubesections(stepped);
+    if (opened) return;
+    runtransforms();
+    closechannel(1);
+    drawset = 2;
+    plotgroups();
+}
+
+}  // namespace
+
+void readcubex() { readcubefile(alongx, 2); }
+void readcubey() { readcubefile(alongy, 3); }
+void readcubez() { readcubefile(alongz, 4); }
+
+void clickdisplaycubebtn() {
+    for (window* layout : {&layoutgirder, &layoutpanels, &layoutroof}) hidewindow(*layout);
+    openinput(1, "datah\\az-cube.txt", "axis-cube file");
+    preopened = 4;
+    readcubez();
+    preopened = 0;
+    runtransforms();
+    closechannel(1);
+    viewprompt = "AUTOMA";
+    loadpalette();
+    plotgroups();
+    plotstate = 2;
+}
+
+}  // namespace tessaly

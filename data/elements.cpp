@@ -1,0 +1,248 @@
+// The element reader: the sections of an element file in their fixed order, the cube expansion, and the placement.
+// The row that ends a section is stored like any other, in the slot behind the last real row.
+
+#include "data/elements.h"
+
+#include "core/channels.h"
+#include "core/failure.h"
+#include "core/fields.h"
+#include "core/world.h"
+#include "data/transforms.h"
+#include "render/projector.h"
+
+#include <cmath>
+
+namespace tessaly {
+
+namespace {
+
+constexpr double planshiftx = 488, planshifty = 680;  // layout units less these are world units
+constexpr int lastplaced = 100;                       // points that a placement moves
+constexpr int lastplane = 7000;
+constexpr int cubesinsection = 200;
+
+void copytobase(int i) {
+    basex.set(i, ptx[i]);
+    basey.set(i, pty[i]);
+    basez.set(i, ptz[i]);
+}
+
+void readwirecolours() {
+    findkey(1, "WIRECOLORS:");
+    for (int group = 1; group <= 7; ++group) wirecolour[group] = readvalue(1, "a wire colour (WIRECOLORS:)");
+}
+
+void readpoints() {
+    findkey(1, "STANDARD:");
+    for (int n = 1; n <= lastpoint; ++n) {
+        const int label = readlabel(1, "the label of a STANDARD: row");
+        ptx.set(n, readvalue(1, "x of a STANDARD: row"));
+        pty.set(n, readvalue(1, "y of a STANDARD: row"));
+        ptz.set(n, readvalue(1, "z of a STANDARD: row"));
+        copytobase(n);
+        if (label == sentinel) {
+            ptcount1 = n - 1;
+            return;
+        }
+    }
+}
+
+bool isnumber(const value& v, double number) { return !v.istext() && v == number; }
+
+// Reads one LINEG section from line index first on; gives its count of lines. A section without an end row counts none.
+int readlines(const char* key, int first) {
+    findkey(1, key);
+    for (int n = first; n <= lastline; ++n) {
+        lineend1.set(n, readvalue(1, "the first point of a line row"));
+        lineend2.set(n, readvalue(1, "the second point of a line row"));
+        if (isnumber(lineend1[n], sentinel) && isnumber(lineend2[n], sentinel)) return n - first;
+    }
+    return 0;
+}
+
+// Reads one cube section into the slots from next on and expands its cubes.
+void readcubes(const char* key, int firstcube, cubeslots& next) {
+    findkey(1, key);
+    for (int c = firstcube; c < firstcube + cubesinsection; ++c) {
+        const int label = readlabel(1, "the label of a cube row");
+        value corner[6];
+        for (value& v : corner) v = readvalue(1, "a corner coordinate of a cube row");
+        cubegrade.set(c, readvalue(1, "the grade of a cube row"));
+        cubecolour.set(c, readvalue(1, "the colour of a cube row"));
+        if (label == sentinel) return;
+        expandcube(next, corner[0], corner[1], corner[2], corner[3], corner[4], corner[5], cubegrade[c], cubecolour[c]);
+    }
+}
+
+void readplanes() {
+    findkey(1, "AUTOPLANE:");
+    for (int q = 1; q <= lastplane; ++q) {
+        const int label = readlabel(1, "the label of an AUTOPLANE: row");
+        quad1.set(q, readvalue(1, "corner 1 of an AUTOPLANE: row"));
+        quad3.set(q, readvalue(1, "corner 3 of an AUTOPLANE: row"));
+        quad2.set(q, readvalue(1, "corner 2 of an AUTOPLANE: row"));
+        quad4.set(q, readvalue(1, "corner 4 of an AUTOPLANE: row"));
+        quadface.set(q, readvalue(1, "the face of an AUTOPLANE: row"));
+        quadcolour.set(q, readvalue(1, "the colour of an AUTOPLANE: row"));
+        if (label == sentinel) return;
+    }
+}
+
+void readframing(const char* key, table<value, lastquad, clearedpoints>& framing) {
+    findkey(1, key);
+    for (;;) {
+        const int line = channelinput(1).line, field = channelinput(1).field;
+        const value quad = readvalue(1, "the quad index of a framing row");
+        const value count = readvalue(1, "the count of a framing row");
+        const bool last = isnumber(count, sentinel);
+        try {
+            framing.set(quad, last ? value(0) : count);
+        } catch (const failure& miss) {
+            throw failure(miss.kind, channelinput(1).place(line, field) + ": " + miss.detail + " (" + key + ")");
+        }
+        if (last) return;
+    }
+}
+
+void readsections() {
+    readwirecolours();
+    readpoints();
+    int lines = 0;
+    const char* const keys[] = {"LINEG1:", "LINEG2:", "LINEG3:", "LINEG4:", "LINEG5:"};
+    for (int group = 1; group <= 5; ++group) {
+        const int count = readlines(keys[group - 1], lines + 1);
+        linecount[group] = count;
+        lines += count;
+    }
+    cubeslots next{4001, 4001, lines + 1};
+    readcubes("AUTOCUBE400:", 400, next);
+    linecount6 = next.line - (lines + 1);
+    ptcount3 = next.point - 4001;
+    const int firstline = next.line;
+    next = {6001, 6001, firstline};
+    readcubes("AUTOCUBE600:", 600, next);
+    linecount7 = next.line - firstline;
+    ptcount4 = next.point - 6001;
+    readplanes();
+    readframing("AUTOFRAMING1:", framing1);
+    readframing("AUTOFRAMING2:", framing2);
+}
+
+void toworldplace() {
+    placex = placex - planshiftx;
+    placey = placey - planshifty;
+}
+
+// Runs the placement of placemode; false for a mode that places nothing.
+bool place() {
+    const double mode = placemode;
+    if (mode == 0)
+        runtransforms();
+    else if (mode == 1 || mode == 4)
+        rotzplace();
+    else if (mode == 2)
+        rotxplace();
+    else if (mode == 3 || mode == 5)
+        shiftplace();
+    else
+        return false;
+    return true;
+}
+
+}  // namespace
+
+void expandcube(cubeslots& next, const value& x1, const value& y1, const value& z1, const value& x2, const value& y2,
+                const value& z2, const value& grade, const value& colour) {
+    const double dx = x2 - x1, dy = y2 - y1, dz = z2 - z1;
+    const int p = next.point;
+    const value corners[8][3] = {
+        {x1, y1, z1},           {x1, y1, z1 + dz}, {x1, y1 + dy, z1}, {x1, y1 + dy, z1 + dz},
+        {x1 + dx, y1 + dy, z1}, {x2, y2, z2},      {x1 + dx, y1, z1}, {x1 + dx, y1, z1 + dz},
+    };
+    for (int i = 0; i < 8; ++i) {
+        ptx.set(p + i, corners[i][0]);
+        pty.set(p + i, corners[i][1]);
+        ptz.set(p + i, corners[i][2]);
+        copytobase(p + i);
+    }
+    for (int spare = p + 8; spare <= p + 9; ++spare) {
+        ptx.set(spare, 0);
+        pty.set(spare, 0);
+        ptz.set(spare, 0);
+    }
+    static constexpr int edges[12][2] = {{0, 1}, {2, 3}, {4, 5}, {6, 7}, {0, 2}, {2, 4},
+                                         {4, 6}, {6, 0}, {1, 3}, {3, 5}, {5, 7}, {7, 1}};
+    for (const auto& edge : edges) {
+        lineend1.set(next.line, p + edge[0]);
+        lineend2.set(next.line, p + edge[1]);
+        ++next.line;
+    }
+    static constexpr int faces[6][4] = {{0, 1, 2, 3}, {2, 3, 4, 5}, {4, 5, 6, 7},
+                                        {6, 7, 0, 1}, {0, 2, 6, 4}, {1, 3, 7, 5}};  // corners 1, 3, 2, 4
+    for (int face = 1; face <= 6; ++face) {
+        const int q = next.quad + face - 1;
+        const auto& corner = faces[face - 1];
+        quad1.set(q, p + corner[0]);
+        quad3.set(q, p + corner[1]);
+        quad2.set(q, p + corner[2]);
+        quad4.set(q, p + corner[3]);
+        quadface.set(q, face);
+        quadcolour.set(q, colour);
+        if (face <= 4) quadgrade.set(q, grade);
+    }
+    next.point += 10;
+    next.quad += 10;
+}
+
+void rotzplace() {
+    toworldplace();
+    const double a = radians(rotz), c = std::cos(a), s = std::sin(a);
+    const double dx = placex, dy = placey, dz = placez;
+    for (int i = 1; i <= lastplaced; ++i) {
+        const double x = basex[i], y = basey[i], z = basez[i];
+        ptx.set(i, x * c - y * s + dx);
+        pty.set(i, x * s + y * c + dy);
+        ptz.set(i, z + dz);
+        copytobase(i);
+    }
+}
+
+void rotxplace() {
+    toworldplace();
+    rotx = radians(rotx);
+    const double a = rotx, c = std::cos(a), s = std::sin(a);
+    const double dx = placex, dy = placey, dz = placez;
+    for (int i = 1; i <= lastplaced; ++i) {
+        const double x = basex[i], y = basey[i], z = basez[i];
+        ptx.set(i, x + dx);
+        pty.set(i, y * c - z * s + dy);
+        ptz.set(i, y * s + z * c + dz);
+        copytobase(i);
+    }
+}
+
+void shiftplace() {
+    toworldplace();
+    const double dx = placex, dy = placey, dz = placez;
+    for (int i = 1; i <= lastplaced; ++i) {
+        ptx.set(i, basex[i] + dx);
+        pty.set(i, basey[i] + dy);
+        ptz.set(i, basez[i] + dz);
+        copytobase(i);
+    }
+}
+
+void readelements() {
+    resetworld();
+    const bool opened = preopened == 1;
+    if (!opened) openinput(1, "datah\\" + datafile.text(), "element file");
+    readsections();
+    if (opened) return;
+    // A placemode that nothing sets leaves the file open on channel 1, so that the next element fails.
+    if (!place()) return;
+    closechannel(1);
+    drawset = 1;
+    plotgroups();
+}
+
+}  // namespace tessaly

@@ -1,0 +1,116 @@
+// The start-up display. drawset is left as it stands: at first start it is empty, so that block 2 of an axis-cube group
+// is not rebased on the focus, and that is how the start scene is meant to be drawn.
+
+#include "data/startdisplay.h"
+
+#include "core/channels.h"
+#include "core/controls.h"
+#include "core/fields.h"
+#include "core/world.h"
+#include "data/cubes.h"
+#include "data/elements.h"
+#include "data/transforms.h"
+#include "render/palette.h"
+#include "render/projector.h"
+#include "render/surface.h"
+
+namespace tessaly {
+
+namespace {
+
+constexpr const char* presetkeys[] = {
+    "HighZ(full)",  "HighZ(zoom)",  "FarX(full)",   "FarX(zoom)",   "FarY(full)",   "FarY(zoom)",
+    "Perspective1", "Perspective2", "Perspective3", "Perspective4", "Perspective5", "Perspective6",
+};
+constexpr int viewvalues = 9;
+
+void readdefaultview() {
+    findkey(1, "DEFAULTVIEW:");
+    for (value* v : {&perpx, &perpy, &perpz, &focusx, &focusy, &focusz, &mag, &vertshift, &horizshift})
+        *v = readvalue(1, "a figure of DEFAULTVIEW:");
+}
+
+// A preset's eye is kept relative to its focus.
+void readpreset(const char* key, int first) {
+    findkey(1, key);
+    for (int i = 0; i < viewvalues; ++i) viewpreset.set(first + i, readvalue(1, "a figure of a view preset"));
+    for (int i = 0; i < 3; ++i) viewpreset.set(first + i, viewpreset[first + i] - viewpreset[first + 3 + i]);
+}
+
+value readname(const char* key) {
+    findkey(1, key);
+    return value(readtextfield(1, key));
+}
+
+void readstartfile() {
+    openinput(1, "datah\\start.txt", "start file");
+    readdefaultview();
+    int first = 1;
+    for (const char* key : presetkeys) {
+        readpreset(key, first);
+        first += viewvalues;
+    }
+    palname = readname("DEFAULTPAL:");
+    findkey(1, "BACKGROUNDCOLOR:");
+    for (value* v : {&backred, &backgreen, &backblue}) *v = readvalue(1, "a component of BACKGROUNDCOLOR:");
+    startgroup1 = readname("DISPLAYSTARTGROUP1:");
+    startgroup2 = readname("DISPLAYSTARTGROUP2:");
+    startgroup3 = readname("DISPLAYSTARTGROUP3:");
+    closechannel(1);
+}
+
+void opengroup(const value& name, int step) {
+    openinput(1, "datah\\" + name.text() + ".txt", "start group");
+    startprefix = name.text().substr(0, 2);
+    startstep = step;
+}
+
+// Reads the group open on channel 1 by the reader that its name asks for; any other name leaves the tables to the
+// script.
+void readgroup() {
+    struct reader {
+        const char* prefix;
+        int preopened;
+        void (*read)();
+    };
+    static constexpr reader readers[] = {
+        {"st", 1, readelements}, {"ax", 2, readcubex}, {"ay", 3, readcubey}, {"az", 4, readcubez}};
+    for (const reader& r : readers) {
+        if (!startprefix.is(r.prefix)) continue;
+        preopened = r.preopened;
+        r.read();
+    }
+    preopened = 0;
+    runtransforms();
+    closechannel(1);
+}
+
+void displaygroup() {
+    readgroup();
+    viewprompt = "AUTOMA";
+    loadpalette();
+    plotgroups();
+    plotstate = 2;
+}
+
+}  // namespace
+
+void startdisplay() {
+    if (startdone != 1) {
+        readstartfile();
+        viewportsurface->wash(1, 1450, 1, 1010, makecolour(backred, backgreen, backblue));
+    }
+    int step = 0;
+    for (const value* name : {&startgroup1, &startgroup2, &startgroup3}) {
+        opengroup(*name, step++);
+        displaygroup();
+    }
+}
+
+void clickgroupbtn() {
+    for (window* layout : {&layoutpanels, &layoutgirder, &layoutroof}) hidewindow(*layout);
+    startdone = 1;
+    startdisplay();
+}
+
+}  // namespace tessaly

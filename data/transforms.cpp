@@ -1,0 +1,200 @@
+// Transformation scripts: blocks of rows between TRAN and the next TRAN, each keyword one procedure over a row.
+
+#include "data/transforms.h"
+
+#include "core/channels.h"
+#include "core/failure.h"
+#include "core/fields.h"
+#include "core/world.h"
+#include "data/elements.h"
+
+#include <cmath>
+#include <string>
+#include <string_view>
+
+namespace tessaly {
+
+namespace {
+
+constexpr int mostrows = 7000, mostpairs = 10000;
+constexpr int mostfields = 6;
+
+void copytobase(int i) {
+    basex.set(i, ptx[i]);
+    basey.set(i, pty[i]);
+    basez.set(i, ptz[i]);
+}
+
+int asindex(const value& v) { return indexof(v, "a point range"); }
+
+// ---- one procedure a keyword; row holds its fields in file order ----
+
+void setx(const value* row) {
+    ptx.set(row[0], row[1]);
+    basex.set(row[0], row[1]);
+}
+
+void sety(const value* row) {
+    pty.set(row[0], row[1]);
+    basey.set(row[0], row[1]);
+}
+
+void setz(const value* row) {
+    ptz.set(row[0], row[1]);
+    basez.set(row[0], row[1]);
+}
+
+void resize(const value* row) {
+    for (int i = asindex(row[0]), last = asindex(row[1]); i <= last; ++i) {
+        ptx.set(i, ptx[i] * row[2]);
+        pty.set(i, pty[i] * row[3]);
+        ptz.set(i, ptz[i] * row[4]);
+        copytobase(i);
+    }
+}
+
+// Rotations about one axis by an angle whose cosine and sine are c and s, from the base tables, then the translation.
+using turn = void (*)(int i, double c, double s, double dx, double dy, double dz);
+
+void turnx(int i, double c, double s, double dx, double dy, double dz) {
+    ptx.set(i, basex[i] + dx);
+    pty.set(i, basey[i] * c - basez[i] * s + dy);
+    ptz.set(i, basey[i] * s + basez[i] * c + dz);
+    copytobase(i);
+}
+
+void turny(int i, double c, double s, double dx, double dy, double dz) {
+    ptx.set(i, basez[i] * s + basex[i] * c + dx);
+    pty.set(i, basey[i] + dy);
+    ptz.set(i, basez[i] * c - basex[i] * s + dz);
+    copytobase(i);
+}
+
+void turnz(int i, double c, double s, double dx, double dy, double dz) {
+    ptx.set(i, basex[i] * c - basey[i] * s + dx);
+    pty.set(i, basex[i] * s + basey[i] * c + dy);
+    ptz.set(i, basez[i] + dz);
+    copytobase(i);
+}
+
+void keepplace(const value* offsets) {
+    placex = offsets[0];
+    placey = offsets[1];
+    placez = offsets[2];
+}
+
+void rotatetranslate(const value* row, double angle, turn about) {
+    keepplace(row + 3);
+    const double c = std::cos(angle), s = std::sin(angle);
+    for (int i = asindex(row[0]), last = asindex(row[1]); i <= last; ++i) about(i, c, s, placex, placey, placez);
+}
+
+void xrotatetranslate(const value* row) {
+    rotx = radians(row[2]);
+    rotatetranslate(row, rotx, turnx);
+}
+
+void yrotatetranslate(const value* row) { rotatetranslate(row, radians(row[2]), turny); }
+
+void zrotatetranslate(const value* row) {
+    rotz = radians(row[2]);
+    rotatetranslate(row, rotz, turnz);
+}
+
+void translatesteps(const value* row, int step) {
+    keepplace(row + 2);
+    for (int i = asindex(row[0]), last = asindex(row[1]); i <= last; i += step) {
+        ptx.set(i, basex[i] + placex);
+        pty.set(i, basey[i] + placey);
+        ptz.set(i, basez[i] + placez);
+        copytobase(i);
+    }
+}
+
+void translate(const value* row) { translatesteps(row, 1); }
+void step10translate(const value* row) { translatesteps(row, 10); }
+
+// A wrap: copies passes over a run of points, ten indexes further on each, with an angle and a rise that grow; the rise
+// along the axis in pass k is (base + k) k rise. axis tells which of dx, dy, dz the rise is.
+void wrap(const value* row, value& running, turn about, int axis) {
+    int first = asindex(row[0]) - 10, last = asindex(row[1]) - 10;
+    const double angle = radians(row[2]), copies = row[3], rise = row[5];
+    double factor = row[4], risen = 0;
+    running = 0;
+    for (int k = 1; k <= copies; ++k) {
+        risen += rise;
+        running = running + angle;
+        first += 10;
+        last += 10;
+        factor += 1;
+        const double r = factor * risen, c = std::cos(running), s = std::sin(running);
+        for (int i = first; i <= last; ++i) about(i, c, s, axis == 0 ? r : 0, axis == 1 ? r : 0, axis == 2 ? r : 0);
+    }
+}
+
+void zwrap(const value* row) { wrap(row, rotz, turnz, 2); }
+void xwrap(const value* row) { wrap(row, rotx, turnx, 0); }
+void ywrap(const value* row) {
+    value running;  // about Y nothing is left behind
+    wrap(row, running, turny, 1);
+}
+
+struct block {
+    std::string_view keyword;
+    int fields, rows;
+    void (*obey)(const value* row);
+};
+
+constexpr block blocks[] = {
+    // clang-format off
+    {"XTRANSFORMATIONS:",  2, mostpairs, setx},
+    {"YTRANSFORMATIONS:",  2, mostpairs, sety},
+    {"ZTRANSFORMATIONS:",  2, mostpairs, setz},
+    {"RESIZE:",            5, mostrows,  resize},
+    {"XROTATETRANSLATE:",  6, mostrows,  xrotatetranslate},
+    {"YROTATETRANSLATE:",  6, mostrows,  yrotatetranslate},
+    {"ZROTATETRANSLATE:",  6, mostrows,  zrotatetranslate},
+    {"TRANSLATE:",         5, mostrows,  translate},
+    {"STEP10TRANSLATE:",   5, mostrows,  step10translate},
+    {"ZWRAP:",             6, mostrows,  zwrap},
+    {"XWRAP:",             6, mostrows,  xwrap},
+    {"YWRAP:",             6, mostrows,  ywrap},
+    // clang-format on
+};
+
+// A keyword that nobody knows is no mistake: its rows are read as pairs of point and x.
+const block& blockof(std::string_view keyword) {
+    for (const block& b : blocks)
+        if (b.keyword == keyword) return b;
+    return blocks[0];
+}
+
+void obeyblock(const block& b) {
+    for (int n = 1; n <= b.rows; ++n) {
+        const int line = channelinput(1).line, field = channelinput(1).field;
+        value row[mostfields];
+        for (int f = 0; f < b.fields; ++f) row[f] = readvalue(1, "a field of a transformation row");
+        if (!row[0].istext() && row[0] == sentinel) return;
+        try {
+            b.obey(row);
+        } catch (const failure& f) {
+            throw failure(f.kind,
+                          channelinput(1).place(line, field) + ": " + f.detail + " (" + std::string(b.keyword) + ")");
+        }
+    }
+}
+
+}  // namespace
+
+void runtransforms() {
+    std::string keyword;
+    for (;;) {
+        // Every block is introduced by its own TRAN; a keyword that was TRAN itself introduces the next block.
+        if (keyword != "TRAN") findkey(1, "TRAN");
+        keyword = readtextfield(1, "the keyword behind TRAN");
+        if (keyword == "STOP") return;
+        obeyblock(blockof(keyword));
+    }
+}
+
+}  // namespace tessaly

@@ -1,0 +1,146 @@
+// The solid painter. Nothing but lines: no polygon fill, no depth buffer; the order of painting does the hiding.
+
+#include "render/painter.h"
+
+#include "core/colour.h"
+#include "core/world.h"
+#include "render/projector.h"
+#include "render/surface.h"
+
+#include <cmath>
+
+namespace tessaly {
+
+namespace {
+
+constexpr int lastsorted = 7000;                          // quads that take part in the sort
+constexpr int mostpainted = 100;                          // nearest quads that are painted
+constexpr double farthest = 1000000, takenout = 2000000;  // model units
+
+bool emptyquad(int i) { return quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[i] == 0; }
+
+double eyedistance(const value& point) {
+    const double x = perpx - ptx[point], y = perpy - pty[point], z = perpz - ptz[point];
+    return std::sqrt((x * x + y * y) + z * z);
+}
+
+// The distances of a quad's corners from the eye; the nearest is its key.
+void measurequads() {
+    for (int i = 1; i <= lastsorted; ++i) {
+        // The fourth corner is slot 0's, not slot i's: three corners decide whether a quad counts as empty here.
+        if (quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[0] == 0) continue;
+        quadcornerdist1.set(i, eyedistance(quad1[i]));
+        quadcornerdist2.set(i, eyedistance(quad3[i]));
+        quadcornerdist3.set(i, eyedistance(quad2[i]));
+        quadcornerdist4.set(i, eyedistance(quad4[i]));
+        double nearest = quadcornerdist1[i];
+        if (quadcornerdist2[i] < nearest) nearest = quadcornerdist2[i];
+        if (quadcornerdist3[i] < nearest) nearest = quadcornerdist3[i];
+        if (quadcornerdist4[i] < nearest) nearest = quadcornerdist4[i];
+        quaddist.set(i, nearest);
+    }
+}
+
+// Selection sort, nearest first, ties to the lower slot. A key of a million or more is never chosen: the position then
+// keeps what it held, and what it holds is taken out once more.
+void sortquads() {
+    for (int i = 1; i <= lastsorted; ++i) {
+        if (emptyquad(i)) continue;
+        double best = farthest;
+        for (int j = 1; j <= lastsorted; ++j) {
+            if (emptyquad(j) || !(quaddist[j] < best)) continue;
+            best = quaddist[j];
+            quadorder.set(i, j);
+        }
+        quaddist.set(quadorder[i], takenout);
+    }
+}
+
+bool isroof(const value& filename) { return filename.text().substr(0, 4) == "roof"; }
+
+int choosedivisions() {
+    if (panelcode.isnumber() && (panelcode == 19 || panelcode == 20 || panelcode == 21)) return 400;
+    if (isroof(firstfilename) || isroof(secondfilename) || elementkind.is("roof")) return 1500;
+    return 200;
+}
+
+void fillface(int q) {
+    const value &c1 = quad1[q], &c2 = quad2[q], &c3 = quad3[q], &c4 = quad4[q];
+    const facecorners f{screenx[c1], screeny[c1], screenx[c2], screeny[c2],
+                        screenx[c3], screeny[c3], screenx[c4], screeny[c4]};
+    viewportsurface->web(f, divisions, palettecolour(facecolour));
+}
+
+// One rail of a framing direction: count points from the rail's start, at s / count of its length, and the line ends
+// that stand on them. Model space, so the lines keep their perspective; the last interval's end is the closing edge.
+void buildrail(const value& start, const value& end, int firstpoint, int count, table<value, lastline>& ends) {
+    const double x1 = ptx[start], y1 = pty[start], z1 = ptz[start];
+    for (int s = 0; s < count; ++s) {
+        const double share = static_cast<double>(s) / count;
+        ptx.set(firstpoint + s, x1 + share * (ptx[end] - x1));
+        pty.set(firstpoint + s, y1 + share * (pty[end] - y1));
+        ptz.set(firstpoint + s, z1 + share * (ptz[end] - z1));
+        ends.set(framingscratch + s, firstpoint + s);
+    }
+}
+
+// The framing lines of one direction between the two rails. The scratch points have no saved positions and no base of
+// their own: a near-side walk starts from what the tables hold there, and the restore overwrites them.
+void framedirection() {
+    curgroup = framinggroup;
+    const colour c = palettecolour(framecolour);
+    viewportsurface->line(static_cast<float>(screenx[railend2]), static_cast<float>(screeny[railend2]),
+                          static_cast<float>(screenx[railend1]), static_cast<float>(screeny[railend1]), c);
+    const int count = indexof(framen, "framing count");
+    groupfirst.set(framinggroup, framingscratch);
+    grouplast.set(framinggroup, framingscratch - 1 + count);
+    buildrail(railstart1, railend1, framingscratch, count, lineend1);
+    buildrail(railstart2, railend2, framingscratch + count, count, lineend2);
+    drawlines(framingscratch, framingscratch - 1 + count, framecolour);
+}
+
+void framefirst(int q) {
+    railstart1 = quad1[q];
+    railend1 = quad2[q];
+    railstart2 = quad3[q];
+    railend2 = quad4[q];
+    framen = framing1[q];
+    framedirection();
+}
+
+void framesecondly(int q) {
+    railstart1 = quad1[q];
+    railend1 = quad3[q];
+    railstart2 = quad2[q];
+    railend2 = quad4[q];
+    framen = framing2[q];
+    framedirection();
+}
+
+void drawframing(int q) {
+    if (framing1[q] == 0 && framing2[q] == 0) return;
+    framecolour = quadcolour[q] + 1;
+    const bool first = framing1[q] > 0, second = framing2[q] > 0;
+    framesecond = first && second ? 1 : 0;
+    if (first) framefirst(q);
+    framesecond = 0;
+    if (second) framesecondly(q);
+}
+
+}  // namespace
+
+void paintsolids() {
+    measurequads();
+    sortquads();
+    divisions = choosedivisions();
+    for (int i = mostpainted; i >= 1; --i) {
+        if (emptyquad(i)) continue;  // the slot at i itself: an element's quads fill the table from 1 upward
+        const int q = indexof(quadorder[i], "quadorder");
+        if (rotz == 90 || rotz == 270) quadcolour.set(q, quadcolour[q] + 1);
+        facecolour = quadcolour[q];
+        fillface(q);
+        drawframing(q);
+    }
+}
+
+}  // namespace tessaly

@@ -1,0 +1,129 @@
+// The one table from a control's name to its procedure, the start and the end of the program, and the two plain actions
+// of the main window. A button without a row does nothing but look like a button; a list without one only selects.
+
+#include "windows/handlers.h"
+
+#include "building/choice.h"
+#include "building/layouts.h"
+#include "core/channels.h"
+#include "core/world.h"
+#include "data/cubes.h"
+#include "data/startdisplay.h"
+#include "render/surface.h"
+
+namespace tessaly {
+
+namespace {
+
+void filllists() {
+    incrementlist.items = {"500", "300", "100", "50", "10", "5", "1", ".1", ".01 ", " "};
+    rotincbox.items = {"500", "300", "100", "50", " "};
+    magincbox.items = {".03", ".02", ".01", ".005", ".002", ".001", " "};
+    floorlist.items = {"9", "8", "7", "6", "5", "4", "3", "2", "1"};
+}
+
+// Load of the main window, which is visible only once this has returned.
+void loadvistaplan() {
+    vistaplan.created = true;
+    filllists();
+    setfolder(designfileslist, "designs\\");
+    setfolder(bmplistbox, "bmps\\");
+    for (control* list : {&autofile, &autofile1, &autofile2, &autofile3, &autofile4, &autofile5})
+        setfolder(*list, "designs\\");
+    startdisplay();
+}
+
+void clickstartprogrambtn() {
+    hidewindow(startform);
+    loadvistaplan();
+    showwindow(vistaplan);
+}
+
+void clickfillscreen() { viewportsurface->wash(1, 1450, 1, 1010, makecolour(backred, backgreen, backblue)); }
+
+void clickexitbtn() {
+    for (window* w : {&startform, &vistaplan, &easyviews, &instructions, &layoutgirder, &layoutpanels, &layoutroof})
+        w->shown = false;
+    programended = true;
+}
+
+struct handler {
+    const control* of;
+    void (*run)();
+};
+
+#define CLICK(name)                                                                                                    \
+    { &name, click##name }
+#define PICK(name)                                                                                                     \
+    { &name, pick##name }
+const handler handlers[] = {
+    // start, display, general
+    CLICK(startprogrambtn),
+    CLICK(fillscreen),
+    CLICK(groupbtn),
+    CLICK(displaycubebtn),
+    CLICK(exitbtn),
+    // element choice
+    CLICK(orange1btn),
+    CLICK(orange2btn),
+    CLICK(orange3btn),
+    CLICK(yellow1btn),
+    CLICK(yellow2btn),
+    CLICK(yellow3btn),
+    CLICK(door2btn),
+    CLICK(door4btn),
+    CLICK(postbeambtn),
+    CLICK(roofbtn),
+    CLICK(floorbtn),
+    PICK(floorlist),
+    CLICK(wiresolidbtn),
+    CLICK(writefilebtn),
+    CLICK(snipleftbtn),
+    CLICK(sniprighbtn),
+    CLICK(snipbothbtn),
+};
+#undef CLICK
+#undef PICK
+
+void runhandler(const control& c) {
+    wantedfocus = nullptr;
+    if (const position* p = positionof(c)) {
+        clickposition(*p);
+        return;
+    }
+    for (const handler& h : handlers)
+        if (h.of == &c) h.run();
+}
+
+}  // namespace
+
+void startprogram() {
+    forgetchannels();
+    forgetworld();
+    forgetcontrols();
+    definelayouts();
+    panelsnipper.items = {"Full panel", "snip left side", "snip right side", "snip both sides"};
+    showwindow(startform);
+}
+
+void clickcontrol(control& c) { runhandler(c); }
+
+void pickitem(control& c, int item) {
+    c.selected = item;
+    if (c.kind == controlkind::combobox) c.text = selectedtext(c);
+    runhandler(c);
+}
+
+void typetext(control& c, std::string_view text) {
+    c.text = text;
+    if (c.kind == controlkind::combobox) c.selected = -1;
+}
+
+void closewindow(window& w) {
+    if (&w == &startform || &w == &vistaplan)
+        clickexitbtn();
+    else
+        hidewindow(w);
+}
+
+}  // namespace tessaly
