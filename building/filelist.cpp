@@ -1,0 +1,36 @@
+// The design file list. The picture of a design stays when its file is deleted.
+
+#include "building/filelist.h"
+
+#include "building/replay.h"
+#include "core/channels.h"
+#include "core/controls.h"
+
+namespace tessaly {
+
+void clickdisplayfilelistbtn() {
+    refresh(designfileslist);
+    show(designfileslist);
+    show(closefilelistbtn);
+}
+
+void pickdesignfileslist() { show(killfilebtn); }
+
+void clickkillfilebtn() {
+    firstfilename = selectedtext(designfileslist);
+    deletefile(designpath(firstfilename));
+    refresh(designfileslist);
+    clickclosefilelistbtn();
+}
+
+void clickclosefilelistbtn() {
+    for (control* c : {&designfileslist, &killfilebtn, &closefilelistbtn}) hide(*c);
+}
+
+void clickescapefilelistbtn() {
+    for (control* c :
+         {&escapefilelistbtn, &selectgirderfile, &autofile, &autofile1, &autofile3, &autofile5, &autohintbox})
+        hide(*c);
+}
+
+}  // namespace tessaly

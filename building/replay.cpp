@@ -1,0 +1,109 @@
+// What the file readers share. The traps and the channels are the readers' own affair, the steps are here.
+
+#include "building/replay.h"
+
+#include "building/designfiles.h"
+#include "core/controls.h"
+#include "core/fields.h"
+#include "data/elements.h"
+#include "render/surface.h"
+
+#include <algorithm>
+#include <cmath>
+#include <vector>
+
+namespace tessaly {
+
+namespace {
+
+constexpr int planoriginx = 488, planoriginy = 680;  // layout units of the world's origin
+constexpr double nearestchosen = 1;                  // a sort's first best distance, which is to be exceeded
+
+// The strip, in its own pixels, y down: rows of one pixel from x 1 to x 17, and the row just below its last one.
+constexpr float stripleft = 1, stripright = 17;
+constexpr int stripbottom = 701, striprows = 701, rowsarecord = 4;
+constexpr colour striplength{200, 200, 200}, stripback{100, 100, 100}, stripdone{250, 50, 50};
+
+int donerow = stripbottom;  // of the last red row
+
+void drawstriprow(int row, colour c) {
+    const float y = static_cast<float>(row);
+    progresssurface->line(stripleft, y, stripright, y, c);
+}
+
+// Rows from the strip's bottom up.
+void drawstriprows(int count, colour c) {
+    for (int row = stripbottom - 1; row >= stripbottom - count; --row) drawstriprow(row, c);
+}
+
+double squared(double d) { return d * d; }
+
+}  // namespace
+
+void readrecord(int channel, std::initializer_list<value*> places) {
+    for (value* place : places) *place = readrecordfield(channel, "a field of a design record");
+}
+
+std::string designpath(const value& name) { return "designs\\" + name.text(); }
+
+void drawrecord(const value& kind, const value& code) {
+    elementfileforcode(kind, code);
+    readelements();
+    rotx = 0;
+}
+
+void makeeyeabsolute() {
+    perpx = perpx + focusx;
+    perpy = perpy + focusy;
+    perpz = perpz + focusz;
+}
+
+void measurerecords(int n) {
+    for (int i = 1; i <= n; ++i) {
+        rdx.set(i, rdx[i] - planoriginx);
+        rdy.set(i, rdy[i] - planoriginy);
+        quaddist.set(i, std::sqrt(squared(perpx - rdx[i]) + squared(perpy - rdy[i])));
+    }
+}
+
+void sortrecordsplainly(const table<value, lastrecord>& number, int n) {
+    for (int slot = 1; slot <= n; ++slot) {
+        double best = nearestchosen;
+        for (int j = 1; j <= lastrecord; ++j) {
+            if (number[j] == 0 || !(quaddist[j] > best)) continue;
+            best = quaddist[j];
+            rdorder.set(slot, j);
+        }
+        quaddist.set(rdorder[slot], 0);
+    }
+}
+
+// The records that can be chosen are chosen in falling order of distance; once none is left, none comes back.
+void sortrecords(const table<value, lastrecord>& number, int n) {
+    if (n == 0) return;
+    std::vector<int> chosen;
+    for (int j = 1; j <= lastrecord; ++j)
+        if (number[j] != 0 && quaddist[j] > nearestchosen) chosen.push_back(j);
+    std::stable_sort(chosen.begin(), chosen.end(), [](int a, int b) { return quaddist[a] > quaddist[b]; });
+    if (chosen.size() > static_cast<std::size_t>(n)) chosen.resize(static_cast<std::size_t>(n));
+
+    int slot = 0;
+    for (const int j : chosen) rdorder.set(++slot, j);
+    for (slot = 1; slot <= n; ++slot) quaddist.set(rdorder[slot], 0);
+}
+
+void drawprogress(int n) {
+    show(progressbar);
+    drawstriprows(striprows, stripback);
+    drawstriprows(rowsarecord * (n + 1), striplength);
+    donerow = stripbottom;
+    progresssurface->flush();
+}
+
+void stepprogress() {
+    donerow -= rowsarecord;
+    drawstriprow(donerow, stripdone);
+    progresssurface->flush();
+}
+
+}  // namespace tessaly

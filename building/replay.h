@@ -1,0 +1,66 @@
+// What the file readers share: reading records, the trap that ends a design file, the sort of a solid replay by plan
+// distance, and the progress strip. The readers themselves are singlereader and combinedreader.
+#pragma once
+
+#include "core/failure.h"
+#include "core/value.h"
+#include "core/world.h"
+
+#include <initializer_list>
+#include <string>
+
+namespace tessaly {
+
+// A replay's temporary files, gone when it has run to its end. They are opened for appending: what a broken replay or
+// an abandoned choice left behind stands in front of the new records and is replayed in their place. It stays so.
+inline constexpr const char* tempfile = "nonuser\\temp.txt";
+inline constexpr const char* sortedtempfile = "nonuser\\temp2.txt";
+
+// Runs step(1), step(2) .. step(most) until one fails, whatever the failure, and returns how many ran whole: the end of
+// a file is never tested for, the failed read is the end. This is the one trap of a replay.
+template <class procedure>
+int untilfailure(int most, procedure step) {
+    int done = 0;
+    try {
+        for (; done < most; ++done) step(done + 1);
+    } catch (const failure&) {
+        return done;
+    }
+    return done;
+}
+
+// Reads fields from channel into places, one after the other: a record that breaks off leaves its front in them.
+// fails: input past end of file, overflow.
+void readrecord(int channel, std::initializer_list<value*> places);
+
+// "designs\" and the name.
+std::string designpath(const value& name);
+
+// Places, reads and draws the element of the record just read, by the column of kind and its code. rotx is 0
+// afterwards, for placement leaves radians in it. reads: rotx, rotz, placex, placey, placez; writes, fails: as
+// readelements.
+void drawrecord(const value& kind, const value& code);
+
+// Makes the eye absolute; only the next plotgroups makes it relative again, so that after a replay of nothing the next
+// view step goes on from the absolute eye. reads: focusx..; writes: perpx..
+void makeeyeabsolute();
+
+// Turns the places of records 1..n into world units and measures their plan distances from the eye; height has no part.
+// reads: perpx, perpy; writes: rdx, rdy, quaddist; fails: type mismatch.
+void measurerecords(int n);
+
+// Orders records farthest first: rdorder[1..n] by quaddist, equal distances in the order of the file, records of number
+// 0 passed over. A record at a distance of 1 or less is never chosen; a slot that finds none keeps what an earlier sort
+// left in rdorder. The second is the plain way, 1000 n comparisons, with the same outcome and the same failures.
+// reads: number; writes: rdorder, quaddist (0 for every record taken); fails: type mismatch for a number that is a
+// text.
+void sortrecords(const table<value, lastrecord>& number, int n);
+void sortrecordsplainly(const table<value, lastrecord>& number, int n);
+
+// Shows the progress strip for n records: cleared to dark, four light rows a record and four over, from the bottom up.
+void drawprogress(int n);
+
+// One element further: the strip's next red row, four rows up. Rows above the strip fall outside it.
+void stepprogress();
+
+}  // namespace tessaly
