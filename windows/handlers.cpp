@@ -4,7 +4,10 @@
 #include "windows/handlers.h"
 
 #include "building/choice.h"
+#include "building/combinedreader.h"
+#include "building/filelist.h"
 #include "building/layouts.h"
+#include "building/singlereader.h"
 #include "core/channels.h"
 #include "core/world.h"
 #include "data/cubes.h"
@@ -81,6 +84,23 @@ const handler handlers[] = {
     CLICK(snipleftbtn),
     CLICK(sniprighbtn),
     CLICK(snipbothbtn),
+    // replay of design files
+    CLICK(autowiresingle),
+    CLICK(autosolidsingle),
+    PICK(autofile),
+    PICK(autofile5),
+    CLICK(autowirebtn),
+    CLICK(autosolidbtn),
+    PICK(autofile1),
+    PICK(autofile2),
+    PICK(autofile3),
+    PICK(autofile4),
+    CLICK(escapefilelistbtn),
+    // list of design files
+    CLICK(displayfilelistbtn),
+    PICK(designfileslist),
+    CLICK(killfilebtn),
+    CLICK(closefilelistbtn),
 };
 #undef CLICK
 #undef PICK
