@@ -1,0 +1,170 @@
+// Makes the element maps of el-numbers: one sheet a layout window, drawn from the same families of position buttons,
+// with every element's number at its place, the axes in layout units and a legend. For users who edit design files by
+// hand. makemaps FOLDER writes girders.png, panels.png and roofs.png there (A4 landscape at 150 dots an inch).
+
+#include "building/layouts.h"
+#include "core/controls.h"
+
+#include <QGuiApplication>
+#include <QImage>
+#include <QPainter>
+
+#include <cstdio>
+#include <map>
+
+namespace tessaly {
+
+namespace {
+
+constexpr int sheetwidth = 1754, sheetheight = 1240;  // dots
+constexpr int dotspermetre = 5906;
+constexpr int margin = 70, planleft = 160, plantop = 180, planbottom = 1030;
+constexpr double mostwidening = 1.4;
+
+struct sheet {
+    window* of;
+    const char* file;
+    const char* title;
+    const char* designs;
+};
+
+// From the window's twips to the sheet's dots: the plan as large as it goes, stretched where the sheet is wider.
+struct scale {
+    double across, down;
+    int left, top;  // twips of the plan's corner
+    QRectF rect(const twips& t) const {
+        return {planleft + (t.left - left) * across, plantop + (t.top - top) * down, t.width * across, t.height * down};
+    }
+};
+
+QColor shade(colour c) { return {c.red, c.green, c.blue}; }
+
+QFont font(int dots, bool bold = false) {
+    QFont f("DejaVu Sans");
+    f.setPixelSize(dots);
+    f.setBold(bold);
+    f.setHintingPreference(QFont::PreferNoHinting);
+    return f;
+}
+
+bool stands(const window& w, const control& c) { return c.in == &w && positionof(c) != nullptr; }
+
+scale fit(const window& w) {
+    int left = w.widthtwips, top = w.heighttwips, right = 0, bottom = 0;
+    for (const control* c : w.controls) {
+        if (!stands(w, *c)) continue;
+        left = std::min(left, c->place.left);
+        top = std::min(top, c->place.top);
+        right = std::max(right, c->place.left + c->place.width);
+        bottom = std::max(bottom, c->place.top + c->place.height);
+    }
+    const double across = double(sheetwidth - planleft - margin) / (right - left);
+    const double down = double(planbottom - plantop) / (bottom - top);
+    return {std::min(across, down * mostwidening), down, left, top};
+}
+
+void drawpositions(QPainter& p, const window& w, const scale& s) {
+    for (const control* c : w.controls) {
+        if (!stands(w, *c)) continue;
+        const QRectF r = s.rect(c->place);
+        QColor fill = shade(c->back);
+        p.setPen(QPen(Qt::black, 1));
+        p.setBrush(fill.lightnessF() < 0.4 ? fill.lighter(100) : fill.lighter(115));
+        p.drawRect(r);
+        p.setPen(fill.lightnessF() < 0.4 ? Qt::white : Qt::black);
+        p.setFont(font(r.width() > 90 && r.height() > 90 ? 40 : r.width() < 38 ? 17 : 19, true));
+        p.drawText(r, Qt::AlignCenter, QString::number(c->elementnumber));
+    }
+}
+
+// Figures by the dot at which they stand; families that share a row or column share the label.
+using marks = std::map<int, QStringList>;
+
+void addmark(marks& at, double dot, int figure) {
+    QStringList& figures = at[qRound(dot)];
+    if (!figures.contains(QString::number(figure))) figures += QString::number(figure);
+}
+
+// The figures of x in the names down the left side and those of y along the top: long buttons nearer to the plan.
+void drawaxes(QPainter& p, const window& w, const scale& s) {
+    marks across, inneracross, down;
+    for (const family* f = familiesbegin(); f != familiesend(); ++f) {
+        if (f->on != &w) continue;
+        for (int j = 0; j < f->rows; ++j)
+            addmark(f->width > f->height ? inneracross : across,
+                    s.rect({f->left0 + f->pitch * j, 0, f->width, 0}).center().x(), f->y0 + 192 * j);
+        for (int i = 0; i < f->cols; ++i)
+            addmark(down, s.rect({0, f->top0 + f->pitch * i, 0, f->height}).center().y(), f->x0 + 192 * i);
+    }
+    p.setFont(font(17));
+    p.setPen(Qt::black);
+    for (const auto& [dot, figures] : inneracross)
+        p.drawText(QRectF(dot - 60, plantop - 32, 120, 24), Qt::AlignCenter, figures.join(" / "));
+    for (const auto& [dot, figures] : across)
+        p.drawText(QRectF(dot - 60, plantop - 56, 120, 24), Qt::AlignCenter, figures.join(" / "));
+    for (const auto& [dot, figures] : down)
+        p.drawText(QRectF(planleft - 110, dot - 12, 98, 24), Qt::AlignRight | Qt::AlignVCenter, figures.join(" / "));
+    p.setFont(font(28, true));
+    p.drawText(QRectF(planleft - 20, plantop - 96, 300, 40), Qt::AlignLeft | Qt::AlignVCenter, "Y  \u2192");
+    p.drawText(QRectF(10, plantop + 10, 50, 90), Qt::AlignHCenter | Qt::AlignTop, "X\n\u2193");
+}
+
+void drawlegend(QPainter& p, const window& w) {
+    int y = planbottom + 36;
+    for (const family* f = familiesbegin(); f != familiesend(); ++f) {
+        if (f->on != &w) continue;
+        p.setPen(QPen(Qt::black, 1));
+        p.setBrush(shade(f->back));
+        p.drawRect(QRectF(planleft, y, f->width >= f->height ? 44 : 18, f->height >= f->width ? 30 : 18));
+        p.setPen(Qt::black);
+        p.setFont(font(21));
+        const int last = f->first + f->cols * f->rows - 1;
+        p.drawText(QRectF(planleft + 64, y - 4, 1400, 34), Qt::AlignLeft | Qt::AlignVCenter,
+                   QString("%1 to %2   %3   (buttons %4..y..)").arg(f->first).arg(last).arg(f->spoken, f->word));
+        y += 38;
+    }
+}
+
+void drawsheet(const sheet& of, const QString& folder) {
+    QImage image(sheetwidth, sheetheight, QImage::Format_RGB32);
+    image.setDotsPerMeterX(dotspermetre);
+    image.setDotsPerMeterY(dotspermetre);
+    image.fill(Qt::white);
+    QPainter p(&image);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setFont(font(34, true));
+    p.drawText(QRectF(margin, 24, 1100, 44), Qt::AlignLeft | Qt::AlignVCenter, of.title);
+    p.setFont(font(21));
+    p.drawText(QRectF(sheetwidth - margin - 900, 28, 900, 40), Qt::AlignRight | Qt::AlignVCenter, of.designs);
+    const scale s = fit(*of.of);
+    drawaxes(p, *of.of, s);
+    drawpositions(p, *of.of, s);
+    drawlegend(p, *of.of);
+    p.end();
+    if (!image.save(folder + "/" + of.file)) std::exit(1);
+}
+
+}  // namespace
+
+}  // namespace tessaly
+
+int main(int argc, char** argv) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication application(argc, argv);
+    if (argc != 2) {
+        std::fputs("usage: makemaps FOLDER\n", stderr);
+        return 2;
+    }
+    tessaly::forgetcontrols();
+    tessaly::definelayouts();
+    const tessaly::sheet sheets[] = {
+        {&tessaly::layoutgirder, "girders.png", "Tessaly: posts and beams of a floor",
+         "the first number of a line in designs\\girders1.txt .. girders10.txt"},
+        {&tessaly::layoutpanels, "panels.png", "Tessaly: panels of a floor",
+         "the first number of a line in designs\\panels1.txt .. panels10.txt"},
+        {&tessaly::layoutroof, "roofs.png", "Tessaly: roofs of a floor",
+         "the first number of a line in designs\\roofs1.txt .. roofs10.txt"},
+    };
+    for (const tessaly::sheet& of : sheets) tessaly::drawsheet(of, argv[1]);
+    return 0;
+}
