@@ -35,14 +35,15 @@ constexpr int planx = 488, plany = 680;  // layout X, Y of the world's origin: h
 // face.
 namespace colour {  // clang-format off
 constexpr int
-    steelside = 1,   steelend = 4,     steeltop = 7,    steelbottom = 10,
+    steelside = 1,   steelend = 4,     steeltop = 7,     steelbottom = 10,
     orange = 13,     orangerib = 16,   orangetrim = 19,
     yellow = 22,     yellowboard = 25, yellowtrim = 28,
-    cream = 31,      creamtrim = 34,   doorred = 37,    doorgreen = 40,  brass = 43,
-    glass = 46,      rooftop = 49,     roofedge = 52,   roofbelow = 55,
-    steelwire = 58,  orangewire = 61,  yellowwire = 64, doorwire = 67,   glasswire = 70, roofwire = 73,
-    gridwire = 76,   landwire = 79,    treewire = 82,   axisx = 85,      axisy = 88,     axisz = 91, cubewire = 94,
-    named = 96;      // the last entry with a name; a colour wheel for users' own elements follows
+    cream = 31,      creamtrim = 34,   sash = 37,        glass = 40,
+    doorred = 43,    doorredin = 46,   doorgreen = 49,   doorgreenin = 52, brass = 55,
+    rooftop = 58,    roofedge = 61,    roofbelow = 64,
+    steelwire = 67,  orangewire = 70,  yellowwire = 73,  doorwire = 76,    glasswire = 79, roofwire = 82,
+    gridwire = 85,   landwire = 88,    treewire = 91,    axisx = 94,       axisy = 97,     axisz = 100, cubewire = 103,
+    named = 105;      // the last entry with a name; a colour wheel for users' own elements follows
 }  // clang-format on
 
 }  // namespace tessaly

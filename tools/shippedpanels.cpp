@@ -13,7 +13,7 @@ namespace tessaly {
 namespace {
 
 // Line groups of a panel. An edge that two pieces share belongs to the lower group.
-enum : int { doorgroup = 1, glassgroup = 2, wallgroup = 3, ribgroup = 4 };
+enum : int { doorgroup = 1, glassgroup = 2, sashgroup = 3, wallgroup = 4, ribgroup = 5 };
 
 // A flat piece of wall by its corners 1, 2, 3, 4 as (x, z): below left, below right, above left, above right.
 // Framing cuts it into columns and rows; the ribs of a wall are also drawn as wires.
@@ -26,7 +26,7 @@ struct piece {
 struct panel {
     const char *name, *title;
     std::vector<piece> pieces;
-    std::array<int, 4> wires;
+    std::array<int, 5> wires;  // palette entries of the line groups
 };
 
 piece tile(int group, int colour, double x0, double x1, double z0, double z1, int columns = 0, int rows = 0) {
@@ -71,24 +71,45 @@ std::vector<piece> boards(const wall& w) {
     return p;
 }
 
-// Windows of one width in a row, the same stretch of wall between and beside them.
-std::vector<piece> windows(const wall& w, int count, double width, double sill, double lintel, int columns, int rows) {
-    std::vector<piece> p{tile(wallgroup, w.face, left, right, plinth, sill),
-                         tile(wallgroup, w.face, left, right, lintel, cornice)};
-    const double pier = (right - left - count * width) / (count + 1);
-    double x = left;
-    for (int n = 0; n < count; n++) {
-        if (pier > 0) p.push_back(tile(wallgroup, w.face, x, x + pier, sill, lintel));
-        p.push_back(tile(glassgroup, colour::glass, x + pier, x + pier + width, sill, lintel, columns, rows));
-        x += pier + width;
+// A window of as many lights side by side, each a pane in a white sash; the bars of the panes are framing lines.
+std::vector<piece> window(double x0, double x1, double z0, double z1, int lights, int columns, int rows) {
+    constexpr double sash = 4;
+    std::vector<piece> p{tile(sashgroup, colour::sash, x0, x1, z0, z0 + sash),
+                         tile(sashgroup, colour::sash, x0, x1, z1 - sash, z1)};
+    const double width = (x1 - x0 - sash * (lights + 1)) / lights;
+    double x = x0;
+    for (int n = 0; n <= lights; n++, x += sash + width) {
+        p.push_back(tile(sashgroup, colour::sash, x, x + sash, z0 + sash, z1 - sash));
+        if (n == lights) break;
+        p.push_back(tile(glassgroup, colour::glass, x + sash, x + sash + width, z0 + sash, z1 - sash, columns, rows));
     }
-    if (pier > 0) p.push_back(tile(wallgroup, w.face, x, right, sill, lintel));
+    return p;
+}
+
+// Windows of one width in a row, the same stretch of wall between and beside them.
+struct row {
+    int count;
+    double width, sill, lintel;
+    int lights, columns, rows;  // of each window, and the parts into which bars cut a pane
+};
+
+std::vector<piece> windows(const wall& w, const row& r) {
+    std::vector<piece> p{tile(wallgroup, w.face, left, right, plinth, r.sill),
+                         tile(wallgroup, w.face, left, right, r.lintel, cornice)};
+    const double pier = (right - left - r.count * r.width) / (r.count + 1);
+    double x = left;
+    for (int n = 0; n < r.count; n++) {
+        if (pier > 0) p.push_back(tile(wallgroup, w.face, x, x + pier, r.sill, r.lintel));
+        p += window(x + pier, x + pier + r.width, r.sill, r.lintel, r.lights, r.columns, r.rows);
+        x += pier + r.width;
+    }
+    if (pier > 0) p.push_back(tile(wallgroup, w.face, x, right, r.sill, r.lintel));
     return p;
 }
 
 // Doors of one width in a row: stiles, a rail above, a pane, a filled lower half; a brass handle on the right stile.
-std::vector<piece> doors(const wall& w, int count, double width, int leaf) {
-    constexpr double head = 100, stile = 6, pane = 56, rail = 90, handle = 42, grip = 50;
+std::vector<piece> doors(const wall& w, int count, double width, int leaf, int infill) {
+    constexpr double head = 100, stile = 6, foot = 6, half = 50, pane = 56, rail = 92, handle = 42, grip = 50;
     std::vector<piece> p{tile(wallgroup, w.face, left, right, head, cornice)};
     const double pier = (right - left - count * width) / (count + 1);
     double x = left;
@@ -97,8 +118,10 @@ std::vector<piece> doors(const wall& w, int count, double width, int leaf) {
         x += pier;
         const double in = x + stile, out = x + width - stile;
         p += {tile(doorgroup, leaf, x, in, 0, head),
-              tile(doorgroup, leaf, in, out, 0, pane, 1, 1),
-              tile(glassgroup, colour::glass, in, out, pane, rail, 1, 1),
+              tile(doorgroup, leaf, in, out, 0, foot),
+              tile(doorgroup, infill, in, out, foot, half),
+              tile(doorgroup, leaf, in, out, half, pane),
+              tile(glassgroup, colour::glass, in, out, pane, rail),
               tile(doorgroup, leaf, in, out, rail, head),
               tile(doorgroup, leaf, out, x + width, 0, handle),
               tile(doorgroup, colour::brass, out, x + width, handle, grip),
@@ -109,54 +132,65 @@ std::vector<piece> doors(const wall& w, int count, double width, int leaf) {
     return p;
 }
 
-// A window of eight sides in the middle: three panes, and the wall around it in bands and corners.
+// A window of eight sides in the middle: three panes in a white sash, and the wall around it in bands and corners.
 std::vector<piece> octagon(const wall& w) {
-    constexpr double middle = wallong / 2.0, height = 64, reach = 42, half = 18;
-    constexpr double x0 = middle - reach, x1 = middle - half, x2 = middle + half, x3 = middle + reach;
-    constexpr double z0 = height - reach, z1 = height - half, z2 = height + half, z3 = height + reach;
-    const auto any = [](int group, int colour, std::pair<double, double> one, std::pair<double, double> two,
-                        std::pair<double, double> three, std::pair<double, double> four, int columns = 0,
-                        int rows = 0) {
-        return piece{group, colour, {one, two, three, four}, columns, rows};
+    constexpr double middle = wallong / 2.0, height = 64;
+    using spot = std::pair<double, double>;
+    struct ring {
+        double reach, half;  // from the middle to a side, half the length of a side
+        // The corner in that direction, by the signs of x and z: on the upright side, or on the level one.
+        spot upright(int x, int z) const { return {middle + x * reach, height + z * half}; }
+        spot level(int x, int z) const { return {middle + x * half, height + z * reach}; }
     };
-    return {tile(wallgroup, w.face, left, right, plinth, z0),
-            tile(wallgroup, w.face, left, right, z3, cornice),
-            tile(wallgroup, w.face, left, x0, z0, z3),
-            tile(wallgroup, w.face, x3, right, z0, z3),
-            any(wallgroup, w.face, {x0, z0}, {x1, z0}, {x0, z1}, {x0, z1}),
-            any(wallgroup, w.face, {x2, z0}, {x3, z0}, {x3, z1}, {x3, z1}),
-            any(wallgroup, w.face, {x0, z2}, {x0, z2}, {x0, z3}, {x1, z3}),
-            any(wallgroup, w.face, {x3, z2}, {x3, z2}, {x2, z3}, {x3, z3}),
-            any(glassgroup, colour::glass, {x1, z0}, {x2, z0}, {x0, z1}, {x3, z1}, 2, 1),
-            any(glassgroup, colour::glass, {x0, z1}, {x3, z1}, {x0, z2}, {x3, z2}, 2, 1),
-            any(glassgroup, colour::glass, {x0, z2}, {x3, z2}, {x1, z3}, {x2, z3}, 2, 1)};
+    constexpr ring out{44, 18}, in{39, 16};
+    const double x0 = middle - out.reach, x1 = middle + out.reach, z0 = height - out.reach, z1 = height + out.reach;
+    std::vector<piece> p{tile(wallgroup, w.face, left, right, plinth, z0),
+                         tile(wallgroup, w.face, left, right, z1, cornice), tile(wallgroup, w.face, left, x0, z0, z1),
+                         tile(wallgroup, w.face, x1, right, z0, z1)};
+    const auto put = [&](int group, int colour, spot one, spot two, spot three, spot four, int columns = 0) {
+        p.push_back({group, colour, {one, two, three, four}, columns, 0});
+    };
+    for (const int x : {-1, 1}) {
+        for (const int z : {-1, 1}) {
+            const spot corner{middle + x * out.reach, height + z * out.reach};
+            put(wallgroup, w.face, corner, out.level(x, z), out.upright(x, z), out.upright(x, z));
+            put(sashgroup, colour::sash, out.level(x, z), out.upright(x, z), in.level(x, z), in.upright(x, z));
+        }
+        put(sashgroup, colour::sash, out.upright(x, -1), out.upright(x, 1), in.upright(x, -1), in.upright(x, 1));
+        put(sashgroup, colour::sash, out.level(-1, x), out.level(1, x), in.level(-1, x), in.level(1, x));
+        put(glassgroup, colour::glass, in.upright(-1, x), in.upright(1, x), in.level(-1, x), in.level(1, x), 2);
+    }
+    put(glassgroup, colour::glass, in.upright(-1, -1), in.upright(1, -1), in.upright(-1, 1), in.upright(1, 1), 2);
+    p.back().rows = 1;
+    return p;
 }
 
 std::vector<panel> panels() {
-    const std::array orangewires{0, colour::glasswire, colour::orangewire, colour::orangewire + 1};
-    const std::array yellowwires{0, colour::glasswire, colour::yellowwire, colour::yellowwire + 1};
-    const auto doorwires = [](int door) {
-        return std::array{door, colour::glasswire, colour::doorwire, colour::doorwire};
-    };
+    using colour::doorwire, colour::glasswire, colour::orangewire, colour::yellowwire;
+    const std::array orangewires{0, glasswire, glasswire + 1, orangewire, orangewire + 1};
+    const std::array yellowwires{0, glasswire, glasswire + 1, yellowwire, yellowwire + 1};
+    const auto doorwires = [](int door) { return std::array{door, glasswire, 0, doorwire, 0}; };
     const auto made = [](const wall& w, bool ground, const std::vector<piece>& field) {
         auto p = frame(w, ground);
         p += field;
         return p;
     };
+    const auto orange = [&](const std::vector<piece>& field) { return made(orangewall, true, field); };
+    const auto yellow = [&](const std::vector<piece>& field) { return made(yellowwall, true, field); };
+    const auto withdoors = [&](int count, double width, int leaf, int infill) {
+        return made(doorwall, false, doors(doorwall, count, width, leaf, infill));
+    };
+    using namespace colour;
     return {
-        {"1or", "Orange panel 1: upright ribs", made(orangewall, true, ribs(orangewall)), orangewires},
-        {"2or", "Orange panel 2: a row of three windows",
-         made(orangewall, true, windows(orangewall, 3, 40, 44, 98, 2, 2)), orangewires},
-        {"3or", "Orange panel 3: one tall window", made(orangewall, true, windows(orangewall, 1, 64, 20, 108, 2, 4)),
-         orangewires},
-        {"1yel", "Yellow panel 1: level boards", made(yellowwall, true, boards(yellowwall)), yellowwires},
-        {"2yel", "Yellow panel 2: a band of glass", made(yellowwall, true, windows(yellowwall, 4, 44, 52, 96, 1, 1)),
+        {"1or", "Orange panel 1: upright ribs", orange(ribs(orangewall)), orangewires},
+        {"2or", "Orange panel 2: three windows", orange(windows(orangewall, {3, 42, 42, 100, 1, 2, 2})), orangewires},
+        {"3or", "Orange panel 3: one tall window", orange(windows(orangewall, {1, 72, 18, 108, 2, 1, 4})), orangewires},
+        {"1yel", "Yellow panel 1: level boards", yellow(boards(yellowwall)), yellowwires},
+        {"2yel", "Yellow panel 2: a band of glass", yellow(windows(yellowwall, {1, 176, 50, 98, 4, 1, 1})),
          yellowwires},
-        {"3yel", "Yellow panel 3: a window with eight sides", made(yellowwall, true, octagon(yellowwall)), yellowwires},
-        {"2door", "Panel with two doors", made(doorwall, false, doors(doorwall, 2, 44, colour::doorred)),
-         doorwires(colour::doorwire + 1)},
-        {"4door", "Panel with four doors", made(doorwall, false, doors(doorwall, 4, 32, colour::doorgreen)),
-         doorwires(colour::doorwire + 2)},
+        {"3yel", "Yellow panel 3: a window with eight sides", yellow(octagon(yellowwall)), yellowwires},
+        {"2door", "Panel with two doors", withdoors(2, 46, doorred, doorredin), doorwires(doorwire + 1)},
+        {"4door", "Panel with four doors", withdoors(4, 34, doorgreen, doorgreenin), doorwires(doorwire + 2)},
     };
 }
 
@@ -173,18 +207,31 @@ constexpr ends cuts[] = {
     { "both", "Cut on both sides by the width of a post.",     left, right },
 };  // clang-format on
 
+// The bars of a pane as wires: what framing draws on the solid face.
+void bars(shape& s, const quad& pane) {
+    const auto along = [&](int from, int to, int part, int parts) {
+        const corner a = s.points[static_cast<std::size_t>(pane.points[static_cast<std::size_t>(from)]) - 1];
+        const corner b = s.points[static_cast<std::size_t>(pane.points[static_cast<std::size_t>(to)]) - 1];
+        return corner{a.x + (b.x - a.x) * part / parts, 0, a.z + (b.z - a.z) * part / parts};
+    };
+    for (int n = 1; n < pane.columns; n++)
+        s.line(glassgroup, along(0, 1, n, pane.columns), along(2, 3, n, pane.columns));
+    for (int n = 1; n < pane.rows; n++) s.line(glassgroup, along(0, 2, n, pane.rows), along(1, 3, n, pane.rows));
+}
+
 // A piece goes whole or not at all: the pieces at the ends are as wide as the cut.
 shape cut(const panel& p, const ends& e) {
     shape s;
     s.title = std::string(p.title) + " (" + e.name + ")";
     s.notes = {e.says, "Seen from outside X runs to the right; the outside looks towards minus Y; Z is up."};
-    s.wires = {p.wires[0], p.wires[1], p.wires[2], p.wires[3], 0};
-    const auto at = [](std::pair<double, double> c) { return corner{c.first, 0, c.second}; };
+    s.wires = p.wires;
     const auto within = [&](std::pair<double, double> c) { return c.first >= e.from && c.first <= e.to; };
-    for (const int group : {doorgroup, glassgroup, wallgroup, ribgroup})
-        for (const piece& q : p.pieces)
-            if (q.group == group && std::all_of(std::begin(q.at), std::end(q.at), within))
-                s.face(group, q.colour, at(q.at[0]), at(q.at[1]), at(q.at[2]), at(q.at[3]), q.columns, q.rows);
+    for (const piece& q : p.pieces) {
+        if (!std::all_of(std::begin(q.at), std::end(q.at), within)) continue;
+        const auto at = [&](int corner) { return tessaly::corner{q.at[corner].first, 0, q.at[corner].second}; };
+        s.face(q.group, q.colour, at(0), at(1), at(2), at(3), q.columns, q.rows);
+        if (q.group == glassgroup) bars(s, s.quads.back());
+    }
     s.split();
     return s;
 }

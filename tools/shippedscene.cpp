@@ -46,10 +46,10 @@ shape land() {
     s.title = "The land around the plan: the edge of the plot; hills on the horizon; some firs";
     s.wires = {colour::landwire, colour::landwire + 1, colour::treewire, colour::treewire + 1, 0};
     rectangle(s, 1, -halfx - 24, -halfy - 24, halfx + 24, halfy + 24);
-    constexpr double far = 16000, step = 5;
+    constexpr double far = 16000, step = 2.5;
     const auto height = [](double degrees) {
         const double a = degrees * std::numbers::pi / 180;
-        return 420 + 230 * std::sin(5 * a) + 130 * std::sin(11 * a + 1) + 70 * std::sin(17 * a + 2);
+        return 520 + 240 * std::sin(7 * a) + 170 * std::sin(17 * a + 1) + 110 * std::sin(31 * a + 2);
     };
     for (double a = 0; a < 360; a += step) {
         const double next = a + step == 360 ? 0 : a + step;
@@ -99,9 +99,6 @@ std::vector<stroke> letter(char c) {
     case '2': return {{0, 3.2, 0.5, 4}, {0.5, 4, 1.5, 4}, {1.5, 4, 2, 3.2}, {2, 3.2, 0, 0}, {0, 0, 2, 0}};
     case '3': return {{0, 4, 2, 4}, {2, 4, 0.9, 2.4}, {0.9, 2.4, 2, 1.6}, {2, 1.6, 1.2, 0}, {1.2, 0, 0, 0.6}};
     case '4': return {{1.5, 0, 1.5, 4}, {1.5, 4, 0, 1.4}, {0, 1.4, 2, 1.4}};
-    case '5':
-        return {{2, 4, 0.2, 4},     {0.2, 4, 0, 2.3}, {0, 2.3, 1.4, 2.4},
-                {1.4, 2.4, 2, 1.4}, {2, 1.4, 1.3, 0}, {1.3, 0, 0, 0.4}};
     default: return {};
     }
 }
@@ -118,7 +115,7 @@ void write(shape& s, int group, char c, corner at, double size) {
 
 // The three directions, at the corner of the plan from which the layouts count, and the height of the first floors.
 shape axes() {
-    constexpr double ox = -halfx - 24, oy = -halfy - 24, reach = 2 * bay, top = 5 * storey + 60;
+    constexpr double ox = -halfx - 8, oy = -halfy - 8, reach = 2 * bay, top = 4 * storey + 24;
     shape s;
     s.title = "The directions X and Y of the layouts and Z with a mark at each floor";
     s.wires = {colour::axisx, colour::axisy, colour::axisz, colour::axisz + 1, 0};
@@ -130,13 +127,12 @@ shape axes() {
     write(s, 2, 'Y', {ox, oy + reach + 30, 0}, 11);
     s.line(3, {ox, oy, 0}, {ox, oy, top});
     arrowhead(s, 3, {ox, oy, top}, {0, 0, 1}, {1, 0, 0}, {0, 1, 0});
-    write(s, 3, 'Z', {ox + 30, oy + 30, top - 40}, 11);
-    for (int floor = 1; floor <= 5; floor++) {
+    write(s, 3, 'Z', {ox + 30, oy + 30, top - 44}, 11);
+    for (int floor = 1; floor <= 4; floor++) {
         const double z = (floor - 1) * storey;
         s.line(4, {ox - 8, oy - 8, z}, {ox + 8, oy + 8, z});
-        write(s, 4, static_cast<char>('0' + floor), {ox + 24, oy + 24, z + 52}, 6);
+        write(s, 4, static_cast<char>('0' + floor), {ox + 20, oy + 20, z + 30}, 6);
     }
-    s.line(4, {ox - 8, oy - 8, 5.0 * storey}, {ox + 8, oy + 8, 5.0 * storey});
     return s;
 }
 
