@@ -1,8 +1,18 @@
-// The shipped data: the committed files are those that the makers make.
+// The shipped data: the committed files are those that the makers make, and every element fits its place on the plan.
+#include "building/layouts.h"
+#include "core/world.h"
+#include "data/elements.h"
+#include "data/startdisplay.h"
+#include "render/surface.h"
 #include "tools/shipped.h"
 
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
+#include <set>
 #include <sstream>
 
 using namespace tessaly;
@@ -14,10 +24,186 @@ std::string committed(const std::string& path) {
     return (std::ostringstream() << in.rdbuf()).str();
 }
 
+struct nosurface : surface {
+    void line(float, float, float, float, tessaly::colour) override {}
+    void save(const std::string&) override {}
+    void setpicture(const std::string&) override {}
+};
+
+struct spot {
+    double x, y, z;  // world units
+};
+
+// The program started in the repository's root, with every element ready to be read and nothing drawn.
+struct shippedelement : testing::Test {
+    void SetUp() override {
+        std::filesystem::current_path(TESSALY_SOURCE_DIR);
+        viewportsurface = &none;
+        startdisplay();
+    }
+
+    static void read(const std::string& file, int mode = 3, double rx = 0, double rz = 0, double x = planx,
+                     double y = plany) {
+        datafile = file;
+        placemode = mode;
+        rotx = rx;
+        rotz = rz;
+        placex = x;
+        placey = y;
+        placez = 0;
+        readelements();
+    }
+
+    static spot point(int n) { return {basex[n], basey[n], basez[n]}; }
+
+    static int wholeof(const value& v) { return static_cast<int>(static_cast<double>(v)); }
+
+    // The corners of quad n in the order around it.
+    static std::array<int, 4> around(int n) {
+        return {wholeof(quad1[n]), wholeof(quad2[n]), wholeof(quad4[n]), wholeof(quad3[n])};
+    }
+
+    // Least and greatest coordinates of the element's points, rounded to a hundredth, in layout units.
+    static std::array<double, 6> extent() {
+        std::array<double, 6> e{1e9, 1e9, 1e9, -1e9, -1e9, -1e9};
+        for (int n = 1; n <= wholeof(ptcount1); n++) {
+            const double at[] = {point(n).x + planx, point(n).y + plany, point(n).z};
+            for (std::size_t i = 0; i < 3; i++) {
+                e[i] = std::min(e[i], std::round(at[i] * 100) / 100);
+                e[i + 3] = std::max(e[i + 3], std::round(at[i] * 100) / 100);
+            }
+        }
+        return e;
+    }
+
+    nosurface none;
+};
+
+std::vector<std::string> elements() {
+    std::vector<std::string> names;
+    for (const shippedfile& file : shippedfiles()) {
+        const std::string name = file.path.substr(file.path.find('/') + 1);
+        if (name == "st-post.txt" || name == "st-beam.txt" || name == "st-roof.txt" || name.starts_with("st-panels-"))
+            names.push_back(name);
+    }
+    return names;
+}
+
+// The area common to two convex outlines in the plane, by cutting the first with the sides of the second.
+using outline = std::vector<std::pair<double, double>>;
+
+double area(const outline& o) {
+    double sum = 0;
+    for (std::size_t i = 0; i < o.size(); i++) {
+        const auto &a = o[i], &b = o[(i + 1) % o.size()];
+        sum += a.first * b.second - a.second * b.first;
+    }
+    return sum / 2;
+}
+
+double commonarea(outline a, outline b) {
+    if (area(b) < 0) std::reverse(b.begin(), b.end());
+    for (std::size_t i = 0; i < b.size(); i++) {
+        const auto [px, py] = b[i];
+        const auto [qx, qy] = b[(i + 1) % b.size()];
+        const auto side = [&](const auto& s) { return (qx - px) * (s.second - py) - (qy - py) * (s.first - px); };
+        outline kept;
+        for (std::size_t k = 0; k < a.size(); k++) {
+            const auto &from = a[k], &to = a[(k + 1) % a.size()];
+            const double f = side(from), t = side(to);
+            if (f >= 0) kept.push_back(from);
+            if ((f < 0) != (t < 0))
+                kept.push_back({from.first + f / (f - t) * (to.first - from.first),
+                                from.second + f / (f - t) * (to.second - from.second)});
+        }
+        a = kept;
+    }
+    return std::abs(area(a));
+}
+
 }  // namespace
 
 // A maker was changed and not run, or a file was changed by hand.
 TEST(shippeddata, committedFilesAreWhatTheMakersMake) {
     for (const shippedfile& file : shippedfiles())
         EXPECT_TRUE(committed(file.path) == file.bytes) << file.path << ": run makedata in the root";
+}
+
+// Placement moves points 1 to 100 only; a corner that ends no line has no place on the screen; an end row with corners
+// would be painted.
+TEST_F(shippedelement, keepsToTheRulesOfTheReader) {
+    ASSERT_EQ(elements().size(), 35u);
+    for (const std::string& name : elements()) {
+        SCOPED_TRACE(name);
+        read(name);
+        EXPECT_LE(ptcount1, 100);
+        std::set<int> ends;
+        double lines = 0;
+        for (int g = 1; g <= linegroups; g++) lines += linecount[g];
+        for (int n = 1; n <= static_cast<int>(lines); n++) {
+            ends.insert(wholeof(lineend1[n]));
+            ends.insert(wholeof(lineend2[n]));
+        }
+        EXPECT_LE(*ends.rbegin(), ptcount1);
+        int quads = 0;
+        for (int n = 1; n <= clearedpoints; n++) {
+            if (quad1[n] == 0 && quad2[n] == 0) continue;
+            quads = n;
+            for (const int corner : around(n)) EXPECT_TRUE(ends.contains(corner)) << "face " << n;
+            EXPECT_LE(quadcolour[n], paint::named - 1);
+        }
+        EXPECT_LE(quads, 100);
+    }
+}
+
+// Steel that does not meet, walls beside the grid, a roof that leaves a gap.
+TEST_F(shippedelement, standsOnItsPlaceOfThePlan) {
+    for (const position& p : allpositions()) {
+        const family& f = *p.of;
+        read(*f.datafile ? f.datafile : "st-panels-1or-full.txt", f.mode, f.rotx, f.rotz, p.x, p.y);
+        const std::string word = f.word;
+        const double x = p.x, y = p.y;
+        const std::array<double, 6> expected =
+            word == "postx"     ? std::array<double, 6>{x, y - 16, 0, x + 16, y, 128}
+            : word == "beamx"   ? std::array<double, 6>{x, y, 112, x + 16, y + 176, 128}
+            : word == "vbeamx"  ? std::array<double, 6>{x, y - 16, 112, x + 176, y, 128}
+            : word == "pan0x"   ? std::array<double, 6>{x, y, 0, x + 208, y, 128}
+            : word == "pan180x" ? std::array<double, 6>{x - 208, y, 0, x, y, 128}
+            : word == "pan90x"  ? std::array<double, 6>{x, y, 0, x, y + 208, 128}
+            : word == "pan270x" ? std::array<double, 6>{x, y - 208, 0, x, y, 128}
+                                : std::array<double, 6>{x, y, 128, x + 208, y + 208, 136};
+        EXPECT_EQ(extent(), expected) << positionname(p);
+    }
+}
+
+// A hole in a wall, a face over another in one plane (which of them is seen would hang on the eye), a cut at the wrong
+// end or of the wrong width.
+TEST_F(shippedelement, panelsAreTiledWithoutGapOrOverlap) {
+    for (const std::string& name : elements()) {
+        if (!name.starts_with("st-panels-")) continue;
+        SCOPED_TRACE(name);
+        read(name);
+        std::vector<outline> tiles;
+        double covered = 0;
+        for (int n = 1; quad1[n] != 0; n++) {
+            outline o;
+            for (const int corner : around(n)) o.push_back({point(corner).x, point(corner).z});
+            for (const outline& other : tiles) EXPECT_LT(commonarea(o, other), 1e-6) << "face " << n;
+            tiles.push_back(o);
+            covered += std::abs(area(o));
+        }
+        const std::string cut = name.substr(name.size() - 8, 4);
+        const double from = cut == "left" || cut == "both" ? 16 : 0, to = cut == "righ" || cut == "both" ? 192 : 208;
+        EXPECT_NEAR(covered, (to - from) * 128, 1e-6);
+        EXPECT_EQ(extent(), (std::array<double, 6>{planx + from, plany, 0, planx + to, plany, 128}));
+    }
+}
+
+// The grid's lines must run through the middles of the posts.
+TEST_F(shippedelement, gridLiesUnderThePosts) {
+    EXPECT_EQ(extent(), (std::array<double, 6>{0, 0, 0, 976, 1360, 0}));
+    for (int n = 1; n <= linecount1; n++) {
+        const spot a = point(wholeof(lineend1[n])), b = point(wholeof(lineend2[n]));
+        EXPECT_TRUE(a.x == b.x ? std::fmod(a.x + planx - 8, bay) == 0 : std::fmod(a.y + plany - 8, bay) == 0) << n;
+    }
 }

@@ -33,7 +33,7 @@ constexpr int planx = 488, plany = 680;  // layout X, Y of the world's origin: h
 // Each stands for three entries: the face itself; behind it the shade, which the painter takes for the face when it is
 // turned by a quarter and for framing lines on the face when it is not; behind that the framing lines on the turned
 // face.
-namespace colour {  // clang-format off
+namespace paint {  // clang-format off
 constexpr int
     steelside = 1,   steelend = 4,     steeltop = 7,     steelbottom = 10,
     orange = 13,     orangerib = 16,   orangetrim = 19,

@@ -31,14 +31,14 @@ shape post() {
     shape s;
     s.title = "Post: a steel column of 16 by 16; 128 high";
     s.notes = {"It lies along Y here and is stood up when it is placed: Y becomes the height and Z becomes minus Y."};
-    s.wires = {colour::steelwire, 0, 0, 0, 0};
+    s.wires = {paint::steelwire, 0, 0, 0, 0};
     const box b{0, thick, storey, thick};
-    zface(s, b, 0, colour::steelside + 1);
-    zface(s, b, 1, colour::steelside + 1);
-    xface(s, b, 0, colour::steelside);
-    xface(s, b, 1, colour::steelside);
-    yface(s, b, 1, colour::steeltop, 0, 0);
-    yface(s, b, 0, colour::steelbottom, 0, 0);
+    zface(s, b, 0, paint::steelside + 1);
+    zface(s, b, 1, paint::steelside + 1);
+    xface(s, b, 0, paint::steelside);
+    xface(s, b, 1, paint::steelside);
+    yface(s, b, 1, paint::steeltop, 0, 0);
+    yface(s, b, 0, paint::steelbottom, 0, 0);
     return s;
 }
 
@@ -47,14 +47,14 @@ shape beam() {
     s.title = "Beam: a steel girder of 16 by 16; 176 long; at the top of its storey";
     s.notes = {"It starts at the face of one post and ends at the face of the next.",
                "Turned by 270 degrees it lies along X: Y becomes X and X becomes minus Y."};
-    s.wires = {colour::steelwire, 0, 0, 0, 0};
+    s.wires = {paint::steelwire, 0, 0, 0, 0};
     const box b{storey - thick, thick, bay - thick, thick};
-    zface(s, b, 1, colour::steeltop, 0, 0);
-    xface(s, b, 0, colour::steelside);
-    xface(s, b, 1, colour::steelside);
-    zface(s, b, 0, colour::steelbottom, 0, 0);
-    yface(s, b, 0, colour::steelend);
-    yface(s, b, 1, colour::steelend);
+    zface(s, b, 1, paint::steeltop, 0, 0);
+    xface(s, b, 0, paint::steelside);
+    xface(s, b, 1, paint::steelside);
+    zface(s, b, 0, paint::steelbottom, 0, 0);
+    yface(s, b, 0, paint::steelend);
+    yface(s, b, 1, paint::steelend);
     return s;
 }
 
@@ -63,14 +63,14 @@ shape roof() {
     constexpr double slab = 8;
     shape s;
     s.title = "Roof: a slab of 208 by 208 on the top of its storey; 8 thick";
-    s.wires = {colour::roofwire, 0, 0, 0, 0};
+    s.wires = {paint::roofwire, 0, 0, 0, 0};
     const box b{storey, wallong, wallong, slab};
-    zface(s, b, 1, colour::rooftop, wallong / thick, 0);
-    yface(s, b, 0, colour::roofedge);
-    yface(s, b, 1, colour::roofedge);
-    xface(s, b, 0, colour::roofedge + 1);
-    xface(s, b, 1, colour::roofedge + 1);
-    zface(s, b, 0, colour::roofbelow, 0, 0);
+    zface(s, b, 1, paint::rooftop, wallong / thick, 0);
+    yface(s, b, 0, paint::roofedge);
+    yface(s, b, 1, paint::roofedge);
+    xface(s, b, 0, paint::roofedge + 1);
+    xface(s, b, 1, paint::roofedge + 1);
+    zface(s, b, 0, paint::roofbelow, 0, 0);
     return s;
 }
 

@@ -25,45 +25,45 @@ struct triple {
 constexpr triple triples[] = {
     // clang-format off
 //    entry                  name                          face              shade             line
-    { colour::steelside,    "steel side",               {  88, 108, 132 }, { 116, 138, 162 }, { 164, 182, 200 } },
-    { colour::steelend,     "steel end",                { 116, 138, 162 }, {  88, 108, 132 }, {  56,  72,  92 } },
-    { colour::steeltop,     "steel top",                { 158, 176, 194 }, { 150, 168, 186 }, { 110, 128, 148 } },
-    { colour::steelbottom,  "steel from below",         {  70,  86, 106 }, {  66,  82, 102 }, {  46,  58,  74 } },
-    { colour::orange,       "orange wall",              { 244, 148,  64 }, { 222, 120,  42 }, { 164,  80,  22 } },
-    { colour::orangerib,    "orange rib",               { 228, 124,  44 }, { 198,  98,  28 }, { 140,  64,  14 } },
-    { colour::orangetrim,   "orange trim",              { 204,  98,  32 }, { 172,  78,  22 }, { 116,  48,  10 } },
-    { colour::yellow,       "yellow wall",              { 252, 216,  92 }, { 234, 190,  62 }, { 170, 130,  24 } },
-    { colour::yellowboard,  "yellow board",             { 242, 198,  66 }, { 216, 168,  44 }, { 150, 110,  14 } },
-    { colour::yellowtrim,   "yellow trim",              { 214, 160,  40 }, { 184, 134,  26 }, { 122,  84,   8 } },
-    { colour::cream,        "cream wall",               { 244, 236, 216 }, { 220, 208, 184 }, { 160, 146, 118 } },
-    { colour::creamtrim,    "cream trim",               { 186, 170, 142 }, { 158, 142, 114 }, { 106,  92,  68 } },
-    { colour::sash,         "window frame",             { 252, 250, 244 }, { 226, 226, 222 }, { 168, 170, 170 } },
-    { colour::glass,        "glass",                    { 160, 212, 236 }, { 112, 168, 200 }, {  50,  92, 124 } },
-    { colour::doorred,      "red door",                 { 196,  60,  56 }, { 164,  42,  42 }, { 104,  22,  26 } },
-    { colour::doorredin,    "red door, panel",          { 168,  44,  44 }, { 136,  32,  34 }, {  84,  16,  20 } },
-    { colour::doorgreen,    "green door",               {  46, 136, 110 }, {  30, 108,  88 }, {  14,  66,  54 } },
-    { colour::doorgreenin,  "green door, panel",        {  34, 112,  90 }, {  22,  86,  70 }, {  10,  52,  42 } },
-    { colour::brass,        "brass",                    { 240, 204, 110 }, { 206, 168,  76 }, { 140, 106,  36 } },
-    { colour::rooftop,      "roof",                     { 142, 106, 100 }, { 120,  86,  82 }, {  86,  58,  56 } },
-    { colour::roofedge,     "roof edge",                { 104,  72,  70 }, {  84,  56,  56 }, {  58,  36,  38 } },
-    { colour::roofbelow,    "roof from below",          { 120, 104, 100 }, { 104,  90,  86 }, {  80,  68,  66 } },
-    { colour::steelwire,    "steel wires",              {  64,  84, 112 }, {  90, 112, 140 }, {  46,  60,  82 } },
-    { colour::orangewire,   "orange wires",             { 196,  88,  16 }, { 226, 140,  72 }, { 140,  60,  10 } },
-    { colour::yellowwire,   "yellow wires",             { 168, 124,   8 }, { 206, 168,  60 }, { 120,  86,   4 } },
-    { colour::doorwire,     "door wires",               { 120, 106,  80 }, { 170,  40,  44 }, {  16,  96,  76 } },
-    { colour::glasswire,    "glass wires",              {  36, 120, 168 }, {  90, 160, 200 }, {  24,  84, 120 } },
-    { colour::roofwire,     "roof wires",               { 122,  70,  66 }, { 160, 112, 106 }, {  90,  48,  46 } },
-    { colour::gridwire,     "layout grid and posts",    { 158, 172, 188 }, { 112, 130, 150 }, {  90, 106, 124 } },
-    { colour::landwire,     "plot and hills",           { 168, 188, 150 }, { 150, 176, 182 }, { 120, 146, 110 } },
-    { colour::treewire,     "firs",                     {  96, 152, 104 }, { 140, 110,  80 }, {  60, 110,  70 } },
-    { colour::axisx,        "X",                        { 204,  48,  48 }, { 224, 120, 110 }, { 150,  30,  30 } },
-    { colour::axisy,        "Y",                        {  28, 136,  60 }, { 110, 180, 120 }, {  20,  96,  44 } },
-    { colour::axisz,        "Z and floors",             {  44,  80, 196 }, { 110, 134, 210 }, {  30,  54, 140 } },
-    { colour::cubewire,     "cube",                     { 150, 110, 170 }, { 170, 136, 188 }, { 120,  80, 140 } },
+    { paint::steelside,    "steel side",               {  88, 108, 132 }, { 116, 138, 162 }, { 164, 182, 200 } },
+    { paint::steelend,     "steel end",                { 116, 138, 162 }, {  88, 108, 132 }, {  56,  72,  92 } },
+    { paint::steeltop,     "steel top",                { 158, 176, 194 }, { 150, 168, 186 }, { 110, 128, 148 } },
+    { paint::steelbottom,  "steel from below",         {  70,  86, 106 }, {  66,  82, 102 }, {  46,  58,  74 } },
+    { paint::orange,       "orange wall",              { 244, 148,  64 }, { 222, 120,  42 }, { 164,  80,  22 } },
+    { paint::orangerib,    "orange rib",               { 228, 124,  44 }, { 198,  98,  28 }, { 140,  64,  14 } },
+    { paint::orangetrim,   "orange trim",              { 204,  98,  32 }, { 172,  78,  22 }, { 116,  48,  10 } },
+    { paint::yellow,       "yellow wall",              { 252, 216,  92 }, { 234, 190,  62 }, { 170, 130,  24 } },
+    { paint::yellowboard,  "yellow board",             { 242, 198,  66 }, { 216, 168,  44 }, { 150, 110,  14 } },
+    { paint::yellowtrim,   "yellow trim",              { 214, 160,  40 }, { 184, 134,  26 }, { 122,  84,   8 } },
+    { paint::cream,        "cream wall",               { 244, 236, 216 }, { 220, 208, 184 }, { 160, 146, 118 } },
+    { paint::creamtrim,    "cream trim",               { 186, 170, 142 }, { 158, 142, 114 }, { 106,  92,  68 } },
+    { paint::sash,         "window frame",             { 252, 250, 244 }, { 226, 226, 222 }, { 168, 170, 170 } },
+    { paint::glass,        "glass",                    { 160, 212, 236 }, { 112, 168, 200 }, {  50,  92, 124 } },
+    { paint::doorred,      "red door",                 { 196,  60,  56 }, { 164,  42,  42 }, { 104,  22,  26 } },
+    { paint::doorredin,    "red door, panel",          { 168,  44,  44 }, { 136,  32,  34 }, {  84,  16,  20 } },
+    { paint::doorgreen,    "green door",               {  46, 136, 110 }, {  30, 108,  88 }, {  14,  66,  54 } },
+    { paint::doorgreenin,  "green door, panel",        {  34, 112,  90 }, {  22,  86,  70 }, {  10,  52,  42 } },
+    { paint::brass,        "brass",                    { 240, 204, 110 }, { 206, 168,  76 }, { 140, 106,  36 } },
+    { paint::rooftop,      "roof",                     { 142, 106, 100 }, { 120,  86,  82 }, {  86,  58,  56 } },
+    { paint::roofedge,     "roof edge",                { 104,  72,  70 }, {  84,  56,  56 }, {  58,  36,  38 } },
+    { paint::roofbelow,    "roof from below",          { 120, 104, 100 }, { 104,  90,  86 }, {  80,  68,  66 } },
+    { paint::steelwire,    "steel wires",              {  64,  84, 112 }, {  90, 112, 140 }, {  46,  60,  82 } },
+    { paint::orangewire,   "orange wires",             { 196,  88,  16 }, { 226, 140,  72 }, { 140,  60,  10 } },
+    { paint::yellowwire,   "yellow wires",             { 168, 124,   8 }, { 206, 168,  60 }, { 120,  86,   4 } },
+    { paint::doorwire,     "door wires",               { 120, 106,  80 }, { 170,  40,  44 }, {  16,  96,  76 } },
+    { paint::glasswire,    "glass wires",              {  36, 120, 168 }, {  90, 160, 200 }, {  24,  84, 120 } },
+    { paint::roofwire,     "roof wires",               { 122,  70,  66 }, { 160, 112, 106 }, {  90,  48,  46 } },
+    { paint::gridwire,     "layout grid and posts",    { 158, 172, 188 }, { 112, 130, 150 }, {  90, 106, 124 } },
+    { paint::landwire,     "plot and hills",           { 168, 188, 150 }, { 150, 176, 182 }, { 120, 146, 110 } },
+    { paint::treewire,     "firs",                     {  96, 152, 104 }, { 140, 110,  80 }, {  60, 110,  70 } },
+    { paint::axisx,        "X",                        { 204,  48,  48 }, { 224, 120, 110 }, { 150,  30,  30 } },
+    { paint::axisy,        "Y",                        {  28, 136,  60 }, { 110, 180, 120 }, {  20,  96,  44 } },
+    { paint::axisz,        "Z and floors",             {  44,  80, 196 }, { 110, 134, 210 }, {  30,  54, 140 } },
+    { paint::cubewire,     "cube",                     { 150, 110, 170 }, { 170, 136, 188 }, { 120,  80, 140 } },
 };  // clang-format on
 
 constexpr int entries = 236;
-static_assert(std::size(triples) * 3 == colour::named, "each name's three entries, without a gap");
+static_assert(std::size(triples) * 3 == paint::named, "each name's three entries, without a gap");
 
 // A colour of the wheel: hue in degrees, the others 0..1.
 rgb wheel(double hue, double saturation, double value) {
@@ -89,7 +89,7 @@ std::array<entry, entries + 1> palette() {
             all[static_cast<std::size_t>(first + i)] = {name + role[i], three[i]};
     };
     for (const triple& t : triples) put(t.entry, t.name, t.face, t.shade, t.line);
-    int next = colour::named + 1;
+    int next = paint::named + 1;
     for (int level = 255; level >= 35; level -= 44, next += 3) {
         const auto grey = [&](double f) {
             const int g = static_cast<int>(level * f);

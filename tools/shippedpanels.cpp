@@ -39,9 +39,9 @@ constexpr double plinth = 12, cornice = 116, left = thick, right = bay;
 struct wall {
     int face, rib, trim;
 };
-constexpr wall orangewall{colour::orange, colour::orangerib, colour::orangetrim};
-constexpr wall yellowwall{colour::yellow, colour::yellowboard, colour::yellowtrim};
-constexpr wall doorwall{colour::cream, colour::cream, colour::creamtrim};
+constexpr wall orangewall{paint::orange, paint::orangerib, paint::orangetrim};
+constexpr wall yellowwall{paint::yellow, paint::yellowboard, paint::yellowtrim};
+constexpr wall doorwall{paint::cream, paint::cream, paint::creamtrim};
 
 // The strips over the posts, and the bands above and, where the wall reaches the ground, below.
 std::vector<piece> frame(const wall& w, bool ground) {
@@ -74,14 +74,14 @@ std::vector<piece> boards(const wall& w) {
 // A window of as many lights side by side, each a pane in a white sash; the bars of the panes are framing lines.
 std::vector<piece> window(double x0, double x1, double z0, double z1, int lights, int columns, int rows) {
     constexpr double sash = 4;
-    std::vector<piece> p{tile(sashgroup, colour::sash, x0, x1, z0, z0 + sash),
-                         tile(sashgroup, colour::sash, x0, x1, z1 - sash, z1)};
+    std::vector<piece> p{tile(sashgroup, paint::sash, x0, x1, z0, z0 + sash),
+                         tile(sashgroup, paint::sash, x0, x1, z1 - sash, z1)};
     const double width = (x1 - x0 - sash * (lights + 1)) / lights;
     double x = x0;
     for (int n = 0; n <= lights; n++, x += sash + width) {
-        p.push_back(tile(sashgroup, colour::sash, x, x + sash, z0 + sash, z1 - sash));
+        p.push_back(tile(sashgroup, paint::sash, x, x + sash, z0 + sash, z1 - sash));
         if (n == lights) break;
-        p.push_back(tile(glassgroup, colour::glass, x + sash, x + sash + width, z0 + sash, z1 - sash, columns, rows));
+        p.push_back(tile(glassgroup, paint::glass, x + sash, x + sash + width, z0 + sash, z1 - sash, columns, rows));
     }
     return p;
 }
@@ -121,10 +121,10 @@ std::vector<piece> doors(const wall& w, int count, double width, int leaf, int i
               tile(doorgroup, leaf, in, out, 0, foot),
               tile(doorgroup, infill, in, out, foot, half),
               tile(doorgroup, leaf, in, out, half, pane),
-              tile(glassgroup, colour::glass, in, out, pane, rail),
+              tile(glassgroup, paint::glass, in, out, pane, rail),
               tile(doorgroup, leaf, in, out, rail, head),
               tile(doorgroup, leaf, out, x + width, 0, handle),
-              tile(doorgroup, colour::brass, out, x + width, handle, grip),
+              tile(doorgroup, paint::brass, out, x + width, handle, grip),
               tile(doorgroup, leaf, out, x + width, grip, head)};
         x += width;
     }
@@ -154,19 +154,19 @@ std::vector<piece> octagon(const wall& w) {
         for (const int z : {-1, 1}) {
             const spot corner{middle + x * out.reach, height + z * out.reach};
             put(wallgroup, w.face, corner, out.level(x, z), out.upright(x, z), out.upright(x, z));
-            put(sashgroup, colour::sash, out.level(x, z), out.upright(x, z), in.level(x, z), in.upright(x, z));
+            put(sashgroup, paint::sash, out.level(x, z), out.upright(x, z), in.level(x, z), in.upright(x, z));
         }
-        put(sashgroup, colour::sash, out.upright(x, -1), out.upright(x, 1), in.upright(x, -1), in.upright(x, 1));
-        put(sashgroup, colour::sash, out.level(-1, x), out.level(1, x), in.level(-1, x), in.level(1, x));
-        put(glassgroup, colour::glass, in.upright(-1, x), in.upright(1, x), in.level(-1, x), in.level(1, x), 2);
+        put(sashgroup, paint::sash, out.upright(x, -1), out.upright(x, 1), in.upright(x, -1), in.upright(x, 1));
+        put(sashgroup, paint::sash, out.level(-1, x), out.level(1, x), in.level(-1, x), in.level(1, x));
+        put(glassgroup, paint::glass, in.upright(-1, x), in.upright(1, x), in.level(-1, x), in.level(1, x), 2);
     }
-    put(glassgroup, colour::glass, in.upright(-1, -1), in.upright(1, -1), in.upright(-1, 1), in.upright(1, 1), 2);
+    put(glassgroup, paint::glass, in.upright(-1, -1), in.upright(1, -1), in.upright(-1, 1), in.upright(1, 1), 2);
     p.back().rows = 1;
     return p;
 }
 
 std::vector<panel> panels() {
-    using colour::doorwire, colour::glasswire, colour::orangewire, colour::yellowwire;
+    using paint::doorwire, paint::glasswire, paint::orangewire, paint::yellowwire;
     const std::array orangewires{0, glasswire, glasswire + 1, orangewire, orangewire + 1};
     const std::array yellowwires{0, glasswire, glasswire + 1, yellowwire, yellowwire + 1};
     const auto doorwires = [](int door) { return std::array{door, glasswire, 0, doorwire, 0}; };
@@ -180,7 +180,7 @@ std::vector<panel> panels() {
     const auto withdoors = [&](int count, double width, int leaf, int infill) {
         return made(doorwall, false, doors(doorwall, count, width, leaf, infill));
     };
-    using namespace colour;
+    using namespace paint;
     return {
         {"1or", "Orange panel 1: upright ribs", orange(ribs(orangewall)), orangewires},
         {"2or", "Orange panel 2: three windows", orange(windows(orangewall, {3, 42, 42, 100, 1, 2, 2})), orangewires},

@@ -44,7 +44,7 @@ void fir(shape& s, double x, double y, double height) {
 shape land() {
     shape s;
     s.title = "The land around the plan: the edge of the plot; hills on the horizon; some firs";
-    s.wires = {colour::landwire, colour::landwire + 1, colour::treewire, colour::treewire + 1, 0};
+    s.wires = {paint::landwire, paint::landwire + 1, paint::treewire, paint::treewire + 1, 0};
     rectangle(s, 1, -halfx - 24, -halfy - 24, halfx + 24, halfy + 24);
     constexpr double far = 16000, step = 2.5;
     const auto height = [](double degrees) {
@@ -118,7 +118,7 @@ shape axes() {
     constexpr double ox = -halfx - 8, oy = -halfy - 8, reach = 2 * bay, top = 4 * storey + 24;
     shape s;
     s.title = "The directions X and Y of the layouts and Z with a mark at each floor";
-    s.wires = {colour::axisx, colour::axisy, colour::axisz, colour::axisz + 1, 0};
+    s.wires = {paint::axisx, paint::axisy, paint::axisz, paint::axisz + 1, 0};
     s.line(1, {ox, oy, 0}, {ox + reach, oy, 0});
     arrowhead(s, 1, {ox + reach, oy, 0}, {1, 0, 0}, {0, 1, 0}, {0, 0, 1});
     write(s, 1, 'X', {ox + reach + 30, oy, 0}, 11);
@@ -141,7 +141,7 @@ shape grid() {
     shape s;
     s.title = "The layout grid: 5 by 7 bays of 192 on the ground; and the foot of each post";
     s.notes = {"The program draws this group again at each change of the view."};
-    s.wires = {colour::gridwire, colour::gridwire + 1, 0, 0, 0};
+    s.wires = {paint::gridwire, paint::gridwire + 1, 0, 0, 0};
     constexpr double left = -halfx + thick / 2.0, front = -halfy + thick / 2.0, half = thick / 2.0;
     for (int i = 0; i <= baysx; i++) {
         for (int j = 0; j <= baysy; j++) {
@@ -159,9 +159,9 @@ const char* const nocube = "0, 0, 0, 0, 0, 0, 0, ";
 // A cube around the plan for each of the first nine floors, one on the other.
 std::string cube() {
     std::string out = "Nine storeys around the plan: a row of cubes that climbs along Z\n\nWIRECOLORS:\n";
-    for (int group = 6; group <= 9; group++) out += std::to_string(colour::cubewire) + (group < 9 ? ", " : "\n\n");
+    for (int group = 6; group <= 9; group++) out += std::to_string(paint::cubewire) + (group < 9 ? ", " : "\n\n");
     out += "One cube row: two corners; step to the next cube; number of the last; grade; colour\nAUTOCUBE000:\n";
-    out += "-488, -680, 0, 488, 680, 128, 128, 8, 0, " + std::to_string(colour::steelside) + "\n\n";
+    out += "-488, -680, 0, 488, 680, 128, 128, 8, 0, " + std::to_string(paint::steelside) + "\n\n";
     out += "No cubes in the other rows: their last number lies below their first\n";
     for (int row = 100; row <= 500; row += 100)
         out += "AUTOCUBE" + std::to_string(row) + ":\n" + nocube + std::to_string(row - 1) + ", 0, 0\n";
