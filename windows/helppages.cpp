@@ -185,7 +185,7 @@ const char* const displaytext = R"page(
  ----------------------------------------------------------------------------------------------------------------------
 
  Display markers   Shows the opening scene with its markers and the layout grid again, over what is on the screen and
-                   from the view in force. The grid has a line for every row of posts on the plan: five bays by seven.
+                   from the view in force. The grid shows the bays of the plan, five by seven, and the foot of each post.
 
                    From now on a view change draws the grid again, until you place or replay an element.
 
