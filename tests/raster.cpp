@@ -1,0 +1,167 @@
+// The image's lines against a plain reference: at each column (or row) the nearest pixel by an exact sign, nothing
+// else.
+#include "render/raster.h"
+
+#include <array>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+#include <random>
+#include <vector>
+
+using namespace tessaly;
+
+namespace {
+
+constexpr colour red{255, 0, 0};
+
+// The sign of a sum of at most eight doubles, exactly: partial sums are kept as terms that do not overlap.
+int exactsign(std::initializer_list<double> terms) {
+    std::array<double, 9> parts{};  // ascending in size
+    std::size_t count = 0;
+    for (double sum : terms) {
+        std::size_t kept = 0;
+        for (std::size_t i = 0; i < count; ++i) {
+            const double part = parts[i], whole = sum + part, back = whole - sum;
+            const double lost = (sum - (whole - back)) + (part - back);
+            if (lost != 0) parts[kept++] = lost;
+            sum = whole;
+        }
+        parts[kept++] = sum;
+        count = kept;
+    }
+    while (count > 0 && parts[count - 1] == 0) --count;
+    if (count == 0) return 0;
+    return parts[count - 1] > 0 ? 1 : -1;
+}
+
+double rounded(float coordinate) { return std::floor(static_cast<double>(coordinate) + 0.5); }
+
+// Whether the line (a1, b1)-(a2, b2), a1 < a2, stands at or above b - 1/2 at column a, doubled and multiplied out.
+bool atleast(double a1, double b1, double a2, double b2, double a, double b) {
+    return exactsign({2 * b2 * a, -2 * b2 * a1, -2 * b1 * a, a2, -a1, -2 * a2 * b, 2 * a2 * b1, 2 * a1 * b}) >= 0;
+}
+
+using lit = std::vector<bool>;
+
+// Every pixel asked by itself whether the line lights it.
+lit reference(float x1, float y1, float x2, float y2, int wide, int high) {
+    double a1 = rounded(x1), b1 = rounded(y1), a2 = rounded(x2), b2 = rounded(y2);
+    const bool steep = exactsign({std::max(a1, a2), -std::min(a1, a2), -std::max(b1, b2), std::min(b1, b2)}) < 0;
+    if (steep) {
+        std::swap(a1, b1);
+        std::swap(a2, b2);
+    }
+    if (a1 > a2) {
+        std::swap(a1, a2);
+        std::swap(b1, b2);
+    }
+    lit result(static_cast<std::size_t>(wide * high));
+    for (int y = 0; y < high; ++y)
+        for (int x = 0; x < wide; ++x) {
+            const int a = steep ? y : x, b = steep ? x : y;
+            const bool on =
+                a1 == a2 ? a == a1 && b == b1
+                         : a >= a1 && a <= a2 && atleast(a1, b1, a2, b2, a, b) && !atleast(a1, b1, a2, b2, a, b + 1);
+            result[static_cast<std::size_t>(y * wide + x)] = on;
+        }
+    return result;
+}
+
+lit pixelsof(const raster& r) {
+    lit result;
+    for (int i = 0; i < r.width() * r.height(); ++i) result.push_back(r.pixels()[i] != 0xffffffff);
+    return result;
+}
+
+lit drawn(float x1, float y1, float x2, float y2, int wide, int high) {
+    raster r(wide, high);
+    r.line(x1, y1, x2, y2, red);
+    return pixelsof(r);
+}
+
+class dice {
+  public:
+    float figure(double reach) { return static_cast<float>(std::uniform_real_distribution(-reach, reach)(engine)); }
+    int whole(int from, int to) { return std::uniform_int_distribution(from, to)(engine); }
+    // Of every size that single precision knows, and half pixels often.
+    float anysize() {
+        if (whole(0, 3) == 0) return static_cast<float>(whole(-40, 80)) / 2;
+        return std::ldexp(figure(1), whole(0, 9) < 5 ? whole(0, 12) : whole(0, 128));
+    }
+
+  private:
+    std::mt19937 engine{7};
+};
+
+}  // namespace
+
+// A pixel off by one, a half rounded the other way, a direction that matters, an overflow in a product.
+TEST(raster, lineLightsNearestPixelsForEndsOfAnySize) {
+    dice d;
+    constexpr int wide = 23, high = 17;
+    int visible = 0;
+    for (int i = 0; i < 30000; ++i) {
+        const float x1 = d.anysize(), y1 = d.anysize(), x2 = d.anysize(), y2 = d.anysize();
+        const lit expected = reference(x1, y1, x2, y2, wide, high);
+        visible += expected != lit(expected.size());
+        ASSERT_EQ(drawn(x1, y1, x2, y2, wide, high), expected) << x1 << ' ' << y1 << ' ' << x2 << ' ' << y2;
+        ASSERT_EQ(drawn(x2, y2, x1, y1, wide, high), expected)
+            << "reversed " << x1 << ' ' << y1 << ' ' << x2 << ' ' << y2;
+    }
+    EXPECT_GT(visible, 4000);
+}
+
+// Lines through the image whose ends lie at every distance, so that the pixels depend on the last bit of the products.
+TEST(raster, hugeLinesThroughTheImage) {
+    dice d;
+    constexpr int wide = 31, high = 19;
+    int visible = 0;
+    for (int i = 0; i < 10000; ++i) {
+        const double angle = d.figure(3.2F), far = std::ldexp(1.0, d.whole(20, 127)),
+                     near = std::ldexp(1.0, d.whole(3, 127));
+        const auto x1 = static_cast<float>(15 + far * std::cos(angle)),
+                   y1 = static_cast<float>(9 + far * std::sin(angle));
+        const auto x2 = static_cast<float>(15 - near * std::cos(angle)),
+                   y2 = static_cast<float>(9 - near * std::sin(angle));
+        const lit expected = reference(x1, y1, x2, y2, wide, high);
+        visible += expected != lit(expected.size());
+        ASSERT_EQ(drawn(x1, y1, x2, y2, wide, high), expected) << x1 << ' ' << y1 << ' ' << x2 << ' ' << y2;
+    }
+    EXPECT_GT(visible, 1000);
+}
+
+// A clipped line that starts its count of pixels at the border.
+TEST(raster, clippingMovesNoPixel) {
+    dice d;
+    constexpr int wide = 300, high = 200, left = 100, top = 70, small = 60;
+    for (int i = 0; i < 3000; ++i) {
+        const int x1 = d.whole(0, wide - 1), y1 = d.whole(0, high - 1), x2 = d.whole(0, wide - 1),
+                  y2 = d.whole(0, high - 1);
+        const auto f = [](int n) { return static_cast<float>(n); };
+        raster whole(wide, high), part(small, small);
+        whole.line(f(x1), f(y1), f(x2), f(y2), red);
+        part.line(f(x1 - left), f(y1 - top), f(x2 - left), f(y2 - top), red);
+        for (int y = 0; y < small; ++y)
+            for (int x = 0; x < small; ++x) ASSERT_EQ(part.at(x, y), whole.at(x + left, y + top));
+    }
+}
+
+TEST(raster, coordinatesThatAreNoNumbersDrawNothing) {
+    const float nan = std::numeric_limits<float>::quiet_NaN(), infinity = std::numeric_limits<float>::infinity();
+    for (const float bad : {nan, infinity, -infinity}) {
+        EXPECT_EQ(drawn(bad, 1, 5, 5, 9, 9), lit(81));
+        EXPECT_EQ(drawn(1, 1, 5, bad, 9, 9), lit(81));
+    }
+}
+
+TEST(raster, washLightsWhatItsLinesWould) {
+    dice d;
+    for (int i = 0; i < 500; ++i) {
+        raster plain(20, 15), quick(20, 15);
+        const int x1 = d.whole(-30, 50), x2 = d.whole(-30, 50), y1 = d.whole(-30, 30), y2 = d.whole(-30, 50);
+        plain.surface::wash(x1, x2, y1, y2, red);
+        quick.wash(x1, x2, y1, y2, red);
+        ASSERT_EQ(pixelsof(quick), pixelsof(plain)) << x1 << ' ' << x2 << ' ' << y1 << ' ' << y2;
+    }
+}
