@@ -2,7 +2,7 @@
 # Sourced, not run, with the repository's root as the working folder. A second run with nothing missing costs a moment.
 
 # The lists. "a|b" is one package under two names: either will do.
-runpackages=(cmake ninja-build g++ qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' qt6-wayland fonts-dejavu-core)
+runpackages=(cmake ninja-build g++ qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' qt6-wayland fonts-dejavu-core fonts-liberation)
 testpackages=(libgtest-dev libgmock-dev)
 benchpackages=(libbenchmark-dev)
 checkpackages=(git clang clang-format xvfb xdotool x11-utils imagemagick)

@@ -1,0 +1,195 @@
+// The carrying of state between controls and widgets, and the frame around every event.
+
+#include "windows/binding.h"
+
+#include "core/failure.h"
+#include "render/surface.h"
+#include "windows/canvas.h"
+#include "windows/controlwidgets.h"
+#include "windows/handlers.h"
+
+#include <QApplication>
+#include <QMessageBox>
+
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <memory>
+
+namespace tessaly {
+
+namespace {
+
+struct boundcontrol {
+    control* of;
+    QWidget* widget;
+    std::string text;  // as last carried to the widget
+    std::vector<std::string> items;
+};
+
+struct boundwindow {
+    std::unique_ptr<face> frame;
+    std::vector<boundcontrol> controls;
+    int raised = 0;  // as last carried
+};
+
+std::map<const window*, boundwindow>& boundwindows() {
+    static std::map<const window*, boundwindow> bound;
+    return bound;
+}
+
+bool running = false;  // an event is under way
+bool ending = false;   // the program is to end
+
+// ---- building ----------------------------------------------------------------------------------------------
+
+struct dresser {
+    const window* of;
+    void (*dress)(face&);
+};
+const dresser dressers[] = {
+    {&startform, dressstartform},       {&vistaplan, dressvistaplan},   {&layoutgirder, dresslayoutgirder},
+    {&layoutpanels, dresslayoutpanels}, {&layoutroof, dresslayoutroof}, {&easyviews, dresseasyviews},
+    {&instructions, dressinstructions},
+};
+
+void buildwindow(window& w, boundwindow& bound) {
+    bound.frame = std::make_unique<face>(w);
+    for (control* c : w.controls) {
+        QWidget* widget = makewidget(*c, bound.frame->plan());
+        bound.controls.push_back({c, widget, {}, {}});
+    }
+    // What the table lists later may lie under what it lists earlier: each kind has its layer.
+    std::vector<boundcontrol> bylayer = bound.controls;
+    std::stable_sort(bylayer.begin(), bylayer.end(),
+                     [](const boundcontrol& a, const boundcontrol& b) { return layerof(*a.of) < layerof(*b.of); });
+    for (const boundcontrol& b : bylayer) b.widget->raise();
+    for (const dresser& d : dressers)
+        if (d.of == &w) d.dress(*bound.frame);
+}
+
+// ---- state to widgets --------------------------------------------------------------------------------------
+
+void carrytowidget(boundcontrol& b) {
+    if (b.items != b.of->items) setitems(*b.widget, b.items = b.of->items);
+    if (b.text != b.of->text) settext(*b.widget, b.text = b.of->text);
+    setselection(*b.of, *b.widget);
+    if (b.widget->isHidden() == b.of->shown) b.widget->setVisible(b.of->shown);
+}
+
+void showface(face& f) {
+    const bool first = !f.testAttribute(Qt::WA_WState_ExplicitShowHide);
+    if (first) {
+        f.resize(f.designedsize());
+        if (f.firstshowing) f.firstshowing(f);
+    }
+    if (f.isMinimized()) f.setWindowState(f.windowState() & ~Qt::WindowMinimized);
+    f.show();
+    f.raise();
+    f.activateWindow();
+}
+
+void carrytowindow(window& w) {
+    if (!w.shown && !faceof(w)) return;
+    boundwindow& bound = boundwindows()[&w];
+    if (!bound.frame) buildwindow(w, bound);
+    for (boundcontrol& b : bound.controls) carrytowidget(b);
+    if (!w.shown) bound.frame->hide();
+}
+
+void carrytowidgets() {
+    std::vector<window*> torise;
+    for (window* w : allwindows()) {
+        carrytowindow(*w);
+        if (w->shown && boundwindows()[w].raised != w->raised) torise.push_back(w);
+    }
+    std::sort(torise.begin(), torise.end(), [](const window* a, const window* b) { return a->raised < b->raised; });
+    for (window* w : torise) {
+        boundwindows()[w].raised = w->raised;
+        showface(*faceof(*w));
+    }
+    if (QWidget* picture = widgetof(viewport)) picture->update();
+    if (QWidget* strip = widgetof(progressbar)) strip->update();
+    if (QWidget* focused = wantedfocus ? widgetof(*wantedfocus) : nullptr) focused->setFocus();
+    wantedfocus = nullptr;
+}
+
+// ---- widgets to state --------------------------------------------------------------------------------------
+
+void carrytostate() {
+    for (auto& [w, bound] : boundwindows())
+        for (boundcontrol& b : bound.controls) {
+            if (!typable(*b.of)) continue;
+            const std::string text = typedtext(*b.widget);
+            if (text != b.text) typetext(*b.of, b.text = text);
+        }
+}
+
+// ---- the end -----------------------------------------------------------------------------------------------
+
+void endprogram(int status) {
+    ending = true;
+    QCoreApplication::exit(status);
+}
+
+void reportfailure(const failure& f) {
+    ending = true;  // behind the message nothing moves on
+    std::fprintf(stderr, "failure %s\n", f.report.c_str());
+    std::fflush(stderr);
+    const QString kind = QString::fromUtf8(kindname(f.kind).data());
+    QMessageBox box(QMessageBox::Critical, "Tessaly",
+                    "Tessaly has met a failure and ends: " + kind + ".\n\n" + QString::fromStdString(f.detail),
+                    QMessageBox::Ok, QApplication::activeWindow());
+    box.setTextFormat(Qt::PlainText);
+    box.setInformativeText("Everything recorded in the design files is kept.");
+    box.exec();
+    endprogram(1);
+}
+
+}  // namespace
+
+void openwindows() {
+    viewportimage().clear();
+    progressimage().clear();
+    viewportsurface = &viewportimage();
+    progresssurface = &progressimage();
+    repaintmainwindow = [] {
+        if (QWidget* picture = widgetof(viewport)) picture->update();
+    };
+    ending = false;
+    runevent(startprogram);
+}
+
+void dropwindows() {
+    showprogresson(nullptr);
+    boundwindows().clear();
+}
+
+void runevent(const std::function<void()>& procedure) {
+    if (running || ending) return;
+    running = true;
+    try {
+        carrytostate();
+        procedure();
+        carrytowidgets();
+    } catch (const failure& f) {
+        reportfailure(f);
+    }
+    running = false;
+    if (programended && !ending) endprogram(0);
+}
+
+QWidget* widgetof(const control& c) {
+    const auto found = boundwindows().find(c.in);
+    if (found == boundwindows().end()) return nullptr;
+    for (const boundcontrol& b : found->second.controls)
+        if (b.of == &c) return b.widget;
+    return nullptr;
+}
+
+face* faceof(const window& w) {
+    const auto found = boundwindows().find(&w);
+    return found == boundwindows().end() ? nullptr : found->second.frame.get();
+}
+
+}  // namespace tessaly

@@ -1,0 +1,165 @@
+// Buttons paint themselves: the smallest are 15 pixels high, where a desktop's own buttons would cut their captions.
+
+#include "windows/button.h"
+
+#include "windows/look.h"
+
+#include <QFile>
+#include <QKeyEvent>
+#include <QLinearGradient>
+#include <QPainter>
+
+namespace tessaly {
+
+namespace {
+
+const QColor ringcolour(36, 84, 150);
+constexpr int smallestpixels = 8;
+constexpr int sideroom = 3, edgeroom = 1;  // pixels between caption and rim
+
+QStringList greedylines(const QStringList& words, const QFontMetrics& metrics, int width) {
+    QStringList lines;
+    for (const QString& word : words) {
+        if (!lines.isEmpty() && metrics.horizontalAdvance(lines.back() + ' ' + word) <= width)
+            lines.back() += ' ' + word;
+        else
+            lines << word;
+    }
+    return lines;
+}
+
+int widest(const QStringList& lines, const QFontMetrics& metrics) {
+    int width = 0;
+    for (const QString& line : lines) width = std::max(width, metrics.horizontalAdvance(line));
+    return width;
+}
+
+// As few lines as the width allows, and then the narrowest block of that many.
+QStringList evenlines(const QStringList& words, const QFontMetrics& metrics, int width) {
+    QStringList lines = greedylines(words, metrics, width);
+    for (;;) {
+        const QStringList narrower = greedylines(words, metrics, widest(lines, metrics) - 1);
+        if (narrower.size() != lines.size() || widest(narrower, metrics) >= widest(lines, metrics)) return lines;
+        lines = narrower;
+    }
+}
+
+int linepitch(const QFontMetrics& metrics) { return metrics.capHeight() + metrics.descent() + 2; }
+
+// Height of the letters of n lines, from the top of a capital to the foot of a "g".
+int inkheight(int n, const QFontMetrics& metrics) {
+    return metrics.capHeight() + metrics.descent() + (n - 1) * linepitch(metrics);
+}
+
+QFont buttonfont(int pixels, bool bold) {
+    QFont font = captionfont(pixels);
+    font.setBold(bold);
+    return font;
+}
+
+}  // namespace
+
+captionlines wrapcaption(const QString& caption, QSize size, bool bold) {
+    const QStringList words = caption.split(' ', Qt::SkipEmptyParts);
+    const int width = size.width() - 2 * sideroom, height = size.height() - 2 * edgeroom;
+    captionlines best{{}, captionpixels, false};
+    for (int pixels = captionpixels; pixels >= smallestpixels; --pixels) {
+        const QFontMetrics metrics(buttonfont(pixels, bold));
+        best = {evenlines(words, metrics, width), pixels, false};
+        best.whole =
+            widest(best.lines, metrics) <= width && inkheight(static_cast<int>(best.lines.size()), metrics) <= height;
+        if (best.whole) break;
+    }
+    return best;
+}
+
+picture::picture(const QString& name) {
+    const QString png = ":/pictures/" + name + ".png", svg = ":/pictures/" + name + ".svg";
+    if (QFile::exists(png))
+        pixels.load(png);
+    else if (QFile::exists(svg))
+        drawing.load(svg);
+}
+
+QSize picture::size() const { return pixels.isNull() ? drawing.defaultSize() : pixels.size(); }
+
+void picture::paint(QPainter& painter, const QRectF& into) const {
+    if (isnull()) return;
+    QSizeF fitted = QSizeF(size()).scaled(into.size(), Qt::KeepAspectRatio);
+    QRectF place({0, 0}, fitted);
+    place.moveCenter(into.center());
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    if (pixels.isNull())
+        drawing.render(&painter, place);
+    else
+        painter.drawPixmap(place, pixels, pixels.rect());
+}
+
+button::button(const QColor& itsface, QWidget* parent) : QPushButton(parent), face(itsface) {
+    setAttribute(Qt::WA_Hover);
+    setAutoDefault(false);
+}
+
+void button::setpicture(const QString& name) { shows = std::make_unique<picture>(name); }
+
+void button::paintEvent(QPaintEvent*) {
+    QPainter painter(this);
+    paintface(painter);
+    if (isDown()) painter.translate(1, 1);
+    if (shows && !shows->isnull())
+        shows->paint(painter, QRectF(rect()).adjusted(3, 3, -3, -3));
+    else
+        paintcaption(painter);
+}
+
+void button::paintface(QPainter& painter) const {
+    const QColor base = isDown() ? face.darker(115) : underMouse() ? face.lighter(106) : face;
+    QLinearGradient shade(0, 0, 0, height());
+    shade.setColorAt(0, isDown() ? base.darker(106) : base.lighter(108));
+    shade.setColorAt(1, isDown() ? base : base.darker(106));
+    const QRectF rim = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    painter.setRenderHint(QPainter::Antialiasing);
+    // The ring of the keyboard shows only to those who use it.
+    const bool ring = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
+    painter.setPen(QPen(ring ? ringcolour : face.darker(170), 1));
+    painter.setBrush(shade);
+    painter.drawRoundedRect(rim, 2, 2);
+    painter.setBrush(Qt::NoBrush);
+    if (!isDown()) {
+        painter.setPen(QPen(QColor(255, 255, 255, 110), 1));
+        painter.drawLine(QPointF(2, 1.5), QPointF(width() - 2, 1.5));
+    }
+    if (ring) {
+        painter.setPen(QPen(inkupon(face) == QColor(0, 0, 0) ? ringcolour : QColor(255, 255, 255), 1));
+        painter.drawRoundedRect(rim.adjusted(1, 1, -1, -1), 1, 1);
+    }
+}
+
+void button::paintcaption(QPainter& painter) const {
+    if (text().isEmpty()) return;
+    const bool bold = font().bold();
+    const captionlines caption = font().pixelSize() > captionpixels ? captionlines{{text()}, font().pixelSize(), true}
+                                                                    : wrapcaption(text(), size(), bold);
+    const QFont letters = buttonfont(caption.pixels, bold);
+    const QFontMetrics metrics(letters);
+    painter.setFont(letters);
+    painter.setPen(inkupon(face));
+    const auto count = static_cast<int>(caption.lines.size());
+    // Capitals stand in the middle: the foot of a "g" may come nearer to the rim than the top of a capital.
+    const int ink = metrics.capHeight() + (count - 1) * linepitch(metrics);
+    int base = (height() - ink) / 2 + metrics.capHeight();
+    if (count > 1) base = std::min(base, height() - edgeroom - metrics.descent() - (count - 1) * linepitch(metrics));
+    for (const QString& line : caption.lines) {
+        painter.drawText((width() - metrics.horizontalAdvance(line) + 1) / 2, base, line);
+        base += linepitch(metrics);
+    }
+}
+
+void button::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        click();
+    else
+        QPushButton::keyPressEvent(event);
+}
+
+}  // namespace tessaly

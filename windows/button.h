@@ -1,0 +1,52 @@
+// The push buttons of all windows: a raised face in the control's colour with a caption that wraps, or with a picture.
+#pragma once
+
+#include <QPushButton>
+#include <QSvgRenderer>
+
+#include <memory>
+
+namespace tessaly {
+
+// A caption as it is painted: its lines and the size of their letters.
+struct captionlines {
+    QStringList lines;
+    int pixels;
+    bool whole;  // everything fits
+};
+
+// Breaks a caption at its blanks into lines of like length that fit into size; takes smaller letters where it must.
+captionlines wrapcaption(const QString& caption, QSize size, bool bold);
+
+// The picture of that name among the program's pictures, ".png" or else ".svg".
+class picture {
+  public:
+    explicit picture(const QString& name);
+    bool isnull() const { return pixels.isNull() && !drawing.isValid(); }
+    QSize size() const;
+    // Paints it into a rectangle, whole, in its own proportions, in the middle.
+    void paint(QPainter& painter, const QRectF& into) const;
+
+  private:
+    QPixmap pixels;
+    mutable QSvgRenderer drawing;
+};
+
+class button : public QPushButton {
+  public:
+    button(const QColor& itsface, QWidget* parent);
+    void setpicture(const QString& name);
+
+  protected:
+    void paintEvent(QPaintEvent*) override;
+    void keyPressEvent(QKeyEvent* event) override;
+
+  private:
+    void paintface(QPainter& painter) const;
+    void paintcaption(QPainter& painter) const;
+
+    QColor face;
+    std::unique_ptr<picture> shows;
+};
+
+}  // namespace tessaly

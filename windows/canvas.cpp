@@ -1,0 +1,64 @@
+// Painting of the two images, and the progress strip's way to the screen while a replay holds the window.
+
+#include "windows/canvas.h"
+
+#include "core/controls.h"
+
+#include <QElapsedTimer>
+#include <QPaintEvent>
+#include <QPainter>
+
+namespace tessaly {
+
+namespace {
+
+constexpr qint64 flushinterval = 15;  // ms: a strip that moves faster only costs time
+
+// The strip alone is repainted by flush: viewport, which lies under it, waits for the end of the event.
+class progressraster : public raster {
+  public:
+    progressraster() : raster(progresswidth, progressheight) {}
+
+    void flush() override {
+        if (!shownon || (sinceflush.isValid() && sinceflush.elapsed() < flushinterval)) return;
+        sinceflush.start();
+        shownon->setVisible(progressbar.shown);
+        shownon->raise();
+        shownon->repaint();
+    }
+
+    canvas* shownon = nullptr;
+
+  private:
+    QElapsedTimer sinceflush;
+};
+
+progressraster& strip() {
+    static progressraster image;
+    return image;
+}
+
+}  // namespace
+
+canvas::canvas(const raster& itsimage, QWidget* parent) : QWidget(parent), image(itsimage) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void canvas::paintEvent(QPaintEvent* event) {
+    const QImage shown(reinterpret_cast<const uchar*>(image.pixels()), image.width(), image.height(),
+                       image.width() * static_cast<int>(sizeof(std::uint32_t)), QImage::Format_RGB32);
+    QPainter painter(this);
+    painter.setClipRegion(event->region());
+    painter.drawImage(rect(), shown);  // no smoothing: a pixel stays a pixel
+}
+
+raster& viewportimage() {
+    static raster image(viewportwidth, viewportheight);
+    return image;
+}
+
+raster& progressimage() { return strip(); }
+
+void showprogresson(canvas* on) { strip().shownon = on; }
+
+}  // namespace tessaly

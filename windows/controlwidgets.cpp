@@ -1,0 +1,259 @@
+// The kinds of controls on the screen.
+
+#include "windows/controlwidgets.h"
+
+#include "windows/binding.h"
+#include "windows/button.h"
+#include "windows/canvas.h"
+#include "windows/handlers.h"
+#include "windows/look.h"
+
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QListWidget>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace tessaly {
+
+namespace {
+
+const QColor buttonface(226, 226, 226);
+constexpr int tallestrow = 17;  // pixels of a list's row; less where all items fit only so
+constexpr int multiline = 60;   // pixels: a text box from this height on has several lines
+
+// ---- lists -------------------------------------------------------------------------------------------------
+
+// A click on a row is a pick, also on the row that is selected already; so is Enter on the current row.
+class list : public QListWidget {
+  public:
+    list(control& itscontrol, QWidget* plan) : QListWidget(plan), of(itscontrol) {
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setTextElideMode(Qt::ElideMiddle);
+        setUniformItemSizes(true);
+        setVerticalScrollMode(ScrollPerPixel);
+        connect(this, &QListWidget::clicked, this, [this](const QModelIndex& row) { pick(row.row()); });
+    }
+
+    int rowheight(int rows) const {
+        const int least = fontMetrics().height();
+        return std::clamp((height() - 2 * frameWidth()) / std::max(rows, 1), least, tallestrow);
+    }
+
+    // Marks the picked row and no other; the row of the keyboard goes there too.
+    void mark(int row) {
+        const QModelIndexList marked = selectedIndexes();
+        if (row < 0 ? marked.isEmpty() : !marked.isEmpty() && marked.front().row() == row) return;
+        const QModelIndex picked = model()->index(row, 0);
+        selectionModel()->setCurrentIndex(picked, QItemSelectionModel::NoUpdate);
+        selectionModel()->select(picked, QItemSelectionModel::ClearAndSelect);
+    }
+
+  protected:
+    // What is marked is what the program holds as picked: neither the arrow keys nor a press of the mouse change it.
+    QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex&, const QEvent*) const override {
+        return QItemSelectionModel::NoUpdate;
+    }
+
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (enter && currentRow() >= 0)
+            pick(currentRow());
+        else
+            QListWidget::keyPressEvent(event);
+    }
+
+    void focusInEvent(QFocusEvent* event) override {
+        QListWidget::focusInEvent(event);
+        if (currentRow() < 0 && count() > 0 && event->reason() != Qt::MouseFocusReason)
+            selectionModel()->setCurrentIndex(model()->index(0, 0), QItemSelectionModel::NoUpdate);
+    }
+
+    void paintEvent(QPaintEvent* event) override {
+        QListWidget::paintEvent(event);
+        if (count() > 0 || of.kind != controlkind::filelist) return;
+        QPainter painter(QListWidget::viewport());
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(QListWidget::viewport()->rect().adjusted(4, 4, -4, -4), Qt::AlignHCenter | Qt::AlignTop,
+                         "no files");
+    }
+
+  private:
+    void pick(int row) {
+        runevent([this, row] { pickitem(of, row); });
+    }
+
+    control& of;
+};
+
+// ---- the kinds ---------------------------------------------------------------------------------------------
+
+QWidget* makebutton(control& c, QWidget* plan) {
+    auto* made = new button(c.coloured ? screencolour(c.back) : buttonface, plan);
+    if (c.kind == controlkind::picturebutton) made->setpicture(QString::fromStdString(c.name));
+    QObject::connect(made, &QPushButton::clicked, made, [&c] { runevent([&c] { clickcontrol(c); }); });
+    return made;
+}
+
+QWidget* makelabel(QWidget* plan) {
+    auto* label = new QLabel(plan);
+    label->setTextFormat(Qt::PlainText);
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    return label;
+}
+
+QWidget* maketextbox(const control& c, QWidget* plan) {
+    if (inpixels(c.place.height) < multiline) {
+        auto* box = new QLineEdit(plan);
+        box->setTextMargins(-1, 0, -1, 0);  // the narrowest boxes are 33 pixels wide
+        return box;
+    }
+    auto* box = new QPlainTextEdit(plan);
+    box->setLineWrapMode(QPlainTextEdit::NoWrap);
+    box->setTabChangesFocus(true);
+    return box;
+}
+
+QWidget* makepage(QWidget* plan) {
+    auto* page = new QPlainTextEdit(plan);
+    page->setReadOnly(true);
+    page->setLineWrapMode(QPlainTextEdit::NoWrap);
+    page->setTabChangesFocus(true);
+    page->setFont(pagefont());
+    return page;
+}
+
+QWidget* makecombobox(control& c, QWidget* plan) {
+    auto* box = new QComboBox(plan);
+    box->setEditable(true);
+    box->setCompleter(nullptr);  // what is typed stays as typed
+    box->setInsertPolicy(QComboBox::NoInsert);
+    QObject::connect(box, &QComboBox::activated, box, [&c](int item) { runevent([&c, item] { pickitem(c, item); }); });
+    return box;
+}
+
+// A picture box without an image of the engine shows a picture of its own name.
+class stillpicture : public QWidget {
+  public:
+    stillpicture(const QString& name, QWidget* plan) : QWidget(plan), shows(name) {}
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        shows.paint(painter, rect());
+    }
+
+  private:
+    picture shows;
+};
+
+QWidget* makepicturebox(const control& c, QWidget* plan) {
+    if (&c == &viewport) return new canvas(viewportimage(), plan);
+    if (&c != &progressbar) return new stillpicture(QString::fromStdString(c.name), plan);
+    auto* strip = new canvas(progressimage(), plan);
+    showprogresson(strip);
+    return strip;
+}
+
+QWidget* makeframe(QWidget* plan) {
+    auto* frame = new QFrame(plan);
+    frame->setFrameStyle(QFrame::Box | QFrame::Sunken);
+    frame->setAttribute(Qt::WA_TransparentForMouseEvents);
+    return frame;
+}
+
+QWidget* makekind(control& c, QWidget* plan) {
+    switch (c.kind) {
+    case controlkind::button:
+    case controlkind::picturebutton: return makebutton(c, plan);
+    case controlkind::label: return makelabel(plan);
+    case controlkind::textbox: return maketextbox(c, plan);
+    case controlkind::page: return makepage(plan);
+    case controlkind::list:
+    case controlkind::filelist: return new list(c, plan);
+    case controlkind::combobox: return makecombobox(c, plan);
+    case controlkind::picturebox: return makepicturebox(c, plan);
+    case controlkind::frame: return makeframe(plan);
+    }
+    return nullptr;
+}
+
+}  // namespace
+
+QWidget* makewidget(control& c, QWidget* plan) {
+    QWidget* widget = makekind(c, plan);
+    const QString caption = QString::fromStdString(c.text).simplified();
+    widget->setObjectName(QString::fromStdString(c.name));
+    widget->setGeometry(inpixels(c.place.left), inpixels(c.place.top), inpixels(c.place.width),
+                        inpixels(c.place.height));
+    widget->setToolTip(QString::fromStdString(c.tooltip));
+    widget->setAccessibleName(c.spoken.empty() ? caption : QString::fromStdString(c.spoken));
+    widget->setAccessibleDescription(widget->toolTip());
+    widget->hide();
+    return widget;
+}
+
+int layerof(const control& c) {
+    if (&c == &progressbar) return 5;
+    switch (c.kind) {
+    case controlkind::picturebox: return 0;
+    case controlkind::frame: return 1;
+    case controlkind::label: return 2;
+    case controlkind::button:
+    case controlkind::picturebutton: return 3;
+    default: return 4;
+    }
+}
+
+bool typable(const control& c) { return c.kind == controlkind::textbox || c.kind == controlkind::combobox; }
+
+std::string typedtext(const QWidget& widget) {
+    if (const auto* line = qobject_cast<const QLineEdit*>(&widget)) return line->text().toStdString();
+    if (const auto* box = qobject_cast<const QComboBox*>(&widget)) return box->currentText().toStdString();
+    const auto* lines = qobject_cast<const QPlainTextEdit*>(&widget);
+    return lines ? lines->toPlainText().toStdString() : std::string();
+}
+
+void settext(QWidget& widget, const std::string& text) {
+    const QString shown = QString::fromStdString(text);
+    if (auto* line = qobject_cast<QLineEdit*>(&widget)) {
+        line->setText(shown);
+        line->setCursorPosition(0);
+    } else if (auto* page = qobject_cast<QPlainTextEdit*>(&widget))
+        page->setPlainText(shown);
+    else if (auto* box = qobject_cast<QComboBox*>(&widget))
+        box->setEditText(shown);
+    else if (auto* label = qobject_cast<QLabel*>(&widget))
+        label->setText(shown);
+    else if (auto* push = qobject_cast<QPushButton*>(&widget))
+        push->setText(shown);
+}
+
+void setitems(QWidget& widget, const std::vector<std::string>& items) {
+    QStringList names;
+    for (const std::string& item : items) names << QString::fromStdString(item);
+    if (auto* rows = dynamic_cast<list*>(&widget)) {
+        rows->clear();
+        for (const QString& name : names) {
+            auto* row = new QListWidgetItem(name, rows);
+            row->setSizeHint(QSize(0, rows->rowheight(static_cast<int>(names.size()))));
+            if (rows->fontMetrics().horizontalAdvance(name) > rows->width() - 24) row->setToolTip(name);
+        }
+    } else if (auto* box = qobject_cast<QComboBox*>(&widget)) {
+        const QString text = box->currentText();
+        box->clear();
+        box->addItems(names);
+        box->setEditText(text);
+    }
+}
+
+void setselection(const control& c, QWidget& widget) {
+    if (auto* rows = dynamic_cast<list*>(&widget)) rows->mark(c.selected);
+}
+
+}  // namespace tessaly

@@ -1,0 +1,28 @@
+// A control's widget: how each kind of control is made, and how its text, items and selection are read and written.
+#pragma once
+
+#include "core/controls.h"
+
+#include <QWidget>
+
+namespace tessaly {
+
+// Makes the widget at its control's place, with name, tooltip, spoken name and the events that the user can cause.
+// It is hidden and empty until its control's state is carried to it.
+QWidget* makewidget(control& c, QWidget* plan);
+
+// In front of each other stand, from the back: pictures and frames, labels, buttons, what is typed in or picked from,
+// the progress strip.
+int layerof(const control& c);
+
+// Whether the user can type into it.
+bool typable(const control& c);
+
+// The text that stands in a box, and the setting of a caption's or box's text; UTF-8.
+std::string typedtext(const QWidget& widget);
+void settext(QWidget& widget, const std::string& text);
+
+void setitems(QWidget& widget, const std::vector<std::string>& items);
+void setselection(const control& c, QWidget& widget);
+
+}  // namespace tessaly

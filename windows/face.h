@@ -1,0 +1,40 @@
+// The frame of a window on the screen: a plan of the designed size that holds the controls at their places and can be
+// scrolled where the screen is too small. What is drawn behind the controls is the window's own matter.
+#pragma once
+
+#include "core/controls.h"
+
+#include <QScrollArea>
+
+#include <functional>
+
+namespace tessaly {
+
+class face : public QScrollArea {
+  public:
+    explicit face(tessaly::window& itswindow);
+
+    QWidget* plan() const { return widget(); }
+    QSize designedsize() const;
+
+    // Paints behind the controls, in pixels of the plan.
+    std::function<void(QPainter&)> decoration;
+    // The first showing: where it stands and how large; without it the designed size, as far as the screen allows.
+    std::function<void(face&)> firstshowing;
+
+    tessaly::window& of;
+
+  protected:
+    void closeEvent(QCloseEvent* event) override;
+};
+
+// What each window has of its own, once its controls stand on the plan.
+void dressstartform(face& f);
+void dressvistaplan(face& f);
+void dresslayoutgirder(face& f);
+void dresslayoutpanels(face& f);
+void dresslayoutroof(face& f);
+void dresseasyviews(face& f);
+void dressinstructions(face& f);
+
+}  // namespace tessaly

@@ -1,0 +1,120 @@
+// What the three layout windows show behind their buttons: the grid, posts and beams as decoration, and the axes. All
+// coordinates are twips of the window unless said otherwise; x of the plan runs down, y runs across.
+
+#include "windows/binding.h"
+#include "windows/look.h"
+
+#include <QPainter>
+#include <QScreen>
+
+namespace tessaly {
+
+namespace {
+
+constexpr int framewidth = 6;         // pixels: what a desktop may put around a window
+constexpr int columns = 8, rows = 6;  // grid points across and down
+
+// A grid point's place, and where the lines through it end.
+struct grid {
+    int left0, top0, pitch, overhang;
+    int left(int column) const { return left0 + pitch * column; }
+    int top(int row) const { return top0 + pitch * row; }
+};
+
+QPointF point(int lefttwips, int toptwips) { return {lefttwips / 15.0, toptwips / 15.0}; }
+QRectF box(int lefttwips, int toptwips, int widthtwips, int heighttwips) {
+    return {point(lefttwips, toptwips), QSizeF(widthtwips / 15.0, heighttwips / 15.0)};
+}
+
+void drawgrid(QPainter& painter, const grid& g, const QColor& ink) {
+    painter.setPen(QPen(ink, 1, Qt::DashLine));
+    for (int column = 0; column < columns; ++column)
+        painter.drawLine(point(g.left(column), g.top0 - g.overhang),
+                         point(g.left(column), g.top(rows - 1) + g.overhang));
+    for (int row = 0; row < rows; ++row)
+        painter.drawLine(point(g.left0 - g.overhang, g.top(row)), point(g.left(columns - 1) + g.overhang, g.top(row)));
+}
+
+void drawarrow(QPainter& painter, QPointF from, QPointF to) {
+    const QPointF along = (to - from) / std::hypot(to.x() - from.x(), to.y() - from.y());
+    const QPointF across(-along.y(), along.x());
+    painter.drawLine(from, to);
+    painter.drawLine(to, to - along * 6 + across * 3);
+    painter.drawLine(to, to - along * 6 - across * 3);
+}
+
+// The axes from the plan's first corner: y to the right along the top, x down along the left.
+void drawaxes(QPainter& painter, int lefttwips, int toptwips, int righttwips, int bottomtwips, const QColor& ink) {
+    painter.setPen(QPen(ink, 1));
+    drawarrow(painter, point(lefttwips, toptwips), point(righttwips, toptwips));
+    drawarrow(painter, point(lefttwips, toptwips), point(lefttwips, bottomtwips));
+}
+
+void drawposts(QPainter& painter, const grid& g, int size, const QColor& fill) {
+    for (int column = 0; column < columns; ++column)
+        for (int row = 0; row < rows; ++row)
+            painter.fillRect(box(g.left(column) - size / 2, g.top(row) - size / 2, size, size), fill);
+}
+
+void drawbeams(QPainter& painter, const grid& g, int thickness, const QColor& fill) {
+    for (int column = 0; column < columns; ++column)
+        for (int row = 0; row < rows; ++row) {
+            if (column + 1 < columns)
+                painter.fillRect(box(g.left(column), g.top(row) - thickness / 2, g.pitch, thickness), fill);
+            if (row + 1 < rows)
+                painter.fillRect(box(g.left(column) - thickness / 2, g.top(row), thickness, g.pitch), fill);
+        }
+}
+
+void setbold(const control& label) {
+    QWidget* widget = widgetof(label);
+    QFont font = captionfont();
+    font.setBold(true);
+    widget->setFont(font);
+}
+
+// Layouts open at the lower right of the screen, where the main window keeps the least of what they are used with.
+void dresslayout(face& f, const control& labelx, const control& labely, void (*draw)(QPainter&)) {
+    setbold(labelx);
+    setbold(labely);
+    f.decoration = [draw](QPainter& painter) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        draw(painter);
+    };
+    f.firstshowing = [](face& first) {
+        const QRect room = first.screen()->availableGeometry();
+        const QSize rim(2 * framewidth, 2 * framewidth);
+        const QSize size = first.designedsize().boundedTo(room.size() - rim);
+        first.setGeometry(
+            QRect(room.bottomRight() - QPoint(size.width() + framewidth, size.height() + framewidth), size));
+    };
+}
+
+constexpr grid girdergrid{607, 607, 1200, 420}, panelgrid{637, 1117, 960, 360}, roofgrid{667, 667, 840, 300};
+
+void drawgirderplan(QPainter& painter) {
+    drawgrid(painter, girdergrid, QColor(200, 170, 120));
+    drawaxes(painter, 190, 190, 4200, 3200, QColor(128, 0, 0));
+}
+
+void drawpanelplan(QPainter& painter) {
+    drawgrid(painter, panelgrid, QColor(140, 140, 210));
+    drawbeams(painter, panelgrid, 105, QColor(170, 170, 225));
+    drawposts(painter, panelgrid, 165, QColor(96, 96, 150));
+    drawaxes(painter, 165, 645, 2000, 3150, QColor(64, 64, 128));
+}
+
+void drawroofplan(QPainter& painter) {
+    drawgrid(painter, roofgrid, QColor(200, 70, 70));
+    drawbeams(painter, roofgrid, 45, QColor(225, 96, 96));
+    drawposts(painter, roofgrid, 90, QColor(150, 40, 40));
+    drawaxes(painter, 330, 330, 3100, 2300, QColor(110, 20, 20));
+}
+
+}  // namespace
+
+void dresslayoutgirder(face& f) { dresslayout(f, girderlabelx, girderlabely, drawgirderplan); }
+void dresslayoutpanels(face& f) { dresslayout(f, panellabelx, panellabely, drawpanelplan); }
+void dresslayoutroof(face& f) { dresslayout(f, rooflabelx, rooflabely, drawroofplan); }
+
+}  // namespace tessaly

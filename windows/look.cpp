@@ -1,0 +1,72 @@
+// Style, palette and fonts. Only the sizes matter to the rest: they are pixels, never points.
+
+#include "windows/look.h"
+
+#include <QFontDatabase>
+#include <QPalette>
+#include <QStyleFactory>
+#include <QToolTip>
+
+namespace tessaly {
+
+namespace {
+
+// A metric twin of the face that the captions were measured for comes first; the others are wider.
+const QStringList captionfamilies{"Liberation Sans", "Arimo", "Arial", "Helvetica", "DejaVu Sans"};
+const QStringList pagefamilies{"Fixedsys", "Fixedsys Excelsior 3.01", "Fixedsys Excelsior"};
+constexpr int pagepixels = 13;
+
+QPalette housepalette() {
+    const QColor ink(0, 0, 0), grey(192, 192, 192), face(226, 226, 226), paper(255, 255, 255), pale(128, 128, 128);
+    const QColor chosen(36, 84, 150);
+    QPalette palette(ink, face, paper, pale, QColor(160, 160, 160), ink, paper, paper, grey);
+    palette.setColor(QPalette::Highlight, chosen);
+    palette.setColor(QPalette::HighlightedText, paper);
+    palette.setColor(QPalette::AlternateBase, QColor(244, 244, 244));
+    palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 225));
+    palette.setColor(QPalette::ToolTipText, ink);
+    palette.setColor(QPalette::PlaceholderText, pale);
+    palette.setColor(QPalette::Link, chosen);
+    for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
+        palette.setColor(QPalette::Disabled, role, pale);
+    return palette;
+}
+
+}  // namespace
+
+void setlook(QApplication& app) {
+    QApplication::setStyle(QStyleFactory::create("Fusion"));
+    QApplication::setPalette(housepalette());
+    QApplication::setFont(captionfont());
+    QToolTip::setPalette(housepalette());
+    QToolTip::setFont(captionfont());
+    QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
+    app.setQuitOnLastWindowClosed(false);
+}
+
+QFont captionfont(int pixels) {
+    QFont font(captionfamilies);
+    font.setPixelSize(pixels);
+    return font;
+}
+
+QFont pagefont() {
+    QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
+    QStringList families = pagefamilies;
+    families << "DejaVu Sans Mono"
+             << "Liberation Mono" << font.families();
+    font.setFamilies(families);
+    font.setStyleHint(QFont::Monospace);
+    font.setFixedPitch(true);
+    font.setPixelSize(pagepixels);
+    return font;
+}
+
+QColor screencolour(colour c) { return {c.red, c.green, c.blue}; }
+
+QColor inkupon(const QColor& back) {
+    const int brightness = (299 * back.red() + 587 * back.green() + 114 * back.blue()) / 1000;
+    return brightness > 110 ? QColor(0, 0, 0) : QColor(255, 255, 255);
+}
+
+}  // namespace tessaly

@@ -1,0 +1,31 @@
+// The look of all windows: one style, one palette and one font of fixed sizes, so that captions fit the places of the
+// design grid and neither a dark desktop theme nor a large desktop font changes anything.
+#pragma once
+
+#include "core/colour.h"
+
+#include <QApplication>
+#include <QColor>
+#include <QFont>
+
+namespace tessaly {
+
+constexpr int captionpixels = 11;
+
+// Gives the application its style, palette and font. To be called once, right after its making.
+void setlook(QApplication& app);
+
+// The font of captions, in pixels of the design grid.
+QFont captionfont(int pixels = captionpixels);
+
+// The fixed-pitch font of the help pages: Fixedsys where there is one, else the best that is installed.
+QFont pagefont();
+
+// A colour of the control tables on the screen; black or white, whichever is readable upon it.
+QColor screencolour(colour c);
+QColor inkupon(const QColor& back);
+
+// Pixels of the design grid.
+constexpr int inpixels(int twips) { return (twips + 7) / 15; }
+
+}  // namespace tessaly

@@ -1,0 +1,63 @@
+// The opening window: large letters, and a steel frame drawn behind them.
+
+#include "windows/binding.h"
+#include "windows/look.h"
+
+#include <QLabel>
+#include <QPainter>
+#include <QScreen>
+
+namespace tessaly {
+
+namespace {
+
+constexpr int titlepixels = 32, datepixels = 15, startpixels = 22;
+
+void enlarge(const control& c, int size, bool bold) {
+    QWidget* widget = widgetof(c);
+    QFont font = captionfont(size);
+    font.setBold(bold);
+    widget->setFont(font);
+    if (auto* label = qobject_cast<QLabel*>(widget)) label->setAlignment(Qt::AlignCenter);
+}
+
+// A steel frame seen from a corner: across, deep in bays and up in storeys, to pixels of the plan.
+constexpr int baysacross = 5, baysdeep = 7, storeys = 3;
+
+QPointF corner(int across, int deep, int up) {
+    return {370.0 + 46 * across - 46 * (deep - 2), 488.0 - 15 * across - 15 * deep - 46 * up};
+}
+
+void drawframe(QPainter& painter) {
+    painter.setRenderHint(QPainter::Antialiasing);
+    const auto draw = [&](QPointF a, QPointF b, int farness) {
+        const int strength = 122 - 4 * farness;
+        painter.setPen(QPen(QColor(strength, strength, strength + 6), 1.6));
+        painter.drawLine(a, b);
+    };
+    for (int across = baysacross; across >= 0; --across)
+        for (int deep = baysdeep; deep >= 0; --deep) {
+            const int farness = across + deep;
+            draw(corner(across, deep, 0), corner(across, deep, storeys), farness);
+            for (int up = 1; up <= storeys; ++up) {
+                if (across < baysacross) draw(corner(across, deep, up), corner(across + 1, deep, up), farness);
+                if (deep < baysdeep) draw(corner(across, deep, up), corner(across, deep + 1, up), farness);
+            }
+        }
+}
+
+}  // namespace
+
+void dressstartform(face& f) {
+    f.decoration = drawframe;
+    f.firstshowing = [](face& first) {
+        const QRect room = first.screen()->availableGeometry();
+        const QSize size = first.designedsize().boundedTo(room.size());
+        first.setGeometry(QRect(room.center() - QPoint(size.width() / 2, size.height() / 2), size));
+    };
+    enlarge(Label1, titlepixels, true);
+    enlarge(Label3, datepixels, false);
+    enlarge(startprogrambtn, startpixels, true);
+}
+
+}  // namespace tessaly

@@ -1,0 +1,72 @@
+// The main window: maximised at the start, with the help on F1.
+
+#include "windows/binding.h"
+#include "windows/handlers.h"
+#include "windows/look.h"
+
+#include <QLabel>
+#include <QLineEdit>
+#include <QPainter>
+#include <QPlainTextEdit>
+#include <QShortcut>
+
+namespace tessaly {
+
+namespace {
+
+// The seven boxes over the picture have no labels beside them: each carries a word at its right end.
+struct boxtag {
+    const control* of;
+    const char* word;
+};
+const boxtag tags[] = {{&perptxtx, "persp X"},  {&perptxty, "persp Y"},  {&perptxtz, "persp Z"},
+                       {&focustxtx, "focus X"}, {&focustxty, "focus Y"}, {&focustxtz, "focus Z"},
+                       {&magtxt, "mag"}};
+constexpr int tagpixels = 9;
+
+class tag : public QWidget {
+  public:
+    tag(const char* itsword, QWidget* box) : QWidget(box), word(itsword) {
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        setFont(captionfont(tagpixels));
+        const int width = fontMetrics().horizontalAdvance(word) + 6;
+        setGeometry(box->width() - width, 1, width - 1, box->height() - 2);
+    }
+
+  protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.drawText(rect(), Qt::AlignCenter, word);
+    }
+
+  private:
+    QString word;
+};
+
+// Prompts and hints are there to be read.
+void makereadonly(const control& c) {
+    QWidget* box = widgetof(c);
+    if (auto* line = qobject_cast<QLineEdit*>(box)) line->setReadOnly(true);
+    if (auto* lines = qobject_cast<QPlainTextEdit*>(box)) lines->setReadOnly(true);
+    box->setFocusPolicy(Qt::NoFocus);
+}
+
+}  // namespace
+
+void dressvistaplan(face& f) {
+    for (const boxtag& t : tags) {
+        auto* box = qobject_cast<QLineEdit*>(widgetof(*t.of));
+        auto* word = new tag(t.word, box);
+        box->setTextMargins(1, 0, word->width() - 2, 0);
+    }
+    for (const control* c : {&Label4, &Label5, &Label6, &vert, &horizlabel})
+        qobject_cast<QLabel*>(widgetof(*c))->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    for (const control* c : {&selectgirderfile, &selectpanelfile, &selectedbox, &autohintbox}) makereadonly(*c);
+    auto* help = new QShortcut(Qt::Key_F1, &f);
+    help->setContext(Qt::ApplicationShortcut);
+    QObject::connect(help, &QShortcut::activated, &f, [] { runevent([] { clickcontrol(instructionsbtn); }); });
+    f.firstshowing = [](face& first) { first.setWindowState(first.windowState() | Qt::WindowMaximized); };
+}
+
+}  // namespace tessaly
