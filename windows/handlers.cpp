@@ -8,11 +8,18 @@
 #include "building/filelist.h"
 #include "building/layouts.h"
 #include "building/singlereader.h"
+#include "captures/capture.h"
+#include "captures/retrieval.h"
 #include "core/channels.h"
 #include "core/world.h"
 #include "data/cubes.h"
 #include "data/startdisplay.h"
 #include "render/surface.h"
+#include "view/manualview.h"
+#include "view/quickviews.h"
+#include "view/rotation.h"
+#include "view/stepping.h"
+#include "windows/helpwindow.h"
 
 namespace tessaly {
 
@@ -101,6 +108,52 @@ const handler handlers[] = {
     PICK(designfileslist),
     CLICK(killfilebtn),
     CLICK(closefilelistbtn),
+    // rotation
+    CLICK(activateleftbtn),
+    CLICK(rotleftbtn),
+    CLICK(rotrightbtn),
+    CLICK(activaterightbtn),
+    CLICK(reactivateleftbtn),
+    CLICK(rotincbtn),
+    PICK(rotincbox),
+    // steps of the view
+    CLICK(vertfocusminusbtn),
+    CLICK(vertfocusplusbtn),
+    CLICK(vertperpminusbtn),
+    CLICK(vertperpplusbtn),
+    CLICK(magminusbtn),
+    CLICK(magplusbtn),
+    CLICK(vertinc),
+    CLICK(vertdec),
+    CLICK(horizinc),
+    CLICK(horizdec),
+    CLICK(incrementbtn),
+    PICK(incrementlist),
+    CLICK(magincbtn),
+    PICK(magincbox),
+    // manual view and quick views
+    CLICK(cventerbtn),
+    CLICK(defaultviewbtn),
+    CLICK(hidpfm),
+    CLICK(shopfm),
+    CLICK(fastchange),
+    CLICK(easysetbtn),
+    // captures
+    CLICK(screencapbtn),
+    CLICK(capescapebtn),
+    CLICK(screencapenter),
+    CLICK(retrieveimagetbtn),
+    CLICK(closebmpbtn),
+    CLICK(delbmpbtn),
+    CLICK(displayimagebtn),
+    // help
+    CLICK(instructionsbtn),
+    CLICK(elementsbtn),
+    CLICK(filereaderbtn),
+    CLICK(displaybtn),
+    CLICK(viewcontrolbtn),
+    CLICK(capturesbtn),
+    CLICK(returntomainbtn),
 };
 #undef CLICK
 #undef PICK
@@ -109,6 +162,10 @@ void runhandler(const control& c) {
     wantedfocus = nullptr;
     if (const position* p = positionof(c)) {
         clickposition(*p);
+        return;
+    }
+    if (const quickview* q = quickviewof(c)) {
+        clickquickview(*q);
         return;
     }
     for (const handler& h : handlers)
@@ -122,6 +179,7 @@ void startprogram() {
     forgetworld();
     forgetcontrols();
     definelayouts();
+    definequickviews();
     panelsnipper.items = {"Full panel", "snip left side", "snip right side", "snip both sides"};
     showwindow(startform);
 }

@@ -1,0 +1,49 @@
+// The quick path of a view change, on the projector's own steps.
+
+#include "render/redraw.h"
+
+#include "core/world.h"
+#include "render/projector.h"
+#include "render/surface.h"
+
+namespace tessaly {
+
+void replot() {
+    // From 2 on, unlike every other clear: row 1 and column 1 keep what was drawn there. It stays so.
+    viewportsurface->wash(2, 1450, 2, 1010, makecolour(backred, backgreen, backblue));
+    setplane();
+    referencepass();
+    drawgroups();
+}
+
+void rebasepoints() {
+    relateeye();
+    rebaseonfocus();
+    replot();
+}
+
+void shiftz() {
+    const double step = focusstep;
+    overblocks([step](int i) {
+        ptz.set(i, ptz[i] - step);
+        savez.set(i, ptz[i]);
+    });
+    replot();
+}
+
+void settle() {
+    refready = 0;
+    if (rebasedone != 0) return;
+    rebasedone = 1;
+    rebasepoints();
+}
+
+void restorepoints() {
+    overblocks([](int i) {
+        ptx.set(i, basex[i]);
+        pty.set(i, basey[i]);
+        ptz.set(i, basez[i]);
+    });
+}
+
+}  // namespace tessaly

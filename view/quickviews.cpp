@@ -1,0 +1,128 @@
+// The places of easyviews, a row each, and what a click on one does. On the plan X grows downward, Y to the right.
+
+#include "view/quickviews.h"
+
+#include "core/viewboxes.h"
+
+#include <algorithm>
+#include <iterator>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tessaly {
+
+namespace {
+
+using enum placekind;
+
+constexpr quickview quickviews[] = {
+    // clang-format off
+    {"perpx1800y0",       eyeplace,    { 1800,     0},  4680, 8520},
+    {"perpx1660y690",     eyeplace,    { 1660,   690},  6480, 8280},
+    {"perpx1270y1270",    eyeplace,    { 1270,  1270},  7920, 7320},
+    {"perpx690y1660",     eyeplace,    {  690,  1660},  8880, 5880},
+    {"perpx0y1800",       eyeplace,    {    0,  1800},  9120, 4320},
+    {"perpxm690y1660",    eyeplace,    { -690,  1660},  8880, 2520},
+    {"perpxm1270y1270",   eyeplace,    {-1270,  1270},  7680, 1320},
+    {"perpxm1660y690",    eyeplace,    {-1660,   690},  6240,  480},
+    {"perpxm1800y0",      eyeplace,    {-1800,     0},  4680,  240},
+    {"perpxm1660ym690",   eyeplace,    {-1660,  -690},  3000,  480},
+    {"perpxm1270ym1270",  eyeplace,    {-1270, -1270},  1560, 1320},
+    {"perpxm690ym1660",   eyeplace,    { -690, -1660},   720, 2760},
+    {"perpx0ym1800",      eyeplace,    {    0, -1800},   360, 4320},
+    {"perpx690ym1660",    eyeplace,    {  690, -1660},   600, 5760},
+    {"perpx1270ym1270",   eyeplace,    { 1270, -1270},  1440, 7080},
+    {"perpx1660ym690",    eyeplace,    { 1660,  -690},  2760, 8160},
+    {"perpz2100",         eyeheight,   { 2100},        12480,  480},
+    {"perpz1600",         eyeheight,   { 1600},        12480, 1440},
+    {"perpz1100",         eyeheight,   { 1100},        12480, 2400},
+    {"perpz600",          eyeheight,   {  600},        12480, 3360},
+    {"perpz100",          eyeheight,   {  100},        12480, 4320},
+    {"focusx0y0",         focusplace,  {    0,     0},  4680, 4320},
+    {"focusx192y384",     focusplace,  {  384,   192},  5640, 4800},  // swapped against its name and spot; it stays
+    {"focusx192ym384",    focusplace,  {  192,  -384},  3720, 4800},
+    {"focusxm192y384",    focusplace,  { -192,   384},  5640, 3840},
+    {"focusxm192ym384",   focusplace,  { -192,  -384},  3720, 3840},
+    {"focusz850",         focusheight, {  850},        10800, 6120},
+    {"focusz600",         focusheight, {  600},        10800, 6600},
+    {"focusz350",         focusheight, {  350},        10800, 7080},
+    {"focusz100",         focusheight, {  100},        10800, 7560},
+    // clang-format on
+};
+static_assert(std::size(quickviews) == 30);
+
+// One eye button also takes the focus X of easyviews to the main window: what was typed there gets through by it and
+// by no other. It stays so.
+constexpr std::string_view focuscopier = "perpx0ym1800";
+
+constexpr int buttonsize = 255;  // twips
+
+// What the places of a kind share: their boxes on easyviews and on the main window, and how they look and sound.
+struct kindrow {
+    control *boxes[2], *mainboxes[2];
+    colour back;
+    const char* spoken;
+};
+const kindrow kinds[] = {
+    // clang-format off
+    {{&eperpxbox,  &eperpybox},  {&perptxtx,  &perptxty},  {192, 255, 192}, "Eye"},
+    {{&eperpzbox,  nullptr},     {&perptxtz,  nullptr},    {255, 192, 255}, "Eye"},
+    {{&efocusxbox, &efocusybox}, {&focustxtx, &focustxty}, {128, 128, 255}, "Focus"},
+    {{&efocuszbox, nullptr},     {&focustxtz, nullptr},    {255,   0,   0}, "Focus"},
+    // clang-format on
+};
+
+const kindrow& kindof(const quickview& q) { return kinds[static_cast<int>(q.kind)]; }
+bool isheight(const quickview& q) { return kindof(q).boxes[1] == nullptr; }
+
+// "Eye at X 1800, Y 0", "Focus at Z 850": by the figures that the button writes.
+std::string spoken(const quickview& q) {
+    const std::string first = std::to_string(q.figures[0]), second = std::to_string(q.figures[1]);
+    return std::string(kindof(q).spoken) + " at " + (isheight(q) ? "Z " + first : "X " + first + ", Y " + second);
+}
+
+}  // namespace
+
+void clickfastchange() {
+    showwindow(easyviews);
+    copyboxestoeasyviews();
+}
+
+void clickeasysetbtn() { hidewindow(easyviews); }
+
+void definequickviews() {
+    static std::vector<control> buttons;
+    buttons.clear();
+    buttons.reserve(std::size(quickviews));
+    for (const quickview& q : quickviews) {
+        buttons.push_back({&easyviews,
+                           controlkind::button,
+                           q.name,
+                           {q.left, q.top, buttonsize, buttonsize},
+                           "",
+                           true,
+                           kindof(q).back,
+                           true,
+                           spoken(q),
+                           spoken(q)});
+        addcontrol(buttons.back());
+    }
+}
+
+const quickview* quickviewof(const control& c) {
+    if (c.in != &easyviews) return nullptr;
+    const auto found = std::find_if(std::begin(quickviews), std::end(quickviews),
+                                    [&c](const quickview& q) { return q.name == c.name; });
+    return found == std::end(quickviews) ? nullptr : found;
+}
+
+void clickquickview(const quickview& q) {
+    const kindrow& kind = kindof(q);
+    const int count = isheight(q) ? 1 : 2;
+    for (int i = 0; i < count; ++i) kind.boxes[i]->text = std::to_string(q.figures[i]);
+    if (q.name == focuscopier) focustxtx.text = efocusxbox.text;
+    for (int i = 0; i < count; ++i) kind.mainboxes[i]->text = kind.boxes[i]->text;
+}
+
+}  // namespace tessaly
