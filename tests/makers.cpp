@@ -1,0 +1,47 @@
+// The committed pictures are what their makers draw: the element maps and the pictures on the buttons.
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QImage>
+
+#include <cstdlib>
+#include <filesystem>
+#include <string>
+
+#include <unistd.h>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path source = TESSALY_SOURCE_DIR;
+
+// Runs a maker of build/tools into an empty folder and compares each PNG that it writes with the one kept.
+void expectkept(const std::string& maker, const std::string& arguments, const fs::path& kept, int pictures) {
+    const fs::path made = fs::temp_directory_path() / ("tessaly-" + maker + std::to_string(::getpid()));
+    fs::create_directories(made);
+    const fs::path program = fs::path(TESSALY_PLAY).parent_path() / maker;
+    ASSERT_EQ(std::system((program.string() + arguments + " " + made.string() + " 2>/dev/null").c_str()), 0);
+    const QDir folder(QString::fromStdString(made.string()));
+    const QStringList names = folder.entryList({"*.png"}, QDir::Files);
+    EXPECT_EQ(names.size(), pictures);
+    for (const QString& name : names)
+        EXPECT_EQ(QImage(folder.filePath(name)), QImage(QString::fromStdString((kept / name.toStdString()).string())))
+            << name.toStdString() << " is not what " << maker << " draws: run it again";
+    fs::remove_all(made);
+}
+
+// Catches a layout changed with the maps of el-numbers left as they were.
+TEST(makers, mapsarekept) { expectkept("makemaps", "", source / "el-numbers", 3); }
+
+// Catches an element changed with its button's picture left as it was.
+TEST(makers, buttonpicturesarekept) {
+    const fs::path folder = fs::temp_directory_path() / ("tessaly-buttons" + std::to_string(::getpid()));
+    for (const char* own : {"designs", "bmps", "nonuser"}) fs::create_directories(folder / own);
+    for (const char* data : {"datah", "pals"}) fs::create_directory_symlink(source / data, folder / data);
+    expectkept("makebuttons", " " + folder.string(), source / "windows" / "pictures", 13);
+    fs::remove_all(folder);
+}
+
+}  // namespace
