@@ -1,0 +1,73 @@
+// The program without its windows: plays a script of user actions in the working folder.
+//   play SCRIPT        "-" is standard input
+// Status 0: played to its end or to exitbtn; 1: the program failed; 2: the script asks for what no user could do.
+// All output is flushed after every line of the script, so that another program can hold a talk with it over a pipe.
+
+#include "core/controls.h"
+#include "core/failure.h"
+#include "tools/play_commands.h"
+#include "windows/handlers.h"
+#include "windows/picturefile.h"
+
+#include <cstdio>
+#include <fstream>
+#include <iostream>
+#include <string>
+
+namespace {
+
+using namespace tessaly;
+
+constexpr int programfailed = 1, scriptfailed = 2;
+
+void flushall() {
+    std::fflush(stdout);
+    if (!playedsurface.flushlog()) throw scripterror("the file of the drawn lines cannot be written");
+}
+
+// Plays the lines of the script up to its end or the program's; number is that of the line being played.
+void playscript(std::istream& script, int& number) {
+    for (std::string line; !programended && std::getline(script, line);) {
+        ++number;
+        obeyline(line);
+        flushall();
+    }
+}
+
+int play(std::istream& script, const std::string& name) {
+    static raster progress(17, 705);
+    usepicturefiles();
+    viewportsurface = &playedsurface;
+    progresssurface = &progress;
+    int number = 0;
+    try {
+        startprogram();
+        playscript(script, number);
+        return 0;
+    } catch (const failure& f) {
+        std::fflush(stdout);
+        std::fprintf(stderr, "failure %s\n", f.report.c_str());
+        return programfailed;
+    } catch (const scripterror& error) {
+        std::fflush(stdout);
+        std::fprintf(stderr, "%s, line %d: %s\n", name.c_str(), number, error.what());
+        return scriptfailed;
+    }
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+    if (count != 2) {
+        std::fputs("usage: play SCRIPT    (- is standard input)\n", stderr);
+        return scriptfailed;
+    }
+    const std::string name = words[1];
+    if (name == "-") return play(std::cin, "standard input");
+    std::ifstream script(name);
+    if (!script) {
+        std::fprintf(stderr, "the script %s cannot be read\n", name.c_str());
+        return scriptfailed;
+    }
+    return play(script, name);
+}

@@ -1,0 +1,56 @@
+// While lines are logged the compound operations are drawn line by line, so that none of them is missing from the log;
+// the image comes out the same.
+
+#include "tools/play_surface.h"
+
+#include <charconv>
+
+namespace tessaly {
+
+namespace {
+
+// A coordinate with nine significant digits, which tell every single-precision value, and a blank.
+char* writecoordinate(char* at, char* end, float coordinate) {
+    at = std::to_chars(at, end, static_cast<double>(coordinate), std::chars_format::general, 9).ptr;
+    *at = ' ';
+    return at + 1;
+}
+
+}  // namespace
+
+bool loggedsurface::startlog(const std::string& path) {
+    log.reset(std::fopen(path.c_str(), "wb"));
+    return log != nullptr;
+}
+
+bool loggedsurface::flushlog() { return log == nullptr || std::fflush(log.get()) == 0; }
+
+void loggedsurface::line(float x1, float y1, float x2, float y2, colour c) {
+    image.line(x1, y1, x2, y2, c);
+    if (log == nullptr) return;
+    char row[160];
+    char* at = row;
+    for (const float coordinate : {x1, y1, x2, y2}) at = writecoordinate(at, row + sizeof row, coordinate);
+    for (const int component : {c.red, c.green, c.blue}) {
+        at = std::to_chars(at, row + sizeof row, component).ptr;
+        *at++ = ' ';
+    }
+    at[-1] = '\n';
+    std::fwrite(row, 1, static_cast<std::size_t>(at - row), log.get());
+}
+
+void loggedsurface::wash(int x1, int x2, int y1, int y2, colour c) {
+    if (log == nullptr)
+        image.wash(x1, x2, y1, y2, c);
+    else
+        surface::wash(x1, x2, y1, y2, c);
+}
+
+void loggedsurface::web(const facecorners& f, int n, colour c) {
+    if (log == nullptr)
+        image.web(f, n, c);
+    else
+        surface::web(f, n, c);
+}
+
+}  // namespace tessaly

@@ -1,0 +1,73 @@
+// Picture files: bitmaps and PNG out, any picture that the image library knows in, told by its content.
+
+#include "windows/picturefile.h"
+
+#include "core/failure.h"
+
+#include <QFile>
+#include <QImage>
+#include <QImageReader>
+#include <QImageWriter>
+
+#include <algorithm>
+
+namespace tessaly {
+
+namespace {
+
+// The image's pixels as the library sees them, not copied.
+QImage viewof(const raster& image) {
+    return QImage(reinterpret_cast<const uchar*>(image.pixels()), image.width(), image.height(), image.width() * 4,
+                  QImage::Format_RGB32);
+}
+
+void writeas(const raster& image, const std::string& path, const char* format) {
+    QFile file(QFile::decodeName(path.c_str()));
+    if (!file.open(QIODevice::WriteOnly))
+        throw failure(failurekind::fileaccess, path + ": " + file.errorString().toStdString());
+    QImageWriter writer(&file, format);
+    const bool written = writer.write(viewof(image)) && file.flush();
+    if (!written) throw failure(failurekind::fileaccess, path + ": the picture could not be written in whole");
+}
+
+// A capture is a bitmap whatever its name says.
+void writebitmap(const raster& image, const std::string& path) { writeas(image, path, "bmp"); }
+
+void readintoimage(raster& image, const std::string& path) {
+    QFile file(QFile::decodeName(path.c_str()));
+    if (!file.exists()) throw failure(failurekind::filenotfound, path + " (picture)");
+    if (!file.open(QIODevice::ReadOnly))
+        throw failure(failurekind::fileaccess, path + ": " + file.errorString().toStdString());
+    QImageReader reader(&file);
+    reader.setDecideFormatFromContent(true);
+    const QImage picture = reader.read().convertToFormat(QImage::Format_RGB32);
+    if (picture.isNull())
+        throw failure(failurekind::invalidcall, path + " (picture): " + reader.errorString().toStdString());
+    const int wide = std::min(picture.width(), image.width());
+    const int high = std::min(picture.height(), image.height());
+    for (int y = 0; y < high; ++y) {
+        const auto* row = reinterpret_cast<const std::uint32_t*>(picture.constScanLine(y));
+        std::transform(row, row + wide, image.pixels() + static_cast<std::ptrdiff_t>(y) * image.width(),
+                       [](std::uint32_t pixel) { return pixel | 0xff000000U; });
+    }
+}
+
+bool endswithnocase(const std::string& path, const std::string& ending) {
+    return path.size() >= ending.size() &&
+           std::equal(ending.rbegin(), ending.rend(), path.rbegin(), [](char a, char b) { return a == (b | 0x20); });
+}
+
+}  // namespace
+
+void usepicturefiles() {
+    writepicture = writebitmap;
+    readpicture = readintoimage;
+}
+
+void savepicture(const raster& image, const std::string& path) {
+    if (endswithnocase(path, ".png")) return writeas(image, path, "png");
+    if (endswithnocase(path, ".bmp")) return writeas(image, path, "bmp");
+    throw failure(failurekind::fileaccess, path + ": a name that ends in .png or .bmp was expected");
+}
+
+}  // namespace tessaly
