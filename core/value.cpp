@@ -4,6 +4,7 @@
 
 #include "core/failure.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <deque>
@@ -58,15 +59,25 @@ std::size_t numberlength(std::string_view text) {
     return at;
 }
 
+// Whether a number beyond double precision is so by being too small: the place of its first digit that is not 0, and
+// its exponent, tell.
+bool vanishes(std::string_view number) {
+    const std::size_t power = std::min(number.find_first_of("eE"), number.size());
+    const std::size_t point = std::min(number.find('.'), power);
+    double exponent = 0;  // of up to a file's length of digits
+    for (const char c : number.substr(power))
+        if (isdigit(c)) exponent = exponent * 10 + (c - '0');
+    if (number.find('-', power) != std::string_view::npos) exponent = -exponent;
+    return static_cast<double>(point) - static_cast<double>(number.find_first_of("123456789")) + exponent < 0;
+}
+
 // text holds a number and nothing else. Beyond double precision: infinity with its sign, or 0.
 double parsed(std::string_view text) {
     if (text.front() == '+') text.remove_prefix(1);
     double number = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
     if (result.ec != std::errc::result_out_of_range) return number;
-    const auto power = text.find_first_of("eE");
-    const bool tiny = power != std::string_view::npos && text[power + 1] == '-';
-    if (tiny) return 0;
+    if (vanishes(text)) return 0;
     const double huge = std::numeric_limits<double>::infinity();
     return text.front() == '-' ? -huge : huge;
 }

@@ -1,0 +1,125 @@
+// The field rules at their edges, and the channels that the fields come from.
+#include "core/fields.h"
+#include "tests/session.h"
+
+#include <chrono>
+#include <thread>
+
+using namespace tessaly;
+
+namespace {
+
+// What a run of reads gives: v value, r record field, l label, t text field; numbers bare, texts in quotes, "-" empty.
+std::string readall(const std::string& bytes, const std::string& reads) {
+    session s;
+    session::write("f.txt", bytes);
+    openinput(1, "f.txt", "test");
+    std::string result;
+    const auto shown = [](const value& v) { return v.empty() ? "-" : v.isnumber() ? v.text() : '"' + v.text() + '"'; };
+    for (const char read : reads) {
+        if (!result.empty()) result += ' ';
+        try {
+            if (read == 'v') result += shown(readvalue(1, "it"));
+            if (read == 'r') result += shown(readrecordfield(1, "it"));
+            if (read == 'l') result += std::to_string(readlabel(1, "it"));
+            if (read == 't') result += '"' + std::string(readtextfield(1, "it")) + '"';
+        } catch (const failure& f) {
+            return result + std::string(kindname(f.kind));
+        }
+    }
+    return result;
+}
+
+}  // namespace
+
+TEST(fields, rulesAtTheirEdges) {
+    struct {
+        const char *bytes, *reads, *expected;
+    } const cases[] = {
+        {"1,2\r\n3", "vvv", "1 2 3"},
+        {"1 ,2", "vv", "1 2"},  // a number ends at a blank and takes one separator with it
+        {"1 2\t3", "vvv", "1 2 3"},
+        {"1 , ,2", "vvv", "1 - 2"},
+        {"1,,2", "vvv", "1 - 2"},
+        {",5", "vv", "- 5"},
+        {"1,\n2", "vvv", "1 - 2"},  // the comma opened a field, the line end closes it
+        {"\n \r\n\n 5", "v", "5"},  // blank lines are skipped where a figure is expected
+        {"\n5", "rr", "- 5"},       // but are a field of a record
+        {"5\n\n6", "rrr", "5 - 6"},
+        {"a b ,c", "tt", "\"a b \" \"c\""},
+        {"a, b\nc", "ttt", "\"a\" \"b\" \"c\""},
+        {"\n\nx", "ttt", "\"\" \"\" \"x\""},
+        {"\"a,\nb\",3", "vv", "\"a,\nb\" 3"},
+        {"\"12\" , 4", "vv", "\"12\" 4"},  // quoted: a text, whatever it looks like
+        {"\"a\"\n\"b\"", "rr", "\"a\" \"b\""},
+        {"12abc,3", "vv", "\"12abc\" 3"},
+        {"12 abc,3", "vvv", "12 \"abc\" 3"},
+        {"x 1,3", "vv", "\"x 1\" 3"},
+        {"-1.5e2\r7", "vv", "-150 7"},  // a lone carriage return ends a line too
+        {"2.5,3.5,-0.5,abc,\"7\",8.49", "llllll", "2 4 0 0 7 8"},
+        {"abc def,8", "ll", "0 8"},
+        {"32767.4,-32768", "ll", "32767 -32768"},
+        {"32768", "l", "overflow"},
+        {"-32769", "l", "overflow"},
+        {"1e999", "v", "overflow"},
+        {"5", "vv", "5 input past end of file"},
+        {"5,", "vv", "5 input past end of file"},
+        {"5\n\n", "vv", "5 input past end of file"},
+        {"", "t", "input past end of file"},
+    };
+    for (const auto& c : cases) EXPECT_EQ(readall(c.bytes, c.reads), c.expected) << c.bytes << " by " << c.reads;
+}
+
+// Everything before a key is free text, but for the key itself as a field of its own.
+TEST(fields, keysAreFoundByWholeFields) {
+    session s;
+    session::write("f.txt", "say KEY: twice, KEY:x,key:\n \"KEY:\" 1\nKEY:\n2\n");
+    openinput(1, "f.txt", "test");
+    findkey(1, "KEY:");
+    EXPECT_EQ(readvalue(1, "it"), 1);
+    const auto f = failureof([] { findkey(1, "OTHER:"); });
+    ASSERT_TRUE(f);
+    EXPECT_EQ(f->report, "input past end of file: f.txt, line 5, field 1: the file ends while looking for OTHER:");
+}
+
+TEST(channels, refuseWhatIsOpenOrNotThere) {
+    session s;
+    EXPECT_EQ(failureof([] { openinput(1, "datah\\none.txt", "element file"); })->kind, failurekind::filenotfound);
+    openinput(1, "datah\\st-post.txt", "element file");
+    EXPECT_EQ(failureof([] { openinput(1, "datah\\st-beam.txt", "element file"); })->kind,
+              failurekind::filealreadyopen);
+    EXPECT_EQ(failureof([] { openappend(1, "designs\\x.txt", "design file"); })->kind, failurekind::filealreadyopen);
+    openinput(2, "datah\\st-beam.txt", "design file");
+    EXPECT_EQ(failureof([] { openappend(3 - 2, "none\\x.txt", "design file"); })->kind, failurekind::filealreadyopen);
+    closechannel(1);
+    EXPECT_EQ(failureof([] { openappend(1, "none\\x.txt", "design file"); })->kind, failurekind::filenotfound);
+}
+
+// A user edits a file between two clicks: the next click sees the new bytes, also where size and name are the same.
+TEST(channels, keptBytesFollowTheFile) {
+    session s;
+    const auto first = [] {
+        openinput(1, "f.txt", "test");
+        const double number = readvalue(1, "it");
+        closechannel(1);
+        return number;
+    };
+    session::write("f.txt", "1\n");
+    EXPECT_EQ(first(), 1);
+    session::write("f.txt", "2\n");  // within the clock's tick
+    EXPECT_EQ(first(), 2);
+    std::this_thread::sleep_for(std::chrono::milliseconds(150));
+    EXPECT_EQ(first(), 2);  // kept from here on
+    session::write("f.txt", "3\n");
+    EXPECT_EQ(first(), 3);
+    deletefile("f.txt");
+    EXPECT_EQ(failureof([&] { first(); })->kind, failurekind::filenotfound);
+}
+
+TEST(channels, fileListsHoldVisibleFilesOnly) {
+    session s;
+    for (const char* name : {"designs/b.txt", "designs/a.txt", "designs/.gitkeep"}) session::write(name, "");
+    std::filesystem::create_directory("designs/folder");
+    EXPECT_EQ(filesin("designs\\"), (std::vector<std::string>{"a.txt", "b.txt"}));
+    EXPECT_EQ(failureof([] { filesin("gone\\"); })->kind, failurekind::filenotfound);
+}

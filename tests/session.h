@@ -1,0 +1,160 @@
+// A scratch working folder with the program started in it, and a surface that keeps every drawn line. Tests act as a
+// user does (click, pick, type) or set the world's tables themselves and call one procedure.
+#pragma once
+
+#include "core/channels.h"
+#include "core/controls.h"
+#include "core/failure.h"
+#include "core/value.h"
+#include "core/world.h"
+#include "render/surface.h"
+#include "windows/handlers.h"
+
+#include <filesystem>
+#include <fstream>
+#include <gtest/gtest.h>
+#include <map>
+#include <optional>
+#include <sstream>
+#include <stdexcept>
+#include <string>
+#include <vector>
+
+namespace tessaly {
+
+struct drawnline {
+    float x1, y1, x2, y2;
+    colour c;
+    bool operator==(const drawnline&) const = default;
+};
+
+inline std::ostream& operator<<(std::ostream& out, const drawnline& l) {
+    return out << l.x1 << ' ' << l.y1 << ' ' << l.x2 << ' ' << l.y2 << ' ' << int{l.c.red} << ' ' << int{l.c.green}
+               << ' ' << int{l.c.blue};
+}
+
+class recorder : public surface {
+  public:
+    void line(float x1, float y1, float x2, float y2, colour c) override { drawn.push_back({x1, y1, x2, y2, c}); }
+    void save(const std::string&) override {}
+    void setpicture(const std::string&) override {}
+    std::vector<drawnline> drawn;
+};
+
+using filesbypath = std::map<std::string, std::string>;
+inline const filesbypath ownfolder{{"datah/.own", ""}};  // no shipped data: a test writes its own
+
+class session {
+  public:
+    // In a working folder of the shipped data, or, with files, in one that holds these and nothing else.
+    explicit session(const filesbypath& files = {}) {
+        namespace fs = std::filesystem;
+        std::string name = (fs::temp_directory_path() / "tessaly-XXXXXX").string();
+        if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no scratch folder");
+        folder = name;
+        fs::current_path(folder);
+        for (const char* made : {"designs", "bmps", "nonuser"}) fs::create_directory(made);
+        for (const char* data : {"datah", "pals"}) {
+            if (files.empty())
+                fs::create_directory_symlink(fs::path(TESSALY_SOURCE_DIR) / data, data);
+            else
+                fs::create_directory(data);
+        }
+        for (const auto& [path, bytes] : files) write(path, bytes);
+        viewportsurface = &viewport;
+        progresssurface = &progress;
+        startprogram();
+    }
+    ~session() {
+        std::error_code ignored;
+        forgetchannels();
+        std::filesystem::current_path("/");
+        std::filesystem::remove_all(folder, ignored);
+    }
+    session(const session&) = delete;
+
+    // ---- what a user does; a name that is not there is a fault of the test ----
+    void start() { click("startprogrambtn"); }
+    void click(const std::string& name) { clickcontrol(named(name)); }
+    void type(const std::string& name, const std::string& text) { typetext(named(name), text); }
+    void pick(const std::string& name, const std::string& item) {
+        control& list = named(name);
+        for (std::size_t i = 0; i < list.items.size(); ++i)
+            if (list.items[i] == item) return pickitem(list, static_cast<int>(i));
+        throw std::logic_error(name + " has no item " + item);
+    }
+
+    // ---- what came of it ----
+    const std::vector<drawnline>& lines() const { return viewport.drawn; }
+    std::vector<drawnline> takelines() { return std::exchange(viewport.drawn, {}); }
+    // The bytes of a file of the working folder; "(none)" where there is no such file.
+    static std::string file(const std::string& path) {
+        std::ifstream in(path, std::ios::binary);
+        return in ? (std::ostringstream() << in.rdbuf()).str() : "(none)";
+    }
+    static void write(const std::string& path, const std::string& bytes) {
+        std::ofstream(path, std::ios::binary) << bytes;
+    }
+
+    recorder viewport, progress;
+    std::filesystem::path folder;
+
+  private:
+    static control& named(const std::string& name) {
+        control* const c = findcontrol(name);
+        if (c == nullptr) throw std::logic_error("no control " + name);
+        return *c;
+    }
+};
+
+// The failure that a procedure ends with, none where it does not fail.
+template <class procedure>
+std::optional<failure> failureof(procedure run) {
+    try {
+        run();
+    } catch (const failure& f) {
+        return f;
+    }
+    return std::nullopt;
+}
+
+// An element file section by section; what a test does not give is empty, with its end row.
+struct elementtext {
+    std::string wirecolours = "1,2,3,4,5,6,7", points = "", lines[5] = {}, cubes400 = "", cubes600 = "", planes = "",
+                framing1 = "", framing2 = "", script = "TRAN\nSTOP\n";
+
+    operator std::string() const {
+        static const std::string cubeend = "9999,0,0,0,0,0,0,0,0\n", framingend = "0,9999\n";
+        std::string text = "A test's element\nWIRECOLORS:\n" + wirecolours + "\nSTANDARD:\n" + points + "9999,0,0,0\n";
+        for (int g = 0; g < 5; ++g) text += "LINEG" + std::to_string(g + 1) + ":\n" + lines[g] + "9999,9999\n";
+        return text + "AUTOCUBE400:\n" + cubes400 + cubeend + "AUTOCUBE600:\n" + cubes600 + cubeend + "AUTOPLANE:\n" +
+               planes + "9999,0,0,0,0,0,0\nAUTOFRAMING1:\n" + framing1 + framingend + "AUTOFRAMING2:\n" + framing2 +
+               framingend + script;
+    }
+};
+
+// A drawing colour of its own for each palette index up to 120.
+inline colour testcolour(int k) {
+    return {static_cast<std::uint8_t>(k), static_cast<std::uint8_t>(2 * k), static_cast<std::uint8_t>(255 - k)};
+}
+
+// A view with the eye standing at (x, y, z) from the focus, as it is in force once the program has started, and a
+// palette of testcolour.
+inline void setview(double x, double y, double z, double magnification = 0.56) {
+    perprelx = perpx = x;
+    perprely = perpy = y;
+    perprelz = perpz = z;
+    focusx = focusy = focusz = 0;
+    mag = magnification;
+    vertshift = horizshift = 0;
+    perprelative = 1;
+    plotstate = 2;
+    viewprompt = "PROMPT";
+    for (int k = 1; k <= 120; ++k) {
+        palred.set(k, testcolour(k).red);
+        palgreen.set(k, testcolour(k).green);
+        palblue.set(k, testcolour(k).blue);
+    }
+}
+
+}  // namespace tessaly

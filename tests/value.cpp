@@ -1,0 +1,87 @@
+// Values, and numbers and text at their edges.
+#include "tests/session.h"
+
+#include <cmath>
+
+using namespace tessaly;
+
+TEST(value, strictReadingTakesWholeNumbersOnly) {
+    const std::map<std::string, std::optional<double>> texts{{"1", 1},
+                                                             {" -2.5 ", -2.5},
+                                                             {"+.5", 0.5},
+                                                             {"4.", 4},
+                                                             {"1e3", 1000},
+                                                             {"1E-2", 0.01},
+                                                             {"1e-999", 0},
+                                                             {"", std::nullopt},
+                                                             {" ", std::nullopt},
+                                                             {".", std::nullopt},
+                                                             {"-", {}},
+                                                             {"1e", {}},
+                                                             {"e1", {}},
+                                                             {"1 2", {}},
+                                                             {"1,5", {}},
+                                                             {"0x10", {}},
+                                                             {"inf", {}},
+                                                             {"nan", {}},
+                                                             {"3x", {}},
+                                                             {"--1", {}},
+                                                             {"1e+2", 100},
+                                                             {"0." + std::string(400, '0') + "1", 0}};
+    for (const auto& [text, number] : texts) EXPECT_EQ(strictnumber(text), number) << '"' << text << '"';
+    EXPECT_EQ(failureof([] { strictnumber("-1e999"); })->kind, failurekind::overflow);
+}
+
+TEST(value, leadingDigitsNeverFail) {
+    const std::map<std::string, double> texts{{"3x", 3},   {"2.5", 2.5},  {"", 0},      {"abc", 0}, {"  7 8", 7},
+                                              {"-4-", -4}, {"1e2y", 100}, {"1e", 1},    {"1e+", 1}, {".5.5", 0.5},
+                                              {"+", 0},    {"- 5", 0},    {"1e-999", 0}};
+    for (const auto& [text, number] : texts) EXPECT_EQ(Val(text), number) << '"' << text << '"';
+    EXPECT_TRUE(std::isfinite(Val("1e999")));
+}
+
+TEST(value, generalTextHasFifteenDigitsAndIsCutNotRounded) {
+    const std::map<double, std::string> texts{
+        {0.1 + 0.2, "0.3"}, {-0.0, "0"},      {1.0 / 3, "0.333333333333333"},    {-1234.5678, "-1234.5678"},
+        {1850, "1850"},     {0.056, "0.056"}, {99999999999999, "99999999999999"}};
+    for (const auto& [number, text] : texts) EXPECT_EQ(generaltext(number), text);
+    EXPECT_EQ(boxtext(-1234.5678, 5), "-1234");
+    EXPECT_EQ(boxtext(value(), 5), "");
+    EXPECT_EQ(shortesttext(0.1 + 0.2), "0.30000000000000004");
+}
+
+// A text box's figure is kept as text and converted at its first use; the report names where it came from.
+TEST(value, textMeetsArithmetic) {
+    EXPECT_EQ(value() + 1, 1);
+    EXPECT_EQ(value("12") * 2, 24);
+    EXPECT_FALSE(value("12").isnumber());
+    EXPECT_TRUE(value("a").is("a") && value().is("") && !value(0).is("0") && !value("a").is("A"));
+    const auto f = failureof([] { return value("ten", "datah\\x.txt, line 3, field 2") + 1; });
+    ASSERT_TRUE(f);
+    EXPECT_EQ(f->report, "type mismatch: datah\\x.txt, line 3, field 2: \"ten\" where a number was expected");
+}
+
+TEST(value, wholeNumbersTakeTheEvenHalf) {
+    const std::map<double, double> halves{{0.5, 0}, {1.5, 2}, {2.5, 2}, {-0.5, 0}, {-1.5, -2}, {2.500001, 3}};
+    for (const auto& [number, whole] : halves) EXPECT_EQ(nearestwhole(number), whole) << number;
+}
+
+// resetworld clears 1..7000 (700 of cubecolour) and nothing above; a miss names the table.
+TEST(world, resetClearsItsRangeOnly) {
+    session s;
+    for (const int i : {0, 1, 7000, 7001}) {
+        basex.set(i, 5);
+        quad4.set(i, 5);
+        savex.set(i, 5);
+    }
+    cubecolour.set(700, 5);
+    cubecolour.set(701, 5);
+    linecount7 = ptcount2 = 5;
+    resetworld();
+    EXPECT_TRUE(basex[1] == 0 && basex[7000] == 0 && quad4[7000] == 0 && cubecolour[700] == 0);
+    EXPECT_TRUE(linecount7 == 0 && ptcount2 == 0);
+    EXPECT_TRUE(basex[0] == 5 && basex[7001] == 5 && quad4[7001] == 5 && savex[1] == 5 && cubecolour[701] == 5);
+    EXPECT_EQ(failureof([] { basex.set(10001, 1); })->report,
+              "subscript out of range: basex has no index 10001, an index 0..10000 was expected");
+    EXPECT_EQ(failureof([] { return lineend1[value(-1)]; })->kind, failurekind::subscript);
+}
