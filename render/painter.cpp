@@ -74,12 +74,11 @@ void fillface(int q) {
 // One rail of a framing direction: count points from the rail's start, at s / count of its length, and the line ends
 // that stand on them. Model space, so the lines keep their perspective; the last interval's end is the closing edge.
 void buildrail(const value& start, const value& end, int firstpoint, int count, table<value, lastline>& ends) {
-    const double x1 = ptx[start], y1 = pty[start], z1 = ptz[start];
     for (int s = 0; s < count; ++s) {
         const double share = static_cast<double>(s) / count;
-        ptx.set(firstpoint + s, x1 + share * (ptx[end] - x1));
-        pty.set(firstpoint + s, y1 + share * (pty[end] - y1));
-        ptz.set(firstpoint + s, z1 + share * (ptz[end] - z1));
+        ptx.set(firstpoint + s, ptx[start] + share * (ptx[end] - ptx[start]));
+        pty.set(firstpoint + s, pty[start] + share * (pty[end] - pty[start]));
+        ptz.set(firstpoint + s, ptz[start] + share * (ptz[end] - ptz[start]));
         ends.set(framingscratch + s, firstpoint + s);
     }
 }
