@@ -59,7 +59,7 @@ void stepmag(int sign) {
 // The shift itself is cut to what five characters hold of it before the step: what stands behind them is lost.
 void stepshift(int sign, value& shift, control& box) {
     shiftinc = pickedstep(incrementlist, usualshiftstep);
-    shift = value(boxtext(shift, 5), "the shift shown in " + box.name) + sign * shiftinc;
+    shift = Val(boxtext(shift, 5)) + sign * shiftinc;
     settle();
     replot();
     box.text = boxtext(shift, 5);
