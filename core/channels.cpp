@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
 #include <filesystem>
 #include <map>
@@ -26,6 +27,7 @@ struct appending {
     std::string path;
     std::string text;
     int handle;
+    bool created;  // by its opening: it goes again where its text cannot be written
 };
 
 struct channelstate {
@@ -158,9 +160,14 @@ void openinput(int channel, std::string_view path, const char* what) {
 
 void openappend(int channel, std::string_view path, const char* what) {
     expectfree(channel, path);
-    const int handle = ::open(systempath(path).c_str(), O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC, 0666);
+    std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is a failed write, not the end of the process
+    const std::string system = systempath(path);
+    constexpr int flags = O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC;
+    int handle = ::open(system.c_str(), flags | O_EXCL, 0666);
+    const bool created = handle >= 0;
+    if (!created && errno == EEXIST) handle = ::open(system.c_str(), flags, 0666);
     if (handle < 0) systemfailure(std::string(path), what, errno);
-    channelof(channel).output = appending{std::string(path), {}, handle};
+    channelof(channel).output = appending{std::string(path), {}, handle, created};
 }
 
 void writetext(int channel, std::string_view text) {
@@ -178,7 +185,9 @@ void closechannel(int channel) {
     c.output.reset();
     int error = appendwhole(closing.handle, closing.text);
     if (::close(closing.handle) != 0 && error == 0) error = errno;
-    if (error != 0) systemfailure(closing.path, "could not be written, it stands as it was", error);
+    if (error == 0) return;
+    if (closing.created) ::unlink(systempath(closing.path).c_str());
+    systemfailure(closing.path, "could not be written, it stands as it was", error);
 }
 
 textinput& channelinput(int channel) {

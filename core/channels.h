@@ -36,7 +36,8 @@ void openappend(int channel, std::string_view path, const char* what);
 void writetext(int channel, std::string_view text);
 
 // Closes channel. An append channel's text reaches the file here, whole or not at all: where it cannot be written the
-// file is put back to its length and the failure is file access error. Closing a closed channel does nothing.
+// file is put back to its length (one that the opening created goes) and the failure is file access error. Closing a
+// closed channel does nothing.
 void closechannel(int channel);
 
 // The input open on channel; fails with invalid call where there is none.
