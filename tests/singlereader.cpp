@@ -100,10 +100,10 @@ TEST(singlereader, solidReplayFailsAtAnElementFileAndLeavesItsTemporaryFile) {
     EXPECT_EQ(s.file("nonuser/temp.txt"), "1,2,-480,672,41,90,0,0,1360,4,64\r\n2,1,-480,-672,41,90,0,0,16,4,64\r\n");
     std::filesystem::remove("nonuser/temp.txt");
     forgetchannels();
-    s.design("roofs3.txt", roof);
+    s.design("roofs3.txt", "\"roof\",1,104,104,0,0,0,0,0,4,65\r\n");
     std::filesystem::remove("datah/st-roof.txt");
     EXPECT_TRUE(failureof([&] { s.solid("roofs3.txt"); }));
-    EXPECT_EQ(s.file("nonuser/temp.txt"), "1,1,-384,-576,0,0,0,0,0,4,64\r\n");  // the trailer of a girder read before
+    EXPECT_EQ(s.file("nonuser/temp.txt"), "1,1,-384,-576,0,0,0,0,0,4,64\r\n");  // a girder's trailer, read before
 }
 
 TEST(singlereader, leftTemporaryFileStandsInFront) {
