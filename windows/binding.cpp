@@ -74,7 +74,9 @@ void carrytowidget(boundcontrol& b) {
     if (b.items != b.of->items) setitems(*b.widget, b.items = b.of->items);
     if (b.text != b.of->text) settext(*b.widget, b.text = b.of->text);
     setselection(*b.of, *b.widget);
-    if (b.widget->isHidden() == b.of->shown) b.widget->setVisible(b.of->shown);
+    if (b.widget->isHidden() != b.of->shown) return;
+    b.widget->setVisible(b.of->shown);
+    if (comestofront(*b.of)) b.widget->raise();
 }
 
 void showface(face& f) {

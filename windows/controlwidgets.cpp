@@ -24,7 +24,7 @@ namespace tessaly {
 namespace {
 
 const QColor buttonface(226, 226, 226);
-constexpr int tallestrow = 17;  // pixels of a list's row; less where all items fit only so
+constexpr int tallestrow = 17;  // pixels of a list's row; less where the items of a fixed list fit only so
 constexpr int multiline = 60;   // pixels: a text box from this height on has several lines
 
 // ---- lists -------------------------------------------------------------------------------------------------
@@ -41,6 +41,7 @@ class list : public QListWidget {
     }
 
     int rowheight(int rows) const {
+        if (of.kind == controlkind::filelist) return tallestrow;
         const int least = fontMetrics().height();
         return std::clamp((height() - 2 * frameWidth()) / std::max(rows, 1), least, tallestrow);
     }
@@ -209,6 +210,8 @@ int layerof(const control& c) {
     default: return 4;
     }
 }
+
+bool comestofront(const control& c) { return c.kind == controlkind::list || c.kind == controlkind::filelist; }
 
 bool typable(const control& c) { return c.kind == controlkind::textbox || c.kind == controlkind::combobox; }
 

@@ -15,6 +15,9 @@ QWidget* makewidget(control& c, QWidget* plan);
 // the progress strip.
 int layerof(const control& c);
 
+// Whether it comes in front of its neighbours when it is shown: lists that are opened over each other.
+bool comestofront(const control& c);
+
 // Whether the user can type into it.
 bool typable(const control& c);
 

@@ -23,6 +23,7 @@ const boxtag tags[] = {{&perptxtx, "persp X"},  {&perptxty, "persp Y"},  {&perpt
                        {&focustxtx, "focus X"}, {&focustxty, "focus Y"}, {&focustxtz, "focus Z"},
                        {&magtxt, "mag"}};
 constexpr int tagpixels = 9;
+const QColor hintpaper(255, 255, 225);
 
 class tag : public QWidget {
   public:
@@ -50,6 +51,9 @@ void makereadonly(const control& c) {
     if (auto* line = qobject_cast<QLineEdit*>(box)) line->setReadOnly(true);
     if (auto* lines = qobject_cast<QPlainTextEdit*>(box)) lines->setReadOnly(true);
     box->setFocusPolicy(Qt::NoFocus);
+    QPalette paper = box->palette();
+    paper.setColor(QPalette::Base, hintpaper);
+    box->setPalette(paper);
 }
 
 }  // namespace

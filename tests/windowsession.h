@@ -1,0 +1,89 @@
+// The real windows on a screen that nobody sees, over a scratch working folder, used by mouse and keyboard.
+#pragma once
+
+#include "windows/binding.h"
+#include "windows/look.h"
+#include "windows/picturefile.h"
+
+#include <QApplication>
+#include <QListWidget>
+#include <QTest>
+#include <QTimer>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+namespace tessaly {
+
+inline QApplication& application() {
+    static int argc = 1;
+    static char name[] = "windowtests", *argv[] = {name, nullptr};
+    static auto* app = [] {
+        QApplication::setDesktopSettingsAware(false);
+        auto* made = new QApplication(argc, argv);
+        setlook(*made);
+        usepicturefiles();
+        return made;
+    }();
+    return *app;
+}
+
+class windowsession : public testing::Test {
+  protected:
+    void SetUp() override {
+        application();
+        home = std::filesystem::current_path();
+        char name[] = "/tmp/tessaly-windows-XXXXXX";
+        folder = ::mkdtemp(name);
+        for (const char* empty : {"designs", "bmps", "nonuser"}) std::filesystem::create_directory(folder / empty);
+        for (const char* shipped : {"datah", "pals"})
+            std::filesystem::copy(std::filesystem::path(TESSALY_SOURCE_DIR) / shipped, folder / shipped,
+                                  std::filesystem::copy_options::recursive);
+        std::filesystem::current_path(folder);
+        openwindows();
+    }
+
+    void TearDown() override {
+        dropwindows();
+        std::filesystem::current_path(home);
+        std::filesystem::remove_all(folder);
+    }
+
+    static void click(const control& c) {
+        ASSERT_TRUE(widgetof(c) && widgetof(c)->isVisible()) << c.name;
+        QTest::mouseClick(widgetof(c), Qt::LeftButton);
+    }
+    static void click(const char* name) {
+        ASSERT_TRUE(findcontrol(name)) << name;
+        click(*findcontrol(name));
+    }
+    static void start() { click(startprogrambtn); }
+
+    // A click of the mouse on a row of a list.
+    static void pick(const control& c, int row) {
+        auto* rows = qobject_cast<QListWidget*>(widgetof(c));
+        ASSERT_TRUE(rows && rows->isVisible() && row < rows->count()) << c.name;
+        QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, rows->visualItemRect(rows->item(row)).center());
+    }
+
+    static void type(const control& c, const char* text) {
+        widgetof(c)->window()->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(widgetof(c)->window()));
+        widgetof(c)->clearFocus();
+        widgetof(c)->setFocus(Qt::TabFocusReason);  // which selects what stands in it
+        QTest::keyClicks(widgetof(c), text);
+    }
+
+    static std::string file(const char* path) {
+        std::ostringstream bytes;
+        bytes << std::ifstream(path, std::ios::binary).rdbuf();
+        return bytes.str();
+    }
+
+    std::filesystem::path home, folder;
+};
+
+}  // namespace tessaly

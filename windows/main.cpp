@@ -1,0 +1,21 @@
+// The program with its windows.
+
+#include "windows/binding.h"
+#include "windows/look.h"
+#include "windows/picturefile.h"
+
+#include <clocale>
+
+int main(int argc, char** argv) {
+    QApplication::setDesktopSettingsAware(false);
+    QApplication app(argc, argv);
+    std::setlocale(LC_NUMERIC, "C");  // figures are written with a point, wherever the user lives
+    QApplication::setApplicationName("tessaly");
+    QGuiApplication::setDesktopFileName("tessaly");
+    tessaly::setlook(app);
+    tessaly::usepicturefiles();
+    tessaly::openwindows();
+    const int status = QApplication::exec();
+    tessaly::dropwindows();
+    return status;
+}
