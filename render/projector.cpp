@@ -1,0 +1,287 @@
+// The projector. Sums and products run in the order in which they are written: two machines draw the same pixels.
+// E is the eye, D the plane's seed, C its centre, P a point, R the reference point's hit; all relative to the focus.
+
+#include "render/projector.h"
+
+#include "core/controls.h"
+#include "core/failure.h"
+#include "core/world.h"
+#include "render/surface.h"
+
+#include <cmath>
+
+namespace tessaly {
+
+namespace {
+
+constexpr int fullwalk = 299;  // steps into which a near-side walk divides a line
+constexpr double mappingscale = 15.2, mappingx = 730, mappingy = 490;  // viewport pixels
+
+// The eye and the plane as plain numbers, taken once a pass: text meets arithmetic here.
+struct sight {
+    double ex, ey, ez;  // eye
+    double dx, dy, dz;  // plane seed
+    double cx, cy, cz;  // plane centre
+    double focusx, focusy, focusz;
+    double centresquared;  // C . C
+};
+
+sight takesight() {
+    sight s{perpx,        perpy,        perpz,  planeseedx, planeseedy, planeseedz, planecentrex,
+            planecentrey, planecentrez, focusx, focusy,     focusz,     0};
+    s.centresquared = s.cx * s.cx + s.cy * s.cy + s.cz * s.cz;
+    return s;
+}
+
+// Where the line from the eye through point p meets the picture plane: planex, planey, planez.
+// E + t(P - E) with t = (E.E - E.D) / (E.E - E.P), multiplied out.
+void hitplane(const sight& s, int p) {
+    const double px = ptx[p], py = pty[p], pz = ptz[p];
+    const double ex = s.ex, ey = s.ey, ez = s.ez, dx = s.dx, dy = s.dy, dz = s.dz;
+    const double t = ex * ex + ey * ey + ez * ez - ex * px - ey * py - ez * pz;
+    if (t == 0) throw failure(failurekind::divisionbyzero, "a sight line runs along the picture plane");
+    planex.set(p, ((ex * dx) * (ex - px) + (ey * ey) * px + (ez * ez) * px - (ey * px) * py - (ez * px) * pz +
+                   (ey * dy) * (ex - px) + (ez * dz) * (ex - px) - (ey * py) * (ex - px) - (ez * pz) * (ex - px)) /
+                      t);
+    planey.set(p, ((ey * dy) * (ey - py) + (ex * ex) * py + (ez * ez) * py - (ex * py) * px - (ez * py) * pz +
+                   (ex * dx) * (ey - py) + (ez * dz) * (ey - py) - (ex * px) * (ey - py) - (ez * pz) * (ey - py)) /
+                      t);
+    planez.set(p, ((ez * dz) * (ez - pz) + (ex * ex) * pz + (ey * ey) * pz - (ex * pz) * px - (ey * pz) * py +
+                   (ex * dx) * (ez - pz) + (ey * dy) * (ez - pz) - (ex * px) * (ez - pz) - (ey * py) * (ez - pz)) /
+                      t);
+}
+
+// Point p on the picture plane: its hit, then distance, cosine, up and side from the plane's centre.
+void projectpoint(const sight& s, int p) {
+    hitplane(s, p);
+    const double hx = planex[p] - s.cx, hy = planey[p] - s.cy, hz = planez[p] - s.cz;
+    const double rx = planex[referencepoint] - s.cx, ry = planey[referencepoint] - s.cy,
+                 rz = planez[referencepoint] - s.cz;
+    const double distance = std::sqrt((hx * hx + hy * hy) + hz * hz);
+    const double divisor = distance * std::sqrt(rx * rx + ry * ry + rz * rz);
+    if (divisor == 0)
+        throw failure(failurekind::divisionbyzero,
+                      distance == 0 ? "a point lies on the axis of sight, it has no direction on the picture plane"
+                                    : "the eye stands straight above or below the focus");
+    const double cosine = ((hx * rx + hy * ry) + hz * rz) / divisor;
+    planedist.set(p, distance);
+    planecos.set(p, cosine);
+    planeup.set(p, distance * cosine);
+    if (cosine > 0.9999 || cosine < -0.9999) {
+        planeside.set(p, 0);
+        return;
+    }
+    const double side = distance * std::sqrt(1 - cosine * cosine);
+    planeside.set(p, s.cx * planey[p] - s.cy * planex[p] < 0 ? -1 * side : side);
+}
+
+bool nearside(const sight& s, int p) { return (s.cx * ptx[p] + s.cy * pty[p]) + s.cz * ptz[p] > s.centresquared; }
+
+void restoreposition(const sight& s, int p) {
+    ptx.set(p, basex[p] - s.focusx);
+    pty.set(p, basey[p] - s.focusy);
+    ptz.set(p, basez[p] - s.focusz);
+}
+
+// Moves p along its line towards o, from the saved position, until it is on the plane's far side. False: given up, the
+// walk's budget (shared by the two ends) is spent and screeny[p] marks the end.
+bool walktofarside(const sight& s, int p, int o) {
+    while (nearside(s, p)) {
+        --walkcount;
+        if (walkcount == 0) {
+            walkcount = fullwalk;
+            restoreposition(s, p);
+            screeny.set(p, sentinel);
+            return false;
+        }
+        const double share = static_cast<double>(walkcount) / fullwalk;
+        ptx.set(p, share * (savex[p] - ptx[o]) + ptx[o]);
+        pty.set(p, share * (savey[p] - pty[o]) + pty[o]);
+        ptz.set(p, share * (savez[p] - ptz[o]) + ptz[o]);
+    }
+    return true;
+}
+
+bool projectend(const sight& s, int p, int o) {
+    if (!walktofarside(s, p, o)) return false;
+    projectpoint(s, p);
+    restoreposition(s, p);
+    return true;
+}
+
+void mapend(int e, double scale, double shiftright, double shiftup) {
+    screenx.set(e, ((scale * mappingscale) * planeside[e] + mappingx) + shiftright);
+    screeny.set(e, ((scale * -mappingscale) * planeup[e] + mappingy) - shiftup);
+}
+
+// A line end as a point index. A miss is told by line and file, since a data file's row named the point.
+int lineend(const table<value, lastline>& ends, int line, int end) {
+    const value& named = ends[line];
+    const double whole = nearestwhole(named);
+    if (whole >= 0 && whole <= lastpoint) return static_cast<int>(whole);
+    throw failure(failurekind::subscript, "datah\\" + datafile.text() + ": end " + std::to_string(end) + " of line " +
+                                              std::to_string(line) + " (group " + curgroup.text() + ") names point " +
+                                              shortesttext(named) + ", a point 0.." + std::to_string(lastpoint) +
+                                              " was expected");
+}
+
+}  // namespace
+
+int blocksinuse(pointblock (&blocks)[4]) {
+    int count = 0;
+    blocks[count++] = {1, indexof(ptcount1, "ptcount1")};
+    if (drawset.isnumber() && drawset == 2) blocks[count++] = {2001, 2000 + indexof(ptcount2, "ptcount2")};
+    blocks[count++] = {4001, 4000 + indexof(ptcount3, "ptcount3")};
+    blocks[count++] = {6001, 6000 + indexof(ptcount4, "ptcount4")};
+    return count;
+}
+
+void setplane() {
+    ptx.set(referencepoint, 0);
+    pty.set(referencepoint, 0);
+    ptz.set(referencepoint, 1);
+    const double ex = perpx, ey = perpy, ez = perpz;
+    planeseedx = 0.94 * ex;
+    planeseedy = 0.94 * ey;
+    planeseedz = 0.95 * ez;  // not 0.94: the seed lies off the eye axis on purpose
+    const double s = ((ex * planeseedx) + (ey * planeseedy)) + (ez * planeseedz);
+    const double q = ((ex * ex) + (ey * ey)) + (ez * ez);
+    planecentrex = quotient(ex * s, q, "the eye stands at the focus");
+    planecentrey = (ey * s) / q;
+    planecentrez = (ez * s) / q;
+}
+
+void referencepass() {
+    if (refready != 0) return;
+    projectpoint(takesight(), referencepoint);  // its own hit is the reference that it is measured against
+    refready = 1;
+}
+
+void drawlines(int first, int last, const value& palettecolourindex) {
+    const sight s = takesight();
+    const double scale = mag, shiftright = horizshift, shiftup = vertshift;
+    for (int k = first; k <= last; ++k) {
+        walkcount = fullwalk;
+        const int end1 = lineend(lineend1, k, 1), end2 = lineend(lineend2, k, 2);
+        if (!projectend(s, end1, end2) || !projectend(s, end2, end1)) continue;
+        mapend(end1, scale, shiftright, shiftup);
+        mapend(end2, scale, shiftright, shiftup);
+        viewportsurface->line(static_cast<float>(screenx[end1]), static_cast<float>(screeny[end1]),
+                              static_cast<float>(screenx[end2]), static_cast<float>(screeny[end2]),
+                              palettecolour(palettecolourindex));
+    }
+}
+
+void drawgroups() {
+    for (int group = 1; group <= linegroups; ++group) {
+        if (linecount[group] == 0) continue;
+        curgroup = group;
+        curwirecolour = wirecolour[group];
+        drawlines(indexof(groupfirst[group], "groupfirst"), indexof(grouplast[group], "grouplast"), curwirecolour);
+    }
+}
+
+void relateeye() {
+    if (perprelative != 0) return;
+    perpx = perpx - focusx;
+    perpy = perpy - focusy;
+    perpz = perpz - focusz;
+    perprelative = 1;
+    perprelx = perpx;
+    perprely = perpy;
+    perprelz = perpz;
+}
+
+void rebaseonfocus() {
+    const double fx = focusx, fy = focusy, fz = focusz;
+    overblocks([&](int i) {
+        ptx.set(i, ptx[i] - fx);
+        pty.set(i, pty[i] - fy);
+        ptz.set(i, ptz[i] - fz);
+        savex.set(i, ptx[i]);
+        savey.set(i, pty[i]);
+        savez.set(i, ptz[i]);
+    });
+}
+
+void plotgroups() {
+    double sum = 0;
+    for (int group = 1; group <= linegroups; ++group) {
+        groupfirst.set(group, sum + 1);
+        sum += linecount[group];
+        grouplast.set(group, sum);
+    }
+    grouplast.set(linegroups, sum + 1);  // the last group runs one line past its count, and is meant to
+
+    if (plotstate == 1 || plotstate == 2) {
+        perpx = perprelx;
+        perpy = perprely;
+        perpz = perprelz;
+        refready = 0;
+        skipfixup = 1;
+    }
+    projectdraw();
+}
+
+namespace {
+
+// Moves eye and focus out of the positions in which the projection would divide by zero or see a line end on. Exact
+// comparisons of the figures, in this order.
+void fixup() {
+    const auto same = [](double a, double b) { return a == b; };
+    const auto ratio = [](double a, double b) { return quotient(a, b, "ratio of eye or focus coordinates"); };
+    if (same(focusx, perpx) && same(focusy, perpy)) perpx = perpx * 0.997;
+    if (same(focusx, perpx) && same(focusz, perpz)) perpx = perpx * 0.998;
+    if (same(focusy, perpy) && same(focusz, perpz)) perpy = perpy * 0.999;
+    for (value* figure : {&focusy, &focusx, &focusz, &perpx, &perpy, &perpz})
+        if (*figure == 0) *figure = 0.1;
+    if (ratio(perpx, perpy) == ratio(focusx, focusy)) perpx = perpx * 0.997;
+    if (ratio(perpx, perpz) == ratio(focusx, focusz)) perpx = perpx * 0.998;
+    if (ratio(perpy, perpz) == ratio(focusy, focusz)) perpy = perpy * 0.999;
+    perprelx = perpx;
+    perprely = perpy;
+    perprelz = perpz;
+    viewprompt = "PROMPT";
+}
+
+void prepareview() {
+    if (skipfixup == 1) {
+        skipfixup = 0;
+    } else {
+        refready = 0;
+        if (viewprompt.is("AUTOMA")) fixup();
+        mag = 10 * mag;
+    }
+    relateeye();
+}
+
+void writeviewback() {
+    rebasedone = 0;
+    perpabsx = perprelx + focusx;
+    perpabsy = perprely + focusy;
+    perpabsz = perprelz + focusz;
+    magshown = mag * 0.1;
+    perptxtx.text = perpabsx.text();
+    perptxty.text = perpabsy.text();
+    perptxtz.text = perpabsz.text();
+    focustxtx.text = focusx.text();
+    focustxty.text = focusy.text();
+    focustxtz.text = focusz.text();
+    magtxt.text = magshown.text();
+    verttxt.text = boxtext(vertshift, 5);
+    horiztxt.text = boxtext(horizshift, 5);
+}
+
+}  // namespace
+
+void projectdraw() {
+    prepareview();
+    rebaseonfocus();
+    setplane();
+    referencepass();
+    if (plotstate == 0 && repaintmainwindow) repaintmainwindow();
+    drawgroups();
+    writeviewback();
+}
+
+}  // namespace tessaly
