@@ -1,0 +1,130 @@
+#!/usr/bin/env bash
+# tools/make-samples.sh PLAY FOLDER: builds the sample designs by clicks, as a user would, with the player PLAY in a
+# working folder of its own, and leaves their design files in FOLDER under names that keep clear of a user's own.
+set -euo pipefail
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+play=$(realpath "$1")
+folder=$(realpath "$2")
+
+# Plan coordinates are bays: bay I J has its posts at columns I and I+1, rows J and J+1. One bay is 192 layout units.
+post() { echo "click postx$((192 * $1))y$((192 * $2 + 16))"; }
+beam() { echo "click beamx$((192 * $1))y$((192 * $2 + 16))"; }      # from post I J along Y
+vbeam() { echo "click vbeamx$((192 * $1 + 16))y$((192 * $2 + 16))"; } # from post I J along X
+roof() { echo "click roofx$((192 * $1))y$((192 * $2))"; }
+
+# A wall of bay I J on the side that the word says, with the panel of that button.
+wall() {
+    echo "click ${4}btn"
+    case $1 in
+    front) echo "click pan0x$((192 * $2))y$((192 * $3))" ;;                  # looks towards minus Y
+    back) echo "click pan180x$((192 * $2 + 208))y$((192 * $3 + 208))" ;;      # towards plus Y
+    left) echo "click pan270x$((192 * $2))y$((192 * $3 + 208))" ;;            # towards minus X
+    right) echo "click pan90x$((192 * $2 + 208))y$((192 * $3))" ;;            # towards plus X
+    esac
+}
+
+# The same for a wall that ends in an inside corner, with the snip button's end.
+snipped() {
+    local snip=$1 panel=$5
+    echo "click ${panel}btn"
+    echo "click snip${snip}btn"
+    wall "$2" "$3" "$4" "$panel" | tail -n 1
+}
+
+# All steel of the bays I0..I1, J0..J1; names given behind are left out.
+steel() {
+    local i j left=" ${*:5} "
+    echo "click postbeambtn"
+    for ((i = $1; i <= $2 + 1; i++)); do
+        for ((j = $3; j <= $4 + 1; j++)); do
+            post "$i" "$j"
+            if ((j <= $4)); then beam "$i" "$j"; fi
+            if ((i <= $2)); then vbeam "$i" "$j"; fi
+        done
+    done | while read -r click name; do
+        [[ $left == *" $name "* ]] || echo "$click $name"
+    done
+}
+
+roofs() {
+    local i j
+    for ((i = $1; i <= $2; i++)); do
+        for ((j = $3; j <= $4; j++)); do roof "$i" "$j"; done
+    done
+}
+
+# Two storeys over three by four bays; the corner bay in front is a terrace on the lower one.
+house() {
+    echo "click startprogrambtn"
+    steel 1 3 2 5
+    wall front 1 2 orange2; wall front 2 2 door2; wall front 3 2 orange3
+    wall right 3 2 orange3; wall right 3 3 yellow2; wall right 3 4 yellow2; wall right 3 5 door4
+    wall back 3 5 orange1; wall back 2 5 door2; wall back 1 5 orange2
+    wall left 1 5 orange1; wall left 1 4 yellow3; wall left 1 3 yellow3; wall left 1 2 orange1
+    echo "click roofbtn"
+    roof 3 2
+    echo 'type floor "2"'
+    steel 1 3 2 5 postx768y400 beamx768y400 vbeamx592y400
+    wall front 1 2 yellow2; wall front 2 2 yellow3
+    snipped left front 3 3 door2
+    snipped righ right 2 2 yellow2
+    wall right 3 3 yellow3; wall right 3 4 yellow3; wall right 3 5 yellow1
+    wall back 3 5 yellow1; wall back 2 5 yellow2; wall back 1 5 yellow1
+    wall left 1 5 yellow1; wall left 1 4 yellow2; wall left 1 3 yellow2; wall left 1 2 yellow1
+    echo "click roofbtn"
+    roofs 1 3 2 5 | grep -v "roofx576y384"
+    echo "click exitbtn"
+}
+
+# The four walls of three bays each around the tower: outer bays, middle bay.
+ring() {
+    local i
+    for i in 1 2 3; do
+        local panel=$1
+        [ "$i" = 2 ] && panel=$2
+        wall front "$i" 2 "$panel"; wall right 3 "$((i + 1))" "$panel"
+        wall back "$((4 - i))" 4 "$panel"; wall left 1 "$((5 - i))" "$panel"
+    done
+}
+
+# Ten storeys over three by three bays.
+tower() {
+    local floor
+    echo "click startprogrambtn"
+    for floor in 1 2 3 4 5 6 7 8 9 10; do
+        echo "type floor \"$floor\""
+        steel 1 3 2 4
+        case $floor in
+        1) ring orange3 door4 ;;
+        10) ring orange1 yellow1 ;;
+        *[13579]) ring orange2 yellow3 ;;
+        *) ring orange2 yellow2 ;;
+        esac
+    done
+    echo "click roofbtn"
+    roofs 1 3 2 4
+    echo "click exitbtn"
+}
+
+# samples NAME: plays NAME; design files become girdNAM1.txt, paneNA1.txt and roofN1.txt: the first letters say what
+# they hold, the figure in its place says the floor (0 for the tenth), and no longer name would be read.
+samples() {
+    local name=$1 scratch file floor
+    scratch=$(mktemp -d)
+    cp -r "$root/datah" "$root/pals" "$scratch"
+    mkdir "$scratch/designs" "$scratch/bmps" "$scratch/nonuser"
+    "$name" | (cd "$scratch" && "$play" -)
+    for file in "$scratch"/designs/*.txt; do
+        floor=$(basename "$file" .txt)
+        floor=${floor##*[a-z]}
+        case $(basename "$file") in
+        girders*) mv "$file" "$folder/gird${name:0:3}${floor: -1}.txt" ;;
+        panels*) mv "$file" "$folder/pane${name:0:2}${floor: -1}.txt" ;;
+        roofs*) mv "$file" "$folder/roof${name:0:1}${floor: -1}.txt" ;;
+        esac
+    done
+    rm -r "$scratch"
+}
+
+samples house
+samples tower
