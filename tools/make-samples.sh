@@ -56,23 +56,23 @@ roofs() {
 # Two storeys over three by four bays; the corner bay in front is a terrace on the lower one.
 house() {
     echo "click startprogrambtn"
-    steel 1 3 2 5
-    wall front 1 2 orange2; wall front 2 2 door2; wall front 3 2 orange3
-    wall right 3 2 orange3; wall right 3 3 yellow2; wall right 3 4 yellow2; wall right 3 5 door4
-    wall back 3 5 orange1; wall back 2 5 door2; wall back 1 5 orange2
-    wall left 1 5 orange1; wall left 1 4 yellow3; wall left 1 3 yellow3; wall left 1 2 orange1
+    steel 0 2 2 5
+    wall front 0 2 orange2; wall front 1 2 door2; wall front 2 2 orange3
+    wall right 2 2 orange3; wall right 2 3 yellow2; wall right 2 4 yellow2; wall right 2 5 door4
+    wall back 2 5 orange1; wall back 1 5 door2; wall back 0 5 orange2
+    wall left 0 5 orange1; wall left 0 4 yellow3; wall left 0 3 yellow3; wall left 0 2 orange1
     echo "click roofbtn"
-    roof 3 2
+    roof 2 2
     echo 'type floor "2"'
-    steel 1 3 2 5 postx768y400 beamx768y400 vbeamx592y400
-    wall front 1 2 yellow2; wall front 2 2 yellow3
-    snipped left front 3 3 door2
-    snipped righ right 2 2 yellow2
-    wall right 3 3 yellow3; wall right 3 4 yellow3; wall right 3 5 yellow1
-    wall back 3 5 yellow1; wall back 2 5 yellow2; wall back 1 5 yellow1
-    wall left 1 5 yellow1; wall left 1 4 yellow2; wall left 1 3 yellow2; wall left 1 2 yellow1
+    steel 0 2 2 5 postx576y400 beamx576y400 vbeamx400y400
+    wall front 0 2 yellow2; wall front 1 2 yellow3
+    snipped left front 2 3 door2
+    snipped righ right 1 2 yellow2
+    wall right 2 3 yellow3; wall right 2 4 yellow3; wall right 2 5 yellow1
+    wall back 2 5 yellow1; wall back 1 5 yellow2; wall back 0 5 yellow1
+    wall left 0 5 yellow1; wall left 0 4 yellow2; wall left 0 3 yellow2; wall left 0 2 yellow1
     echo "click roofbtn"
-    roofs 1 3 2 5 | grep -v "roofx576y384"
+    roofs 0 2 2 5 | grep -v "roofx384y384"
     echo "click exitbtn"
 }
 
