@@ -1,46 +1,25 @@
 // The shipped data: the committed files are those that the makers make, and every element fits its place on the plan.
 #include "building/layouts.h"
-#include "core/world.h"
 #include "data/elements.h"
-#include "data/startdisplay.h"
-#include "render/surface.h"
+#include "tests/session.h"
 #include "tools/shipped.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <filesystem>
-#include <fstream>
-#include <gtest/gtest.h>
 #include <set>
-#include <sstream>
 
 using namespace tessaly;
 
 namespace {
 
-std::string committed(const std::string& path) {
-    std::ifstream in(TESSALY_SOURCE_DIR "/" + path, std::ios::binary);
-    return (std::ostringstream() << in.rdbuf()).str();
-}
-
-struct nosurface : surface {
-    void line(float, float, float, float, tessaly::colour) override {}
-    void save(const std::string&) override {}
-    void setpicture(const std::string&) override {}
-};
-
 struct spot {
     double x, y, z;  // world units
 };
 
-// The program started in the repository's root, with every element ready to be read and nothing drawn.
+// The program started in a folder of the shipped data: every element can be read, and the start groups have been.
 struct shippedelement : testing::Test {
-    void SetUp() override {
-        std::filesystem::current_path(TESSALY_SOURCE_DIR);
-        viewportsurface = &none;
-        startdisplay();
-    }
+    void SetUp() override { s.start(); }
 
     static void read(const std::string& file, int mode = 3, double rx = 0, double rz = 0, double x = planx,
                      double y = plany) {
@@ -76,7 +55,7 @@ struct shippedelement : testing::Test {
         return e;
     }
 
-    nosurface none;
+    session s;
 };
 
 std::vector<std::string> elements() {
@@ -126,7 +105,8 @@ double commonarea(outline a, outline b) {
 // A maker was changed and not run, or a file was changed by hand.
 TEST(shippeddata, committedFilesAreWhatTheMakersMake) {
     for (const shippedfile& file : shippedfiles())
-        EXPECT_TRUE(committed(file.path) == file.bytes) << file.path << ": run makedata in the root";
+        EXPECT_TRUE(session::file(TESSALY_SOURCE_DIR "/" + file.path) == file.bytes)
+            << file.path << ": run makedata in the root";
 }
 
 // Placement moves points 1 to 100 only; a corner that ends no line has no place on the screen; an end row with corners
