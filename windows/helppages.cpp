@@ -202,8 +202,8 @@ const char* const displaytext = R"page(
                         focus                   0      0   280          shift            170 up, -270 to the right
 
                    (The boxes may show a 0 of the focus as 0.1.) It wipes the picture and hides the rotation arrow; the
-                   small buttons "left" and "right" above it bring an arrow back. If you have not pressed the left arrow
-                   before, there is no small button yet, and the arrows stay away until the program is started again.
+                   small buttons "left" and "right" above it bring an arrow back. Press the left arrow at least once before:
+                   no small button is there until then, and the arrows would stay away until the program is started again.
 
  ----------------------------------------------------------------------------------------------------------------------
 
@@ -226,6 +226,7 @@ const char* const viewcontrolstext = R"page(
  THE THREE METHODS OF CHANGING THEM
  ----------------------------------
  1. BUTTONS: each click changes one value by one step, and draws at once.
+
       buttons                  what they move                usual step    another step from the list
       Vertical persp   - +     the eye, down and up          100           "Increment"
       Vertical focus   - +     the focus, down and up        50            "Increment"
@@ -233,6 +234,7 @@ const char* const viewcontrolstext = R"page(
       SHIFT  V         + --    the picture, up and down      50            "Increment"
       SHIFT  H         + --    the picture, right and left   50            "Increment"
       the two arrows           the eye, around the building  100           "rotation increment"
+
     The blank entry of a list is the usual step. The arrows come with "Activate rotation controls", which first puts eye and
     focus back to the start-up view, a little higher. The eye walks along the four sides of a square; one arrow shows at a
     time, and the small buttons "right" and "left" switch. Other view changes can confuse the arrows: go on clicking, and they
@@ -244,8 +246,10 @@ const char* const viewcontrolstext = R"page(
     what it shows is what the next SET takes.
 
  3. QUICK VIEW CHANGE, THEN SET: its window shows the plan, X down and Y across, with buttons where the eye and the focus may be.
+
       light green   the eye, X and Y              pink   the eye, Z
       blue          the focus, X and Y            red    the focus, Z
+
     A click only writes the figures into the boxes. Nothing moves until you press SET on the main window.
 )page";
 
