@@ -103,10 +103,9 @@ TEST(painter, paintsNoElementOfCubesAlone) {
     EXPECT_EQ(paint(s), runs{});
     EXPECT_NE(quadorder[4001], 0);
     // Beside faces they take their positions away: the far face is not among those painted.
-    std::string both = session::file("datah/st-cubes.txt");
-    both.replace(both.find("9999,0,0,0\n"), 0, "1,-90,1,1\n2,-90,50,1\n3,-90,1,50\n4,-90,50,50\n");
-    both.replace(both.find("AUTOPLANE:\n") + 11, 0, "1,1,3,2,4,1,30\n");
-    session::write("datah/st-cubes.txt", both);
+    session::write("datah/st-cubes.txt", elementtext{.points = "1,-90,1,1\n2,-90,50,1\n3,-90,1,50\n4,-90,50,50\n",
+                                                     .cubes400 = "1,10,10,10,50,50,50,0,20\n",
+                                                     .planes = "1,1,3,2,4,1,30\n"});
     readelements();
     EXPECT_EQ(paint(s), (runs{{20, 402}}));
 }

@@ -174,10 +174,7 @@ TEST(play, tellsFailuresOfTheProgram) {
         std::filesystem::remove("datah");
         std::filesystem::copy(TESSALY_SOURCE_DIR "/datah", "datah");
         const std::string path = std::string("datah/") + c.path;
-        std::string bytes = session::file(path);
-        ASSERT_NE(bytes.find(c.taken), std::string::npos) << c.taken;
-        bytes.replace(bytes.find(c.taken), std::string(c.taken).size(), c.put);
-        session::write(path, bytes);
+        session::write(path, replaced(session::file(path), c.taken, c.put));
         const played p = play("say begun\nclick startprogrambtn\nclick postbeambtn\nclick postx0y16\nsay never\n");
         EXPECT_EQ(p.status, 1);
         EXPECT_EQ(p.out, "begun\n");

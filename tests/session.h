@@ -118,6 +118,19 @@ std::optional<failure> failureof(procedure run) {
     return std::nullopt;
 }
 
+inline void expectfailure(const std::optional<failure>& f, failurekind kind, const std::string& told) {
+    ASSERT_TRUE(f) << told;
+    EXPECT_EQ(f->kind, kind) << f->report;
+    EXPECT_NE(f->detail.find(told), std::string::npos) << f->report << "\nwhere expected: " << told;
+}
+
+// A text with its first occurrence of something put otherwise; that it is there is the test's affair.
+inline std::string replaced(std::string text, const std::string& taken, const std::string& put) {
+    const std::size_t at = text.find(taken);
+    if (at == std::string::npos) throw std::logic_error("there is no " + taken);
+    return text.replace(at, taken.size(), put);
+}
+
 // An element file section by section; what a test does not give is empty, with its end row.
 struct elementtext {
     std::string wirecolours = "1,2,3,4,5,6,7", points = "", lines[5] = {}, cubes400 = "", cubes600 = "", planes = "",

@@ -27,7 +27,7 @@ std::string startfile(const std::string& left = "") {
         else if (key == "BACKGROUNDCOLOR:")
             text += "10.6,20,300\n";
         else if (key.starts_with("DISPLAY"))
-            text += std::string(1, "sml"[key[17] - '1']) + "\n";
+            text += std::vector<std::string>{"st-a\n", "st-b\n", "move\n"}[key[17] - '1'];
         else
             text += "11,22,33,1,2,3,0.5,6,7\n";
     }
@@ -55,12 +55,7 @@ std::string palettefile(int records) {
 }
 
 filesbypath startfolder() {
-    std::string start = startfile();
-    const auto name = [&](const char* from, const char* to) { start.replace(start.find(from), 3, to); };
-    name(":\ns\n", ":\nst-a\n");
-    name(":\nm\n", ":\nst-b\n");
-    name(":\nl\n", ":\nmove\n");
-    return {{"datah/start.txt", start},
+    return {{"datah/start.txt", startfile()},
             {"datah/st-a.txt", group("st", 5, 30)},
             {"datah/st-b.txt", group("st", 50, 40)},
             {"datah/move.txt", group("mo", 90, 0)},
@@ -141,10 +136,8 @@ TEST(startdisplay, everyKeyMustBeThere) {
     for (const std::string& key : keys) {
         session s({{"datah/start.txt", startfile(key)}});
         const auto f = failureof([&] { s.start(); });
-        ASSERT_TRUE(f) << key;
-        EXPECT_EQ(f->kind, failurekind::inputpastend) << f->report;
-        EXPECT_NE(f->detail.find("datah\\start.txt"), std::string::npos) << f->report;
-        EXPECT_NE(f->detail.find("looking for " + key), std::string::npos) << f->report;
+        expectfailure(f, failurekind::inputpastend, "datah\\start.txt");
+        expectfailure(f, failurekind::inputpastend, "looking for " + key);
         EXPECT_FALSE(vistaplan.shown);
     }
 }
@@ -166,19 +159,14 @@ TEST(startdisplay, mistakesOfTheStartFiles) {
     };
     for (const auto& c : cases) {
         filesbypath files = startfolder();
-        std::string& text = files[c.path];
-        ASSERT_NE(text.find(c.taken), std::string::npos) << c.taken;
-        text.replace(text.find(c.taken), std::string(c.taken).size(), c.put);
+        files[c.path] = replaced(files[c.path], c.taken, c.put);
         session s(files);
-        const auto f = failureof([&] { s.start(); });
-        ASSERT_TRUE(f) << c.put;
-        EXPECT_EQ(f->kind, c.kind) << f->report;
-        EXPECT_NE(f->detail.find(c.told), std::string::npos) << f->report;
+        expectfailure(failureof([&] { s.start(); }), c.kind, c.told);
     }
     // Text between keys is free, but for a key as a field of its own.
     filesbypath files = startfolder();
     std::string& text = files["datah/start.txt"];
-    text.replace(text.find("DEFAULTPAL:"), 0, "see DEFAULTPAL: below, DEFAULTPAL:,other\n");
+    text = replaced(text, "DEFAULTPAL:", "see DEFAULTPAL: below, DEFAULTPAL:,other\nDEFAULTPAL:");
     session s(files);
     s.start();
     EXPECT_TRUE(palname.is("other"));
