@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # tools/make-pictures.sh PLAY FOLDER: draws the pictures of the elements and of the sample buildings with the player
-# PLAY, in working folders of its own, and leaves them in FOLDER (docs/pictures).
+# PLAY, in working folders of its own, and leaves them in FOLDER (docs/pictures). The sheet of the walk around the house
+# is put together by montage (package imagemagick).
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 play=$(realpath "$1")
@@ -19,6 +20,9 @@ scene() {
     fi
     { echo "click startprogrambtn"; cat; echo "picture $1.png"; echo "click exitbtn"; } |
         (cd "$scratch" && "$play" -)
+    if ls "$scratch"/walk-*.png >/dev/null 2>&1; then
+        montage "$scratch"/walk-*.png -tile 2x4 -geometry +4+4 -define png:exclude-chunks=date,time "$scratch/$1.png"
+    fi
     mv "$scratch/$1.png" "$folder"
     rm -r "$scratch"
 }
@@ -51,9 +55,48 @@ panels() {
     done
 }
 
+# A whole storey of steel: clicked in wires, then replayed solid on a cleared picture.
+storey() {
+    local i j
+    echo "click wiresolidbtn"
+    echo "click postbeambtn"
+    for i in 0 1 2 3 4 5; do
+        for j in 0 1 2 3 4 5 6 7; do
+            echo "click postx$((192 * i))y$((192 * j + 16))"
+            if ((j < 7)); then echo "click beamx$((192 * i))y$((192 * j + 16))"; fi
+            if ((i < 5)); then echo "click vbeamx$((192 * i + 16))y$((192 * j + 16))"; fi
+        done
+    done
+    echo "click groupbtn"
+    echo "click cventerbtn"
+    replay solid girders1
+}
+
+# The house from an eye that walks around it, each view set by hand; the pictures of one sheet, row by row. The markers
+# bring the layout grid back into the tables, so that SET draws it; they
+# also write the boxes, so they come first.
+walk() {
+    local n=0 eye
+    echo "click shopfm"
+    for eye in "1850 -1850" "2616 0" "1850 1850" "0 2616" "-1850 1850" "-2616 0" "-1850 -1850" "0 -2616"; do
+        echo "click groupbtn"
+        set -- $eye 830 -192 96 200 0.075 170 -270
+        for box in perptxtx perptxty perptxtz focustxtx focustxty focustxtz magtxt verttxt horiztxt; do
+            echo "type $box \"$1\""
+            shift
+        done
+        echo "click cventerbtn"
+        replay solid $house
+        n=$((n + 1))
+        echo "picture walk-$n.png"
+    done
+}
+
 mode() { if [ "$1" = wire ]; then echo "click wiresolidbtn"; fi; }
 
 scene start "" </dev/null
+storey | scene steel ""
+walk | scene walk ""
 replay solid $house | scene house ""
 replay wire $house | scene house-wire ""
 replay solid $tower rooft0 | scene tower "1850, -1850, 1230, 0, 0, 600, 0.036, 200, -270"

@@ -98,7 +98,6 @@ std::vector<stroke> letter(char c) {
     case '1': return {{0.3, 3, 1, 4}, {1, 4, 1, 0}, {0.3, 0, 1.7, 0}};
     case '2': return {{0, 3.2, 0.5, 4}, {0.5, 4, 1.5, 4}, {1.5, 4, 2, 3.2}, {2, 3.2, 0, 0}, {0, 0, 2, 0}};
     case '3': return {{0, 4, 2, 4}, {2, 4, 0.9, 2.4}, {0.9, 2.4, 2, 1.6}, {2, 1.6, 1.2, 0}, {1.2, 0, 0, 0.6}};
-    case '4': return {{1.5, 0, 1.5, 4}, {1.5, 4, 0, 1.4}, {0, 1.4, 2, 1.4}};
     default: return {};
     }
 }
@@ -115,7 +114,7 @@ void write(shape& s, int group, char c, corner at, double size) {
 
 // The three directions, at the corner of the plan from which the layouts count, and the height of the first floors.
 shape axes() {
-    constexpr double ox = -halfx - 8, oy = -halfy - 8, reach = 2 * bay, top = 4 * storey + 24;
+    constexpr double ox = -halfx - 8, oy = -halfy - 8, reach = 2 * bay, top = 3 * storey + 24;
     shape s;
     s.title = "The directions X and Y of the layouts and Z with a mark at each floor";
     s.wires = {paint::axisx, paint::axisy, paint::axisz, paint::axisz + 1, 0};
@@ -128,7 +127,7 @@ shape axes() {
     s.line(3, {ox, oy, 0}, {ox, oy, top});
     arrowhead(s, 3, {ox, oy, top}, {0, 0, 1}, {1, 0, 0}, {0, 1, 0});
     write(s, 3, 'Z', {ox + 30, oy + 30, top - 44}, 11);
-    for (int floor = 1; floor <= 4; floor++) {
+    for (int floor = 1; floor <= 3; floor++) {
         const double z = (floor - 1) * storey;
         s.line(4, {ox - 8, oy - 8, z}, {ox + 8, oy + 8, z});
         write(s, 4, static_cast<char>('0' + floor), {ox + 20, oy + 20, z + 30}, 6);
