@@ -44,4 +44,40 @@ TEST(makers, buttonpicturesarekept) {
     fs::remove_all(folder);
 }
 
+// How many pixels of two pictures differ clearly. Letters may come out a shade different with another font library.
+int clearlydifferent(const QImage& a, const QImage& b) {
+    if (a.size() != b.size()) return a.width() * a.height();
+    int count = 0;
+    for (int y = 0; y < a.height(); ++y)
+        for (int x = 0; x < a.width(); ++x) {
+            const QRgb p = a.pixel(x, y), q = b.pixel(x, y);
+            const int apart =
+                std::abs(qRed(p) - qRed(q)) + std::abs(qGreen(p) - qGreen(q)) + std::abs(qBlue(p) - qBlue(q));
+            count += apart > 150;
+        }
+    return count;
+}
+
+// Catches a control moved, added or renamed on the main window with the help's pictures of it left as they were.
+TEST(makers, windowpicturesarekept) {
+    const fs::path made = fs::temp_directory_path() / ("tessaly-shots" + std::to_string(::getpid()));
+    fs::create_directories(made / "help");
+    fs::create_directories(made / "documents");
+    const fs::path program = fs::path(TESSALY_PLAY).parent_path() / "makewindowpictures";
+    const std::string line = program.string() + " " + source.string() + " " + (made / "help").string() + " " +
+                             (made / "documents").string() + " 2>/dev/null";
+    ASSERT_EQ(std::system(line.c_str()), 0);
+    int pictures = 0;
+    for (const auto& [folder, kept] : {std::pair{made / "help", source / "windows" / "pictures"},
+                                       std::pair{made / "documents", source / "docs" / "pictures"}})
+        for (const auto& file : fs::directory_iterator(folder)) {
+            ++pictures;
+            const QImage now(QString::fromStdString(file.path().string()));
+            const QImage before(QString::fromStdString((kept / file.path().filename()).string()));
+            EXPECT_LT(clearlydifferent(now, before), now.width() * now.height() / 500) << file.path().filename();
+        }
+    EXPECT_EQ(pictures, 11);
+    fs::remove_all(made);
+}
+
 }  // namespace
