@@ -62,6 +62,9 @@ void drawdiagram(QPainter& painter) {
 
 }  // namespace
 
-void dresseasyviews(face& f) { f.decoration = drawdiagram; }
+void dresseasyviews(face& f) {
+    f.decoration = drawdiagram;
+    f.firstshowing = openatlowerright;
+}
 
 }  // namespace tessaly

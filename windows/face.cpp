@@ -9,6 +9,8 @@
 #include <QCloseEvent>
 #include <QIcon>
 #include <QPainter>
+#include <QScreen>
+#include <QWindow>
 
 namespace tessaly {
 
@@ -28,6 +30,8 @@ class planwidget : public QWidget {
   private:
     face& of;
 };
+
+constexpr int rim = 6;  // pixels: what a desktop may put around a window
 
 }  // namespace
 
@@ -52,6 +56,17 @@ QSize face::designedsize() const { return {inpixels(of.widthtwips), inpixels(of.
 void face::closeEvent(QCloseEvent* event) {
     event->ignore();  // whether it goes is the program's to say
     runevent([this] { closewindow(of); });
+}
+
+void openatlowerright(face& f) {
+    const QRect room = f.screen()->availableGeometry();
+    const QSize size = f.designedsize().boundedTo(room.size() - QSize(2 * rim, 2 * rim));
+    f.setGeometry(QRect(room.bottomRight() - QPoint(size.width() + rim, size.height() + rim), size));
+}
+
+void stayinfrontof(face& f, const tessaly::window& other) {
+    f.winId();  // makes the window of the desktop that is told so
+    if (const face* main = faceof(other)) f.windowHandle()->setTransientParent(main->windowHandle());
 }
 
 }  // namespace tessaly

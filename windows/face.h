@@ -28,6 +28,11 @@ class face : public QScrollArea {
     void closeEvent(QCloseEvent* event) override;
 };
 
+// For the first showing: places a window at the lower right of the screen; keeps it in front of another window,
+// whichever of the two the user works in.
+void openatlowerright(face& f);
+void stayinfrontof(face& f, const tessaly::window& other);
+
 // What each window has of its own, once its controls stand on the plan.
 void dressstartform(face& f);
 void dressvistaplan(face& f);

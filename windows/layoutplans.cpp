@@ -5,13 +5,11 @@
 #include "windows/look.h"
 
 #include <QPainter>
-#include <QScreen>
 
 namespace tessaly {
 
 namespace {
 
-constexpr int framewidth = 6;         // pixels: what a desktop may put around a window
 constexpr int columns = 8, rows = 6;  // grid points across and down
 
 // A grid point's place, and where the lines through it end.
@@ -73,7 +71,7 @@ void setbold(const control& label) {
     widget->setFont(font);
 }
 
-// Layouts open at the lower right of the screen, where the main window keeps the least of what they are used with.
+// Layouts open where the main window keeps the least of what they are used with, and stay in front of it.
 void dresslayout(face& f, const control& labelx, const control& labely, void (*draw)(QPainter&)) {
     setbold(labelx);
     setbold(labely);
@@ -82,11 +80,8 @@ void dresslayout(face& f, const control& labelx, const control& labely, void (*d
         draw(painter);
     };
     f.firstshowing = [](face& first) {
-        const QRect room = first.screen()->availableGeometry();
-        const QSize rim(2 * framewidth, 2 * framewidth);
-        const QSize size = first.designedsize().boundedTo(room.size() - rim);
-        first.setGeometry(
-            QRect(room.bottomRight() - QPoint(size.width() + framewidth, size.height() + framewidth), size));
+        openatlowerright(first);
+        stayinfrontof(first, vistaplan);
     };
 }
 
