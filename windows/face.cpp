@@ -65,7 +65,8 @@ void openatlowerright(face& f) {
 }
 
 void stayinfrontof(face& f, const tessaly::window& other) {
-    f.winId();  // makes the window of the desktop that is told so
+    f.setWindowFlags(Qt::Dialog);  // the kind that desktops keep in front of another
+    f.winId();                     // makes the desktop's own window, which is told so
     if (const face* main = faceof(other)) f.windowHandle()->setTransientParent(main->windowHandle());
 }
 
