@@ -83,7 +83,7 @@ void showface(face& f) {
     const bool first = !f.testAttribute(Qt::WA_WState_ExplicitShowHide);
     if (first) {
         f.resize(f.designedsize());
-        if (f.firstshowing) f.firstshowing(f);
+        f.firstshowing(f);
     }
     if (f.isMinimized()) f.setWindowState(f.windowState() & ~Qt::WindowMinimized);
     f.show();

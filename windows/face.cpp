@@ -10,6 +10,7 @@
 #include <QIcon>
 #include <QPainter>
 #include <QScreen>
+#include <QStyle>
 #include <QWindow>
 
 namespace tessaly {
@@ -31,7 +32,14 @@ class planwidget : public QWidget {
     face& of;
 };
 
-constexpr int rim = 6;  // pixels: what a desktop may put around a window
+constexpr int titlebar = 30;  // pixels: what a desktop may put above a window
+
+// What the screen leaves for a window's interior.
+QRect roomfor(const face& f) { return f.screen()->availableGeometry().adjusted(0, titlebar, 0, 0); }
+
+QRect within(const QRect& room, QSize size, Qt::Alignment where) {
+    return QStyle::alignedRect(Qt::LeftToRight, where, size.boundedTo(room.size()), room);
+}
 
 }  // namespace
 
@@ -59,10 +67,9 @@ void face::closeEvent(QCloseEvent* event) {
 }
 
 void openatlowerright(face& f) {
-    const QRect room = f.screen()->availableGeometry();
-    const QSize size = f.designedsize().boundedTo(room.size() - QSize(2 * rim, 2 * rim));
-    f.setGeometry(QRect(room.bottomRight() - QPoint(size.width() + rim, size.height() + rim), size));
+    f.setGeometry(within(roomfor(f), f.designedsize(), Qt::AlignRight | Qt::AlignBottom));
 }
+void openincentre(face& f) { f.setGeometry(within(roomfor(f), f.designedsize(), Qt::AlignCenter)); }
 
 void stayinfrontof(face& f, const tessaly::window& other) {
     f.setWindowFlags(Qt::Dialog);  // the kind that desktops keep in front of another

@@ -10,6 +10,14 @@
 
 namespace tessaly {
 
+class face;
+
+// For the first showing: places a window, no larger than the screen; keeps it in front of another window, whichever of
+// the two the user works in.
+void openincentre(face& f);
+void openatlowerright(face& f);
+void stayinfrontof(face& f, const window& other);
+
 class face : public QScrollArea {
   public:
     explicit face(tessaly::window& itswindow);
@@ -19,19 +27,14 @@ class face : public QScrollArea {
 
     // Paints behind the controls, in pixels of the plan.
     std::function<void(QPainter&)> decoration;
-    // The first showing: where it stands and how large; without it the designed size, as far as the screen allows.
-    std::function<void(face&)> firstshowing;
+    // The first showing: where it stands and how large.
+    std::function<void(face&)> firstshowing = openincentre;
 
     tessaly::window& of;
 
   protected:
     void closeEvent(QCloseEvent* event) override;
 };
-
-// For the first showing: places a window at the lower right of the screen; keeps it in front of another window,
-// whichever of the two the user works in.
-void openatlowerright(face& f);
-void stayinfrontof(face& f, const tessaly::window& other);
 
 // What each window has of its own, once its controls stand on the plan.
 void dressstartform(face& f);

@@ -5,7 +5,6 @@
 
 #include <QLabel>
 #include <QPainter>
-#include <QScreen>
 
 namespace tessaly {
 
@@ -50,11 +49,6 @@ void drawframe(QPainter& painter) {
 
 void dressstartform(face& f) {
     f.decoration = drawframe;
-    f.firstshowing = [](face& first) {
-        const QRect room = first.screen()->availableGeometry();
-        const QSize size = first.designedsize().boundedTo(room.size());
-        first.setGeometry(QRect(room.center() - QPoint(size.width() / 2, size.height() / 2), size));
-    };
     enlarge(Label1, titlepixels, true);
     enlarge(Label3, datepixels, false);
     enlarge(startprogrambtn, startpixels, true);
