@@ -58,11 +58,11 @@ void projectpoint(const sight& s, int p) {
     const double rx = planex[referencepoint] - s.cx, ry = planey[referencepoint] - s.cy,
                  rz = planez[referencepoint] - s.cz;
     const double distance = std::sqrt((hx * hx + hy * hy) + hz * hz);
-    const double divisor = distance * std::sqrt(rx * rx + ry * ry + rz * rz);
+    const double reference = std::sqrt(rx * rx + ry * ry + rz * rz), divisor = distance * reference;
     if (divisor == 0)
         throw failure(failurekind::divisionbyzero,
-                      distance == 0 ? "a point lies on the axis of sight, it has no direction on the picture plane"
-                                    : "the eye stands straight above or below the focus");
+                      reference == 0 ? "the eye stands straight above or below the focus"
+                                     : "a point lies on the axis of sight, it has no direction on the picture plane");
     const double cosine = ((hx * rx + hy * ry) + hz * rz) / divisor;
     planedist.set(p, distance);
     planecos.set(p, cosine);
