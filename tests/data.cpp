@@ -83,9 +83,10 @@ double area(const outline& o) {
 double commonarea(outline a, outline b) {
     if (area(b) < 0) std::reverse(b.begin(), b.end());
     for (std::size_t i = 0; i < b.size(); i++) {
-        const auto [px, py] = b[i];
-        const auto [qx, qy] = b[(i + 1) % b.size()];
-        const auto side = [&](const auto& s) { return (qx - px) * (s.second - py) - (qy - py) * (s.first - px); };
+        const auto &p = b[i], &q = b[(i + 1) % b.size()];
+        const auto side = [&](const auto& s) {
+            return (q.first - p.first) * (s.second - p.second) - (q.second - p.second) * (s.first - p.first);
+        };
         outline kept;
         for (std::size_t k = 0; k < a.size(); k++) {
             const auto &from = a[k], &to = a[(k + 1) % a.size()];
