@@ -1,7 +1,7 @@
 // The words of the instructions window: they fit their pages, and they say what a user must not miss.
 #include "windows/helppages.h"
 
-#include "core/controls.h"
+#include "tests/session.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -90,4 +90,24 @@ TEST(helppages, sayWhatAUserMustNotMiss) {
     const std::string captures = sentences("capturetext");
     EXPECT_THAT(captures, HasSubstr("You must include the .bmp file extension when naming a capture."));
     EXPECT_THAT(captures, HasSubstr("The txt file of a capture is not to be deleted unless its bmp file goes too"));
+}
+
+TEST(helpwindow, regionsShowTheirPagesAndNoOthers) {
+    session s;
+    const auto shown = [] {
+        std::string pages;
+        for (const control* c : instructions.controls)
+            if (c->shown && (c->kind == controlkind::page || c == &startpicbox)) pages += c->name + ' ';
+        return pages;
+    };
+    s.start();
+    s.click("instructionsbtn");
+    EXPECT_EQ(shown(), "startpicbox ");
+    s.click("filereaderbtn");
+    EXPECT_EQ(shown(), "filereadertext filereadertext2 ");
+    s.click("displaybtn");
+    s.click("returntomainbtn");
+    EXPECT_EQ(shown(), "displaytext ");
+    s.click("instructionsbtn");
+    EXPECT_EQ(shown(), "startpicbox ");
 }

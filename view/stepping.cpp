@@ -56,9 +56,11 @@ void stepmag(int sign) {
     magtxt.text = boxtext(magshown, 6);
 }
 
-// The shift itself is cut to what five characters hold of it before the step: what stands behind them is lost.
+// The shift itself is cut to what five characters hold of it before the step: what stands behind them is lost. Where
+// they end within an exponent, the digits in front of it count; a shift that is no number at all fails.
 void stepshift(int sign, value& shift, control& box) {
     shiftinc = pickedstep(incrementlist, usualshiftstep);
+    static_cast<void>(static_cast<double>(shift));
     shift = Val(boxtext(shift, 5)) + sign * shiftinc;
     settle();
     replot();
