@@ -53,8 +53,8 @@ TEST(samples, theTowerHasTenFloors) {
     s.start();
     s.click("wiresolidbtn");
     build(s, "tower");
-    for (int floor = 1; floor <= 10; ++floor) {
-        const std::string n = std::to_string(floor), kept = std::to_string(floor % 10);
+    for (int level = 1; level <= 10; ++level) {
+        const std::string n = std::to_string(level), kept = std::to_string(level % 10);
         EXPECT_EQ(session::file("designs/girders" + n + ".txt"), sample("girdtow" + kept + ".txt")) << n;
         EXPECT_EQ(session::file("designs/panels" + n + ".txt"), sample("paneto" + kept + ".txt")) << n;
     }
