@@ -107,3 +107,12 @@ for way in solid wire; do
     { mode $way; panels 180 976 784 -192 0; } | scene panels-180$name "-500, 2200, 560, 96, 104, 150, 0.1, 200, -270"
     { mode $way; panels 270 384 1168 0 -192; } | scene panels-270$name "-2200, -500, 560, -104, 96, 150, 0.1, 200, -270"
 done
+
+# The guide's own building, by the guide's own script.
+scratch=$(mktemp -d)
+cp -r "$root/datah" "$root/pals" "$scratch"
+mkdir "$scratch/designs" "$scratch/bmps" "$scratch/nonuser"
+(cd "$scratch" && "$play" "$root/docs/guide.play")
+rm "$scratch/guide-retrieved.png" # the same as guide-house.png
+mv "$scratch"/guide-*.png "$folder"
+rm -r "$scratch"
