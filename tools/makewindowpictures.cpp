@@ -39,8 +39,8 @@ constexpr region regions[] = {
     {"elementsbtn",    {    0,    0, 1755, 10605}},
     {"filereaderbtn",  { 1830, 8730, 2595,  1875}},
     {"displaybtn",     { 6030, 8730, 1065,  1875}},
-    {"viewcontrolbtn", { 7110, 8730, 6420,  1875}},
-    {"capturesbtn",    {13575, 8730, 1740,  1875}},
+    {"viewcontrolbtn", { 7110, 8730, 6465,  1875}},
+    {"capturesbtn",    {13560, 8730, 1755,  1875}},
     // clang-format on
 };
 

@@ -107,17 +107,19 @@ void button::paintEvent(QPaintEvent*) {
     paintface(painter);
     if (isDown()) painter.translate(1, 1);
     if (shows && !shows->isnull())
-        shows->paint(painter, QRectF(rect()).adjusted(3, 3, -3, -3));
+        shows->paint(painter, QRectF(seen()).adjusted(3, 3, -3, -3));
     else
         paintcaption(painter);
 }
+
+QRect button::seen() const { return rect() & parentWidget()->rect().translated(-pos()); }
 
 void button::paintface(QPainter& painter) const {
     const QColor base = isDown() ? face.darker(115) : underMouse() ? face.lighter(106) : face;
     QLinearGradient shade(0, 0, 0, height());
     shade.setColorAt(0, isDown() ? base.darker(106) : base.lighter(108));
     shade.setColorAt(1, isDown() ? base : base.darker(106));
-    const QRectF rim = QRectF(rect()).adjusted(0.5, 0.5, -0.5, -0.5);
+    const QRectF rim = QRectF(seen()).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.setRenderHint(QPainter::Antialiasing);
     // The ring of the keyboard shows only to those who use it.
     const bool ring = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);

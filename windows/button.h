@@ -42,6 +42,8 @@ class button : public QPushButton {
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
+    // What of it lies on the plan: the help's picture buttons are longer than their window.
+    QRect seen() const;
     void paintface(QPainter& painter) const;
     void paintcaption(QPainter& painter) const;
 
