@@ -12,6 +12,7 @@
 namespace tessaly {
 
 tablebase* tablebase::first = nullptr;
+bool plainway = false;
 
 #define TABLE(name) name(#name)
 table<value, lastpoint, clearedpoints> TABLE(basex), TABLE(basey), TABLE(basez), TABLE(ptx), TABLE(pty), TABLE(ptz);
@@ -95,7 +96,7 @@ void subscriptfailure(const char* tablename, double index, int last) {
                                               ", an index 0.." + std::to_string(last) + " was expected");
 }
 
-int indexof(const value& v, const char* tablename) {
+int roundedindex(const value& v, const char* tablename) {
     const double index = nearestwhole(v);
     if (!(std::abs(index) < 1e9)) subscriptfailure(tablename, index, 0);
     return static_cast<int>(index);
@@ -104,11 +105,12 @@ int indexof(const value& v, const char* tablename) {
 void resetworld() {
     std::fill(linecount + 1, std::end(linecount), value(0));
     std::fill(ptcount + 1, std::end(ptcount), value(0));
-    for (auto* t : {&ptx, &pty, &ptz, &basex, &basey, &basez}) t->clear();
+    const auto clear = [](auto& t) { plainway ? t.clearplainly() : t.clear(); };
+    for (auto* t : {&ptx, &pty, &ptz, &basex, &basey, &basez}) clear(*t);
     for (auto* t : {&quad1, &quad2, &quad3, &quad4, &framing1, &framing2, &quadface, &quadgrade, &quadcolour})
-        t->clear();
-    cubegrade.clear();
-    cubecolour.clear();
+        clear(*t);
+    clear(cubegrade);
+    clear(cubecolour);
 }
 
 void forgetworld() {

@@ -158,6 +158,10 @@ const scalar* scalarsend();
 // coordinates, quads, framing, colours and grades, and indexes 1..700 of cubecolour. Everything else stays.
 void resetworld();
 
+// true: every shortcut gives way to the plain way that it stands for. Tests and benchmarks compare the two; the program
+// never sets it.
+extern bool plainway;
+
 // Puts every table and scalar back to its state before the program started.
 void forgetworld();
 

@@ -5,56 +5,16 @@
 #include "core/colour.h"
 #include "core/world.h"
 #include "render/projector.h"
+#include "render/quadsort.h"
 #include "render/surface.h"
-
-#include <cmath>
 
 namespace tessaly {
 
 namespace {
 
-constexpr int lastsorted = 7000;                          // quads that take part in the sort
-constexpr int mostpainted = 100;                          // nearest quads that are painted
-constexpr double farthest = 1000000, takenout = 2000000;  // model units
+constexpr int mostpainted = 100;  // nearest quads that are painted
 
 bool emptyquad(int i) { return quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[i] == 0; }
-
-double eyedistance(const value& point) {
-    const double x = perpx - ptx[point], y = perpy - pty[point], z = perpz - ptz[point];
-    return std::sqrt((x * x + y * y) + z * z);
-}
-
-// The distances of a quad's corners from the eye; the nearest is its key.
-void measurequads() {
-    for (int i = 1; i <= lastsorted; ++i) {
-        // The fourth corner is slot 0's, not slot i's: three corners decide whether a quad counts as empty here.
-        if (quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[0] == 0) continue;
-        quadcornerdist1.set(i, eyedistance(quad1[i]));
-        quadcornerdist2.set(i, eyedistance(quad3[i]));
-        quadcornerdist3.set(i, eyedistance(quad2[i]));
-        quadcornerdist4.set(i, eyedistance(quad4[i]));
-        double nearest = quadcornerdist1[i];
-        if (quadcornerdist2[i] < nearest) nearest = quadcornerdist2[i];
-        if (quadcornerdist3[i] < nearest) nearest = quadcornerdist3[i];
-        if (quadcornerdist4[i] < nearest) nearest = quadcornerdist4[i];
-        quaddist.set(i, nearest);
-    }
-}
-
-// Selection sort, nearest first, ties to the lower slot. A key of a million or more is never chosen: the position then
-// keeps what it held, and what it holds is taken out once more.
-void sortquads() {
-    for (int i = 1; i <= lastsorted; ++i) {
-        if (emptyquad(i)) continue;
-        double best = farthest;
-        for (int j = 1; j <= lastsorted; ++j) {
-            if (emptyquad(j) || !(quaddist[j] < best)) continue;
-            best = quaddist[j];
-            quadorder.set(i, j);
-        }
-        quaddist.set(quadorder[i], takenout);
-    }
-}
 
 bool isroof(const value& filename) { return filename.text().substr(0, 4) == "roof"; }
 
@@ -129,8 +89,7 @@ void drawframing(int q) {
 }  // namespace
 
 void paintsolids() {
-    measurequads();
-    sortquads();
+    orderquads();
     divisions = choosedivisions();
     for (int i = mostpainted; i >= 1; --i) {
         if (emptyquad(i)) continue;  // the slot at i itself: an element's quads fill the table from 1 upward

@@ -4,6 +4,7 @@
 
 #include "core/channels.h"
 #include "core/failure.h"
+#include "render/facefill.h"
 #include "render/linepart.h"
 
 #include <algorithm>
@@ -56,13 +57,43 @@ void raster::line(float x1, float y1, float x2, float y2, colour c) {
     }
 }
 
+void raster::fillrow(int y, int x1, int x2, std::uint32_t pixel) {
+    const int left = std::max(x1, 0), right = std::min(x2, wide - 1);
+    if (y < 0 || y >= high || left > right) return;
+    const auto row = image.begin() + static_cast<std::ptrdiff_t>(y) * wide;
+    std::fill(row + left, row + right + 1, pixel);
+}
+
 void raster::wash(int x1, int x2, int y1, int y2, colour c) {
-    const int left = std::max(std::min(x1, x2), 0), right = std::min(std::max(x1, x2), wide - 1);
-    if (left > right) return;
-    for (int y = std::max(y1, 0); y <= std::min(y2, high - 1); ++y) {
-        const auto row = image.begin() + static_cast<std::ptrdiff_t>(y) * wide;
-        std::fill(row + left, row + right + 1, pixelof(c));
+    for (int y = std::max(y1, 0); y <= std::min(y2, high - 1); ++y)
+        fillrow(y, std::min(x1, x2), std::max(x1, x2), pixelof(c));
+}
+
+void raster::web(const facecorners& f, int n, colour c) {
+    const auto [left, right] = std::minmax({f.x1, f.x2, f.x3, f.x4});
+    const auto [top, bottom] = std::minmax({f.y1, f.y2, f.y3, f.y4});
+    const auto pixels = [](double from, double to) { return from >= -mostpixels && to <= mostpixels; };
+    if (!pixels(left, right) || !pixels(top, bottom) || n < 1 || n > mostdivisions) return surface::web(f, n, c);
+    // The last of the ends may stand a rounding beyond its corner.
+    const int x1 = nearestpixel(static_cast<float>(left)) - 1, x2 = nearestpixel(static_cast<float>(right)) + 1;
+    const int y1 = nearestpixel(static_cast<float>(top)) - 1, y2 = nearestpixel(static_cast<float>(bottom)) + 1;
+    if (x2 < 0 || x1 >= wide || y2 < 0 || y1 >= high) return;
+
+    const rails sets[] = {{f.x1, f.y1, f.x2, f.y2, f.x3, f.y3, f.x4, f.y4},
+                          {f.x1, f.y1, f.x3, f.y3, f.x2, f.y2, f.x4, f.y4}};
+    const std::uint32_t pixel = pixelof(c);
+    if (x2 - x1 >= pixelmask::mostsize || y2 - y1 >= pixelmask::mostsize) {
+        linepart part;
+        for (const rails& set : sets)
+            for (const pixelline& l : distinctlines(set, n))
+                if (visiblepart(l, wide, high, part)) paintpart(part, image.data(), wide, pixel);
+        return;
     }
+    static pixelmask mask;
+    mask.cover(x1, y1, x2, y2);
+    for (const rails& set : sets)
+        for (const pixelline& l : distinctlines(set, n)) mask.addline(l);
+    mask.overruns([&](int y, int from, int to) { fillrow(y, from, to, pixel); });
 }
 
 void raster::save(const std::string& path) {

@@ -2,6 +2,7 @@
 // else.
 #include "render/raster.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <gtest/gtest.h>
@@ -164,4 +165,62 @@ TEST(raster, washLightsWhatItsLinesWould) {
         quick.wash(x1, x2, y1, y2, red);
         ASSERT_EQ(pixelsof(quick), pixelsof(plain)) << x1 << ' ' << x2 << ' ' << y1 << ' ' << y2;
     }
+}
+
+namespace {
+
+// A point of a face: near the image, far off it, or at the mark of a point that was given up.
+void randomcorner(dice& d, int kind, double& x, double& y) {
+    const float reach = kind == 0 ? 12 : kind == 1 ? 60 : kind == 2 ? 300 : kind == 3 ? 2000 : 3e5F;
+    const float middle = kind < 2 ? static_cast<float>(40) : 90;
+    x = static_cast<double>(middle + d.figure(reach));
+    y = static_cast<double>(middle + d.figure(reach));
+    if (d.whole(0, 7) == 0) x = std::floor(x) + d.whole(0, 1) / 2.0;  // on a border between pixels
+    if (d.whole(0, 7) == 0) y = std::floor(y) + d.whole(0, 1) / 2.0;
+    if (d.whole(0, 40) == 0) y = 9999;
+    if (d.whole(0, 60) == 0) x = std::ldexp(1.0, d.whole(20, 130)) * (d.whole(0, 1) * 2 - 1);
+}
+
+// Corners like those of a flat rectangle seen in perspective, or anywhere at all; sometimes two of them are one.
+facecorners randomface(dice& d) {
+    const int kind = d.whole(0, 4);
+    facecorners f{};
+    randomcorner(d, kind, f.x1, f.y1);
+    randomcorner(d, kind, f.x2, f.y2);
+    randomcorner(d, kind, f.x3, f.y3);
+    randomcorner(d, kind, f.x4, f.y4);
+    if (d.whole(0, 1) == 0) {
+        f.x4 = f.x2 + f.x3 - f.x1 + static_cast<double>(d.figure(3));
+        f.y4 = f.y2 + f.y3 - f.y1 + static_cast<double>(d.figure(3));
+    }
+    if (d.whole(0, 9) == 0) f.x2 = f.x1, f.y2 = f.y1;
+    if (d.whole(0, 9) == 0) f.x4 = f.x3, f.y4 = f.y3;
+    return f;
+}
+
+}  // namespace
+
+// A hole that is filled though no line lights it, a pixel of a line that is lost, a line that is taken for its double.
+TEST(raster, webLightsWhatItsLinesWould) {
+    dice d;
+    raster plain(200, 170), quick(200, 170);
+    int lit = 0, holes = 0;
+    for (int i = 0; i < 2000; ++i) {
+        const facecorners f = randomface(d);
+        const int sizes[] = {1, 7, 50, 200, 200, 200, 400, 1500};
+        const int n = sizes[d.whole(0, 7)];
+        plain.clear();
+        quick.clear();
+        plain.surface::web(f, n, red);
+        quick.web(f, n, red);
+        const auto expected = pixelsof(plain);
+        ASSERT_TRUE(pixelsof(quick) == expected)
+            << "face " << i << ": " << f.x1 << ' ' << f.y1 << ", " << f.x2 << ' ' << f.y2 << ", " << f.x3 << ' ' << f.y3
+            << ", " << f.x4 << ' ' << f.y4 << " by " << n;
+        lit += std::count(expected.begin(), expected.end(), true) > 500;
+        for (std::size_t p = 201; p + 201 < expected.size(); ++p)
+            holes += !expected[p] && expected[p - 1] && expected[p + 1] && expected[p - 200] && expected[p + 200];
+    }
+    EXPECT_GT(lit, 300);
+    EXPECT_GT(holes, 300);
 }

@@ -1,0 +1,33 @@
+// Lines through QPainter, and lines counted.
+
+#include "bench/surfaces.h"
+
+#include "render/linepart.h"
+
+namespace tessaly {
+
+painterimage::painterimage(bool clipped) : image(viewwide, viewhigh, QImage::Format_RGB32), painter(&image) {
+    image.fill(Qt::white);
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    if (clipped) painter.setClipRect(image.rect());
+    painter.setPen(QColor(0, 0, 0));
+}
+
+void painterimage::line(float x1, float y1, float x2, float y2, colour c) {
+    if (!(c == pencolour)) {
+        painter.setPen(QColor(c.red, c.green, c.blue));
+        pencolour = c;
+    }
+    painter.drawLine(
+        QLineF(static_cast<qreal>(x1), static_cast<qreal>(y1), static_cast<qreal>(x2), static_cast<qreal>(y2)));
+}
+
+void pixelcounter::line(float x1, float y1, float x2, float y2, colour) {
+    ++lines;
+    if (!withinnearline(x1, y1, x2, y2)) return;
+    linepart part;
+    if (visiblepart({nearestpixel(x1), nearestpixel(y1), nearestpixel(x2), nearestpixel(y2)}, viewwide, viewhigh, part))
+        pixels += part.last - part.first + 1;
+}
+
+}  // namespace tessaly

@@ -1,0 +1,56 @@
+// The surfaces that a benchmark draws on: the program's own, the same with every compound operation line by line, the
+// same lines through QPainter, and none at all.
+#pragma once
+
+#include "render/raster.h"
+
+#include <QImage>
+#include <QPainter>
+#include <cstdint>
+
+namespace tessaly {
+
+constexpr int viewwide = 897, viewhigh = 581;
+
+// The plain way of the program's own image.
+class plainraster : public raster {
+  public:
+    plainraster() : raster(viewwide, viewhigh) {}
+    void wash(int x1, int x2, int y1, int y2, colour c) override { surface::wash(x1, x2, y1, y2, c); }
+    void web(const facecorners& f, int n, colour c) override { surface::web(f, n, c); }
+};
+
+// Every line one call of QPainter, without antialiasing. clipped: with the painter's clip rectangle set.
+class painterimage : public surface {
+  public:
+    explicit painterimage(bool clipped);
+    void line(float x1, float y1, float x2, float y2, colour c) override;
+    void save(const std::string&) override {}
+    void setpicture(const std::string&) override {}
+
+  private:
+    QImage image;
+    QPainter painter;
+    colour pencolour;
+};
+
+// Draws nothing: what remains is the cost of everything but drawing.
+class nosurface : public surface {
+  public:
+    void line(float, float, float, float, colour) override {}
+    void wash(int, int, int, int, colour) override {}
+    void web(const facecorners&, int, colour) override {}
+    void save(const std::string&) override {}
+    void setpicture(const std::string&) override {}
+};
+
+// Counts the pixels that the lines light one by one, those lit twice twice.
+class pixelcounter : public nosurface {
+  public:
+    void line(float x1, float y1, float x2, float y2, colour c) override;
+    void wash(int x1, int x2, int y1, int y2, colour c) override { surface::wash(x1, x2, y1, y2, c); }
+    void web(const facecorners& f, int n, colour c) override { surface::web(f, n, c); }
+    std::int64_t pixels = 0, lines = 0;
+};
+
+}  // namespace tessaly
