@@ -51,25 +51,26 @@ std::uint64_t bitrange(int from, int to) { return (~std::uint64_t(0) >> (64 - (t
 
 }  // namespace
 
-const std::vector<pixelline>& distinctlines(const rails& r, int n) {
-    static std::vector<pixelline> lines;
-    lines.resize(static_cast<std::size_t>(n) + 1);
+std::span<const pixelline> distinctlines(const rails& r, int n) {
+    static std::array<pixelline, mostdivisions + 1> lines;
     const double* const shares = sharesof(n);
     pixelblock x1, y1, x2, y2;
-    std::size_t found = 0;
+    pixelline* found = lines.data();
     const auto count = static_cast<std::size_t>(n) + 1;
     for (std::size_t t = 0; t < count; t += block) {
         roundends(r.ax, r.bx, shares + t, x1);
         roundends(r.ay, r.by, shares + t, y1);
         roundends(r.cx, r.dx, shares + t, x2);
         roundends(r.cy, r.dy, shares + t, y2);
+        if (t == 0) *found = {x1[0], y1[0], x2[0], y2[0]};
+        // Stored behind the last one always, and kept where it differs: no branch to guess.
         for (std::size_t i = 0; i < std::min(block, count - t); ++i) {
-            const pixelline l{x1[i], y1[i], x2[i], y2[i]};
-            if (found == 0 || !(l == lines[found - 1])) lines[found++] = l;
+            const int differs = (x1[i] ^ found->x1) | (y1[i] ^ found->y1) | (x2[i] ^ found->x2) | (y2[i] ^ found->y2);
+            found += differs != 0;
+            *found = {x1[i], y1[i], x2[i], y2[i]};
         }
     }
-    lines.resize(found);
-    return lines;
+    return {lines.data(), found + 1};
 }
 
 void pixelmask::cover(int itsleft, int itstop, int right, int bottom) {

@@ -6,18 +6,19 @@
 
 #include <bit>
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace tessaly {
 
 // The lines t = 0..n between edge a-b and edge c-d, as sweep draws them, in whole pixels; lines that repeat the one
-// before are left out. Corners up to mostpixels, n up to mostdivisions.
+// before are left out. The next call overwrites them. Corners up to mostpixels, n up to mostdivisions.
 struct rails {
     double ax, ay, bx, by, cx, cy, dx, dy;
 };
 constexpr double mostpixels = 1 << 26;
 constexpr int mostdivisions = 4096;
-const std::vector<pixelline>& distinctlines(const rails& r, int n);
+std::span<const pixelline> distinctlines(const rails& r, int n);
 
 // Pixels of a box of the picture, at first none.
 class pixelmask {
