@@ -18,7 +18,8 @@ constexpr const char* none[] = {"0,0,0,0,0,0,0,-1,0,0",  "0,0,0,0,0,0,0,99,0,0",
 std::string cubefile(const std::array<const char*, 6>& rows, const std::string& singles = "",
                      const std::string& framing = "", const std::string& script = "TRAN\nSTOP\n") {
     std::string text = "A test's cubes\nWIRECOLORS:\n6,7,8,9\n";
-    for (int i = 0; i < 6; ++i) text += "AUTOCUBE" + std::to_string(i) + "00:\n" + (rows[i] ? rows[i] : none[i]) + "\n";
+    for (std::size_t i = 0; i < rows.size(); ++i)
+        text += "AUTOCUBE" + std::to_string(i) + "00:\n" + (rows[i] ? rows[i] : none[i]) + "\n";
     return text + "AUTOCUBE600:\n" + singles + "9999,0,0,0,0,0,0,0,0\nAUTOFRAMING1:\n" + framing +
            "0,0,9999\nAUTOFRAMING2:\n0,0,9999\n" + script;
 }
@@ -36,7 +37,7 @@ void readfile(void (*reader)(), const std::string& text) {
 TEST(cubes, rowsMarchAlongTheReadersAxis) {
     struct {
         void (*reader)();
-        int axis;
+        std::size_t axis;
     } const readers[] = {{readcubex, 0}, {readcubey, 1}, {readcubez, 2}};
     for (const auto& r : readers) {
         session s(ownfolder);

@@ -51,7 +51,7 @@ void expectcube(int first, int quad, const corner& a, const corner& b) {
     EXPECT_EQ(faces.size(), 6U);
     for (const auto& face : faces)
         for (const corner& c : face)
-            for (int axis = 0; axis < 3; ++axis) EXPECT_TRUE(c[axis] == a[axis] || c[axis] == b[axis]);
+            for (std::size_t axis = 0; axis < 3; ++axis) EXPECT_TRUE(c[axis] == a[axis] || c[axis] == b[axis]);
 }
 
 }  // namespace
@@ -164,7 +164,8 @@ TEST(elements, placementsTurnThenMove) {
         placez = 256;
         readelements();
         const corner placed = base(1);
-        for (int axis = 0; axis < 3; ++axis) EXPECT_NEAR(placed[axis], c.expected[axis], 1e-3) << "mode " << c.mode;
+        for (std::size_t axis = 0; axis < 3; ++axis)
+            EXPECT_NEAR(placed[axis], c.expected[axis], 1e-3) << "mode " << c.mode;
         EXPECT_TRUE(placex == 12 && placey == 20 && placez == 256);
         EXPECT_EQ(rotz, c.rotz);
         EXPECT_EQ(rotx, c.mode == 2 ? c.rotx * 3.14159 / 180 : c.rotx);
