@@ -27,7 +27,7 @@ std::string startfile(const std::string& left = "") {
         else if (key == "BACKGROUNDCOLOR:")
             text += "10.6,20,300\n";
         else if (key.starts_with("DISPLAY"))
-            text += std::vector<std::string>{"st-a\n", "st-b\n", "move\n"}[key[17] - '1'];
+            text += std::vector<std::string>{"st-a\n", "st-b\n", "move\n"}.at(static_cast<std::size_t>(key[17] - '1'));
         else
             text += "11,22,33,1,2,3,0.5,6,7\n";
     }
