@@ -8,6 +8,8 @@
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMessageBox>
+#include <QScreen>
+#include <QScrollBar>
 
 namespace tessaly {
 
@@ -36,10 +38,11 @@ TEST_F(windowsession, startBringsTheMainWindowWithTheScene) {
     EXPECT_TRUE(faceof(vistaplan)->windowState() & Qt::WindowMaximized);
     EXPECT_EQ(textof(verttxt), verttxt.text);
     const QImage seen = widgetof(viewport)->grab().toImage();
-    ASSERT_EQ(seen.size(), QSize(viewportwidth, viewportheight));
-    for (int y = 0; y < viewportheight; ++y)
-        for (int x = 0; x < viewportwidth; ++x) {
-            const colour c = viewportimage().at(x, y);
+    const auto scale = static_cast<int>(seen.devicePixelRatio());  // a pixel stays a pixel, however large the screen's
+    ASSERT_EQ(seen.size(), QSize(viewportwidth, viewportheight) * scale);
+    for (int y = 0; y < seen.height(); ++y)
+        for (int x = 0; x < seen.width(); ++x) {
+            const colour c = viewportimage().at(x / scale, y / scale);
             ASSERT_EQ(seen.pixelColor(x, y), screencolour(c)) << x << ", " << y;
         }
 }
@@ -93,6 +96,25 @@ TEST_F(windowsession, listsArePickedByMouseAndKeyboard) {
     EXPECT_EQ(selectedtext(floorlist), "6");  // moving alone picks nothing
     QTest::keyClick(rows, Qt::Key_Return);
     EXPECT_EQ(textof(floor), "5");
+}
+
+TEST_F(windowsession, theBoxesAreWalkedByTabAndF1OpensTheHelp) {
+    start();
+    click(shopfm);
+    type(perptxtx, "1700");
+    for (const control* c : {&perptxty, &perptxtz, &focustxtx, &focustxty, &focustxtz, &magtxt, &verttxt, &horiztxt}) {
+        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+        auto* box = qobject_cast<QLineEdit*>(widgetof(*c));
+        EXPECT_EQ(QApplication::focusWidget(), box) << c->name;
+        EXPECT_EQ(box->selectedText(), box->text()) << c->name;
+    }
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_F1);
+    ASSERT_TRUE(faceof(instructions));
+    EXPECT_TRUE(faceof(instructions)->isVisible());
+    const QSize screen = faceof(instructions)->screen()->availableSize();  // smaller than this window
+    EXPECT_LE(faceof(instructions)->height(), screen.height());
+    EXPECT_GT(faceof(instructions)->verticalScrollBar()->maximum(), 0);
+    EXPECT_EQ(perptxtx.text, "1700");
 }
 
 TEST_F(windowsession, theProgressStripMovesWhileThePictureWaits) {

@@ -83,16 +83,23 @@ picture::picture(const QString& name) {
 
 QSize picture::size() const { return pixels.isNull() ? drawing.defaultSize() : pixels.size(); }
 
+// Scaled by whole areas: a small picture keeps the thin lines of a large one.
+QPixmap picture::scaledto(QSizeF size, qreal ratio) const {
+    QPixmap scaled = pixels.scaled((size * ratio).toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    scaled.setDevicePixelRatio(ratio);
+    return scaled;
+}
+
 void picture::paint(QPainter& painter, const QRectF& into) const {
     if (isnull()) return;
     QSizeF fitted = QSizeF(size()).scaled(into.size(), Qt::KeepAspectRatio);
     QRectF place({0, 0}, fitted);
     place.moveCenter(into.center());
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);
+    painter.setRenderHint(QPainter::Antialiasing);
     if (pixels.isNull())
         drawing.render(&painter, place);
     else
-        painter.drawPixmap(place, pixels, pixels.rect());
+        painter.drawPixmap(place.topLeft(), scaledto(place.size(), painter.device()->devicePixelRatioF()));
 }
 
 button::button(const QColor& itsface, QWidget* parent) : QPushButton(parent), face(itsface) {
@@ -107,7 +114,7 @@ void button::paintEvent(QPaintEvent*) {
     paintface(painter);
     if (isDown()) painter.translate(1, 1);
     if (shows && !shows->isnull())
-        shows->paint(painter, QRectF(seen()).adjusted(3, 3, -3, -3));
+        shows->paint(painter, QRectF(seen()).adjusted(2, 2, -2, -2));
     else
         paintcaption(painter);
 }

@@ -28,6 +28,8 @@ class picture {
     void paint(QPainter& painter, const QRectF& into) const;
 
   private:
+    QPixmap scaledto(QSizeF size, qreal ratio) const;
+
     QPixmap pixels;
     mutable QSvgRenderer drawing;
 };
