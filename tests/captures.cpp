@@ -1,6 +1,6 @@
 // Captures: the record's exact bytes, what comes back, and what every failure leaves behind.
 #include "core/windows1252.h"
-#include "tests/session.h"
+#include "tests/viewlines.h"
 
 namespace tessaly {
 namespace {
@@ -60,6 +60,7 @@ TEST(capture, writesARecordOfTheBoxesBesideTheBitmap) {
     EXPECT_TRUE(std::filesystem::is_empty("bmps") && capbox.text.empty() && !capbox.shown && !bmplabel.shown);
     s.capture("view1.bmp");
     EXPECT_EQ(s.file("bmps/view1.txt"), defaultrecord);
+    EXPECT_FALSE(bmplabel.shown);
     s.type("perptxtx", "a \"\xE2\x82\xAC\" \xC3\xA9 \xE6\xBC\xA2");  // as typed, not as SET, nothing escaped
     s.capture("view1.bmp");
     EXPECT_EQ(s.file("bmps/view1.bmp"), "picture 2");
@@ -98,6 +99,14 @@ TEST(retrieval, bringsViewAndPictureBackByEitherFile) {
     s.write("bmps/long.txt", "\"1234.\",\"-1850.56789\"" + defaultrecord.substr(14));
     s.retrieve("long.txt");
     EXPECT_EQ(s.view(), "1234 -1850.567" + defaultview.substr(10));  // nine characters
+
+    s.write("bmps/near.txt", "\"1000\",\"-1500\",\"830\",\"20\",\"30\",\"280\",\"0.06\",\"170\",\"-270\"\r\n");
+    s.pictures.drawn.clear();
+    s.retrieve("near.txt");
+    const std::vector<drawnline> redrawn(s.pictures.drawn.begin() + 829, s.pictures.drawn.end());
+    s.click("cventerbtn");
+    EXPECT_EQ(redrawn, lastpicture(s.pictures.drawn));  // from the placed points
+
     s.click("groupbtn");
     s.retrieve("view1.bmp");
     EXPECT_EQ(focustxtx.text, "0.1");  // the markers ask for the fix-up again

@@ -26,6 +26,8 @@ TEST(quickviews, placesWriteFiguresAndSetTakesThem) {
     EXPECT_EQ(perptxtx.text + ' ' + eperpxbox.text, "0.100 0.100");  // 0.1 less 384 and back
     s.click("rotleftbtn");
     EXPECT_EQ(perptxtx.text + ' ' + eperpxbox.text, "-99.9 0.100");  // rotation leaves an older eye here
+    s.click("vertperpplusbtn");
+    EXPECT_EQ(eperpxbox.text + ' ' + eperpzbox.text, "0.100 1700");
 }
 
 TEST(quickviews, oneEyeButtonLetsTypedFocusThrough) {
@@ -39,12 +41,15 @@ TEST(quickviews, oneEyeButtonLetsTypedFocusThrough) {
 
 TEST(quickviews, everyPlaceButtonDoesWhatItSays) {
     easy s;
+    const auto spelled = [](std::string figure) { return figure[0] == '-' ? 'm' + figure.substr(1) : figure; };
     for (const control* c : easyviews.controls) {
         if (c->kind != controlkind::button || c == &easysetbtn) continue;
         s.click(c->name);
         const bool eye = c->name.starts_with("perp"), height = c->name[eye ? 4 : 5] == 'z';
         const std::string x = (eye ? perptxtx : focustxtx).text, y = (eye ? perptxty : focustxty).text,
                           z = (eye ? perptxtz : focustxtz).text;
+        const std::string place = height ? 'z' + z : 'x' + spelled(x) + 'y' + spelled(y);
+        EXPECT_EQ(c->name, (eye ? "perp" : "focus") + (place == "x384y192" ? "x192y384" : place));
         EXPECT_EQ(c->tooltip, (eye ? "Eye at " : "Focus at ") + (height ? "Z " + z : "X " + x + ", Y " + y));
     }
 }

@@ -41,6 +41,10 @@ TEST(rotation, thirtySevenClicksTurnTheCorner) {
     EXPECT_EQ(perptxtx.text + ' ' + perptxty.text, "-1850 -1750");
     s.click("rotleftbtn");
     EXPECT_EQ(wipes(s.takelines()), 1);
+    EXPECT_EQ(perprely, perpy);
+    EXPECT_TRUE(activaterightbtn.shown);
+    s.click("defaultviewbtn");
+    EXPECT_EQ(rotstage, 1);
 }
 
 TEST(rotation, largeStepsLeaveTheSquareAndGoOnOutThere) {
@@ -83,8 +87,14 @@ TEST(rotation, aSwitchOfDirectionGoesByTheSideSeenLast) {
     }
 }
 
-TEST(rotation, anEyePutInsideTheSquareWalksOnToTheLimit) {
+TEST(rotation, anEyePutElsewhereFindsItsWayBack) {
     rotating s;
+    s.type("perptxtx", "-2000");
+    s.click("cventerbtn");
+    s.takelines();
+    s.click("rotleftbtn");  // past the first side's limit already: only the second side's step is taken
+    EXPECT_EQ(perptxtx.text + ' ' + perptxty.text, "-2000 -1750");
+    s.click("defaultviewbtn");
     s.click("rotleftbtn");
     s.type("perptxtx", "500");
     s.type("perptxty", "500");

@@ -37,7 +37,9 @@ TEST(stepping, aFocusStepLeavesTheEyeWhereItIs) {
     EXPECT_EQ(perptxtz.text + ' ' + focustxtz.text + ' ' + efocuszbox.text, "830 230 230");
     EXPECT_EQ(perpz, 600);
     auto lines = s.takelines();
-    EXPECT_EQ(wipes(lines), 1);  // default view has settled the points already
+    EXPECT_EQ(lines.front(), (drawnline{2, 2, 1450, 2, makecolour(backred, backgreen, backblue)}));
+    EXPECT_EQ(savez[1], ptz[1]);  // a near-side walk starts from where the focus is now
+    EXPECT_EQ(wipes(lines), 1);   // default view has settled the points already
     EXPECT_EQ(lastpicture(lines), s.plainpicture());
     s.click("cventerbtn");
     s.takelines();
