@@ -84,6 +84,7 @@ void showface(face& f) {
     if (first) {
         f.resize(f.designedsize());
         f.firstshowing(f);
+        f.plan()->setFocus();  // no box takes what is typed before it is chosen
     }
     if (f.isMinimized()) f.setWindowState(f.windowState() & ~Qt::WindowMinimized);
     f.show();

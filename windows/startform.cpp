@@ -52,6 +52,10 @@ void dressstartform(face& f) {
     enlarge(Label1, titlepixels, true);
     enlarge(Label3, datepixels, false);
     enlarge(startprogrambtn, startpixels, true);
+    f.firstshowing = [](face& first) {
+        openincentre(first);
+        first.plan()->setFocusProxy(widgetof(startprogrambtn));
+    };
 }
 
 }  // namespace tessaly
