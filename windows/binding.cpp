@@ -50,7 +50,6 @@ struct dresser {
 const dresser dressers[] = {
     {&startform, dressstartform},       {&vistaplan, dressvistaplan},   {&layoutgirder, dresslayoutgirder},
     {&layoutpanels, dresslayoutpanels}, {&layoutroof, dresslayoutroof}, {&easyviews, dresseasyviews},
-    {&instructions, dressinstructions},
 };
 
 void buildwindow(window& w, boundwindow& bound) {

@@ -43,6 +43,5 @@ void dresslayoutgirder(face& f);
 void dresslayoutpanels(face& f);
 void dresslayoutroof(face& f);
 void dresseasyviews(face& f);
-void dressinstructions(face& f);
 
 }  // namespace tessaly

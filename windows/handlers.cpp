@@ -19,6 +19,7 @@
 #include "view/quickviews.h"
 #include "view/rotation.h"
 #include "view/stepping.h"
+#include "windows/helppages.h"
 #include "windows/helpwindow.h"
 
 namespace tessaly {
@@ -181,6 +182,7 @@ void startprogram() {
     definelayouts();
     definequickviews();
     panelsnipper.items = {"Full panel", "snip left side", "snip right side", "snip both sides"};
+    for (const helppage& page : helppages) findcontrol(page.name)->text = page.text;
     showwindow(startform);
 }
 
