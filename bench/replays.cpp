@@ -21,6 +21,14 @@ void plain(benchmark::State& s) { thousand<plainraster>(s); }
 void qpainter(benchmark::State& s) { thousand<painterimage>(s, false); }
 void qclipped(benchmark::State& s) { thousand<painterimage>(s, true); }
 void nothing(benchmark::State& s) { thousand<nosurface>(s); }
+void allplain(benchmark::State& s) { plainway = true; thousand<plainraster>(s); plainway = false; }
+void allplainq(benchmark::State& s) { plainway = true; thousand<painterimage>(s, false); plainway = false; }
+void allplainqc(benchmark::State& s) { plainway = true; thousand<painterimage>(s, true); plainway = false; }
+void allplainnothing(benchmark::State& s) { plainway = true; thousand<nosurface>(s); plainway = false; }
+BENCHMARK(allplain)->Unit(benchmark::kMillisecond);
+BENCHMARK(allplainq)->Unit(benchmark::kMillisecond);
+BENCHMARK(allplainqc)->Unit(benchmark::kMillisecond);
+BENCHMARK(allplainnothing)->Unit(benchmark::kMillisecond);
 BENCHMARK(quick)->Unit(benchmark::kMillisecond);
 BENCHMARK(plain)->Unit(benchmark::kMillisecond);
 BENCHMARK(qpainter)->Unit(benchmark::kMillisecond);

@@ -4,6 +4,7 @@
 #include "core/channels.h"
 
 #include "core/failure.h"
+#include "core/world.h"
 
 #include <algorithm>
 #include <array>
@@ -83,8 +84,10 @@ struct filestamp {
 
 struct keptfile {
     filestamp stamp;
-    std::shared_ptr<const std::string> bytes;
+    keptbytes kept;
 };
+
+constexpr std::size_t mostfieldbytes = 100000;  // of a file whose fields are kept too
 
 std::string readwhole(int handle, const std::string& path, const char* what) {
     std::string bytes;
@@ -132,29 +135,37 @@ std::string textinput::place(int atline, int atfield) const {
     return path + ", line " + std::to_string(atline) + ", field " + std::to_string(atfield);
 }
 
-std::shared_ptr<const std::string> filebytes(std::string_view path, const char* what) {
+keptbytes keptfilebytes(std::string_view path, const char* what) {
     static std::map<std::string, keptfile, std::less<>> kept;
     const std::string system = systempath(path);
     struct stat now {};
     if (::stat(system.c_str(), &now) != 0) systemfailure(std::string(path), what, errno);
     const auto found = kept.find(system);
-    if (found != kept.end() && found->second.stamp == filestamp(now)) return found->second.bytes;
+    if (found != kept.end() && found->second.stamp == filestamp(now) && !plainway) return found->second.kept;
 
     const int handle = ::open(system.c_str(), O_RDONLY | O_CLOEXEC);
     if (handle < 0) systemfailure(std::string(path), what, errno);
     ::fstat(handle, &now);  // of the file really read
-    auto bytes = std::make_shared<const std::string>(readwhole(handle, std::string(path), what));
+    keptbytes fresh{std::make_shared<const std::string>(readwhole(handle, std::string(path), what)), nullptr};
     ::close(handle);
+    if (plainway) return fresh;
     kept.erase(system);
-    if (filestamp(now).settled()) kept.emplace(system, keptfile{filestamp(now), bytes});
-    return bytes;
+    if (filestamp(now).settled()) {
+        if (fresh.bytes->size() <= mostfieldbytes) fresh.fields = std::make_shared<std::vector<readfield>>();
+        kept.emplace(system, keptfile{filestamp(now), fresh});
+    }
+    return fresh;
+}
+
+std::shared_ptr<const std::string> filebytes(std::string_view path, const char* what) {
+    return keptfilebytes(path, what).bytes;
 }
 
 void openinput(int channel, std::string_view path, const char* what) {
     expectfree(channel, path);
     textinput opened;
     opened.path = path;
-    opened.bytes = filebytes(path, what);
+    static_cast<keptbytes&>(opened) = keptfilebytes(path, what);
     channelof(channel).input = std::move(opened);
 }
 

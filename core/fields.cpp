@@ -4,6 +4,7 @@
 
 #include "core/channels.h"
 #include "core/failure.h"
+#include "core/world.h"
 
 namespace tessaly {
 
@@ -17,7 +18,7 @@ struct scanner {
     const std::string& bytes;
     const char* what;
 
-    scanner(int channel, const char* sought) : in(channelinput(channel)), bytes(*in.bytes), what(sought) {}
+    scanner(textinput& from, const char* sought) : in(from), bytes(*in.bytes), what(sought) {}
 
     bool atend() const { return in.at >= bytes.size(); }
     char next() const { return bytes[in.at]; }
@@ -78,7 +79,24 @@ struct scanner {
         while (to < bytes.size() && bytes[to] != ',' && !islineend(bytes[to]) && !isblank(bytes[to])) ++to;
         return {bytes.data() + in.at, to - in.at};
     }
+    // A whole number of up to fifteen digits that a separator follows: most fields are.
+    std::optional<double> takewhole() {
+        std::size_t to = in.at;
+        const bool negative = to < bytes.size() && bytes[to] == '-';
+        const std::size_t firstdigit = to += negative;
+        std::int64_t whole = 0;
+        while (to < bytes.size() && to - firstdigit < 16 && bytes[to] >= '0' && bytes[to] <= '9')
+            whole = whole * 10 + (bytes[to++] - '0');
+        if (to == firstdigit || to - firstdigit > 15) return std::nullopt;
+        if (to < bytes.size() && bytes[to] != ',' && !islineend(bytes[to])) return std::nullopt;
+        in.at = to;
+        takeseparator();
+        const double number = static_cast<double>(whole);
+        return negative ? -number : number;
+    }
     std::optional<double> takenumber() {
+        if (!plainway)
+            if (const auto whole = takewhole()) return whole;
         const std::string_view front = toblank();
         std::optional<double> number;
         try {
@@ -106,22 +124,29 @@ struct scanner {
     }
 };
 
-}  // namespace
-
-value readvalue(int channel, const char* what) {
-    scanner s(channel, what);
-    s.skipblanklines();
-    return s.takevalue();
+// The field that begins here, as the last reader of this kept file took it; nullptr where it did not or took it as
+// something else.
+const readfield* readbefore(textinput& in, readfield::readas as) {
+    if (!in.fields || in.replayed >= in.fields->size()) return nullptr;
+    const readfield& f = (*in.fields)[in.replayed];
+    return f.as == as && f.from == in ? &f : nullptr;
 }
 
-value readrecordfield(int channel, const char* what) {
-    scanner s(channel, what);
-    s.skipblanks();
-    return s.takevalue();
+const value& replay(textinput& in, const readfield& f) {
+    static_cast<textplace&>(in) = f.next;
+    ++in.replayed;
+    return f.found;
 }
 
-int readlabel(int channel, const char* what) {
-    scanner s(channel, what);
+// Keeps a field that was just read, in place of what the last reader took from here on.
+void keepfield(textinput& in, readfield::readas as, const textplace& from, const value& found) {
+    if (!in.fields) return;
+    in.fields->resize(in.replayed, {});
+    in.fields->push_back({as, from, in, found});
+    ++in.replayed;
+}
+
+int scanlabel(scanner& s) {
     s.skipblanklines();
     if (s.atend()) s.pastend();
     const int line = s.in.line, field = s.in.field;
@@ -136,13 +161,43 @@ int readlabel(int channel, const char* what) {
     }
     label = nearestwhole(label);
     if (label < -32768 || label > 32767)
-        throw failure(failurekind::overflow, s.in.place(line, field) + ": " + shortesttext(label) + " as " + what +
+        throw failure(failurekind::overflow, s.in.place(line, field) + ": " + shortesttext(label) + " as " + s.what +
                                                  ", a whole number -32768..32767 was expected");
     return static_cast<int>(label);
 }
 
+}  // namespace
+
+value readvalue(int channel, const char* what) {
+    textinput& in = channelinput(channel);
+    if (const readfield* before = readbefore(in, readfield::number)) return replay(in, *before);
+    const textplace from = in;
+    scanner s(in, what);
+    s.skipblanklines();
+    const value found = s.takevalue();
+    if (!found.istext()) keepfield(in, readfield::number, from, found);  // a text knows its reader's word for it
+    return found;
+}
+
+value readrecordfield(int channel, const char* what) {
+    scanner s(channelinput(channel), what);
+    s.skipblanks();
+    return s.takevalue();
+}
+
+int readlabel(int channel, const char* what) {
+    textinput& in = channelinput(channel);
+    if (const readfield* before = readbefore(in, readfield::label))
+        return static_cast<int>(double(replay(in, *before)));
+    const textplace from = in;
+    scanner s(in, what);
+    const int found = scanlabel(s);
+    keepfield(in, readfield::label, from, found);
+    return found;
+}
+
 std::string_view readtextfield(int channel, const char* what) {
-    scanner s(channel, what);
+    scanner s(channelinput(channel), what);
     s.skipblanks();
     if (s.atend()) s.pastend();
     if (s.next() == '"') return s.takequoted();
@@ -152,7 +207,15 @@ std::string_view readtextfield(int channel, const char* what) {
 }
 
 void findkey(int channel, const char* key) {
+    textinput& in = channelinput(channel);
+    const readfield* const before = readbefore(in, readfield::key);
+    if (before && before->found.is(key)) {
+        replay(in, *before);
+        return;
+    }
+    const textplace from = in;
     while (readtextfield(channel, key) != key) continue;
+    keepfield(in, readfield::key, from, key);
 }
 
 }  // namespace tessaly

@@ -29,16 +29,20 @@ const double* sharesof(int n) {
     return shares.data();
 }
 
-using pixelblock = std::array<int, block>;
+// The rounded ends of a block of lines, behind those of the line before.
+struct endblock {
+    std::array<int, block + 1> x1, y1, x2, y2;
+};
 
-// One coordinate of the ends of a block of lines. The bias makes every sum positive, so that cutting it rounds down;
-// up to mostpixels the sum is exact wherever the half matters.
-void roundends(double from, double to, const double* shares, pixelblock& pixels) {
+// One coordinate of a block. The bias makes every sum positive, so that cutting it rounds down; up to mostpixels the
+// sum is exact wherever the half matters.
+void roundends(double from, double to, const double* shares, std::array<int, block + 1>& pixels) {
     constexpr double bias = 1 << 27;
     const double across = to - from;
+    pixels[0] = pixels[block];
     for (std::size_t i = 0; i < block; ++i) {
         const auto narrowed = static_cast<float>(from + shares[i] * across);
-        pixels[i] = static_cast<int>(static_cast<double>(narrowed) + (bias + 0.5)) - static_cast<int>(bias);
+        pixels[i + 1] = static_cast<int>(static_cast<double>(narrowed) + (bias + 0.5)) - static_cast<int>(bias);
     }
 }
 
@@ -52,25 +56,28 @@ std::uint64_t bitrange(int from, int to) { return (~std::uint64_t(0) >> (64 - (t
 }  // namespace
 
 std::span<const pixelline> distinctlines(const rails& r, int n) {
-    static std::array<pixelline, mostdivisions + 1> lines;
+    static std::array<pixelline, mostdivisions + 2 * block> lines;
     const double* const shares = sharesof(n);
-    pixelblock x1, y1, x2, y2;
-    pixelline* found = lines.data();
+    endblock e{};
+    std::size_t found = 0;
     const auto count = static_cast<std::size_t>(n) + 1;
     for (std::size_t t = 0; t < count; t += block) {
-        roundends(r.ax, r.bx, shares + t, x1);
-        roundends(r.ay, r.by, shares + t, y1);
-        roundends(r.cx, r.dx, shares + t, x2);
-        roundends(r.cy, r.dy, shares + t, y2);
-        if (t == 0) *found = {x1[0], y1[0], x2[0], y2[0]};
-        // Stored behind the last one always, and kept where it differs: no branch to guess.
+        roundends(r.ax, r.bx, shares + t, e.x1);
+        roundends(r.ay, r.by, shares + t, e.y1);
+        roundends(r.cx, r.dx, shares + t, e.x2);
+        roundends(r.cy, r.dy, shares + t, e.y2);
+        std::array<int, block> differs;
+        for (std::size_t i = 0; i < block; ++i)
+            differs[i] =
+                (e.x1[i] ^ e.x1[i + 1]) | (e.y1[i] ^ e.y1[i + 1]) | (e.x2[i] ^ e.x2[i + 1]) | (e.y2[i] ^ e.y2[i + 1]);
+        if (t == 0) differs[0] = 1;
+        // Each line is stored, and the place is taken where it differs: no branch to guess.
         for (std::size_t i = 0; i < std::min(block, count - t); ++i) {
-            const int differs = (x1[i] ^ found->x1) | (y1[i] ^ found->y1) | (x2[i] ^ found->x2) | (y2[i] ^ found->y2);
-            found += differs != 0;
-            *found = {x1[i], y1[i], x2[i], y2[i]};
+            lines[found] = {e.x1[i + 1], e.y1[i + 1], e.x2[i + 1], e.y2[i + 1]};
+            found += differs[i] != 0;
         }
     }
-    return {lines.data(), found + 1};
+    return {lines.data(), found};
 }
 
 void pixelmask::cover(int itsleft, int itstop, int right, int bottom) {
@@ -107,26 +114,33 @@ void pixelmask::addsteep(int x, int y, int dx, int dy) {
 // One run a row: row k begins at the first column that is half a row or more beyond row k - 1. On a line that climbs
 // (y falling) exactly half a row is not enough.
 void pixelmask::addflat(int x, int y, int dx, int dy) {
-    const int lastrun = std::abs(dy), direction = dy < 0 ? -1 : 1;
-    int from = x;
-    if (lastrun > 0) {
-        const std::int64_t slope = slopeof(dx, lastrun);
-        std::int64_t at = x * one + slope / 2 + (dy < 0 ? nudge : -nudge);
-        for (int k = 0; k < lastrun; ++k, at += slope, y += direction) {
-            const int next = static_cast<int>(at >> shift) + 1;
-            addrun(y, from, next);
+    const int lastrun = std::abs(dy);
+    const std::int64_t slope = lastrun > 0 ? slopeof(dx, lastrun) : 0;
+    std::int64_t at = x * one + slope / 2 + (dy < 0 ? nudge : -nudge);
+    if (words == 1) {
+        const std::ptrdiff_t down = dy < 0 ? -1 : 1;
+        std::uint64_t* row = bits.data() + y;
+        std::uint64_t from = ~std::uint64_t(0) << x;  // the bits from the run's first pixel on
+        for (int k = 0; k < lastrun; ++k, at += slope, row += down) {
+            const std::uint64_t next = (~std::uint64_t(0) << 1) << (at >> shift);
+            *row |= from ^ next;
             from = next;
         }
+        *row |= from ^ ((~std::uint64_t(0) << 1) << (x + dx));
+        return;
+    }
+    int from = x;
+    for (int k = 0; k < lastrun; ++k, at += slope, y += dy < 0 ? -1 : 1) {
+        const int next = static_cast<int>(at >> shift) + 1;
+        addrun(y, from, next);
+        from = next;
     }
     addrun(y, from, x + dx + 1);
 }
 
+// The pixels from .. to - 1 of a row of several words.
 void pixelmask::addrun(int row, int from, int to) {
     std::uint64_t* const word = bits.data() + static_cast<std::ptrdiff_t>(row) * words;
-    if (words == 1) {
-        *word |= bitrange(from, to);
-        return;
-    }
     const int first = from / 64, last = (to - 1) / 64;
     if (first == last) {
         word[first] |= bitrange(from % 64, to - first * 64);

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstring>
 
 namespace tessaly {
 
@@ -21,6 +22,17 @@ constexpr std::uint32_t opaque = 0xff000000, white = 0xffffffff;
 
 std::uint32_t pixelof(colour c) {
     return opaque | static_cast<std::uint32_t>(c.red) << 16 | static_cast<std::uint32_t>(c.green) << 8 | c.blue;
+}
+
+// Four pixels at a time; the last ones may be stored twice.
+void fillpixels(std::uint32_t* at, int count, std::uint32_t pixel) {
+    const std::uint32_t four[4] = {pixel, pixel, pixel, pixel};
+    if (count < 4) {
+        for (int i = 0; i < count; ++i) at[i] = pixel;
+        return;
+    }
+    for (int i = 0; i <= count - 4; i += 4) std::memcpy(at + i, four, sizeof four);
+    std::memcpy(at + count - 4, four, sizeof four);
 }
 
 void paintpart(const linepart& part, std::uint32_t* image, int wide, std::uint32_t pixel) {
@@ -58,10 +70,9 @@ void raster::line(float x1, float y1, float x2, float y2, colour c) {
 }
 
 void raster::fillrow(int y, int x1, int x2, std::uint32_t pixel) {
-    const int left = std::max(x1, 0), right = std::min(x2, wide - 1);
-    if (y < 0 || y >= high || left > right) return;
-    const auto row = image.begin() + static_cast<std::ptrdiff_t>(y) * wide;
-    std::fill(row + left, row + right + 1, pixel);
+    const int from = std::max(x1, 0), to = std::min(x2, wide - 1);
+    if (y < 0 || y >= high || from > to) return;
+    fillpixels(image.data() + static_cast<std::ptrdiff_t>(y) * wide + from, to - from + 1, pixel);
 }
 
 void raster::wash(int x1, int x2, int y1, int y2, colour c) {
