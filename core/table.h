@@ -47,7 +47,10 @@ class writtenpages {
   public:
     static constexpr int pagesize = 64, mostpages = 128;
 
-    void mark(int index) { words[word(index)] |= std::uint64_t(1) << (index / pagesize % 64); }
+    void mark(int index) {
+        const std::uint64_t page = std::uint64_t(1) << (index / pagesize % 64);
+        if (!(words[word(index)] & page)) words[word(index)] |= page;  // a store each time would hold up the next
+    }
     void markall() { words.fill(~std::uint64_t(0)); }
     void forget() { words.fill(0); }
     void operator|=(const writtenpages& other) {

@@ -124,6 +124,11 @@ double Val(std::string_view text) {
 std::string generaltext(double number) {
     if (number == 0) return "0";  // also -0
     char digits[40];
+    constexpr double fifteendigits = 1e15;
+    if (std::abs(number) < fifteendigits && number == std::trunc(number)) {
+        const auto whole = static_cast<std::int64_t>(number);
+        return std::string(digits, std::to_chars(digits, digits + sizeof digits, whole).ptr);
+    }
     const auto end = std::to_chars(digits, digits + sizeof digits, number, std::chars_format::general, 15).ptr;
     std::string text(digits, end);
     for (char& c : text)

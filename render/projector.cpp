@@ -8,7 +8,11 @@
 #include "core/world.h"
 #include "render/surface.h"
 
+#include <array>
+#include <bit>
 #include <cmath>
+#include <cstdint>
+#include <optional>
 
 namespace tessaly {
 
@@ -16,6 +20,8 @@ namespace {
 
 constexpr int fullwalk = 299;  // steps into which a near-side walk divides a line
 constexpr double mappingscale = 15.2, mappingx = 730, mappingy = 490;  // viewport pixels
+
+std::uint64_t currentpass = 0;  // of projections that share one sight
 
 // The eye and the plane as plain numbers, taken once a pass: text meets arithmetic here.
 struct sight {
@@ -27,6 +33,7 @@ struct sight {
 };
 
 sight takesight() {
+    ++currentpass;
     sight s{perpx,        perpy,        perpz,  planeseedx, planeseedy, planeseedz, planecentrex,
             planecentrey, planecentrez, focusx, focusy,     focusz,     0};
     s.centresquared = s.cx * s.cx + s.cy * s.cy + s.cz * s.cz;
@@ -51,8 +58,34 @@ void hitplane(const sight& s, int p) {
                       t);
 }
 
+// Where each point was when it was last projected. A point that ends several lines of a group is mostly projected from
+// one place, and what it gave stands in the tables.
+struct projection {
+    std::uint64_t pass = 0;
+    std::array<std::uint64_t, 3> from{};  // the position's bits
+    bool operator==(const projection&) const = default;
+};
+std::array<projection, lastpoint + 1> projections;
+
+// Whether the tables hold what projecting p from where it stands would give. The reference point is never sure of it:
+// a line that ends there moves the reference for all that follow.
+bool projectedbefore(int p) {
+    if (plainway) return false;
+    if (p == referencepoint) {
+        ++currentpass;
+        return false;
+    }
+    const auto bits = [](double d) { return std::bit_cast<std::uint64_t>(d); };
+    const projection now{currentpass, {bits(ptx[p]), bits(pty[p]), bits(ptz[p])}};
+    projection& before = projections[static_cast<std::size_t>(p)];
+    if (before == now) return true;
+    before = now;
+    return false;
+}
+
 // Point p on the picture plane: its hit, then distance, cosine, up and side from the plane's centre.
 void projectpoint(const sight& s, int p) {
+    if (projectedbefore(p)) return;
     hitplane(s, p);
     const double hx = planex[p] - s.cx, hy = planey[p] - s.cy, hz = planez[p] - s.cz;
     const double rx = planex[referencepoint] - s.cx, ry = planey[referencepoint] - s.cy,
@@ -159,6 +192,7 @@ void referencepass() {
 
 void drawlines(int first, int last, const value& palettecolourindex) {
     const sight s = takesight();
+    std::optional<colour> c;  // a wrong index is a failure only once a line is drawn
     const double scale = mag, shiftright = horizshift, shiftup = vertshift;
     for (int k = first; k <= last; ++k) {
         walkcount = fullwalk;
@@ -166,9 +200,9 @@ void drawlines(int first, int last, const value& palettecolourindex) {
         if (!projectend(s, end1, end2) || !projectend(s, end2, end1)) continue;
         mapend(end1, scale, shiftright, shiftup);
         mapend(end2, scale, shiftright, shiftup);
+        if (!c) c = palettecolour(palettecolourindex);
         viewportsurface->line(static_cast<float>(screenx[end1]), static_cast<float>(screeny[end1]),
-                              static_cast<float>(screenx[end2]), static_cast<float>(screeny[end2]),
-                              palettecolour(palettecolourindex));
+                              static_cast<float>(screenx[end2]), static_cast<float>(screeny[end2]), *c);
     }
 }
 
