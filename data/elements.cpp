@@ -21,7 +21,7 @@ constexpr int lastplaced = 100;                       // points that a placement
 constexpr int lastplane = 7000;
 constexpr int cubesinsection = 200;
 
-void copytobase(int i) {
+inline void copytobase(int i) {
     basex.set(i, ptx[i]);
     basey.set(i, pty[i]);
     basez.set(i, ptz[i]);
