@@ -98,9 +98,13 @@ std::string value::text() const {
 
 double value::converted() const {
     const pooled& held = pool()[form];
-    if (const auto number = strictnumber(held.text)) return *number;
-    throw failure(failurekind::typemismatch, (held.origin.empty() ? std::string() : held.origin + ": ") + "\"" +
-                                                 held.text + "\" where a number was expected");
+    const std::string place = held.origin.empty() ? std::string() : held.origin + ": ";
+    try {
+        if (const auto number = strictnumber(held.text)) return *number;
+    } catch (const failure& beyond) {
+        throw failure(beyond.kind, place + beyond.detail);
+    }
+    throw failure(failurekind::typemismatch, place + "\"" + held.text + "\" where a number was expected");
 }
 
 std::optional<double> strictnumber(std::string_view text) {

@@ -59,6 +59,8 @@ TEST(value, textMeetsArithmetic) {
     const auto f = failureof([] { return value("ten", "datah\\x.txt, line 3, field 2") + 1; });
     ASSERT_TRUE(f);
     EXPECT_EQ(f->report, "type mismatch: datah\\x.txt, line 3, field 2: \"ten\" where a number was expected");
+    EXPECT_EQ(failureof([] { return value("1e400", "text box magtxt") + 1; })->report,
+              "overflow: text box magtxt: the number 1e400 is too large");
 }
 
 TEST(value, wholeNumbersTakeTheEvenHalf) {
