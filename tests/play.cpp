@@ -42,6 +42,7 @@ TEST(play, endsByScriptOrByExit) {
     EXPECT_EQ(play("close startform\nnonsense").status, 0);
     EXPECT_EQ(play("click startprogrambtn\nclose vistaplan\nnonsense").status, 0);
     EXPECT_EQ(play("", "none.play").status, 2);
+    EXPECT_EQ(play("", "datah").status, 2);  // a folder
     EXPECT_EQ(play("", "").status, 2);
 }
 

@@ -21,7 +21,7 @@ using namespace tessaly;
 constexpr int programfailed = 1, scriptfailed = 2;
 
 void flushall() {
-    std::fflush(stdout);
+    if (std::fflush(stdout) != 0) throw scripterror("standard output cannot be written");
     if (!playedsurface.flushlog()) throw scripterror("the file of the drawn lines cannot be written");
 }
 
@@ -32,6 +32,7 @@ void playscript(std::istream& script, int& number) {
         obeyline(line);
         flushall();
     }
+    if (script.bad()) throw scripterror("the script cannot be read");
 }
 
 int play(std::istream& script, const std::string& name) {
