@@ -79,7 +79,7 @@ void bringback() {
     restorepoints();
     takeview(fields);
     // Less than other clears: what lies beyond shows until the bitmap covers it.
-    viewportsurface->wash(1, 1125, 1, 829, makecolour(backred, backgreen, backblue));
+    viewportsurface->wash(1, 1125, 1, 829, backgroundcolour());
     projectdraw();
     writeboxes();
     viewportsurface->setpicture("bmps\\" + bmpimage.text());

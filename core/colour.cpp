@@ -21,12 +21,32 @@ std::uint8_t component(double figure) {
     return static_cast<std::uint8_t>(std::min(whole, 255.0));
 }
 
+// As makecolour; a component out of its range is told with its place in the files.
+template <class placing>
+colour colourof(const value& red, const value& green, const value& blue, placing place) {
+    try {
+        return makecolour(red, green, blue);
+    } catch (const failure& f) {
+        if (f.kind == failurekind::typemismatch) throw;
+        throw failure(f.kind, place() + ": " + f.detail);
+    }
+}
+
 }  // namespace
 
 colour makecolour(const value& red, const value& green, const value& blue) {
     return {component(red), component(green), component(blue)};
 }
 
-colour palettecolour(const value& index) { return makecolour(palred[index], palgreen[index], palblue[index]); }
+colour palettecolour(const value& index) {
+    const int entry = indexof(index, "palette");
+    if (entry < 0 || entry > lastcolour) subscriptfailure("palette", entry, lastcolour);
+    return colourof(palred[entry], palgreen[entry], palblue[entry],
+                    [entry] { return "pals\\" + palname.text() + ".pal, record " + std::to_string(entry); });
+}
+
+colour backgroundcolour() {
+    return colourof(backred, backgreen, backblue, [] { return std::string("datah\\start.txt, BACKGROUNDCOLOR"); });
+}
 
 }  // namespace tessaly

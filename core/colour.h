@@ -16,7 +16,11 @@ struct colour {
 // 16-bit range, with invalid call below 0, with type mismatch for a text.
 colour makecolour(const value& red, const value& green, const value& blue);
 
-// The colour at a palette index; fails with subscript out of range outside 0..256.
+// The colour at a palette index; fails with subscript out of range outside 0..256, else as makecolour, naming the
+// palette's record.
 colour palettecolour(const value& index);
+
+// The colour of backred, backgreen, backblue; fails as makecolour, naming the start file.
+colour backgroundcolour();
 
 }  // namespace tessaly

@@ -37,4 +37,16 @@ struct failure : std::exception {
 // dividend / divisor; fails with division by zero naming what was being computed.
 double quotient(double dividend, double divisor, const char* what);
 
+// Runs step. An index outside a table, which a figure of a data file named, is told with place() before it, unless the
+// report tells the file already.
+template <class placing, class procedure>
+void tellmisses(placing place, procedure step) {
+    try {
+        step();
+    } catch (const failure& f) {
+        if (f.kind != failurekind::subscript || f.detail.starts_with("datah\\")) throw;
+        throw failure(f.kind, place() + ": " + f.detail);
+    }
+}
+
 }  // namespace tessaly

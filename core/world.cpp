@@ -45,7 +45,7 @@ double planeseedx, planeseedy, planeseedz, planecentrex, planecentrey, planecent
 int walkcount, divisions;
 value datafile, elementkind, placemode, placex, placey, placez, rotz, rotx, facecode, spareface;
 value floorname, floornum, drawmode, recordmode, recordtext, drawtext, palname, panelprefix, panelcode;
-value girdercode, roofcode, anycode, anynumber, firstfilename, secondfilename, preopened;
+value girdercode, roofcode, anycode, anynumber, firstfilename, secondfilename, shapefile, preopened;
 value startgroup1, startgroup2, startgroup3, startstep, startprefix, startdone;
 value rotstage, rotboxx, rotboxy, focusinc, focussign, focusstep, maginc, shiftinc, perpsumx, perpsumy, perpsumz;
 value facecolour, framecolour, railstart1, railend1, railstart2, railend2, framen, framesecond, combinedcount;
@@ -72,7 +72,7 @@ const scalar scalars[] = {
     SHOWN(linecount1), SHOWN(linecount2), SHOWN(linecount3), SHOWN(linecount4), SHOWN(linecount5),
     SHOWN(linecount6), SHOWN(linecount7), SHOWN(linecount8), SHOWN(linecount9), SHOWN(linecount10),
     SHOWN(ptcount1), SHOWN(ptcount2), SHOWN(ptcount3), SHOWN(ptcount4),
-    KEPT(wirecolour1), KEPT(wirecolour2), KEPT(wirecolour3), KEPT(wirecolour4), KEPT(wirecolour5),
+    KEPT(shapefile), KEPT(wirecolour1), KEPT(wirecolour2), KEPT(wirecolour3), KEPT(wirecolour4), KEPT(wirecolour5),
     KEPT(wirecolour6), KEPT(wirecolour7), KEPT(wirecolour8), KEPT(wirecolour9), KEPT(wirecolour10),
     KEPT(rowgrade), KEPT(rowcolour), KEPT(backred), KEPT(backgreen), KEPT(backblue), KEPT(curgroup),
     KEPT(curwirecolour), KEPT(spareface), KEPT(recordtext), KEPT(drawtext), KEPT(girdercode), KEPT(roofcode),

@@ -110,6 +110,7 @@ extern value panelprefix;           // first part of the panel file's name, set 
 extern value panelcode;             // code of the panel last chosen or replayed; the painter reads it
 extern value girdercode, roofcode, anycode, anynumber;  // codes and number of the record being replayed
 extern value firstfilename, secondfilename;             // names last picked in the file lists; the painter reads them
+extern value shapefile;                                 // the data file last read into the tables, for reports
 extern value preopened;  // 1..4: the reader of that number finds its file open on channel 1
 
 // ---- start-up --------------------------------------------------------------------------------------------

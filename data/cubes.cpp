@@ -76,15 +76,13 @@ void readcubeframing(const char* key, table<value, lastquad, clearedpoints>& fra
         const value first = readvalue(1, "the first quad of a framing row");
         const value last = readvalue(1, "the last quad of a framing row");
         const value count = readvalue(1, "the count of a framing row");
-        try {
-            if (!count.istext() && count == sentinel) {
-                framing.set(value(walked), 0);
-                return;
-            }
+        const bool end = !count.istext() && count == sentinel;
+        const auto frame = [&] {
+            if (end) return framing.set(value(walked), 0);
             for (walked = first; walked <= last; walked += 10) framing.set(value(walked), count);
-        } catch (const failure& miss) {
-            throw failure(miss.kind, channelinput(1).place(line, field) + ": " + miss.detail + " (" + key + ")");
-        }
+        };
+        tellmisses([&] { return channelinput(1).place(line, field) + " (" + key + ")"; }, frame);
+        if (end) return;
     }
 }
 
@@ -119,7 +117,8 @@ void readcubefile(axis stepped, int ownpreopened) {
     resetworld();
     const bool opened = preopened == ownpreopened;
     if (!opened) openinput(1, "datah\\" + datafile.text(), "axis-cube file");
-    readcubesections(stepped);
+    shapefile = channelinput(1).path;
+    tellmisses([] { return channelinput(1).place(); }, [stepped] { readcubesections(stepped); });
     if (opened) return;
     runtransforms();
     closechannel(1);

@@ -95,11 +95,8 @@ void readframing(const char* key, table<value, lastquad, clearedpoints>& framing
         const value quad = readvalue(1, "the quad index of a framing row");
         const value count = readvalue(1, "the count of a framing row");
         const bool last = isnumber(count, sentinel);
-        try {
-            framing.set(quad, last ? value(0) : count);
-        } catch (const failure& miss) {
-            throw failure(miss.kind, channelinput(1).place(line, field) + ": " + miss.detail + " (" + key + ")");
-        }
+        tellmisses([&] { return channelinput(1).place(line, field) + " (" + key + ")"; },
+                   [&] { framing.set(quad, last ? value(0) : count); });
         if (last) return;
     }
 }
@@ -236,7 +233,8 @@ void readelements() {
     resetworld();
     const bool opened = preopened == 1;
     if (!opened) openinput(1, "datah\\" + datafile.text(), "element file");
-    readsections();
+    shapefile = channelinput(1).path;
+    tellmisses([] { return channelinput(1).place(); }, readsections);
     if (opened) return;
     // A placemode that nothing sets leaves the file open on channel 1, so that the next element fails.
     if (!place()) return;

@@ -98,7 +98,7 @@ void displaygroup() {
 void startdisplay() {
     if (startdone != 1) {
         readstartfile();
-        viewportsurface->wash(1, 1450, 1, 1010, makecolour(backred, backgreen, backblue));
+        viewportsurface->wash(1, 1450, 1, 1010, backgroundcolour());
     }
     int step = 0;
     for (const value* name : {&startgroup1, &startgroup2, &startgroup3}) {

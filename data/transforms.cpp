@@ -8,6 +8,7 @@
 #include "core/world.h"
 #include "data/elements.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 #include <string_view>
@@ -25,7 +26,8 @@ void copytobase(int i) {
     basez.set(i, ptz[i]);
 }
 
-int asindex(const value& v) { return indexof(v, "a point range"); }
+// The end of a range of points. It may lie outside the tables: only the indexes that are touched count.
+int asindex(const value& v) { return static_cast<int>(std::clamp(nearestwhole(v), -1e6, 1e6)); }
 
 // ---- one procedure a keyword; row holds its fields in file order ----
 
@@ -175,12 +177,8 @@ void obeyblock(const block& b) {
         value row[mostfields];
         for (int f = 0; f < b.fields; ++f) row[f] = readvalue(1, "a field of a transformation row");
         if (!row[0].istext() && row[0] == sentinel) return;
-        try {
-            b.obey(row);
-        } catch (const failure& f) {
-            throw failure(f.kind,
-                          channelinput(1).place(line, field) + ": " + f.detail + " (" + std::string(b.keyword) + ")");
-        }
+        tellmisses([&] { return channelinput(1).place(line, field) + " (" + std::string(b.keyword) + ")"; },
+                   [&] { b.obey(row); });
     }
 }
 

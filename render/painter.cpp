@@ -3,6 +3,7 @@
 #include "render/painter.h"
 
 #include "core/colour.h"
+#include "core/failure.h"
 #include "core/world.h"
 #include "render/projector.h"
 #include "render/quadsort.h"
@@ -86,6 +87,13 @@ void drawframing(int q) {
     if (second) framesecondly(q);
 }
 
+void paintface(int q) {
+    if (rotz == 90 || rotz == 270) quadcolour.set(q, quadcolour[q] + 1);
+    facecolour = quadcolour[q];
+    fillface(q);
+    drawframing(q);
+}
+
 }  // namespace
 
 void paintsolids() {
@@ -94,10 +102,7 @@ void paintsolids() {
     for (int i = mostpainted; i >= 1; --i) {
         if (emptyquad(i)) continue;  // the slot at i itself: an element's quads fill the table from 1 upward
         const int q = indexof(quadorder[i], "quadorder");
-        if (rotz == 90 || rotz == 270) quadcolour.set(q, quadcolour[q] + 1);
-        facecolour = quadcolour[q];
-        fillface(q);
-        drawframing(q);
+        tellmisses([q] { return faceplace(q); }, [q] { paintface(q); });
     }
 }
 

@@ -147,15 +147,14 @@ void mapend(int e, double scale, double shiftright, double shiftup) {
     screeny.set(e, ((scale * -mappingscale) * planeup[e] + mappingy) - shiftup);
 }
 
-// A line end as a point index. A miss is told by line and file, since a data file's row named the point.
+// A line end as a point index. A miss is told by line, since a data file's row named the point.
 int lineend(const table<value, lastline>& ends, int line, int end) {
     const value& named = ends[line];
     const double whole = nearestwhole(named);
     if (whole >= 0 && whole <= lastpoint) return static_cast<int>(whole);
-    throw failure(failurekind::subscript, "datah\\" + datafile.text() + ": end " + std::to_string(end) + " of line " +
-                                              std::to_string(line) + " (group " + curgroup.text() + ") names point " +
-                                              shortesttext(named) + ", a point 0.." + std::to_string(lastpoint) +
-                                              " was expected");
+    throw failure(failurekind::subscript, "end " + std::to_string(end) + " of line " + std::to_string(line) +
+                                              " names point " + shortesttext(named) + ", a point 0.." +
+                                              std::to_string(lastpoint) + " was expected");
 }
 
 }  // namespace
@@ -211,7 +210,9 @@ void drawgroups() {
         if (linecount[group] == 0) continue;
         curgroup = group;
         curwirecolour = wirecolour[group];
-        drawlines(indexof(groupfirst[group], "groupfirst"), indexof(grouplast[group], "grouplast"), curwirecolour);
+        const int first = indexof(groupfirst[group], "groupfirst"), last = indexof(grouplast[group], "grouplast");
+        tellmisses([group] { return shapefile.text() + ", line group " + std::to_string(group); },
+                   [first, last] { drawlines(first, last, curwirecolour); });
     }
 }
 

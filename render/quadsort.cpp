@@ -2,6 +2,7 @@
 
 #include "render/quadsort.h"
 
+#include "core/failure.h"
 #include "core/world.h"
 
 #include <algorithm>
@@ -24,9 +25,7 @@ double eyedistance(const value& point) {
 }
 
 // The distances of a quad's corners from the eye; the nearest is its key.
-void measurequad(int i) {
-    // The fourth corner is slot 0's, not slot i's: three corners decide whether a quad counts as empty here.
-    if (quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[0] == 0) return;
+void measurecorners(int i) {
     quadcornerdist1.set(i, eyedistance(quad1[i]));
     quadcornerdist2.set(i, eyedistance(quad3[i]));
     quadcornerdist3.set(i, eyedistance(quad2[i]));
@@ -36,6 +35,12 @@ void measurequad(int i) {
     if (quadcornerdist3[i] < nearest) nearest = quadcornerdist3[i];
     if (quadcornerdist4[i] < nearest) nearest = quadcornerdist4[i];
     quaddist.set(i, nearest);
+}
+
+void measurequad(int i) {
+    // The fourth corner is slot 0's, not slot i's: three corners decide whether a quad counts as empty here.
+    if (quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[0] == 0) return;
+    tellmisses([i] { return faceplace(i); }, [i] { measurecorners(i); });
 }
 
 // Runs visit(i) for every slot that may hold a quad, ascending.
@@ -68,6 +73,8 @@ void sortquads(const std::vector<int>& slots) {
 }
 
 }  // namespace
+
+std::string faceplace(int quad) { return shapefile.text() + ", face " + std::to_string(quad); }
 
 void orderquads() {
     if (plainway || quad4[0] != 0) return orderquadsplainly();  // with slot 0 filled no quad counts as empty

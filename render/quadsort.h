@@ -1,6 +1,8 @@
 // The order in which the painter takes the quads of the element in the tables: nearest corner first.
 #pragma once
 
+#include <string>
+
 namespace tessaly {
 
 // Measures the quads of slots 1..7000 and sorts them into quadorder. A quad with a key of 1000000 or more is never
@@ -11,5 +13,8 @@ void orderquads();
 
 // The plain way, 7000 comparisons a quad; the same outcome and the same failures.
 void orderquadsplainly();
+
+// "datah\st-post.txt, face 3", for reports.
+std::string faceplace(int quad);
 
 }  // namespace tessaly

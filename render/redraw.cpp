@@ -10,7 +10,7 @@ namespace tessaly {
 
 void replot() {
     // From 2 on, unlike every other clear: row 1 and column 1 keep what was drawn there. It stays so.
-    viewportsurface->wash(2, 1450, 2, 1010, makecolour(backred, backgreen, backblue));
+    viewportsurface->wash(2, 1450, 2, 1010, backgroundcolour());
     setplane();
     referencepass();
     drawgroups();

@@ -2,6 +2,7 @@
 #include "data/elements.h"
 
 #include "core/fields.h"
+#include "render/painter.h"
 #include "tests/session.h"
 
 #include <cmath>
@@ -221,9 +222,11 @@ TEST(elements, mistakesOfAFile) {
         {"1,2\n9999", "1,two\n9999", failurekind::typemismatch, "\"two\""},
         {"1,2\n9999,9999", "1,10001\n9999,9999", failurekind::subscript, "names point 10001"},
         {"1,2\n9999", "1,-1\n9999", failurekind::subscript, "names point -1"},
+        {"WIRECOLORS:\n1", "WIRECOLORS:\n300", failurekind::subscript, "line group 1: palette has no index 300"},
         {"1,0,0,0,1,1,1,0,0", "1,0,0,0,one,1,1,0,0", failurekind::typemismatch, "line 20, field 5"},
         {"1,0,0,0,1,1,1,0,0", "40000,0,0,0,1,1,1,0,0", failurekind::overflow, "40000"},
         {"9999,0,0,0,0,0,0,0,0\nAUTOCUBE600:", "9999,0\nAUTOCUBE600:", failurekind::inputpastend, "AUTOCUBE600:"},
+        {"1,1,2,1,2,1,7", "1,1,2,1,10001,1,7", failurekind::subscript, "face 1: ptx has no index 10001"},
         {"1,2\n0,9999", "10001,2\n0,9999", failurekind::subscript, "framing1 has no index 10001"},
         {"0,9999\nTRAN", "0,9998\n", failurekind::inputpastend, "the count of a framing row"},
         {"9999,0,0,0\nLINEG1:", "LINEG1:", failurekind::inputpastend, "LINEG1:"},  // its rows are read as points
@@ -231,7 +234,10 @@ TEST(elements, mistakesOfAFile) {
     for (const auto& c : cases) {
         session s(ownfolder);
         const std::string text = replaced(good, c.taken, c.put);
-        const auto f = failureof([&] { readfile(text); });
+        const auto f = failureof([&] {
+            readfile(text);
+            paintsolids();
+        });
         expectfailure(f, c.kind, c.told);
         expectfailure(f, c.kind, "datah\\st-test.txt");
     }

@@ -107,4 +107,6 @@ TEST(transforms, mistakesOfAScript) {
         session s;
         expectfailure(failureof([&] { run(c.script, four); }), c.kind, c.told);
     }
+    session s;
+    run("TRAN\nTRANSLATE:\n1e10,10,1,1,1\n9999,0,0,0,0\nTRAN\nSTOP\n", four);  // an empty range touches nothing
 }

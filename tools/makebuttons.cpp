@@ -82,7 +82,7 @@ void click(const char* name) { clickcontrol(*findcontrol(name)); }
 
 // The raster's image with the background colour transparent, cut to what was drawn.
 QImage cutout(const raster& from) {
-    const colour back = makecolour(backred, backgreen, backblue);
+    const colour back = backgroundcolour();
     QImage image(from.width(), from.height(), QImage::Format_ARGB32_Premultiplied);
     QRect drawn;
     image.fill(Qt::transparent);

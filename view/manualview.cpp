@@ -62,7 +62,7 @@ void clickcventerbtn() {
     takeboxes();
     nudge();
     keepeye();
-    viewportsurface->wash(1, 1450, 1, 1010, makecolour(backred, backgreen, backblue));
+    viewportsurface->wash(1, 1450, 1, 1010, backgroundcolour());
     projectdraw();
     sumabsoluteeye();
     // A character less for the last three than a step writes: a shift of -1270 reads -127 from here on, and the next

@@ -50,7 +50,7 @@ void clickstartprogrambtn() {
     showwindow(vistaplan);
 }
 
-void clickfillscreen() { viewportsurface->wash(1, 1450, 1, 1010, makecolour(backred, backgreen, backblue)); }
+void clickfillscreen() { viewportsurface->wash(1, 1450, 1, 1010, backgroundcolour()); }
 
 void clickexitbtn() {
     for (window* w : {&startform, &vistaplan, &easyviews, &instructions, &layoutgirder, &layoutpanels, &layoutroof})
