@@ -1,0 +1,77 @@
+#!/usr/bin/env bash
+# The Debian package: built, unpacked into a scratch root and started as a user would, by the launcher, in an empty home.
+# Then once more, with a shipped file changed and one gone. Nothing of the machine is touched.
+set -euo pipefail
+. "$(dirname "${BASH_SOURCE[0]}")/mouse.sh"
+
+rm -f "$build"/*.deb
+cmake --build "$build" --target deb -j2 >"$scratch/deb.log" 2>&1 || { cat "$scratch/deb.log" >&2; fail "the package"; }
+package=$(ls "$build"/tessaly_*.deb)
+
+for wanted in 'Package: tessaly$' 'Maintainer: .*@' 'Description: .' 'Depends: .*libqt6widgets6' 'Depends: .*libqt6svg6' \
+    'Depends: .*fonts-liberation' 'Depends: .*fonts-dejavu-core'; do
+    dpkg-deb -f "$package" | grep -q "^$wanted" || fail "the package does not say: $wanted"
+done
+apt-get -qq --simulate install "$package" >/dev/null || fail "what the package depends on is not to be had"
+
+installed=$scratch/root/usr
+dpkg-deb -x "$package" "$scratch/root"
+desktop-file-validate "$installed/share/applications/tessaly.desktop" || fail "the desktop entry"
+appstreamcli validate --no-net "$installed"/share/metainfo/*.xml >"$scratch/metainfo.log" ||
+    { cat "$scratch/metainfo.log" >&2; fail "the metainfo"; }
+[ -x "$installed/bin/$(sed -n 's/^Exec=//p' "$installed/share/applications/tessaly.desktop")" ] || fail "the entry's program"
+[ -f "$installed/share/icons/hicolor/scalable/apps/$(sed -n 's/^Icon=//p' "$installed/share/applications/tessaly.desktop").svg" ] ||
+    fail "the entry's icon"
+
+# What the documents link to lies where they say.
+for page in NOT-BUGS.md docs/guide.md samples/README.md; do
+    page=$installed/share/doc/tessaly/$page
+    [ -f "$page" ] || fail "no $page"
+    for target in $(grep -o ']([^)#: ]*' "$page" | cut -c 3-); do
+        [ -e "$(dirname "$page")/$target" ] || fail "$page leads nowhere: $target"
+    done
+done
+
+startscreen 1100 900
+export HOME=$scratch/home
+unset TESSALY_HOME XDG_CONFIG_HOME
+mkdir "$HOME"
+work=$HOME/Tessaly
+
+# startlauncher: the installed program, up to its main window, whose id is left in $window.
+startlauncher() {
+    (cd / && QT_QPA_PLATFORM=xcb exec "$installed/bin/tessaly") >"$scratch/program.log" 2>&1 &
+    programpid=$!
+    waitfor "the start window" shown "Tessaly Girder and Panel" 800
+    clickcontrol "$window" startprogrambtn
+    waitfor "the main window" shown "Tessaly Girder and Panel" 1000
+}
+
+startlauncher
+for folder in datah pals el-numbers samples; do
+    diff -r "$root/$folder" "$work/$folder" || fail "$folder/ is not as shipped"
+done
+[ "$(cd "$work" && echo *)" = "bmps datah designs el-numbers nonuser pals samples" ] || fail "the working folder: $(ls "$work")"
+[ -z "$(ls "$work/designs" "$work/bmps" | grep txt)" ] || fail "a design before the first click"
+
+# A click is recorded there.
+main=$window
+clickcontrol "$main" postbeambtn
+waitfor "the girder layout" shown "Layout Girders" 600
+xdotool windowmove "$window" 100 100
+clickat "$window" 40 40 # postx0y16
+waitfor "the post's record" test -s "$work/designs/girders1.txt"
+xdotool windowraise "$main"
+clickcontrol "$main" exitbtn
+programended 0
+
+# The second start adds and overwrites nothing else.
+echo changed >"$work/datah/st-post.txt"
+rm "$work/datah/st-roof.txt"
+cp -r "$work" "$scratch/before"
+cp "$root/datah/st-roof.txt" "$scratch/before/datah"
+startlauncher
+clickcontrol "$window" exitbtn
+programended 0
+diff -r "$scratch/before" "$work" || fail "the second start changed the working folder"
+echo "$(basename "$package"): installed, started twice, and the working folder is the user's."
