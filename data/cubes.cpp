@@ -34,7 +34,7 @@ constexpr section rows[] = {
     {"AUTOCUBE500:", 500, 5001},
     // clang-format on
 };
-constexpr int singlesfirst = 600, singleslast = 699, singlespoint = 6001;
+constexpr int singlesfirst = 600, mostsingles = 100, singlespoint = 6001;
 
 void readcuberow(axis stepped, int base, cubeslots& next) {
     value corner[6];
@@ -51,18 +51,6 @@ void readcuberow(axis stepped, int base, cubeslots& next) {
         first = first + step;
         second = second + step;
         expandcube(next, corner[0], corner[1], corner[2], corner[3], corner[4], corner[5], rowgrade, rowcolour);
-    }
-}
-
-void readsinglecubes(cubeslots& next) {
-    for (int c = singlesfirst; c <= singleslast; ++c) {
-        const int label = readlabel(1, "the label of a cube row");
-        value corner[6];
-        for (value& v : corner) v = readvalue(1, "a corner coordinate of a cube row");
-        cubegrade.set(c, readvalue(1, "the grade of a cube row"));
-        cubecolour.set(c, readvalue(1, "the colour of a cube row"));
-        if (label == sentinel) return;
-        expandcube(next, corner[0], corner[1], corner[2], corner[3], corner[4], corner[5], cubegrade[c], cubecolour[c]);
     }
 }
 
@@ -107,7 +95,7 @@ void readcubesections(axis stepped) {
     findkey(1, "AUTOCUBE600:");
     closepair(8, 3);
     next.point = next.quad = singlespoint;
-    readsinglecubes(next);
+    readcuberows(singlesfirst, mostsingles, next);
     closepair(9, 4);
     readcubeframing("AUTOFRAMING1:", framing1);
     readcubeframing("AUTOFRAMING2:", framing2);

@@ -60,20 +60,6 @@ int readlines(const char* key, int first) {
     return 0;
 }
 
-// Reads one cube section into the slots from next on and expands its cubes.
-void readcubes(const char* key, int firstcube, cubeslots& next) {
-    findkey(1, key);
-    for (int c = firstcube; c < firstcube + cubesinsection; ++c) {
-        const int label = readlabel(1, "the label of a cube row");
-        value corner[6];
-        for (value& v : corner) v = readvalue(1, "a corner coordinate of a cube row");
-        cubegrade.set(c, readvalue(1, "the grade of a cube row"));
-        cubecolour.set(c, readvalue(1, "the colour of a cube row"));
-        if (label == sentinel) return;
-        expandcube(next, corner[0], corner[1], corner[2], corner[3], corner[4], corner[5], cubegrade[c], cubecolour[c]);
-    }
-}
-
 void readplanes() {
     findkey(1, "AUTOPLANE:");
     for (int q = 1; q <= lastplane; ++q) {
@@ -112,12 +98,14 @@ void readsections() {
         lines += count;
     }
     cubeslots next{4001, 4001, lines + 1};
-    readcubes("AUTOCUBE400:", 400, next);
+    findkey(1, "AUTOCUBE400:");
+    readcuberows(400, cubesinsection, next);
     linecount6 = next.line - (lines + 1);
     ptcount3 = next.point - 4001;
     const int firstline = next.line;
     next = {6001, 6001, firstline};
-    readcubes("AUTOCUBE600:", 600, next);
+    findkey(1, "AUTOCUBE600:");
+    readcuberows(600, cubesinsection, next);
     linecount7 = next.line - firstline;
     ptcount4 = next.point - 6001;
     readplanes();
@@ -147,6 +135,18 @@ bool place() {
 }
 
 }  // namespace
+
+void readcuberows(int firstcube, int mostrows, cubeslots& next) {
+    for (int c = firstcube; c < firstcube + mostrows; ++c) {
+        const int label = readlabel(1, "the label of a cube row");
+        value corner[6];
+        for (value& v : corner) v = readvalue(1, "a corner coordinate of a cube row");
+        cubegrade.set(c, readvalue(1, "the grade of a cube row"));
+        cubecolour.set(c, readvalue(1, "the colour of a cube row"));
+        if (label == sentinel) return;
+        expandcube(next, corner[0], corner[1], corner[2], corner[3], corner[4], corner[5], cubegrade[c], cubecolour[c]);
+    }
+}
 
 void expandcube(cubeslots& next, const value& x1, const value& y1, const value& z1, const value& x2, const value& y2,
                 const value& z2, const value& grade, const value& colour) {

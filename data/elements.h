@@ -29,4 +29,8 @@ struct cubeslots {
 void expandcube(cubeslots& next, const value& x1, const value& y1, const value& z1, const value& x2, const value& y2,
                 const value& z2, const value& grade, const value& colour);
 
+// Reads rows of one cube each, up to the end row or mostrows of them, and expands them into the slots from next on.
+// writes: cubegrade, cubecolour from firstcube on and what expandcube writes; fails: as readelements.
+void readcuberows(int firstcube, int mostrows, cubeslots& next);
+
 }  // namespace tessaly

@@ -44,9 +44,16 @@ void buildrail(const value& start, const value& end, int firstpoint, int count, 
     }
 }
 
-// The framing lines of one direction between the two rails. The scratch points have no saved positions and no base of
-// their own: a near-side walk starts from what the tables hold there, and the restore overwrites them.
-void framedirection() {
+// The framing lines of one direction: count lines between rail start1-end1 and rail start2-end2. The scratch points
+// have no saved positions and no base of their own: a near-side walk starts from what the tables hold there, and the
+// restore overwrites them.
+void framedirection(const value& start1, const value& end1, const value& start2, const value& end2,
+                    const value& lines) {
+    railstart1 = start1;
+    railend1 = end1;
+    railstart2 = start2;
+    railend2 = end2;
+    framen = lines;
     curgroup = framinggroup;
     const colour c = palettecolour(framecolour);
     viewportsurface->line(static_cast<float>(screenx[railend2]), static_cast<float>(screeny[railend2]),
@@ -59,32 +66,14 @@ void framedirection() {
     drawlines(framingscratch, framingscratch - 1 + count, framecolour);
 }
 
-void framefirst(int q) {
-    railstart1 = quad1[q];
-    railend1 = quad2[q];
-    railstart2 = quad3[q];
-    railend2 = quad4[q];
-    framen = framing1[q];
-    framedirection();
-}
-
-void framesecondly(int q) {
-    railstart1 = quad1[q];
-    railend1 = quad3[q];
-    railstart2 = quad2[q];
-    railend2 = quad4[q];
-    framen = framing2[q];
-    framedirection();
-}
-
 void drawframing(int q) {
     if (framing1[q] == 0 && framing2[q] == 0) return;
     framecolour = quadcolour[q] + 1;
     const bool first = framing1[q] > 0, second = framing2[q] > 0;
     framesecond = first && second ? 1 : 0;
-    if (first) framefirst(q);
+    if (first) framedirection(quad1[q], quad2[q], quad3[q], quad4[q], framing1[q]);
     framesecond = 0;
-    if (second) framesecondly(q);
+    if (second) framedirection(quad1[q], quad3[q], quad2[q], quad4[q], framing2[q]);
 }
 
 void paintface(int q) {
