@@ -145,7 +145,7 @@ std::string shortesttext(double number) {
     return std::string(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
 }
 
-std::string boxtext(const value& v, std::size_t n) { return v.text().substr(0, n); }
+std::string boxtext(const value& v, std::size_t n) { return (v.istext() ? generaltext(v) : v.text()).substr(0, n); }
 
 double nearestwhole(double number) { return std::nearbyint(number); }
 

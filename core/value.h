@@ -57,8 +57,10 @@ std::string generaltext(double number);
 // A number's shortest text that reads back as the same number.
 std::string shortesttext(double number);
 
-// The text of v cut to its first n characters, as the boxes show figures; it cuts, it never rounds.
-std::string boxtext(const value& v, std::size_t n);
+// The general text of v's number cut to its first n characters, as the boxes show figures; it cuts, it never rounds. A
+// figure that is still the text that was typed or read ("1234.") shows as its number does ("1234"); fails with type
+// mismatch where it is none. Without n: the whole text.
+std::string boxtext(const value& v, std::size_t n = std::string::npos);
 
 // The nearest whole number, halves to the even one.
 double nearestwhole(double number);

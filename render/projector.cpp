@@ -296,13 +296,13 @@ void writeviewback() {
     perpabsy = perprely + focusy;
     perpabsz = perprelz + focusz;
     magshown = mag * 0.1;
-    perptxtx.text = perpabsx.text();
-    perptxty.text = perpabsy.text();
-    perptxtz.text = perpabsz.text();
-    focustxtx.text = focusx.text();
-    focustxty.text = focusy.text();
-    focustxtz.text = focusz.text();
-    magtxt.text = magshown.text();
+    perptxtx.text = boxtext(perpabsx);
+    perptxty.text = boxtext(perpabsy);
+    perptxtz.text = boxtext(perpabsz);
+    focustxtx.text = boxtext(focusx);
+    focustxty.text = boxtext(focusy);
+    focustxtz.text = boxtext(focusz);
+    magtxt.text = boxtext(magshown);
     verttxt.text = boxtext(vertshift, 5);
     horiztxt.text = boxtext(horizshift, 5);
 }

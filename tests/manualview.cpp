@@ -38,8 +38,8 @@ TEST(set, degenerateSightLinesAreNudged) {
 
 TEST(set, boxesComeBackCutAndCountFromThenOn) {
     typing s;
-    s.set({"1234.5678", "-1850", "830", "0.25", "1e1", "280", "0.1", "170", "-1270"});
-    EXPECT_EQ(s.boxes(), "1234. -1850 830 0.25 1e1 280 0.1 170 -127 ");
+    s.set({"1234.5678", "-1850", "830", "0.25", "1e1", "280.", "0.1", "170", "-1270"});
+    EXPECT_EQ(s.boxes(), "1234. -1850 830 0.25 10 280 0.1 170 -127 ");
     EXPECT_EQ(mag, 1);
     EXPECT_TRUE(horizshift.is("-1270"));
     s.click("hidpfm");

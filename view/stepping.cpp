@@ -61,7 +61,7 @@ void stepmag(int sign) {
 void stepshift(int sign, value& shift, control& box) {
     shiftinc = pickedstep(incrementlist, usualshiftstep);
     static_cast<void>(static_cast<double>(shift));
-    shift = Val(boxtext(shift, 5)) + sign * shiftinc;
+    shift = Val(shift.text().substr(0, 5)) + sign * shiftinc;
     settle();
     replot();
     box.text = boxtext(shift, 5);
