@@ -175,6 +175,7 @@ void runevent(const std::function<void()>& procedure) {
         procedure();
         carrytowidgets();
     } catch (const failure& f) {
+        carrytowidgets();  // what the event had done before it failed stands behind the message
         reportfailure(f);
     }
     running = false;
