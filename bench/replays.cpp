@@ -1,45 +1,34 @@
-#include "bench/scene.h"
-#include "bench/surfaces.h"
-#include "core/world.h"
+// Replays of design files: one file and two, wire and solid, up to the whole tower.
 
-#include <benchmark/benchmark.h>
+#include "bench/measure.h"
 
-using namespace tessaly;
+namespace tessaly {
 
 namespace {
 
-template <class on, class... how>
-void thousand(benchmark::State& state, how... given) {
-    on image(given...);
-    startbuilding(image);
-    writedesign("girders1.txt", design::mixed, 500);
-    writedesign("panels1.txt", design::mixed, 500);
-    for (auto _ : state) replaycombined("girders1.txt", "panels1.txt");
+constexpr int floors = 10, storeygirders = 130, storeypanels = 100;  // all girders of the plan, and panels around
+
+void replaystorey(int onfloor) {
+    replaycombined(girdersfile(storeygirders, onfloor), panelsfile(storeypanels, onfloor));
 }
-void quick(benchmark::State& s) { thousand<raster>(s, viewwide, viewhigh); }
-void plain(benchmark::State& s) { thousand<plainraster>(s); }
-void qpainter(benchmark::State& s) { thousand<painterimage>(s, false); }
-void qclipped(benchmark::State& s) { thousand<painterimage>(s, true); }
-void nothing(benchmark::State& s) { thousand<nosurface>(s); }
-void allplain(benchmark::State& s) { plainway = true; thousand<plainraster>(s); plainway = false; }
-void allplainq(benchmark::State& s) { plainway = true; thousand<painterimage>(s, false); plainway = false; }
-void allplainqc(benchmark::State& s) { plainway = true; thousand<painterimage>(s, true); plainway = false; }
-void allplainnothing(benchmark::State& s) { plainway = true; thousand<nosurface>(s); plainway = false; }
-BENCHMARK(allplain)->Unit(benchmark::kMillisecond);
-BENCHMARK(allplainq)->Unit(benchmark::kMillisecond);
-BENCHMARK(allplainqc)->Unit(benchmark::kMillisecond);
-BENCHMARK(allplainnothing)->Unit(benchmark::kMillisecond);
-BENCHMARK(quick)->Unit(benchmark::kMillisecond);
-BENCHMARK(plain)->Unit(benchmark::kMillisecond);
-BENCHMARK(qpainter)->Unit(benchmark::kMillisecond);
-BENCHMARK(qclipped)->Unit(benchmark::kMillisecond);
-BENCHMARK(nothing)->Unit(benchmark::kMillisecond);
+
+void replaymixed(int n) { replaycombined(mixedfile(n / 2), mixedfile(n - n / 2)); }
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    enterscene();
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
-    leavescene();
+void addreplays() {
+    for (const way w : {way::program, way::plain}) {
+        for (const int n : {10, 100, 1000}) {
+            addmeasure("replay/wire " + std::to_string(n), w, n, [n] { replaywire(girdersfile(n)); });
+            addmeasure("replay/solid " + std::to_string(n), w, n, [n] { replaysolid(girdersfile(n)); });
+        }
+        addmeasure("replay/storey", w, storeygirders + storeypanels, [] { replaystorey(1); });
+        addmeasure("replay/tower", w, floors * (storeygirders + storeypanels), [] {
+            for (int onfloor = 1; onfloor <= floors; ++onfloor) replaystorey(onfloor);
+        });
+    }
+    addmeasure(tenthofreplay, way::program, 100, [] { replaymixed(100); });
+    for (const way w : allways) addmeasure(measuredreplay, w, 1000, [] { replaymixed(1000); });
 }
+
+}  // namespace tessaly

@@ -2,6 +2,7 @@
 
 #include "bench/scene.h"
 
+#include "bench/surfaces.h"
 #include "building/designfiles.h"
 #include "building/layouts.h"
 #include "core/channels.h"
@@ -11,6 +12,7 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <stdexcept>
 #include <vector>
 
@@ -37,7 +39,7 @@ std::vector<const position*> positionsof(const char* kind) {
     return found;
 }
 
-// Panels of one storey's height with eleven to sixteen faces: orange 1 and yellow 1, all four parts.
+// Panels of eleven to sixteen faces: orange 1 and yellow 1, all four parts.
 constexpr int panelcodes[] = {1, 10, 2, 11, 3, 12, 31, 34};
 
 // The i-th record of a kind: its positions in turn, spread over the plan.
@@ -48,11 +50,31 @@ std::string recordof(const char* kind, std::size_t i) {
     return recordline({kind, p.number, p.middlex, p.middley, code, p.of->rotx, p.of->rotz, p.x, p.y, p.of->face, 64});
 }
 
-const char* kindof(design what, std::size_t i) {
-    if (what == design::girders) return "girder";
-    if (what == design::panels) return "panel";
-    if (what == design::roofs) return "roof";
-    return i % 10 == 9 ? "roof" : i % 2 == 0 ? "panel" : "girder";
+const char* mixedkind(std::size_t i) { return i % 10 == 9 ? "roof" : i % 2 == 0 ? "panel" : "girder"; }
+
+// front's class of file, in which the floor's digit has its place; the letters before it are free and tell n.
+std::string designname(std::string front, std::size_t digitat, int n, int onfloor) {
+    front += {static_cast<char>('a' + n / 100), static_cast<char>('a' + n % 100 / 10)};
+    front.resize(digitat, 's');
+    return front + std::to_string(onfloor % 10) + ".txt";
+}
+
+template <class kinds>
+std::string designfile(const std::string& name, int n, kinds kindof) {
+    if (fs::exists("designs/" + name)) return name;
+    std::ofstream out("designs/" + name, std::ios::binary);
+    for (std::size_t i = 0; i < static_cast<std::size_t>(n); ++i) out << recordof(kindof(i), i);
+    return name;
+}
+
+std::unique_ptr<surface> surfaceof(way w) {
+    switch (w) {
+    case way::program: return std::make_unique<raster>(viewwide, viewhigh);
+    case way::plain: return std::make_unique<plainraster>();
+    case way::plainqpainter: return std::make_unique<painterimage>(false);
+    case way::plainclippedqpainter: return std::make_unique<painterimage>(true);
+    default: return std::make_unique<nosurface>();
+    }
 }
 
 }  // namespace
@@ -73,13 +95,39 @@ void leavescene() {
     fs::remove_all(scratch, ignored);
 }
 
-void startbuilding(surface& on) {
-    viewportsurface = &on;
+std::string girdersfile(int n, int onfloor) {
+    return designfile(designname("girds", 7, n, onfloor), n, [](std::size_t) { return "girder"; });
+}
+
+std::string panelsfile(int n, int onfloor) {
+    return designfile(designname("pane", 6, n, onfloor), n, [](std::size_t) { return "panel"; });
+}
+
+std::string mixedfile(int n) { return designfile(designname("girdm", 7, n, 1), n, mixedkind); }
+
+const char* nameof(way w) {
+    switch (w) {
+    case way::program: return "program";
+    case way::nodrawing: return "program,nothing drawn";
+    case way::plain: return "plain";
+    case way::plainnodrawing: return "plain,nothing drawn";
+    case way::plainqpainter: return "plain,QPainter";
+    case way::plainclippedqpainter: return "plain,clipped QPainter";
+    }
+    return "";
+}
+
+building::building(way w) : viewport(surfaceof(w)) {
+    plainway = w != way::program && w != way::nodrawing;
+    viewportsurface = viewport.get();
     progresssurface = &progress;
     forgetchannels();
     startprogram();
     click("startprogrambtn");
+    wiresolid.text = "solid";
 }
+
+building::~building() { plainway = false; }
 
 void click(const std::string& name) { clickcontrol(named(name)); }
 
@@ -90,20 +138,29 @@ void pick(const std::string& list, const std::string& item) {
     throw std::logic_error(list + " has no item " + item);
 }
 
-void writedesign(const std::string& name, design what, int n) {
-    std::ofstream out("designs/" + name, std::ios::binary);
-    for (std::size_t i = 0; i < static_cast<std::size_t>(n); ++i) out << recordof(kindof(what, i), i);
+void replaywire(const std::string& file) {
+    click("autowiresingle");
+    pick("autofile", file);
 }
 
-void replaysingle(const char* button, const char* list, const std::string& name) {
-    click(button);
-    pick(list, name);
+void replaysolid(const std::string& file) {
+    click("autosolidsingle");
+    pick("autofile5", file);
 }
 
 void replaycombined(const std::string& first, const std::string& second) {
     click("autosolidbtn");
     pick("autofile3", first);
     pick("autofile4", second);
+}
+
+drawn drawnby(const std::function<void()>& action) {
+    surface* const before = viewportsurface;
+    pixelcounter counter;
+    viewportsurface = &counter;
+    action();
+    viewportsurface = before;
+    return {static_cast<double>(counter.lines), static_cast<double>(counter.pixels)};
 }
 
 }  // namespace tessaly

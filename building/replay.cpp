@@ -80,6 +80,7 @@ void sortrecordsplainly(const table<value, lastrecord>& number, int n) {
 
 // The records that can be chosen are chosen in falling order of distance; once none is left, none comes back.
 void sortrecords(const table<value, lastrecord>& number, int n) {
+    if (plainway) return sortrecordsplainly(number, n);
     if (n == 0) return;
     std::vector<int> chosen;
     for (int j = 1; j <= lastrecord; ++j)
