@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <iterator>
 
 namespace tessaly {
 
@@ -83,8 +84,11 @@ void raster::wash(int x1, int x2, int y1, int y2, colour c) {
 void raster::web(const facecorners& f, int n, colour c) {
     const auto [left, right] = std::minmax({f.x1, f.x2, f.x3, f.x4});
     const auto [top, bottom] = std::minmax({f.y1, f.y2, f.y3, f.y4});
-    const auto pixels = [](double from, double to) { return from >= -mostpixels && to <= mostpixels; };
-    if (!pixels(left, right) || !pixels(top, bottom) || n < 1 || n > mostdivisions) return surface::web(f, n, c);
+    const double corners[] = {f.x1, f.y1, f.x2, f.y2, f.x3, f.y3, f.x4, f.y4};
+    // A corner that is no number is not near either.
+    const auto isnear = [](double at) { return std::abs(at) <= mostpixels; };
+    const bool near = std::all_of(std::begin(corners), std::end(corners), isnear);
+    if (!near || n < 1 || n > mostdivisions) return surface::web(f, n, c);
     // The last of the ends may stand a rounding beyond its corner.
     const int x1 = nearestpixel(static_cast<float>(left)) - 1, x2 = nearestpixel(static_cast<float>(right)) + 1;
     const int y1 = nearestpixel(static_cast<float>(top)) - 1, y2 = nearestpixel(static_cast<float>(bottom)) + 1;

@@ -178,6 +178,7 @@ void randomcorner(dice& d, int kind, double& x, double& y) {
     if (d.whole(0, 7) == 0) x = std::floor(x) + d.whole(0, 1) / 2.0;  // on a border between pixels
     if (d.whole(0, 7) == 0) y = std::floor(y) + d.whole(0, 1) / 2.0;
     if (d.whole(0, 40) == 0) y = 9999;
+    if (d.whole(0, 60) == 0) y = std::numeric_limits<double>::quiet_NaN();
     if (d.whole(0, 60) == 0) x = std::ldexp(1.0, d.whole(20, 130)) * (d.whole(0, 1) * 2 - 1);
 }
 
