@@ -111,8 +111,7 @@ TEST(cubes, ownScriptRunsUnlessTheFileWasOpened) {
 // The cube button leaves drawset to the last element. With 1, cubes of block 2 are drawn displaced by the focus and
 // stand right only from the next drawing on.
 TEST(cubes, theCubeButtonDisplacesBlockTwo) {
-    session s;
-    s.start();
+    started s;
     s.click("postbeambtn");
     s.click("postx0y16");
     std::filesystem::remove("datah");

@@ -4,8 +4,7 @@
 using namespace tessaly;
 
 TEST(roofs, recordsOfTheCorners) {
-    session s;
-    s.start();
+    started s;
     s.click("roofbtn");
     EXPECT_TRUE(layoutroof.shown && panelprefix.empty());
     s.click("roofx0y0");
@@ -18,8 +17,7 @@ TEST(roofs, recordsOfTheCorners) {
 
 // The finest web belongs to the kind of the last element: a girder after a roof is painted as usual.
 TEST(roofs, theFineWebEndsWithTheRoof) {
-    session s;
-    s.start();
+    started s;
     s.click("roofx0y0");
     s.click("postx0y16");
     EXPECT_EQ(divisions, 200);

@@ -27,8 +27,7 @@ std::string sample(const std::string& name) { return session::file(TESSALY_SOURC
 // A sample left behind by a change of the layouts, of a record or of the script; a replay that loses, moves or adds an
 // element.
 TEST(samples, theHouseComesBackAsItWasClicked) {
-    session s;
-    s.start();
+    started s;
     s.click("wiresolidbtn");
     s.takelines();
     build(s, "house");
@@ -49,8 +48,7 @@ TEST(samples, theHouseComesBackAsItWasClicked) {
 
 // The tenth floor's files are named with a 0, the one figure that the readers take for it.
 TEST(samples, theTowerHasTenFloors) {
-    session s;
-    s.start();
+    started s;
     s.click("wiresolidbtn");
     build(s, "tower");
     for (int level = 1; level <= 10; ++level) {
