@@ -12,6 +12,26 @@ std::string temp() { return session::file("nonuser/temp.txt"); }
 
 }  // namespace
 
+TEST(combinedreader, twoPicksShowAndHide) {
+    replaysession s;
+    s.design("girders1.txt", nearest);
+    s.click("autowirebtn");
+    EXPECT_TRUE(escapefilelistbtn.shown && selectgirderfile.shown && autofile1.shown && autohintbox.shown);
+    s.design("panels2.txt", panel);
+    s.pick("autofile1", "girders1.txt");
+    EXPECT_FALSE(escapefilelistbtn.shown || selectgirderfile.shown || autofile1.shown);
+    EXPECT_TRUE(selectpanelfile.shown && autofile2.shown && autohintbox.shown && selectedbox.shown);
+    EXPECT_EQ(selectedbox.text, "You selected:  girders1.txt");
+    s.pick("autofile2", "panels2.txt");
+    EXPECT_FALSE(selectpanelfile.shown || autofile2.shown || autohintbox.shown || selectedbox.shown);
+    s.click("autosolidbtn");
+    EXPECT_TRUE(autofile3.shown && selectgirderfile.shown);
+    s.pick("autofile3", "girders1.txt");
+    EXPECT_TRUE(autofile4.shown && selectpanelfile.shown);
+    s.pick("autofile4", "panels2.txt");
+    EXPECT_FALSE(autofile4.shown || selectpanelfile.shown || autohintbox.shown || progressbar.shown);
+}
+
 // The three forms of the temporary files, of a girder on floor 2 with a panel on floor 1.
 TEST(combinedreader, temporaryFilesCarryTheHeightOfEachRecord) {
     replaysession s;
@@ -40,11 +60,13 @@ TEST(combinedreader, oneSortOverBothFilesAtTheirOwnHeights) {
     panelcode = 19;
     EXPECT_EQ(s.combinedwire("girders2.txt", "panels1.txt"), near + far + flat);
     EXPECT_EQ(s.combinedsolid("girders2.txt", "panels1.txt"), far + near + flat);  // ties: the first file's first
+    EXPECT_EQ(s.combinedsolid("panels1.txt", "girders2.txt"), far + flat + near);
     EXPECT_EQ(s.combinedsolid("girders2.txt", "girders1.txt"), far + s.wiresof(farther) + near);
     EXPECT_EQ(panelcode, 19);
     EXPECT_EQ(floorname.text(), "1");  // of the second file
     EXPECT_EQ(placez, 128);            // of the last record, the nearest
     EXPECT_EQ(firstfilename.text() + ' ' + secondfilename.text(), "girders2.txt girders1.txt");
+    EXPECT_EQ(perpx, 1850);
     EXPECT_EQ(temp() + s.file("nonuser/temp2.txt"), "(none)(none)");
 }
 
@@ -53,6 +75,7 @@ TEST(combinedreader, sameFileTwiceAndEmptyFiles) {
     s.design("girders1.txt", nearest + farther);
     s.design("roofs1.txt", "");
     EXPECT_EQ(s.combinedsolid("girders1.txt", "girders1.txt"), s.wiresof(farther + farther + nearest + nearest));
+    EXPECT_EQ(s.combinedsolid("girders1.txt", "roofs1.txt"), s.wiresof(farther + nearest));
     EXPECT_EQ(s.combinedwire("roofs1.txt", "girders1.txt"), s.wiresof(nearest + farther));
     EXPECT_TRUE(s.combinedsolid("roofs1.txt", "roofs1.txt").empty());
 }
@@ -75,6 +98,8 @@ TEST(combinedreader, limits) {
     s.design("girders1.txt", thousand + nearest);  // a record more than a file may have
     s.design("girders2.txt", nearest);
     EXPECT_EQ(s.combinedwire("girders1.txt", "girders1.txt").size(), 2000);
+    s.design("roofs1.txt", "");
+    EXPECT_EQ(s.combinedsolid("girders1.txt", "roofs1.txt").size(), 1000);
     const auto failed = failureof([&] { s.combinedsolid("girders1.txt", "girders2.txt"); });
     EXPECT_EQ(failed.value().kind, failurekind::subscript);
 }

@@ -111,7 +111,8 @@ TEST(cubes, ownScriptRunsUnlessTheFileWasOpened) {
 // The cube button leaves drawset to the last element. With 1, cubes of block 2 are drawn displaced by the focus and
 // stand right only from the next drawing on.
 TEST(cubes, theCubeButtonDisplacesBlockTwo) {
-    started s;
+    session s;
+    s.start();
     s.click("postbeambtn");
     s.click("postx0y16");
     std::filesystem::remove("datah");

@@ -121,6 +121,22 @@ TEST(elements, sectionsWithoutAnEndRowStopAtTheirLimit) {
     EXPECT_TRUE(ptcount1 == 0 && drawset == 1);
 }
 
+// Another element takes the first one out of the tables; only what lies above 7000 keeps the old one's figures.
+TEST(elements, aSecondElementReplacesTheFirst) {
+    session s(ownfolder);
+    elementtext first;
+    first.points = "1,1,1,1\n2,2,2,2\n3,3,3,3\n";
+    first.lines[0] = "1,2\n2,3\n";
+    for (int c = 0; c < 101; ++c) first.cubes600 += "1,5,5,5,6,6,6,0,5\n";
+    readfile(first, 0);
+    readfile(elementtext{.points = "1,4,4,4\n"}, 0);
+    EXPECT_EQ(base(1), (corner{4, 4, 4}));
+    EXPECT_EQ(base(2), (corner{0, 0, 0}));
+    EXPECT_EQ(base(6001), (corner{0, 0, 0}));
+    EXPECT_EQ(base(7001), (corner{5, 5, 5}));
+    EXPECT_TRUE(linecount1 == 0 && linecount7 == 0 && ptcount4 == 0);
+}
+
 // Angles are turned into radians by a pi of five decimals, whose residue is to be seen.
 TEST(elements, placementsTurnThenMove) {
     const double quarter = 90 * 3.14159 / 180, residue = std::cos(quarter);
@@ -132,7 +148,9 @@ TEST(elements, placementsTurnThenMove) {
     } const cases[] = {
         {1, 0, 90, {12 - 20, 20 + 100, 259}},
         {4, 0, 270, {12 + 20, 20 - 100, 259}},
+        {1, 77, 180, {12 - 100, 20 - 20, 259}},
         {2, 90, 45, {112, 20 - 3, 256 + 20}},
+        {3, 90, 90, {112, 40, 259}},
         {5, 90, 90, {112, 40, 259}},
     };
     for (const auto& c : cases) {
@@ -173,6 +191,20 @@ TEST(elements, anUnknownPlacementBlocksTheChannel) {
     EXPECT_EQ(failureof([&] { readfile(e, 3); })->kind, failurekind::filealreadyopen);
 }
 
+// With the file opened for it the reader stops behind the framing: no placement, no plot, drawset as it was.
+TEST(elements, aFileOpenedForItIsLeftOpen) {
+    session s({{"datah/st-o.txt", elementtext{.points = "1,1,1,1\n", .lines = {"1,9999\n9999,1\n"}}}});
+    placemode = 3;
+    placex = 1000;
+    preopened = 1;
+    openinput(1, "datah\\st-o.txt", "test");
+    readelements();
+    EXPECT_EQ(base(1), (corner{1, 1, 1}));
+    EXPECT_TRUE(drawset.empty() && placex == 1000 && s.lines().empty());
+    EXPECT_EQ(linecount1, 2);  // one field of 9999 ends no section
+    EXPECT_EQ(readtextfield(1, "it"), "TRAN");
+}
+
 TEST(elements, mistakesOfAFile) {
     const elementtext good{.points = "1,0,0,0\n2,50,0,0\n",
                            .lines = {"1,2\n"},
@@ -184,12 +216,17 @@ TEST(elements, mistakesOfAFile) {
         failurekind kind;
         const char* told;
     } const cases[] = {
+        {"STANDARD:", "standard:", failurekind::inputpastend, "looking for STANDARD:"},
         {"LINEG4:\n", "", failurekind::inputpastend, "looking for LINEG4:"},
         {"2,50,0,0", "2,5O,0,0", failurekind::typemismatch, "line 6, field 2 (x of a STANDARD: row)"},
+        {"1,2\n9999", "1,two\n9999", failurekind::typemismatch, "\"two\""},
         {"1,2\n9999,9999", "1,10001\n9999,9999", failurekind::subscript, "names point 10001"},
+        {"1,2\n9999", "1,-1\n9999", failurekind::subscript, "names point -1"},
         {"WIRECOLORS:\n1", "WIRECOLORS:\n300", failurekind::subscript, "line group 1: palette has no index 300"},
+        {"1,0,0,0,1,1,1,0,0", "1,0,0,0,one,1,1,0,0", failurekind::typemismatch, "line 20, field 5"},
         {"1,0,0,0,1,1,1,0,0", "40000,0,0,0,1,1,1,0,0", failurekind::overflow, "40000"},
         {"9999,0,0,0,0,0,0,0,0\nAUTOCUBE600:", "9999,0\nAUTOCUBE600:", failurekind::inputpastend, "AUTOCUBE600:"},
+        {"1,1,2,1,2,1,7", "1,1,2,1,10001,1,7", failurekind::subscript, "face 1: ptx has no index 10001"},
         {"1,2\n0,9999", "10001,2\n0,9999", failurekind::subscript, "framing1 has no index 10001"},
         {"0,9999\nTRAN", "0,9998\n", failurekind::inputpastend, "the count of a framing row"},
         {"9999,0,0,0\nLINEG1:", "LINEG1:", failurekind::inputpastend, "LINEG1:"},  // its rows are read as points

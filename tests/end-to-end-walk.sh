@@ -57,15 +57,12 @@ pickitem() {
 startscreen 2100 1000
 startprogram
 waitfor "the start window" shown "Tessaly Girder and Panel" 800
+station start
 clickcontrol "$window" startprogrambtn
 waitfor "the main window" shown "Tessaly Girder and Panel" 1000
 main=$window
 xdotool windowmove "$main" 0 0
-
-# the start scene, pixel by pixel as the player draws it
-workingfolder "$scratch/played"
-(cd "$scratch/played" && printf '%s\n' 'click startprogrambtn' 'picture scene.png' | "$build/tools/play" -) || fail "the player"
-waitfor "the start scene" same "$scratch/played/scene.png"
+station scene
 
 # a storey of girders around four bays; places on the plan in pixels: 32 + 80 column, row likewise
 opened "Layout Girders" 600 postbeambtn 1100 100
@@ -89,30 +86,43 @@ xdotool key --window "$plan" ctrl+a
 xdotool type --window "$plan" "snip both sides"
 clickat "$plan" $((30 + 64 * 2)) $((104 + 64 * 1)) # pan0, left of the left edge
 waitfor "a panel snipped on both sides" lines designs/panels1.txt 3
-cut -d, -f5 "$work/designs/panels1.txt" | tr '\n' ' ' | grep -qx '4 5 32 ' || fail "panel codes: $(cat "$work/designs/panels1.txt")"
+clickcontrol "$main" yellow3btn
+clickat "$plan" $((30 + 64 * 2)) $((104 + 64 * 2))
+waitfor "a yellow panel" lines designs/panels1.txt 4
+cut -d, -f5 "$work/designs/panels1.txt" | tr '\n' ' ' | grep -qx '4 5 32 16 ' || fail "panel codes: $(cat "$work/designs/panels1.txt")"
+station panels
 
 # the roof, then a post on floor 2 as wires
 opened "Roof Layout" 400 roofbtn 1100 100
 plan=$window
 clickat "$plan" $((72 + 56 * 2)) $((72 + 56 * 1))
 waitfor "a roof" holds designs/roofs1.txt '"roof",10,296,488,0,0,0,192,384,4,64'
+station roof
 clickcontrol "$main" floorbtn
 pickitem floorlist 7 13
 clickcontrol "$main" wiresolidbtn
 opened "Layout Girders" 600 postbeambtn 1100 100
 clickat "$window" 200 120
 waitfor "a post on floor 2" lines designs/girders2.txt 1
+station floor2
 clickcontrol "$main" wiresolidbtn
 press fillscreen
 press groupbtn
+station markers
 
-# replay of one file and of two
+# replay of one file, wire and solid, and of two
+look
+clickcontrol "$main" autowiresingle
+pickitem autofile 0
+waitfor "the wires of girders1.txt" changed
+station wirereplay
 look
 clickcontrol "$main" autosolidsingle
 pickitem autofile5 0
 waitfor "the faces of girders1.txt" changed
 clickcontrol "$main" autosolidbtn
 pickitem autofile3 0
+station firstpick
 look
 pickitem autofile4 2
 waitfor "girders and panels together" changed
@@ -120,16 +130,28 @@ waitfor "no temporary file" gone nonuser/temp.txt
 station combined
 
 # the view: arrows, steps, figures, quick views, default view
-for button in activateleftbtn rotleftbtn vertfocusplusbtn vertperpplusbtn magplusbtn vertinc; do press $button; done
+press activateleftbtn
+press rotleftbtn
+press rotleftbtn
+clickcontrol "$main" activaterightbtn
+press rotrightbtn
+station rotation
+for button in vertfocusplusbtn vertperpplusbtn magplusbtn vertinc horizdec; do press $button; done
+clickcontrol "$main" incrementbtn
+pickitem incrementlist 1 16
+press vertperpminusbtn
+station steps
 clickcontrol "$main" shopfm
 clickcontrol "$main" magtxt
 xdotool key ctrl+a && xdotool type "0.07"
 press cventerbtn
+station set
 opened "Easy views" 900 fastchange 1100 100
 clickat "$window" 617 296 # eye at X 0, Y 1800
 clickat "$window" 840 168 # eye at Z 1100
 clickat "$window" 728 624 # close
 press cventerbtn
+station quickview
 press defaultviewbtn
 clickcontrol "$main" hidpfm
 press fillscreen
@@ -152,18 +174,22 @@ waitfor "its view" holds bmps/walk.txt '"280","0.056","170","-270"'
 press magminusbtn
 clickcontrol "$main" retrieveimagetbtn
 pickitem bmplistbox 0
+station retrieval
 clickcontrol "$main" displayimagebtn
 waitfor "the captured picture" same "$scratch/kept.png"
 press vertperpplusbtn
+station retrieved
 
 # the file list, the help by keyboard, exit
 clickcontrol "$main" displayfilelistbtn
 pickitem designfileslist 1
+station filelist
 clickcontrol "$main" killfilebtn
 waitfor "the deletion" gone designs/girders2.txt
 xdotool key --window "$main" F1
 waitfor "the help" shown "Tessaly Panel and Girder" 1000
 xdotool windowmove "$window" 700 50
+station help
 clickat "$window" 60 400
 sleep 0.3
 station helppages

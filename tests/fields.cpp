@@ -38,25 +38,33 @@ TEST(fields, rulesAtTheirEdges) {
     } const cases[] = {
         {"1,2\r\n3", "vvv", "1 2 3"},
         {"1 ,2", "vv", "1 2"},  // a number ends at a blank and takes one separator with it
+        {"1 2\t3", "vvv", "1 2 3"},
         {"1 , ,2", "vvv", "1 - 2"},
+        {"1,,2", "vvv", "1 - 2"},
         {",5", "vv", "- 5"},
         {"1,\n2", "vvv", "1 - 2"},  // the comma opened a field, the line end closes it
         {"\n \r\n\n 5", "v", "5"},  // blank lines are skipped where a figure is expected
         {"\n5", "rr", "- 5"},       // but are a field of a record
+        {"5\n\n6", "rrr", "5 - 6"},
         {"a b ,c", "tt", "\"a b \" \"c\""},
+        {"a, b\nc", "ttt", "\"a\" \"b\" \"c\""},
         {"\n\nx", "ttt", "\"\" \"\" \"x\""},
         {"\"a,\nb\",3", "vv", "\"a,\nb\" 3"},
         {"\"12\" , 4", "vv", "\"12\" 4"},  // quoted: a text, whatever it looks like
         {"\"a\"\n\"b\"", "rr", "\"a\" \"b\""},
         {"12abc,3", "vv", "\"12abc\" 3"},
+        {"12 abc,3", "vvv", "12 \"abc\" 3"},
         {"x 1,3", "vv", "\"x 1\" 3"},
         {"-1.5e2\r7", "vv", "-150 7"},  // a lone carriage return ends a line too
         {"2.5,3.5,-0.5,abc,\"7\",8.49", "llllll", "2 4 0 0 7 8"},
+        {"abc def,8", "ll", "0 8"},
         {"32767.4,-32768", "ll", "32767 -32768"},
         {"32768", "l", "overflow"},
+        {"-32769", "l", "overflow"},
         {"1e999", "v", "overflow"},
         {"5", "vv", "5 input past end of file"},
         {"5,", "vv", "5 input past end of file"},
+        {"5\n\n", "vv", "5 input past end of file"},
         {"", "t", "input past end of file"},
     };
     for (const auto& c : cases) EXPECT_EQ(readall(c.bytes, c.reads), c.expected) << c.bytes << " by " << c.reads;
@@ -76,15 +84,15 @@ TEST(fields, keysAreFoundByWholeFields) {
 
 TEST(channels, refuseWhatIsOpenOrNotThere) {
     session s;
-    const auto kind = [](auto open, int channel, const char* path) {
-        return failureof([&] { open(channel, path, "a file"); })->kind;
-    };
-    EXPECT_EQ(kind(openinput, 1, "datah\\none.txt"), failurekind::filenotfound);
-    EXPECT_EQ(kind(openappend, 1, "none\\x.txt"), failurekind::filenotfound);
+    EXPECT_EQ(failureof([] { openinput(1, "datah\\none.txt", "element file"); })->kind, failurekind::filenotfound);
     openinput(1, "datah\\st-post.txt", "element file");
-    EXPECT_EQ(kind(openinput, 1, "datah\\st-beam.txt"), failurekind::filealreadyopen);
-    EXPECT_EQ(kind(openappend, 1, "none\\x.txt"), failurekind::filealreadyopen);
+    EXPECT_EQ(failureof([] { openinput(1, "datah\\st-beam.txt", "element file"); })->kind,
+              failurekind::filealreadyopen);
+    EXPECT_EQ(failureof([] { openappend(1, "designs\\x.txt", "design file"); })->kind, failurekind::filealreadyopen);
     openinput(2, "datah\\st-beam.txt", "design file");
+    EXPECT_EQ(failureof([] { openappend(3 - 2, "none\\x.txt", "design file"); })->kind, failurekind::filealreadyopen);
+    closechannel(1);
+    EXPECT_EQ(failureof([] { openappend(1, "none\\x.txt", "design file"); })->kind, failurekind::filenotfound);
 }
 
 // A user edits a file between two clicks: the next click sees the new bytes, also where size and name are the same.

@@ -7,18 +7,30 @@ TEST(filelist, deletesThePickedFileAndClosesTheList) {
     replaysession s;
     s.design("roofs1.txt", roof);
     s.design("girders1.txt", post(1, 8, 8));
-    for (const char* last : {"closefilelistbtn", "killfilebtn"}) {
-        s.click("displayfilelistbtn");
-        EXPECT_EQ(designfileslist.items, (std::vector<std::string>{"girders1.txt", "roofs1.txt"}));
-        EXPECT_TRUE(designfileslist.shown && closefilelistbtn.shown && !killfilebtn.shown);
-        s.pick("designfileslist", "roofs1.txt");
-        EXPECT_TRUE(killfilebtn.shown);
-        s.click(last);
-        EXPECT_FALSE(designfileslist.shown || closefilelistbtn.shown || killfilebtn.shown);
-    }
+    s.click("displayfilelistbtn");
+    EXPECT_TRUE(designfileslist.shown && closefilelistbtn.shown && !killfilebtn.shown);
+    EXPECT_EQ(designfileslist.items, (std::vector<std::string>{"girders1.txt", "roofs1.txt"}));
+    s.pick("designfileslist", "roofs1.txt");
+    EXPECT_TRUE(killfilebtn.shown);
+    s.click("closefilelistbtn");
+    EXPECT_FALSE(designfileslist.shown || closefilelistbtn.shown || killfilebtn.shown);
+    s.click("displayfilelistbtn");
+    s.pick("designfileslist", "roofs1.txt");
+    s.click("killfilebtn");
     EXPECT_EQ(s.file("designs/roofs1.txt"), "(none)");
+    EXPECT_NE(s.file("designs/girders1.txt"), "(none)");
     EXPECT_EQ(designfileslist.items, std::vector<std::string>{"girders1.txt"});
+    EXPECT_FALSE(designfileslist.shown || closefilelistbtn.shown || killfilebtn.shown);
     EXPECT_EQ(firstfilename.text(), "roofs1.txt");  // the painter goes by it until another name comes
+}
+
+TEST(filelist, fileThatIsGoneAlreadyIsAFailure) {
+    replaysession s;
+    s.design("girders1.txt", "");
+    s.click("displayfilelistbtn");
+    s.pick("designfileslist", "girders1.txt");
+    std::filesystem::remove("designs/girders1.txt");
+    EXPECT_EQ(failureof([&] { s.click("killfilebtn"); }).value().kind, failurekind::filenotfound);
 }
 
 TEST(filelist, escapeClosesEveryFirstListAndNoOther) {

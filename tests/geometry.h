@@ -4,7 +4,6 @@
 
 #include <array>
 #include <cmath>
-#include <gtest/gtest.h>
 
 namespace tessaly {
 
@@ -19,11 +18,6 @@ inline vec unit(const vec& a) { return 1 / std::sqrt(dot(a, a)) * a; }
 struct seen {
     double x, y;  // viewport pixels
 };
-
-inline void expectseen(float x, float y, const seen& at) {
-    EXPECT_NEAR(x, at.x, 1e-3 + 1e-5 * std::abs(at.x));
-    EXPECT_NEAR(y, at.y, 1e-3 + 1e-5 * std::abs(at.y));
-}
 
 // Points and eye are relative to the focus.
 struct lens {

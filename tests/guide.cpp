@@ -14,6 +14,22 @@ std::string document(const std::filesystem::path& path) {
     return session::file((std::filesystem::path(TESSALY_SOURCE_DIR) / path).string());
 }
 
+// Whether a heading of the text is reached by the anchor, such as "taking-back-a-click".
+bool hasanchor(const std::string& text, const std::string& anchor) {
+    std::istringstream in(text);
+    for (std::string line; std::getline(in, line);) {
+        if (!line.starts_with('#')) continue;
+        std::string made;
+        for (const char c : line.substr(std::min(line.find(' ') + 1, line.size())))
+            if (std::isalnum(static_cast<unsigned char>(c)))
+                made += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+            else if (c == ' ' || c == '-')
+                made += '-';
+        if (made == anchor) return true;
+    }
+    return false;
+}
+
 }  // namespace
 
 // A change of buttons or data that the guide does not follow; a capture that does not bring its picture back.
@@ -31,11 +47,16 @@ TEST(guide, theHouseIsBuiltAndComesBackFromItsCapture) {
 }
 
 TEST(guide, noLinkLeadsNowhere) {
-    const std::regex link(R"(\]\(([^)#:]*)(#[^)]*)?\))");
+    const std::regex link(R"(\]\(([^)#:]*)(#([^)]*))?\))");
     for (const std::filesystem::path page : {"README.md", "NOT-BUGS.md", "ARCHITECTURE.md", "docs/guide.md"}) {
         const std::string text = document(page);
         for (std::sregex_iterator found(text.begin(), text.end(), link), end; found != end; ++found) {
-            EXPECT_NE(document(page.parent_path() / (*found)[1].str()), "(none)") << page << ": " << (*found)[1];
+            const std::string file = (*found)[1], anchor = (*found)[3];
+            const std::string target = file.empty() ? text : document(page.parent_path() / file);
+            EXPECT_NE(target, "(none)") << page << ": " << file;
+            if (!anchor.empty()) {
+                EXPECT_TRUE(hasanchor(target, anchor)) << page << ": " << file << '#' << anchor;
+            }
         }
     }
 }

@@ -3,12 +3,14 @@
 
 #include "tests/session.h"
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <sstream>
 #include <string>
 
 using namespace tessaly;
+using testing::HasSubstr;
 
 namespace {
 
@@ -65,6 +67,29 @@ TEST(helppages, everyRegionShowsPagesThatExist) {
             EXPECT_FALSE(sentences(region.secondpage).empty());
         }
     }
+}
+
+TEST(helppages, sayWhatAUserMustNotMiss) {
+    const std::string elements = sentences("elementstext1");
+    EXPECT_THAT(elements, HasSubstr("The default snip mode is full panel, preselected."));
+    EXPECT_THAT(elements, HasSubstr("The default mode is solid rendering."));
+    EXPECT_THAT(elements, HasSubstr("WIREFRAME IS RECOMMENDED FOR PANELS DURING DESIGN PHASE."));
+    EXPECT_THAT(elements, HasSubstr("RECORD TO FILE MODE"));
+
+    const std::string editing = sentences("elementstext2");
+    EXPECT_THAT(editing, HasSubstr("add no line feed behind the last line of data, and leave no blank lines"));
+    EXPECT_THAT(editing,
+                HasSubstr("The first number of a line matches the element number in the image of the element map."));
+
+    const std::string groups = sentences("filereadertext2");
+    EXPECT_THAT(groups, HasSubstr("The first four letters stay \"gird\", \"pane\" or \"roof\"."));
+    EXPECT_THAT(groups,
+                HasSubstr("In a file given another name the floor digit stays in its place, and the length of the "
+                          "name does not change."));
+
+    const std::string captures = sentences("capturetext");
+    EXPECT_THAT(captures, HasSubstr("You must include the .bmp file extension when naming a capture."));
+    EXPECT_THAT(captures, HasSubstr("The txt file of a capture is not to be deleted unless its bmp file goes too"));
 }
 
 TEST(helpwindow, regionsShowTheirPagesAndNoOthers) {

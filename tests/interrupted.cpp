@@ -155,6 +155,26 @@ TEST(interrupted, aFullDiskLeavesTheDesignAsItWas) {
     expectappendfails();
 }
 
+// A folder or a file that may not be written.
+TEST(interrupted, whatMayNotBeWrittenStaysAsItWas) {
+    const session s;
+    const bool root = ::geteuid() == 0;
+    const auto fails = [root] {  // as another user: the superuser may write everywhere
+        if (root && ::seteuid(65534) != 0) GTEST_SKIP() << "cannot act as another user";
+        expectappendfails();
+        EXPECT_TRUE(!root || ::seteuid(0) == 0);
+    };
+    fs::permissions(".", fs::perms(0755));
+    fs::permissions("designs", fs::perms(0555));
+    fails();
+    EXPECT_FALSE(fs::exists(girders));
+    fs::permissions("designs", fs::perms(0777));
+    session::write(girders, post);
+    fs::permissions(girders, fs::perms(0444));
+    fails();
+    EXPECT_EQ(session::file(girders), post);
+}
+
 // The program as a whole: a click whose record cannot be written is reported and ends it, and draws nothing.
 TEST(interrupted, aClickThatCannotBeRecordedEndsTheProgram) {
     const session s;

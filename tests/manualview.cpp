@@ -83,5 +83,13 @@ TEST(defaultview, standsAboveItsFocusAndSetTakesItAsItIs) {
     }
 }
 
+TEST(manualview, sevenBoxesHideAndShow) {
+    typing s;
+    s.click("shopfm");
+    EXPECT_TRUE(perptxtx.shown && magtxt.shown && hidpfm.shown && !shopfm.shown);
+    s.click("hidpfm");
+    EXPECT_TRUE(!perptxtx.shown && !magtxt.shown && !hidpfm.shown && shopfm.shown && verttxt.shown);
+}
+
 }  // namespace
 }  // namespace tessaly

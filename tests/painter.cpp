@@ -20,40 +20,43 @@ struct face {
     std::array<vec, 4> corners() const { return {{{x, 10, 10}, {x, 90, 10}, {x, 10, 70}, {x, 90, 70}}}; }
 };
 
-// Reads an element from a file of its own.
-void readelement(const std::string& text) {
-    session::write("datah/st-test.txt", text);
-    setview(eye[0], eye[1], eye[2]);
-    datafile = "st-test.txt";
-    placemode = 0;
-    readelements();
-}
-
 // Reads an element of these faces, each with four points of its own.
 void readfaces(const std::vector<face>& faces) {
-    std::ostringstream points, lines, planes, framing1, framing2;
-    for (int q = 1, p = 0; const face& f : faces) {
-        for (const vec& c : f.corners()) points << "1," << c[0] << ',' << c[1] << ',' << c[2] << '\n';
-        lines << p + 1 << ',' << p + 2 << '\n' << p + 3 << ',' << p + 4 << '\n';
-        planes << "1," << p + 1 << ',' << p + 3 << ',' << p + 2 << ',' << p + 4 << ",1," << f.colour << '\n';
-        framing1 << q << ',' << f.framing1 << '\n';
-        framing2 << q++ << ',' << f.framing2 << '\n';
+    elementtext e;
+    int p = 0, q = 0;
+    const auto row = [](std::initializer_list<double> fields) {
+        std::string text;
+        for (const double f : fields) text += shortesttext(f) + ",";
+        text.back() = '\n';
+        return text;
+    };
+    for (const face& f : faces) {
+        for (const vec& c : f.corners()) e.points += row({1, c[0], c[1], c[2]});
+        e.lines[0] += row({p + 1.0, p + 2.0}) + row({p + 3.0, p + 4.0});
+        e.planes += row({1, p + 1.0, p + 3.0, p + 2.0, p + 4.0, 1, double(f.colour)});
+        ++q;
+        e.framing1 += row({double(q), double(f.framing1)});
+        e.framing2 += row({double(q), double(f.framing2)});
         p += 4;
     }
-    readelement(elementtext{.points = points.str(),
-                            .lines = {lines.str()},
-                            .planes = planes.str(),
-                            .framing1 = framing1.str(),
-                            .framing2 = framing2.str()});
+    session::write("datah/st-faces.txt", e);
+    setview(eye[0], eye[1], eye[2]);
+    datafile = "st-faces.txt";
+    placemode = 0;
+    readelements();
 }
 
 // The drawn lines as runs of one colour: palette index and count.
 using runs = std::vector<std::pair<int, int>>;
 runs runsof(const std::vector<drawnline>& lines) {
     runs result;
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (i == 0 || lines[i].c != lines[i - 1].c) result.push_back({lines[i].c.red, 0});
-        ++result.back().second;
+    const drawnline* before = nullptr;
+    for (const drawnline& l : lines) {
+        if (before && before->c == l.c)
+            ++result.back().second;
+        else
+            result.push_back({l.c.red, 1});
+        before = &l;
     }
     return result;
 }
@@ -64,9 +67,9 @@ runs paint(session& s) {
     return runsof(s.lines());
 }
 
-void expectends(const drawnline& l, const vec& from, const vec& to) {
-    expectseen(l.x1, l.y1, lensofview().at(from));
-    expectseen(l.x2, l.y2, lensofview().at(to));
+void expectseen(float x, float y, const vec& at) {
+    EXPECT_NEAR(x, lensofview().at(at).x, 1e-2);
+    EXPECT_NEAR(y, lensofview().at(at).y, 1e-2);
 }
 
 }  // namespace
@@ -92,13 +95,18 @@ TEST(painter, paintsTheHundredNearest) {
 // Positions are those of slots 1 to 100: what stands in the cubes' slots only is sorted and never painted.
 TEST(painter, paintsNoElementOfCubesAlone) {
     session s(ownfolder);
-    readelement(elementtext{.cubes400 = "1,10,10,10,50,50,50,0,20\n"});
+    session::write("datah/st-cubes.txt", elementtext{.cubes400 = "1,10,10,10,50,50,50,0,20\n"});
+    setview(eye[0], eye[1], eye[2]);
+    datafile = "st-cubes.txt";
+    placemode = 0;
+    readelements();
     EXPECT_EQ(paint(s), runs{});
     EXPECT_NE(quadorder[4001], 0);
     // Beside faces they take their positions away: the far face is not among those painted.
-    readelement(elementtext{.points = "1,-90,1,1\n2,-90,50,1\n3,-90,1,50\n4,-90,50,50\n",
-                            .cubes400 = "1,10,10,10,50,50,50,0,20\n",
-                            .planes = "1,1,3,2,4,1,30\n"});
+    session::write("datah/st-cubes.txt", elementtext{.points = "1,-90,1,1\n2,-90,50,1\n3,-90,1,50\n4,-90,50,50\n",
+                                                     .cubes400 = "1,10,10,10,50,50,50,0,20\n",
+                                                     .planes = "1,1,3,2,4,1,30\n"});
+    readelements();
     EXPECT_EQ(paint(s), (runs{{20, 402}}));
 }
 
@@ -106,7 +114,7 @@ TEST(painter, turnedElementsShiftTheirColours) {
     struct {
         double rotz;
         int shift;
-    } const cases[] = {{180, 0}, {270, 1}, {90.5, 0}};
+    } const cases[] = {{0, 0}, {90, 1}, {180, 0}, {270, 1}, {90.5, 0}};
     for (const auto& c : cases) {
         session s(ownfolder);
         readfaces({{50, 20, 1, 0}});
@@ -117,6 +125,31 @@ TEST(painter, turnedElementsShiftTheirColours) {
     }
 }
 
+TEST(painter, densityOfTheWeb) {
+    struct {
+        value code, first, second, kind;
+        int lines;
+    } const cases[] = {
+        {{}, {}, {}, {}, 402},
+        {19, {}, {}, "girder", 802},
+        {21, "roofs1.txt", {}, "roof", 802},
+        {22, {}, {}, "panel", 402},
+        {18, "girders1.txt", "roofs1.txt", "girder", 3002},
+        {{}, "roof", {}, {}, 3002},
+        {{}, "Roofs1.txt", "aroof.txt", "roofs", 402},
+        {1, {}, {}, "roof", 3002},
+    };
+    for (const auto& c : cases) {
+        session s(ownfolder);
+        readfaces({{50, 20}});
+        panelcode = c.code;
+        firstfilename = c.first;
+        secondfilename = c.second;
+        elementkind = c.kind;
+        EXPECT_EQ(paint(s), (runs{{20, c.lines}})) << c.code.text() << c.kind.text();
+    }
+}
+
 // The web joins edge 1-2 with edge 3-4, then edge 1-3 with edge 2-4; what lies between is straight on the screen.
 TEST(painter, theWebJoinsOppositeEdges) {
     session s(ownfolder);
@@ -124,10 +157,12 @@ TEST(painter, theWebJoinsOppositeEdges) {
     paint(s);
     const auto& l = s.lines();
     const auto [c1, c2, c3, c4] = face{50, 20}.corners();
-    expectends(l[0], c1, c3);
-    expectends(l[200], c2, c4);
-    expectends(l[201], c1, c2);
-    expectends(l[401], c3, c4);
+    expectseen(l[0].x1, l[0].y1, c1);
+    expectseen(l[0].x2, l[0].y2, c3);
+    expectseen(l[200].x1, l[200].y1, c2);
+    expectseen(l[200].x2, l[200].y2, c4);
+    expectseen(l[201].x2, l[201].y2, c2);
+    expectseen(l[401].x1, l[401].y1, c3);
     EXPECT_NEAR(l[50].x1, l[0].x1 + (l[200].x1 - l[0].x1) / 4, 1e-3);
     EXPECT_NEAR(l[50].y2, l[0].y2 + (l[200].y2 - l[0].y2) / 4, 1e-3);
 }
@@ -136,7 +171,7 @@ TEST(painter, theWebJoinsOppositeEdges) {
 TEST(painter, framingLinesKeepTheirPerspective) {
     struct {
         int along1, along2;
-    } const cases[] = {{3, 4}, {-1, 2}};
+    } const cases[] = {{3, 0}, {0, 4}, {3, 4}, {-1, 2}};
     for (const auto& c : cases) {
         session s(ownfolder);
         readfaces({{50, 20, c.along1, c.along2}});
@@ -147,9 +182,13 @@ TEST(painter, framingLinesKeepTheirPerspective) {
         const drawnline* l = &s.lines()[402];
         const auto direction = [&](int count, const vec& a, const vec& b, const vec& from, const vec& to) {
             if (count <= 0) return;
-            expectends(*l++, to, b);
-            for (int i = 0; i < count; ++i)
-                expectends(*l++, a + double(i) / count * (b - a), from + double(i) / count * (to - from));
+            expectseen(l->x1, l->y1, to);
+            expectseen(l->x2, l->y2, b);
+            ++l;
+            for (int i = 0; i < count; ++i, ++l) {
+                expectseen(l->x1, l->y1, a + double(i) / count * (b - a));
+                expectseen(l->x2, l->y2, from + double(i) / count * (to - from));
+            }
         };
         direction(c.along1, c1, c2, c3, c4);
         direction(c.along2, c1, c3, c2, c4);

@@ -14,7 +14,8 @@ constexpr const char* buttons[] = {"orange1btn", "orange2btn", "orange3btn", "ye
 }  // namespace
 
 TEST(panels, recordsOfTheFourFamilies) {
-    started s;
+    session s;
+    s.start();
     s.click("orange1btn");
     EXPECT_TRUE(layoutpanels.shown && panelprefix.is("st-panels-1or-"));
     for (const char* name : {"pan270x0y208", "pan90x16y0", "pan0x0y0", "pan180x208y16", "pan180x784y1168"})
@@ -28,22 +29,34 @@ TEST(panels, recordsOfTheFourFamilies) {
 
 // A snip holds for one click; the next panel is full again.
 TEST(panels, aSnipHoldsForOneClick) {
-    started s;
+    session s;
+    s.start();
     s.click("yellow2btn");
-    const std::pair<const char*, int> snips[] = {{"snipleftbtn", 14}, {"sniprighbtn", 15}, {"snipbothbtn", 35}};
-    for (const auto& [button, code] : snips) {
-        s.click(button);
-        s.click("pan0x0y0");
-        EXPECT_TRUE(panelcode == code && panelsnipper.text == "Full panel") << button;
-        s.click("pan0x0y0");
-        EXPECT_TRUE(datafile.is("st-panels-2yel-full.txt") && panelcode == 13);
-    }
+    struct {
+        const char *button, *text, *file;
+        int code;
+    } const snips[] = {{"snipleftbtn", "snip left side", "st-panels-2yel-left.txt", 14},
+                       {"sniprighbtn", "snip right side", "st-panels-2yel-righ.txt", 15},
+                       {"snipbothbtn", "snip both sides", "st-panels-2yel-both.txt", 35}};
+    for (const auto& snip : snips)
+        for (const bool picked : {false, true}) {
+            if (picked)
+                s.pick("panelsnipper", snip.text);
+            else
+                s.click(snip.button);
+            EXPECT_EQ(panelsnipper.text, snip.text);
+            s.click("pan0x0y0");
+            EXPECT_TRUE(datafile.is(snip.file) && panelcode == snip.code) << snip.text;
+            EXPECT_EQ(panelsnipper.text, "Full panel");
+            s.click("pan0x0y0");
+            EXPECT_TRUE(datafile.is("st-panels-2yel-full.txt") && panelcode == 13);
+        }
 }
 
 // Typed text that is no snip names a file that is not there, keeps the last code, and is full again all the same.
 TEST(panels, unknownSnipsKeepTheCode) {
-    started s;
-    EXPECT_EQ(failureof([&] { s.click("pan0x0y0"); })->kind, failurekind::filenotfound);  // no panel was chosen yet
+    session s;
+    s.start();
     s.click("orange3btn");
     s.click("snipleftbtn");
     s.click("pan0x0y0");
@@ -51,13 +64,24 @@ TEST(panels, unknownSnipsKeepTheCode) {
     EXPECT_EQ(failureof([&] { s.click("pan0x0y0"); })->kind, failurekind::filenotfound);
     EXPECT_TRUE(datafile.is("st-panels-3or-.txt") && panelcode == 8 && panelsnipper.text == "Full panel");
     const std::string record = "\"panel\",85,104,0,8,0,0,0,0,4,64\r\n";
-    EXPECT_EQ(session::file("designs/panels1.txt"), "\"panel\",85,104,0,,0,0,0,0,4,64\r\n" + record + record);
+    EXPECT_EQ(session::file("designs/panels1.txt"), record + record);
+    s.type("panelsnipper", "snip both sides");  // typed as it stands it is as good as picked
+    s.click("pan0x0y0");
+    EXPECT_EQ(panelcode, 33);
+}
+
+TEST(panels, noPanelWasChosen) {
+    session s;
+    s.start();
+    EXPECT_EQ(failureof([&] { s.click("pan0x0y0"); })->kind, failurekind::filenotfound);
+    EXPECT_EQ(session::file("designs/panels1.txt"), "\"panel\",85,104,0,,0,0,0,0,4,64\r\n");
 }
 
 // Every button and snip has a code and a file of its own; a record's code leads back to the file of the click. The
 // panels with two doors are filled twice as densely, but for their snip on both sides.
 TEST(panels, codesLeadBackToFiles) {
-    started s;
+    session s;
+    s.start();
     std::set<std::string> files;
     std::set<double> codes;
     for (const char* button : buttons)

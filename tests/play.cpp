@@ -54,16 +54,30 @@ TEST(play, errorsOfTheScript) {
     } cases[] = {
         {"jump", "line 1: there is no command jump"},
         {"click exitbtn", "line 1: exitbtn is in the window vistaplan, which is hidden"},
+        {start + "click startprogrambtn", "line 2: startprogrambtn is in the window startform, which is hidden"},
+        {start + "\n# x\nclick killfilebtn", "line 4: killfilebtn is hidden"},
         {start + "click postx0y16", "line 2: postx0y16 is in the window layoutgirder"},
+        {girder + "close layoutgirder\nclick postx0y16", "line 4: postx0y16 is in the window layoutgirder"},
         {girder + "close layoutgirder\nclose layoutgirder", "line 4: the window layoutgirder is hidden"},
+        {girder + "click groupbtn\nclick postx0y16", "line 4: postx0y16 is in the window layoutgirder"},
         {start + "click nosuchbtn", "line 2: there is no control nosuchbtn"},
+        {start + "click Floor", "line 2: there is no control Floor"},
         {start + "click floorlabel", "line 2: floorlabel is not a button"},
+        {start + "click floor", "line 2: floor is not a button"},
+        {start + "click", "line 2: a name was expected"},
         {start + "click postbeambtn now", "line 2: nothing more was expected"},
+        {start + "pick floorlist \"3\"", "line 2: floorlist is hidden"},
         {start + "click floorbtn\npick floorlist \"10\"", "line 3: floorlist has no entry \"10\""},
         {start + "click floorbtn\npick floorlist 3", "line 3: a text in double quotes was expected"},
+        {start + "pick floorbtn \"3\"", "line 2: floorbtn is not a list"},
         {start + "click floorbtn\ntype floorlist \"3\"", "line 3: floorlist is not a box to type into"},
         {start + "type floor \"3", "line 2: the closing double quote is missing"},
+        {start + "type floor \"\\t\"", "line 2: a backslash inside quotes"},
+        {start + "type perptxtx \"1\"", "line 2: perptxtx is hidden"},
         {start + "close mainwindow", "line 2: there is no window mainwindow"},
+        {start + "show all", "line 2: nothing more was expected"},
+        {start + "picture", "line 2: a file name was expected"},
+        {start + "picture view.gif", "line 2: file access error: view.gif"},
         {start + "picture none/view.png", "line 2: file access error: none/view.png"},
         {start + "lines none/x", "line 2: the file none/x cannot be written"},
     };
@@ -81,19 +95,33 @@ TEST(play, errorsOfTheScript) {
 
 TEST(play, showsWindowsControlsAndValues) {
     session s;
-    const played p = play("show\nsay ----\nclick startprogrambtn\nclick floorbtn\npick floorlist \"4\"\n"
-                          "type wiresolid \"\\\"a\\\\b\\r\\nc\xC3\xA9\"\nshow\n");
+    const played p =
+        play("show\nsay ----\nclick startprogrambtn\nclick floorbtn\npick floorlist \"4\"\nclick floorbtn\n"
+             "type wiresolid \"\\\"a\\\\b\\r\\nc\xC3\xA9\"\nclick postbeambtn\nclick postx0y16\nshow\n");
     ASSERT_EQ(p.status, 0) << p.err;
     const std::size_t cut = p.out.find("----\n");
     const std::string before = p.out.substr(0, cut), after = p.out.substr(cut);
-    EXPECT_TRUE(before.starts_with("window startform shown\nwindow vistaplan hidden\nwindow layoutgirder hidden\n"));
+
+    EXPECT_TRUE(before.starts_with("window startform shown\nwindow vistaplan hidden\nwindow layoutgirder hidden\n"
+                                   "window layoutpanels hidden\nwindow layoutroof hidden\nwindow easyviews hidden\n"
+                                   "window instructions hidden\ncontrol Label1 shown \"Tessaly  Girder"));
     EXPECT_EQ(lineof(before, "value mag"), "empty");
     EXPECT_EQ(lineof(before, "control exitbtn"), "shown \"Exit\"");  // its own state, in a hidden window
+    EXPECT_EQ(lineof(before, "control floorlist"), "hidden \"\"");
     EXPECT_EQ(lineof(after, "window startform"), "hidden");
-    EXPECT_EQ(lineof(after, "control floorlist"), "hidden \"4\"");
+    EXPECT_EQ(lineof(after, "window layoutgirder"), "shown");
+    EXPECT_EQ(lineof(after, "control floorlist"), "shown \"4\"");
     EXPECT_EQ(lineof(after, "control wiresolid"), "shown \"\\\"a\\\\b\\r\\nc\xC3\xA9\"");
+    EXPECT_EQ(lineof(after, "control panelsnipper"), "shown \"Full panel\"");
     EXPECT_EQ(lineof(after, "value magshown"), "0.05600000000000001");
+    EXPECT_EQ(lineof(after, "value perpx"), "1849.9");
     EXPECT_EQ(lineof(after, "value viewprompt"), "\"AUTOMA\"");
+    EXPECT_EQ(lineof(after, "value floorname"), "\"4\"");
+    EXPECT_EQ(lineof(after, "value placez"), "384");
+    EXPECT_EQ(lineof(after, "value elementkind"), "\"girder\"");
+    EXPECT_EQ(lineof(after, "value drawset"), "1");
+    for (const char* name : {"rotstage", "rotboxx", "rotboxy", "panelprefix", "combinedcount", "bmpimage"})
+        EXPECT_EQ(lineof(after, std::string("value ") + name), "empty") << name;
     EXPECT_TRUE(after.ends_with("value ptcount2 0\nvalue ptcount3 0\nvalue ptcount4 0\n"));
 }
 
@@ -138,6 +166,8 @@ TEST(play, tellsFailuresOfTheProgram) {
         const char *path, *taken, *put, *report;
     } const cases[] = {
         {"start.txt", "DISPLAYSTARTGROUP3:", "", "input past end of file: datah\\start.txt, line "},
+        {"start.txt", "DISPLAYSTARTGROUP3:\n", "DISPLAYSTARTGROUP3:\nst-gone\n", "file not found: datah\\st-gone.txt"},
+        {"st-post.txt", "AUTOFRAMING2:", "", "input past end of file: datah\\st-post.txt, line "},
         {"st-post.txt", "    128,", "    l28,", "type mismatch: datah\\st-post.txt, line "},
     };
     for (const auto& c : cases) {
@@ -163,13 +193,15 @@ TEST(play, answersLineByLine) {
     std::FILE* answers = ::popen(TESSALY_PLAY " - <ask", "r");
     std::FILE* questions = std::fopen("ask", "w");
     char answer[80] = "";
-    for (const char* said : {"one\n", "drawn\n"}) {
-        if (*said == 'd') std::fputs("click startprogrambtn\nlines log\nclick fillscreen\n", questions);
+    for (const char* said : {"one\n", "two\n"}) {
         std::fputs((std::string("say ") + said).c_str(), questions);
         std::fflush(questions);
         ASSERT_NE(std::fgets(answer, sizeof answer, answers), nullptr);
         EXPECT_STREQ(answer, said);
     }
+    std::fputs("click startprogrambtn\nlines log\nclick fillscreen\nsay drawn\n", questions);
+    std::fflush(questions);
+    ASSERT_NE(std::fgets(answer, sizeof answer, answers), nullptr);
     EXPECT_GT(session::file("log").size(), 1010U * 10);
     std::fclose(questions);
     EXPECT_EQ(::pclose(answers), 0);

@@ -102,21 +102,50 @@ TEST(raster, lineLightsNearestPixelsForEndsOfAnySize) {
     dice d;
     constexpr int wide = 23, high = 17;
     int visible = 0;
-    for (int i = 0; i < 40000; ++i) {
-        float x1 = d.anysize(), y1 = d.anysize(), x2 = d.anysize(), y2 = d.anysize();
-        if (i % 4 == 0) {  // through the image, so that its pixels depend on the last bit of the products
-            const float angle = d.figure(3.2F), far = std::ldexp(1.0F, d.whole(20, 127)),
-                        near = -std::ldexp(1.0F, d.whole(3, 127));
-            x1 = 11 + far * std::cos(angle), y1 = 8 + far * std::sin(angle);
-            x2 = 11 + near * std::cos(angle), y2 = 8 + near * std::sin(angle);
-        }
+    for (int i = 0; i < 30000; ++i) {
+        const float x1 = d.anysize(), y1 = d.anysize(), x2 = d.anysize(), y2 = d.anysize();
         const lit expected = reference(x1, y1, x2, y2, wide, high);
         visible += expected != lit(expected.size());
         ASSERT_EQ(drawn(x1, y1, x2, y2, wide, high), expected) << x1 << ' ' << y1 << ' ' << x2 << ' ' << y2;
         ASSERT_EQ(drawn(x2, y2, x1, y1, wide, high), expected)
             << "reversed " << x1 << ' ' << y1 << ' ' << x2 << ' ' << y2;
     }
-    EXPECT_GT(visible, 5000);
+    EXPECT_GT(visible, 4000);
+}
+
+// Lines through the image whose ends lie at every distance, so that the pixels depend on the last bit of the products.
+TEST(raster, hugeLinesThroughTheImage) {
+    dice d;
+    constexpr int wide = 31, high = 19;
+    int visible = 0;
+    for (int i = 0; i < 10000; ++i) {
+        const double angle = d.figure(3.2F), far = std::ldexp(1.0, d.whole(20, 127)),
+                     near = std::ldexp(1.0, d.whole(3, 127));
+        const auto x1 = static_cast<float>(15 + far * std::cos(angle)),
+                   y1 = static_cast<float>(9 + far * std::sin(angle));
+        const auto x2 = static_cast<float>(15 - near * std::cos(angle)),
+                   y2 = static_cast<float>(9 - near * std::sin(angle));
+        const lit expected = reference(x1, y1, x2, y2, wide, high);
+        visible += expected != lit(expected.size());
+        ASSERT_EQ(drawn(x1, y1, x2, y2, wide, high), expected) << x1 << ' ' << y1 << ' ' << x2 << ' ' << y2;
+    }
+    EXPECT_GT(visible, 1000);
+}
+
+// A clipped line that starts its count of pixels at the border.
+TEST(raster, clippingMovesNoPixel) {
+    dice d;
+    constexpr int wide = 300, high = 200, left = 100, top = 70, small = 60;
+    for (int i = 0; i < 3000; ++i) {
+        const int x1 = d.whole(0, wide - 1), y1 = d.whole(0, high - 1), x2 = d.whole(0, wide - 1),
+                  y2 = d.whole(0, high - 1);
+        const auto f = [](int n) { return static_cast<float>(n); };
+        raster whole(wide, high), part(small, small);
+        whole.line(f(x1), f(y1), f(x2), f(y2), red);
+        part.line(f(x1 - left), f(y1 - top), f(x2 - left), f(y2 - top), red);
+        for (int y = 0; y < small; ++y)
+            for (int x = 0; x < small; ++x) ASSERT_EQ(part.at(x, y), whole.at(x + left, y + top));
+    }
 }
 
 TEST(raster, coordinatesThatAreNoNumbersDrawNothing) {

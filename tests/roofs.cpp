@@ -4,7 +4,8 @@
 using namespace tessaly;
 
 TEST(roofs, recordsOfTheCorners) {
-    started s;
+    session s;
+    s.start();
     s.click("roofbtn");
     EXPECT_TRUE(layoutroof.shown && panelprefix.empty());
     s.click("roofx0y0");
@@ -17,7 +18,8 @@ TEST(roofs, recordsOfTheCorners) {
 
 // The finest web belongs to the kind of the last element: a girder after a roof is painted as usual.
 TEST(roofs, theFineWebEndsWithTheRoof) {
-    started s;
+    session s;
+    s.start();
     s.click("roofx0y0");
     s.click("postx0y16");
     EXPECT_EQ(divisions, 200);

@@ -17,7 +17,8 @@ struct rotating : session {
 };
 
 TEST(rotation, activationStartsFromTheHeightInItsBox) {
-    started s;
+    session s;
+    s.start();
     s.click("activateleftbtn");
     // The fix-up of the start is still due and turns the zeros of the focus into 0.1.
     EXPECT_EQ(perptxtx.text + ' ' + perptxty.text + ' ' + perptxtz.text, "1850. -1849 1010");
@@ -84,6 +85,25 @@ TEST(rotation, aSwitchOfDirectionGoesByTheSideSeenLast) {
         s.click("reactivateleftbtn");
         EXPECT_EQ(rotstage, r.left) << r.x << ' ' << r.y;
     }
+}
+
+TEST(rotation, anEyePutElsewhereFindsItsWayBack) {
+    rotating s;
+    s.type("perptxtx", "-2000");
+    s.click("cventerbtn");
+    s.takelines();
+    s.click("rotleftbtn");  // past the first side's limit already: only the second side's step is taken
+    EXPECT_EQ(perptxtx.text + ' ' + perptxty.text, "-2000 -1750");
+    s.click("defaultviewbtn");
+    s.click("rotleftbtn");
+    s.type("perptxtx", "500");
+    s.type("perptxty", "500");
+    s.click("cventerbtn");
+    s.click("activaterightbtn");  // judged by the click before SET, when the eye stood on the first side
+    EXPECT_EQ(rotstage, 3);
+    rotstage = 1;
+    s.clicks("rotleftbtn", 23);
+    EXPECT_EQ(perptxtx.text + ' ' + perptxty.text, "-1801 600");  // SET had nudged the diagonal eye to 498.5
 }
 
 }  // namespace

@@ -27,7 +27,8 @@ std::string sample(const std::string& name) { return session::file(TESSALY_SOURC
 // A sample left behind by a change of the layouts, of a record or of the script; a replay that loses, moves or adds an
 // element.
 TEST(samples, theHouseComesBackAsItWasClicked) {
-    started s;
+    session s;
+    s.start();
     s.click("wiresolidbtn");
     s.takelines();
     build(s, "house");
@@ -48,7 +49,8 @@ TEST(samples, theHouseComesBackAsItWasClicked) {
 
 // The tenth floor's files are named with a 0, the one figure that the readers take for it.
 TEST(samples, theTowerHasTenFloors) {
-    started s;
+    session s;
+    s.start();
     s.click("wiresolidbtn");
     build(s, "tower");
     for (int level = 1; level <= 10; ++level) {

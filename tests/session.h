@@ -107,10 +107,6 @@ class session {
     }
 };
 
-struct started : session {
-    started() { start(); }
-};
-
 // The failure that a procedure ends with, none where it does not fail.
 template <class procedure>
 std::optional<failure> failureof(procedure run) {

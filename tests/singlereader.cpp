@@ -55,11 +55,16 @@ TEST(singlereader, wiresKeepTheOrderOfTheFileAndSolidGoesFarthestFirst) {
     EXPECT_EQ(perpx, 1850);
 }
 
-TEST(singlereader, progressStripFillsByRecords) {
+TEST(singlereader, controlsComeAndGo) {
     replaysession s;
+    s.click("autowiresingle");
+    EXPECT_TRUE(autofile.shown && escapefilelistbtn.shown);
     s.design("girders1.txt", nearest + farther);
-    s.solid("girders1.txt");
+    s.click("autosolidsingle");  // reads the folder again
+    EXPECT_TRUE(autofile5.shown);
+    s.pick("autofile5", "girders1.txt");
     EXPECT_FALSE(autofile5.shown || escapefilelistbtn.shown || progressbar.shown);
+    EXPECT_TRUE(autofile.shown);
     const auto row = [](int y, std::uint8_t r, std::uint8_t g, std::uint8_t b) {
         return drawnline{1, static_cast<float>(y), 17, static_cast<float>(y), {r, g, b}};
     };
@@ -141,20 +146,19 @@ TEST(singlereader, brokenElementFileEndsTheWiresAndStaysOpen) {
 
 TEST(singlereader, namesGiveFloorAndClass) {
     replaysession s;
-    const struct {
-        const char *name, *floorandheight;
-    } cases[] = {{"roofs3.txt", "3 256"},
-                 {"girde1s2.txt", "2 128"},
-                 {"girders10.txt", "1 0"},
-                 {"girder10.txt", "10 1152"},
-                 {"panels7.txt", "7 768"}};  // last: the name's class decides
-    for (const auto& [name, expected] : cases) {
-        s.design(name, name[0] == 'r' ? roof : nearest);
+    const auto floorof = [&](const std::string& name, const std::string& record) {
+        s.design(name, record);
         EXPECT_EQ(s.wire(name).size(), 1) << name;
-        EXPECT_EQ(secondfilename.text() + ' ' + floorname.text() + ' ' + placez.text(),
-                  name + (' ' + std::string(expected)));
-    }
-    EXPECT_TRUE(elementkind.is("girder") && placemode == 1);  // code 41 is no panel
+        EXPECT_EQ(secondfilename.text(), name);
+        return floorname.text() + ' ' + placez.text();
+    };
+    EXPECT_EQ(floorof("roofs3.txt", roof), "3 256");
+    EXPECT_EQ(floorof("girde1s2.txt", nearest), "2 128");
+    EXPECT_EQ(floorof("girders10.txt", nearest), "1 0");
+    EXPECT_EQ(floorof("girder10.txt", nearest), "10 1152");
+    EXPECT_EQ(floorof("panels7.txt", nearest), "7 768");  // the name's class decides: code 41 is no panel
+    EXPECT_EQ(elementkind.text(), "girder");
+    EXPECT_EQ(placemode, 1);
     for (const char* name : {"house1.txt", "Girders1.txt", "girders.txt"}) {
         s.design(name, nearest);
         EXPECT_EQ(failingkind(failureof([&] { s.wire(name); })), failurekind::typemismatch) << name;

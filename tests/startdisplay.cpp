@@ -17,16 +17,19 @@ const std::vector<std::string> keys{
 
 // A start file; with left, one key of it is missing.
 std::string startfile(const std::string& left = "") {
-    const filesbypath below{{"DEFAULTVIEW:", "1850,-1850,830,0,0,280\n0.056, 170 -270\n"},
-                            {"DEFAULTPAL:", "test\n"},
-                            {"BACKGROUNDCOLOR:", "10.6,20,300\n"},
-                            {"DISPLAYSTARTGROUP1:", "st-a\n"},
-                            {"DISPLAYSTARTGROUP2:", "st-b\n"},
-                            {"DISPLAYSTARTGROUP3:", "move\n"}};
     std::string text = "Free text, with commas\n\n";
     for (const std::string& key : keys) {
         if (key != left) text += key + "\n";
-        text += below.contains(key) ? below.at(key) : "11,22,33,1,2,3,0.5,6,7\n";
+        if (key == "DEFAULTVIEW:")
+            text += "1850,-1850,830,0,0,280\n0.056, 170 -270\n";
+        else if (key == "DEFAULTPAL:")
+            text += "test\n";
+        else if (key == "BACKGROUNDCOLOR:")
+            text += "10.6,20,300\n";
+        else if (key.starts_with("DISPLAY"))
+            text += std::vector<std::string>{"st-a\n", "st-b\n", "move\n"}.at(static_cast<std::size_t>(key[17] - '1'));
+        else
+            text += "11,22,33,1,2,3,0.5,6,7\n";
     }
     return text;
 }
@@ -81,12 +84,14 @@ TEST(startdisplay, leavesTheStateOfADefaultView) {
     session s(startfolder());
     s.start();
     EXPECT_TRUE(perpx == 1850 - 0.1 && perpy == -1850 - 0.1 && perpz == 550 && perprelx == perpx && perprelative == 1);
-    EXPECT_TRUE(focusx == 0.1 && focusz == 280 && vertshift == 170 && horizshift == -270 && mag == 0.56);
-    EXPECT_TRUE(plotstate == 2 && preopened == 0 && startstep == 2 && drawset.empty() && viewprompt.is("AUTOMA"));
+    EXPECT_TRUE(focusx == 0.1 && focusy == 0.1 && focusz == 280 && vertshift == 170 && horizshift == -270);
+    EXPECT_TRUE(mag == 0.56 && plotstate == 2 && preopened == 0 && startstep == 2 && drawset.empty());
+    EXPECT_TRUE(viewprompt.is("AUTOMA") && palname.is("test") && startgroup3.is("move"));
     EXPECT_TRUE(perptxtx.text == "1850" && focustxtx.text == "0.1" && magtxt.text == "0.056" &&
                 horiztxt.text == "-270");
-    EXPECT_TRUE(viewpreset[1] == 10 && viewpreset[3] == 30 && viewpreset[108] == 7);
-    EXPECT_TRUE(vistaplan.shown && !startform.shown && wiresolid.text == "solid" && writefilebox.text == "on");
+    EXPECT_TRUE(viewpreset[1] == 10 && viewpreset[2] == 20 && viewpreset[3] == 30 && viewpreset[108] == 7);
+    EXPECT_TRUE(vistaplan.shown && !startform.shown && wiresolid.text == "solid" && writefilebox.text == "on" &&
+                floor.text == "1");
     EXPECT_EQ(failureof([] { openinput(1, "datah\\start.txt", "test"); }), std::nullopt);  // channel 1 is closed
 }
 
@@ -104,6 +109,15 @@ TEST(startdisplay, markersComeBackOverThePicture) {
     EXPECT_TRUE(!layoutroof.shown && mag == 0.56 && perpx == 900);
 }
 
+TEST(startdisplay, clearScreenPaintsTheBackground) {
+    session s(startfolder());
+    s.start();
+    const std::vector<drawnline> before(s.lines().begin(), s.lines().begin() + 1010);
+    s.takelines();
+    s.click("fillscreen");
+    EXPECT_EQ(s.lines(), before);
+}
+
 // Palettes: fixed records, blue before green before red; what lies behind the end of the file is black.
 TEST(startdisplay, palettesMayBeShortOrMissing) {
     filesbypath files = startfolder();
@@ -111,6 +125,8 @@ TEST(startdisplay, palettesMayBeShortOrMissing) {
     session s(files);
     s.start();
     EXPECT_TRUE(palred[35] == 35 && palblue[35] == 37 && palred[36] == 0 && palblue[36] == 0 && palred[237].empty());
+    EXPECT_EQ(s.lines()[1010].c, (colour{30, 31, 32}));
+    EXPECT_EQ(s.lines()[1011].c, colour{});
     std::filesystem::remove("pals/test.pal");
     s.click("groupbtn");
     EXPECT_EQ(palred[30], 0);
@@ -134,9 +150,12 @@ TEST(startdisplay, mistakesOfTheStartFiles) {
     } const cases[] = {
         {"datah/start.txt", "st-b", "st-gone", failurekind::filenotfound, "datah\\st-gone.txt"},
         {"datah/start.txt", "-1850,830", "-185O,830", failurekind::typemismatch, "\"-185O\""},
+        {"datah/start.txt", "300\n", "40000\n", failurekind::overflow, "40000"},
         {"datah/start.txt", "10.6", "-1", failurekind::invalidcall, "start.txt, BACKGROUNDCOLOR: colour component -1"},
+        {"datah/st-b.txt", "1,2\n", "1,10001\n", failurekind::subscript, "datah\\st-b.txt, line group 1"},
         {"datah/start.txt", "11,22,33,1,2,3,0.5,6,7\nDEFAULTPAL", "11,22,33,1,2,3,0.5,6\nDEFAULTPAL",
          failurekind::inputpastend, "looking for DEFAULTPAL:"},
+        {"datah/st-b.txt", "TRAN", "", failurekind::inputpastend, "looking for TRAN"},
         {"datah/move.txt", "STOP", "", failurekind::inputpastend, "datah\\move.txt"},
     };
     for (const auto& c : cases) {
@@ -145,6 +164,13 @@ TEST(startdisplay, mistakesOfTheStartFiles) {
         session s(files);
         expectfailure(failureof([&] { s.start(); }), c.kind, c.told);
     }
+    // Text between keys is free, but for a key as a field of its own.
+    filesbypath files = startfolder();
+    std::string& text = files["datah/start.txt"];
+    text = replaced(text, "DEFAULTPAL:", "see DEFAULTPAL: below, DEFAULTPAL:,other\nDEFAULTPAL:");
+    session s(files);
+    s.start();
+    EXPECT_TRUE(palname.is("other"));
 }
 
 // No folder of designs or bitmaps: the load of the main window fails before anything is drawn.

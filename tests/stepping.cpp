@@ -76,6 +76,8 @@ TEST(stepping, aShiftKeepsFiveCharactersOfItself) {
     vertshift = 1.25e-7;
     s.click("vertinc");  // "1.25E"
     EXPECT_EQ(vertshift, 51.25);
+    vertshift = value("12a", "text box verttxt");
+    EXPECT_EQ(failureof([&] { s.click("vertdec"); })->kind, failurekind::typemismatch);
 }
 
 }  // namespace

@@ -95,10 +95,13 @@ TEST(transforms, mistakesOfAScript) {
         const char* told;
     } const cases[] = {
         {"STOP\n", failurekind::inputpastend, "looking for TRAN"},
+        {"TRAN\nTRANSLATE:\n9999,0,0,0,0\n", failurekind::inputpastend, "looking for TRAN"},
         {"TRAN\nTRANSLATE:\n9999,0,0,0,0\nTRAN\n", failurekind::inputpastend, "keyword"},
         {"TRAN\nTRANSLATE:\n1,10001,0,0,0\n9999,0,0,0,0\n", failurekind::subscript, "script.txt, line 3, field 1"},
         {"TRAN\nZWRAP:\n1,1,0,1001,0,0\n9999,0,0,0,0,0\n", failurekind::subscript, "10001"},
+        {"TRAN\nXTRANSFORMATIONS:\n-1,0\n9999,0\n", failurekind::subscript, "line 3"},
         {"TRAN\nRESIZE:\n1,1,1,1,one\n9999,0,0,0,0\n", failurekind::typemismatch, "line 3, field 5"},
+        {"TRAN\nZWRAP:\n1,1,x,1,0,0\n9999,0,0,0,0,0\n", failurekind::typemismatch, "\"x\""},
     };
     for (const auto& c : cases) {
         session s;

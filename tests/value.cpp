@@ -6,13 +6,29 @@
 using namespace tessaly;
 
 TEST(value, strictReadingTakesWholeNumbersOnly) {
-    const std::map<std::string, double> numbers{
-        {"1", 1},      {" -2.5 ", -2.5}, {"+.5", 0.5},
-        {"4.", 4},     {"1e3", 1000},    {"1E-2", 0.01},
-        {"1e+2", 100}, {"1e-999", 0},    {"0." + std::string(400, '0') + "1", 0}};
-    for (const auto& [text, number] : numbers) EXPECT_EQ(strictnumber(text), number) << '"' << text << '"';
-    for (const char* text : {"", " ", ".", "-", "1e", "e1", "1 2", "1,5", "0x10", "inf", "nan", "3x", "--1"})
-        EXPECT_EQ(strictnumber(text), std::nullopt) << '"' << text << '"';
+    const std::map<std::string, std::optional<double>> texts{{"1", 1},
+                                                             {" -2.5 ", -2.5},
+                                                             {"+.5", 0.5},
+                                                             {"4.", 4},
+                                                             {"1e3", 1000},
+                                                             {"1E-2", 0.01},
+                                                             {"1e-999", 0},
+                                                             {"", std::nullopt},
+                                                             {" ", std::nullopt},
+                                                             {".", std::nullopt},
+                                                             {"-", {}},
+                                                             {"1e", {}},
+                                                             {"e1", {}},
+                                                             {"1 2", {}},
+                                                             {"1,5", {}},
+                                                             {"0x10", {}},
+                                                             {"inf", {}},
+                                                             {"nan", {}},
+                                                             {"3x", {}},
+                                                             {"--1", {}},
+                                                             {"1e+2", 100},
+                                                             {"0." + std::string(400, '0') + "1", 0}};
+    for (const auto& [text, number] : texts) EXPECT_EQ(strictnumber(text), number) << '"' << text << '"';
     EXPECT_EQ(failureof([] { strictnumber("-1e999"); })->kind, failurekind::overflow);
 }
 
