@@ -27,7 +27,7 @@ void addclicks() {
                 panelprefix = "st-panels-1or-";
                 clickposition(middleof(*f));
             });
-    for (const way w : {way::program, way::plain}) {
+    for (const way w : {way::program, way::plain, way::plainqpainter}) {
         addmeasure("view/step", w, 0, [] { click("horizinc"); });
         addmeasure("view/full clear", w, 0, [] { click("fillscreen"); });
         addmeasure("start/start-up display", w, 0, [] { click("groupbtn"); });
