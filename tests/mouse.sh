@@ -5,6 +5,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build=${TESSALY_BUILD:-$root/build}
 scratch=$(mktemp -d)
 screenpid= programpid=
+density=100 # percent: pixels of the screen to a hundred of the window
 
 fail() {
     echo "FAILED: $*" >&2
@@ -15,10 +16,16 @@ fail() {
     exit 1
 }
 
-cleanup() {
+# stopscreen: takes the program and its screen away.
+stopscreen() {
     [ -n "$programpid" ] && kill "$programpid" 2>/dev/null
     [ -n "$screenpid" ] && kill "$screenpid" 2>/dev/null
     wait
+    programpid= screenpid=
+}
+
+cleanup() {
+    stopscreen
     rm -rf "$scratch"
 }
 trap cleanup EXIT
@@ -41,6 +48,7 @@ workingfolder() {
 
 # startscreen WIDTH HEIGHT: a screen in memory, on the first display number that is free.
 startscreen() {
+    rm -f "$scratch/display"
     Xvfb -displayfd 3 -screen 0 "$1x$2x24" -nolisten tcp 3>"$scratch/display" 2>"$scratch/screen.log" &
     screenpid=$!
     waitfor "the screen" test -s "$scratch/display"
@@ -49,10 +57,10 @@ startscreen() {
     unset WAYLAND_DISPLAY QT_SCALE_FACTOR
 }
 
-# startprogram: the program in the working folder $scratch/work.
+# startprogram VARIABLE=VALUE...: the program in the working folder $scratch/work, with these in its environment.
 startprogram() {
     workingfolder "$scratch/work"
-    (cd "$scratch/work" && QT_QPA_PLATFORM=xcb exec "$build/tessaly") >"$scratch/program.log" 2>&1 &
+    (cd "$scratch/work" && exec env QT_QPA_PLATFORM=xcb "$@" "$build/tessaly") >"$scratch/program.log" 2>&1 &
     programpid=$!
 }
 
@@ -78,9 +86,9 @@ shown() {
     return 1
 }
 
-# clickat WINDOW X Y: a click of the left button, in pixels from the window's corner.
+# clickat WINDOW X Y: a click of the left button, in pixels of the window from its corner.
 clickat() {
-    xdotool mousemove --window "$1" "$2" "$3" click 1
+    xdotool mousemove --window "$1" $(($2 * density / 100)) $(($3 * density / 100)) click 1
 }
 
 # clickcontrol WINDOW NAME: a click on the middle of a control, found in the table of controls (twips, 15 to the pixel).

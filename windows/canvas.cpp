@@ -8,6 +8,8 @@
 #include <QPaintEvent>
 #include <QPainter>
 
+#include <cmath>
+
 namespace tessaly {
 
 namespace {
@@ -49,7 +51,9 @@ void canvas::paintEvent(QPaintEvent* event) {
                        image.width() * static_cast<int>(sizeof(std::uint32_t)), QImage::Format_RGB32);
     QPainter painter(this);
     painter.setClipRegion(event->region());
-    painter.drawImage(rect(), shown);  // no smoothing: a pixel stays a pixel
+    // A pixel stays a pixel, but where the screen has no whole number of its own for each: thin lines would go uneven.
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, devicePixelRatioF() != std::floor(devicePixelRatioF()));
+    painter.drawImage(rect(), shown);
 }
 
 raster& viewportimage() {
