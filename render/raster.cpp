@@ -113,12 +113,12 @@ void raster::web(const facecorners& f, int n, colour c) {
 
 void raster::save(const std::string& path) {
     if (!writepicture) throw failure(failurekind::fileaccess, path + ": this program writes no picture files");
-    writepicture(*this, systempath(path));
+    writepicture(*this, path);
 }
 
 void raster::setpicture(const std::string& path) {
     if (!readpicture) throw failure(failurekind::fileaccess, path + ": this program reads no picture files");
-    readpicture(*this, systempath(path));
+    readpicture(*this, path);
 }
 
 colour raster::at(int x, int y) const {

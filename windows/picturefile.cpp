@@ -1,13 +1,17 @@
-// Picture files: bitmaps and PNG out, any picture that the image library knows in, told by its content.
+// Picture files: bitmaps and PNG out, any picture that the image library knows in, told by its content. A picture takes
+// its name only when it is whole, and one that is not whole is not shown: the one that was there before stays.
 
 #include "windows/picturefile.h"
 
+#include "core/channels.h"
 #include "core/failure.h"
 
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
 #include <QImageWriter>
+#include <QSaveFile>
+#include <QtEndian>
 
 #include <algorithm>
 
@@ -22,22 +26,30 @@ QImage viewof(const raster& image) {
 }
 
 void writeas(const raster& image, const std::string& path, const char* format) {
-    QFile file(QFile::decodeName(path.c_str()));
+    QSaveFile file(QFile::decodeName(systempath(path).c_str()));
+    file.setDirectWriteFallback(true);  // a folder that takes no new name may still have a file that can be written
     if (!file.open(QIODevice::WriteOnly))
-        throw failure(failurekind::fileaccess, path + ": " + file.errorString().toStdString());
+        throw failure(failurekind::fileaccess, path + " (picture): " + file.errorString().toStdString());
     QImageWriter writer(&file, format);
-    const bool written = writer.write(viewof(image)) && file.flush();
+    const bool written = writer.write(viewof(image)) && file.commit();
     if (!written) throw failure(failurekind::fileaccess, path + ": the picture could not be written in whole");
 }
 
 // A capture is a bitmap whatever its name says.
 void writebitmap(const raster& image, const std::string& path) { writeas(image, path, "bmp"); }
 
+// Whether a bitmap is shorter than its head says; the library would show the missing rows as black.
+bool cutshort(QFile& file) {
+    const QByteArray head = file.peek(6);  // "BM", then the size of the whole file
+    return head.startsWith("BM") && head.size() == 6 && qFromLittleEndian<quint32>(head.constData() + 2) > file.size();
+}
+
 void readintoimage(raster& image, const std::string& path) {
-    QFile file(QFile::decodeName(path.c_str()));
+    QFile file(QFile::decodeName(systempath(path).c_str()));
     if (!file.exists()) throw failure(failurekind::filenotfound, path + " (picture)");
     if (!file.open(QIODevice::ReadOnly))
-        throw failure(failurekind::fileaccess, path + ": " + file.errorString().toStdString());
+        throw failure(failurekind::fileaccess, path + " (picture): " + file.errorString().toStdString());
+    if (cutshort(file)) throw failure(failurekind::invalidcall, path + " (picture): the file is not whole");
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     const QImage picture = reader.read().convertToFormat(QImage::Format_RGB32);
