@@ -10,6 +10,7 @@ namespace tessaly {
 
 void clickdisplayfilelistbtn() {
     refresh(designfileslist);
+    hide(killfilebtn);  // the list that was read again has nothing picked
     show(designfileslist);
     show(closefilelistbtn);
 }
