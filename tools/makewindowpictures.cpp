@@ -12,6 +12,7 @@
 #include "windows/picturefile.h"
 
 #include <QApplication>
+#include <QPainter>
 
 #include <algorithm>
 #include <clocale>
@@ -75,13 +76,41 @@ void keep(const QImage& image, const fs::path& folder, const char* name) {
     if (!image.save(QString::fromStdString((folder / (std::string(name) + ".png")).string()))) std::exit(1);
 }
 
+// What a help button has room for, in pixels: as much of it as its window shows, within its rim.
+QSize roomofbutton(const char* name) {
+    constexpr int rim = 2;
+    const twips& place = findcontrol(name)->place;
+    const int high = std::min(place.height, instructions.heighttwips - place.top);
+    return {inpixels(place.width) - 2 * rim, inpixels(high) - 2 * rim};
+}
+
+// Leaves on the main window only the controls whose middle lies in a region: neighbours overlap its rim.
+void showonly(const twips& place) {
+    for (const control* c : vistaplan.controls) {
+        const int x = c->place.left + c->place.width / 2 - place.left;
+        const int y = c->place.top + c->place.height / 2 - place.top;
+        widgetof(*c)->setVisible(c->shown && x >= 0 && x < place.width && y >= 0 && y < place.height);
+    }
+}
+
+// A region on the main window's grey, which fills the button that shows it.
 void makehelppictures(const fs::path& folder) {
     constexpr int sharp = 2;
-    const QImage whole = shot(vistaplan, sharp);
     const auto inimage = [](int twips) { return sharp * twips / twipsperpixel; };
-    for (const region& r : regions)
-        keep(whole.copy(inimage(r.place.left), inimage(r.place.top), inimage(r.place.width), inimage(r.place.height)),
-             folder, r.button);
+    for (const region& r : regions) {
+        QImage filled(roomofbutton(r.button) * sharp, QImage::Format_RGB32);
+        filled.fill(screencolour(vistaplan.back));
+        const QSize shown =
+            QSize(inimage(r.place.width), inimage(r.place.height)).scaled(filled.size(), Qt::KeepAspectRatio);
+        showonly(r.place);
+        const QImage cut =
+            shot(vistaplan, sharp)
+                .copy(inimage(r.place.left), inimage(r.place.top), inimage(r.place.width), inimage(r.place.height));
+        QPainter(&filled).drawImage((filled.width() - shown.width()) / 2, 0,
+                                    cut.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+        keep(filled, folder, r.button);
+    }
+    showonly({0, 0, vistaplan.widthtwips, vistaplan.heighttwips});
 }
 
 // The view from which the whole tower is seen; it is taken by SET, as a user would.

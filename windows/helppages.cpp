@@ -55,6 +55,9 @@ const char* const elementstext1 = R"page(
 const char* const elementstext2 = R"page(
  DESIGN FILES
  ================================================================
+ The folders "designs", "bmps" and "el-numbers" lie side by side
+ where the program works: once it is installed, in the folder
+ "Tessaly" of your home folder.
  The program adds to a design file that is there already. For a
  new building, first move the old files away or delete them.
  ----------------------------------------------------------------
@@ -65,7 +68,7 @@ const char* const elementstext2 = R"page(
  ----------------------------------------------------------------
  EDITING A FILE BY HAND
  A design file is plain text, one line a click, in the order of
- your clicks. Any plain text editor will do. A line looks so:
+ your clicks. Any plain text editor will do. One such line:
 
       "girder",49,8,104,42,0,0,0,16,4,64
                ^^
@@ -129,8 +132,8 @@ const char* const filereadertext = R"page(
  "Close file list" leaves the choice without a replay.
  ----------------------------------------------------------------
  A WHOLE BUILDING: the lowest floor first, then each floor above
- it, the roof last. A solid replay takes 1000 lines at most, of
- both files together.
+ it, the roof last. A solid replay takes 1000 lines at most; two
+ files with more of them together end the program: split them.
 )page";
 
 const char* const filereadertext2 = R"page(
@@ -235,10 +238,10 @@ const char* const viewcontrolstext = R"page(
       SHIFT  H         + --    the picture, right and left   50            "Increment"
       the two arrows           the eye, around the building  100           "rotation increment"
 
-    The blank entry of a list is the usual step. The arrows come with "Activate rotation controls", which first puts eye and
-    focus back to the start-up view, a little higher. The eye walks along the four sides of a square; one arrow shows at a
-    time, and the small buttons "right" and "left" switch. Other view changes can confuse the arrows: go on clicking, and they
-    recover by themselves.
+    The blank entry of a list is the usual step. The arrows come with "Activate rotation controls", which first
+    resets the view: eye and focus of the start, but for the focus Z, 180, and the eye, 180 higher than its box shows. The eye
+    walks along the four sides of a square; one arrow shows at a time, and the small buttons "right" and "left" switch. Other
+    view changes can confuse the arrows: go on clicking, and they recover by themselves.
 
  2. FIGURES, THEN SET: "show perp foc mag" shows the boxes of the eye (upper three), of the focus (middle three) and of the
     magnification; the two of the shift are always there. Type what you want, then press SET. Type numbers only: an empty box
@@ -251,6 +254,7 @@ const char* const viewcontrolstext = R"page(
       blue          the focus, X and Y            red    the focus, Z
 
     A click only writes the figures into the boxes. Nothing moves until you press SET on the main window.
+    ("Default view" is told on the page of the display buttons.)
 )page";
 
 const char* const capturetext = R"page(
@@ -264,12 +268,14 @@ const char* const capturetext = R"page(
     You must include the .bmp file extension when naming a capture.
  3. Press "Enter". "escape" leaves without a capture.
 
- Two files are written to the folder "bmps":
+ Two files are written to the folder "bmps", beside the folder "designs":
 
       house1.bmp    the picture, without the boxes and lists that may stand in front of it
       house1.txt    the view: the figures that stand in the nine view boxes
 
  Take a new name for each capture. Under an old name the picture is replaced, but the view of the first capture stays.
+ The last four characters of the name are dropped for the text file, whatever they are: "house" gives  h.txt , and the
+ picture "house.txt" is written over its own view. Write .bmp in small letters: "HOUSE.BMP" is not found again.
  A name of fewer than four characters ends the program.
 
  ----------------------------------------------------------------------------------------------------------------------
