@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# The Debian package: built, unpacked into a scratch root and started as a user would, by the launcher, in an empty home.
-# Then once more, with a shipped file changed and one gone. Nothing of the machine is touched.
+# The Debian package: built, installed under a scratch root and started as a user would, by the launcher, in an empty home.
+# Then once more, with a shipped file changed and one gone; and removed. Nothing of the machine is touched: the package
+# manager works on a copy of its list of packages, so that dependencies are those of the machine.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/mouse.sh"
 
@@ -15,7 +16,15 @@ done
 apt-get -qq --simulate install "$package" >/dev/null || fail "what the package depends on is not to be had"
 
 installed=$scratch/root/usr
-dpkg-deb -x "$package" "$scratch/root"
+mkdir -p "$scratch/root/var/lib/dpkg/info" "$scratch/root/var/lib/dpkg/updates"
+cp /var/lib/dpkg/status "$scratch/root/var/lib/dpkg"
+# packages COMMAND...: the package manager under the scratch root, also for files that the machine itself does without.
+packages() {
+    dpkg --root="$scratch/root" --log=/dev/null --force-not-root --path-include='/usr/share/*' "$@" >"$scratch/dpkg.log" 2>&1 ||
+        { grep -v 'files list file' "$scratch/dpkg.log" >&2; fail "dpkg $*"; }
+}
+packages --install "$package"
+dpkg-query --admindir="$scratch/root/var/lib/dpkg" -W -f '${db:Status-Status}' tessaly | grep -qx installed || fail "not installed"
 desktop-file-validate "$installed/share/applications/tessaly.desktop" || fail "the desktop entry"
 appstreamcli validate --no-net "$installed"/share/metainfo/*.xml >"$scratch/metainfo.log" ||
     { cat "$scratch/metainfo.log" >&2; fail "the metainfo"; }
@@ -74,4 +83,8 @@ startlauncher
 clickcontrol "$window" exitbtn
 programended 0
 diff -r "$scratch/before" "$work" || fail "the second start changed the working folder"
-echo "$(basename "$package"): installed, started twice, and the working folder is the user's."
+
+packages --purge tessaly
+[ -z "$(find "$scratch/root/usr" ! -type d 2>/dev/null)" ] || fail "left behind: $(find "$scratch/root/usr" ! -type d)"
+[ -f "$work/designs/girders1.txt" ] || fail "the user's building went with the package"
+echo "$(basename "$package"): installed, started twice, removed, and the working folder is the user's."
