@@ -37,7 +37,14 @@ constexpr int titlebar = 30;  // pixels: what a desktop may put above a window
 // What the screen leaves for a window's interior.
 QRect roomfor(const face& f) { return f.screen()->availableGeometry().adjusted(0, titlebar, 0, 0); }
 
-QRect within(const QRect& room, QSize size, Qt::Alignment where) {
+// The place of a window that has just been made. Where the room is too small one way, the bar to scroll that way does
+// not take from the other.
+QRect placeof(const face& f, Qt::Alignment where) {
+    const QRect room = roomfor(f);
+    const QSize plan = f.designedsize();
+    const int bar = f.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
+    const QSize size(plan.width() + (plan.height() > room.height() ? bar : 0),
+                     plan.height() + (plan.width() > room.width() ? bar : 0));
     return QStyle::alignedRect(Qt::LeftToRight, where, size.boundedTo(room.size()), room);
 }
 
@@ -66,10 +73,8 @@ void face::closeEvent(QCloseEvent* event) {
     runevent([this] { closewindow(of); });
 }
 
-void openatlowerright(face& f) {
-    f.setGeometry(within(roomfor(f), f.designedsize(), Qt::AlignRight | Qt::AlignBottom));
-}
-void openincentre(face& f) { f.setGeometry(within(roomfor(f), f.designedsize(), Qt::AlignCenter)); }
+void openatlowerright(face& f) { f.setGeometry(placeof(f, Qt::AlignRight | Qt::AlignBottom)); }
+void openincentre(face& f) { f.setGeometry(placeof(f, Qt::AlignCenter)); }
 
 void stayinfrontof(face& f, const tessaly::window& other) {
     f.setWindowFlags(Qt::Dialog);  // the kind that desktops keep in front of another
