@@ -29,8 +29,10 @@ desktop-file-validate "$installed/share/applications/tessaly.desktop" || fail "t
 appstreamcli validate --no-net "$installed"/share/metainfo/*.xml >"$scratch/metainfo.log" ||
     { cat "$scratch/metainfo.log" >&2; fail "the metainfo"; }
 [ -x "$installed/bin/$(sed -n 's/^Exec=//p' "$installed/share/applications/tessaly.desktop")" ] || fail "the entry's program"
-[ -f "$installed/share/icons/hicolor/scalable/apps/$(sed -n 's/^Icon=//p' "$installed/share/applications/tessaly.desktop").svg" ] ||
-    fail "the entry's icon"
+for icon in scalable/apps/tessaly.svg {16x16,32x32,48x48,128x128,512x512}/apps/tessaly.png; do
+    [ -f "$installed/share/icons/hicolor/$icon" ] || fail "no icon $icon"
+done
+grep -qx Icon=tessaly "$installed/share/applications/tessaly.desktop" || fail "the entry's icon"
 
 # What the documents link to lies where they say.
 for page in NOT-BUGS.md docs/guide.md samples/README.md; do

@@ -158,6 +158,7 @@ TEST_F(windowsession, aFailureIsShownAndEndsWithStatus1) {
         auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_TRUE(box);
         shown = box->text();
+        EXPECT_FALSE(box->windowIcon().isNull());
         runevent([] { ADD_FAILURE() << "an event behind the message"; });
         box->accept();
     });

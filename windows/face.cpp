@@ -7,7 +7,6 @@
 #include "windows/look.h"
 
 #include <QCloseEvent>
-#include <QIcon>
 #include <QPainter>
 #include <QScreen>
 #include <QStyle>
@@ -53,7 +52,6 @@ QRect placeof(const face& f, Qt::Alignment where) {
 face::face(tessaly::window& itswindow) : of(itswindow) {
     setObjectName(of.name);
     setWindowTitle(of.title);
-    setWindowIcon(QIcon(":/pictures/tessaly.svg"));
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
     QPalette own = palette();

@@ -1,8 +1,9 @@
-// Style, palette and fonts. Only the sizes matter to the rest: they are pixels, never points.
+// Style, palette, fonts and icon. Only the sizes matter to the rest: they are pixels, never points.
 
 #include "windows/look.h"
 
 #include <QFontDatabase>
+#include <QIcon>
 #include <QPalette>
 #include <QStyleFactory>
 #include <QToolTip>
@@ -38,6 +39,7 @@ void setlook(QApplication& app) {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setPalette(housepalette());
     QApplication::setFont(captionfont());
+    QApplication::setWindowIcon(QIcon(":/pictures/tessaly.svg"));  // of windows and messages alike
     QToolTip::setPalette(housepalette());
     QToolTip::setFont(captionfont());
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);

@@ -12,7 +12,7 @@ namespace tessaly {
 
 constexpr int captionpixels = 11;
 
-// Gives the application its style, palette and font. To be called once, right after its making.
+// Gives the application its style, palette, font and icon. To be called once, right after its making.
 void setlook(QApplication& app);
 
 // The font of captions, in pixels of the design grid.
