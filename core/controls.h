@@ -73,6 +73,8 @@ window* findwindow(std::string_view name);
 // The text of the selected item, "" where nothing is selected.
 const std::string& selectedtext(const control& list);
 
+inline bool islist(const control& c) { return c.kind == controlkind::list || c.kind == controlkind::filelist; }
+
 // Makes a window visible and puts it in front, creating it on first use; hides it, creating it on first use.
 void showwindow(window& w);
 void hidewindow(window& w);

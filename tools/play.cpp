@@ -36,10 +36,9 @@ void playscript(std::istream& script, int& number) {
 }
 
 int play(std::istream& script, const std::string& name) {
-    static raster progress(17, 705);
     usepicturefiles();
     viewportsurface = &playedsurface;
-    progresssurface = &progress;
+    progresssurface = &playedstrip;
     int number = 0;
     try {
         startprogram();

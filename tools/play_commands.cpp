@@ -5,7 +5,8 @@
 
 #include "core/controls.h"
 #include "core/failure.h"
-#include "core/world.h"
+#include "tools/play_record.h"
+#include "tools/play_state.h"
 #include "windows/handlers.h"
 #include "windows/picturefile.h"
 
@@ -14,11 +15,9 @@
 
 namespace tessaly {
 
-loggedsurface playedsurface(897, 581);
+loggedsurface playedsurface(897, 581), playedstrip(17, 705);
 
 namespace {
-
-bool islist(const control& c) { return c.kind == controlkind::list || c.kind == controlkind::filelist; }
 
 std::string nameof(scriptline& line) {
     const std::string name(line.word());
@@ -73,21 +72,9 @@ void writeline(const std::string& text) {
     std::putchar('\n');
 }
 
-std::string statetext(const value& v) {
-    if (v.empty()) return "empty";
-    return v.isnumber() ? shortesttext(v) : inquotes(v.text());
-}
-
 void showstate(scriptline& line) {
     line.expectend();
-    const auto visibility = [](bool shown) { return shown ? " shown" : " hidden"; };
-    for (const window* w : allwindows()) writeline(std::string("window ") + w->name + visibility(w->shown));
-    for (const window* w : allwindows())
-        for (const control* c : w->controls)
-            writeline("control " + c->name + visibility(c->shown) + ' ' +
-                      inquotes(islist(*c) ? selectedtext(*c) : c->text));
-    for (const scalar* s = scalarsbegin(); s != scalarsend(); ++s)
-        if (s->reported) writeline(std::string("value ") + s->name + ' ' + statetext(*s->held));
+    for (const stateline& state : programstate()) writeline(state.name + ' ' + state.text);
 }
 
 void lines(scriptline& line) {
@@ -106,16 +93,35 @@ void picture(scriptline& line) {
     }
 }
 
+void record(scriptline& line) {
+    const std::string path = line.filename();
+    if (!startrecord(path)) throw scripterror("the file " + path + " cannot be written");
+}
+
 void say(scriptline& line) { writeline(std::string(line.rest())); }
 
 struct command {
     std::string_view name;
     void (*obey)(scriptline&);
+    bool acts;  // as a user: it stands in the session's record
 };
 constexpr command commands[] = {
-    {"click", click},    {"pick", pick},   {"type", type},       {"close", close},
-    {"show", showstate}, {"lines", lines}, {"picture", picture}, {"say", say},
+    // clang-format off
+    {"click",   click,     true},
+    {"pick",    pick,      true},
+    {"type",    type,      true},
+    {"close",   close,     true},
+    {"show",    showstate, false},
+    {"lines",   lines,     false},
+    {"picture", picture,   false},
+    {"record",  record,    false},
+    {"say",     say,       false},
+    // clang-format on
 };
+
+void keepstep(std::string_view step, const std::string& report) {
+    if (!recordstep(step, report)) throw scripterror("the record of the session cannot be written");
+}
 
 }  // namespace
 
@@ -123,9 +129,16 @@ void obeyline(std::string_view text) {
     scriptline line(text);
     const std::string_view name = line.word();
     if (name.empty() || name.front() == '#') return;
-    for (const command& c : commands)
-        if (c.name == name) return c.obey(line);
-    throw scripterror("there is no command " + std::string(name));
+    const auto known =
+        std::find_if(std::begin(commands), std::end(commands), [name](const command& c) { return c.name == name; });
+    if (known == std::end(commands)) throw scripterror("there is no command " + std::string(name));
+    try {
+        known->obey(line);
+    } catch (const failure& f) {
+        keepstep(text, f.report);
+        throw;
+    }
+    if (known->acts) keepstep(text, "");
 }
 
 }  // namespace tessaly

@@ -6,8 +6,9 @@
 
 namespace tessaly {
 
-// The picture that the commands draw on, log and save; viewportsurface is set to it.
-extern loggedsurface playedsurface;
+// The picture that the commands draw on, log and save, and the progress strip; viewportsurface and progresssurface are
+// set to them.
+extern loggedsurface playedsurface, playedstrip;
 
 // Obeys one line of a script; blank lines and comments do nothing. Throws scripterror for a line that no user could
 // act out, such as a click on a hidden button; failures of the program pass through.

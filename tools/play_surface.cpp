@@ -1,5 +1,5 @@
-// While lines are logged the compound operations are drawn line by line, so that none of them is missing from the log;
-// the image comes out the same.
+// While lines are logged or counted the compound operations are drawn line by line, so that none of them is missing
+// from the log; the image comes out the same.
 
 #include "tools/play_surface.h"
 
@@ -27,6 +27,11 @@ bool loggedsurface::flushlog() { return log == nullptr || std::fflush(log.get())
 
 void loggedsurface::line(float x1, float y1, float x2, float y2, colour c) {
     image.line(x1, y1, x2, y2, c);
+    if (tally) {
+        ++tally->lines;
+        for (const float coordinate : {x1, y1, x2, y2}) tally->sum.add(coordinate);
+        tally->sum.add(std::uint64_t{c.red} << 16 | std::uint64_t{c.green} << 8 | c.blue);
+    }
     if (log == nullptr) return;
     char row[160];
     char* at = row;
@@ -40,17 +45,22 @@ void loggedsurface::line(float x1, float y1, float x2, float y2, colour c) {
 }
 
 void loggedsurface::wash(int x1, int x2, int y1, int y2, colour c) {
-    if (log == nullptr)
-        image.wash(x1, x2, y1, y2, c);
-    else
+    if (listening())
         surface::wash(x1, x2, y1, y2, c);
+    else
+        image.wash(x1, x2, y1, y2, c);
 }
 
 void loggedsurface::web(const facecorners& f, int n, colour c) {
-    if (log == nullptr)
-        image.web(f, n, c);
-    else
+    if (listening())
         surface::web(f, n, c);
+    else
+        image.web(f, n, c);
+}
+
+void loggedsurface::setpicture(const std::string& path) {
+    image.setpicture(path);
+    if (tally) tally->picture = path;
 }
 
 }  // namespace tessaly

@@ -1,12 +1,22 @@
-// The player's picture of viewport: an image in memory that also writes each drawn line to a file while asked to.
+// The player's pictures: an image in memory that, while asked to, also writes each drawn line to a file and counts it.
 #pragma once
 
 #include "render/raster.h"
+#include "tools/checksum.h"
 
 #include <cstdio>
 #include <memory>
+#include <optional>
+#include <utility>
 
 namespace tessaly {
+
+// What was drawn: how many lines, the checksum of their ends and colours, and the picture set as the background.
+struct linetally {
+    long lines = 0;
+    checksum sum;
+    std::string picture;
+};
 
 class loggedsurface : public surface {
   public:
@@ -17,19 +27,26 @@ class loggedsurface : public surface {
     void endlog() { log.reset(); }
     bool flushlog();  // false where the disk does not take it
 
+    // From here on each line is counted; what was counted since, and the count begins anew.
+    void starttally() { tally.emplace(); }
+    linetally taketally() { return std::exchange(*tally, {}); }
+
     void line(float x1, float y1, float x2, float y2, colour c) override;
     void wash(int x1, int x2, int y1, int y2, colour c) override;
     void web(const facecorners& f, int n, colour c) override;
     void save(const std::string& path) override { image.save(path); }
-    void setpicture(const std::string& path) override { image.setpicture(path); }
+    void setpicture(const std::string& path) override;
 
     raster image;
 
   private:
+    bool listening() const { return log != nullptr || tally; }
+
     struct closing {
         void operator()(std::FILE* file) const { std::fclose(file); }
     };
     std::unique_ptr<std::FILE, closing> log;
+    std::optional<linetally> tally;
 };
 
 }  // namespace tessaly

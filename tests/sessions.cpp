@@ -1,0 +1,54 @@
+// Whole sessions: each script of tests/sessions is played in a scratch folder, over the shipped data and the files of
+// the folder of its name, and what each step changed is held against the record that is kept beside it.
+// tools/make-sessions.sh writes the records anew; a change of theirs is to be read like a change of the program.
+#include "tests/session.h"
+#include "tools/play_commands.h"
+#include "windows/picturefile.h"
+
+using namespace tessaly;
+
+namespace {
+
+namespace fs = std::filesystem;
+const fs::path kept = TESSALY_SOURCE_DIR "/tests/sessions";
+
+class playedsession : public testing::Test {
+  public:
+    explicit playedsession(std::string its) : name(std::move(its)) {}
+
+    void TestBody() override {
+        session s;
+        if (fs::exists(kept / name)) {
+            for (const char* data : {"datah", "pals"}) {
+                fs::remove(data);
+                fs::copy(fs::path(TESSALY_SOURCE_DIR) / data, data);
+            }
+            fs::copy(kept / name, ".", fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+        }
+        usepicturefiles();
+        viewportsurface = &playedsurface;
+        progresssurface = &playedstrip;
+        obeyline("record record.txt");
+        std::ifstream script(kept / (name + ".play"));
+        try {
+            for (std::string line; !programended && std::getline(script, line);) obeyline(line);
+        } catch (const failure&) {  // the record tells it
+        }
+        EXPECT_EQ(session::file(kept / (name + ".txt")), session::file("record.txt"));
+    }
+
+  private:
+    std::string name;
+};
+
+[[maybe_unused]] const bool registered = [] {
+    for (const auto& entry : fs::directory_iterator(kept)) {
+        const std::string name = entry.path().stem();
+        if (entry.path().extension() == ".play")
+            testing::RegisterTest("sessions", name.c_str(), nullptr, nullptr, __FILE__, __LINE__,
+                                  [name] { return new playedsession(name); });
+    }
+    return true;
+}();
+
+}  // namespace

@@ -1,0 +1,39 @@
+// A checksum of whatever is added, in its order: FNV-1a of 64 bits. It is the same on every machine.
+#pragma once
+
+#include <bit>
+#include <cstdint>
+#include <cstdio>
+#include <string>
+#include <string_view>
+
+namespace tessaly {
+
+class checksum {
+  public:
+    void add(std::string_view bytes) {
+        for (const char c : bytes) {
+            sum ^= static_cast<unsigned char>(c);
+            sum *= 0x100000001b3;
+        }
+    }
+    void add(std::uint64_t number) {  // its bytes, the lowest first
+        for (int i = 0; i < 8; ++i, number >>= 8) {
+            sum ^= number & 0xff;
+            sum *= 0x100000001b3;
+        }
+    }
+    void add(float number) { add(std::uint64_t{std::bit_cast<std::uint32_t>(number)}); }
+    void add(double number) { add(std::bit_cast<std::uint64_t>(number)); }
+
+    std::string text() const {  // sixteen hexadecimal digits
+        char digits[17];
+        std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(sum));
+        return digits;
+    }
+
+  private:
+    std::uint64_t sum = 0xcbf29ce484222325;
+};
+
+}  // namespace tessaly

@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# Writes the records of the sessions in tests/sessions anew: all, or those that are named. Read what changed before you
+# keep it: each line is something that a user sees or finds on disk.
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+. tools/setup.sh
+
+wantpackages "${runpackages[@]}"
+configure build CMAKE_BUILD_TYPE=Release
+build build play
+root=$PWD
+[ $# -gt 0 ] || set -- $(basename -s .play tests/sessions/*.play)
+for name in "$@"; do
+    scratch=$(mktemp -d)
+    mkdir "$scratch"/{designs,bmps,nonuser}
+    cp -r datah pals "$scratch"
+    [ ! -d "tests/sessions/$name" ] || cp -r "tests/sessions/$name/." "$scratch"
+    status=0
+    (cd "$scratch" && { echo "record record.txt"; cat "$root/tests/sessions/$name.play"; } |
+        "$root/build/tools/play" - 2>error.txt) || status=$?
+    if [ "$status" -gt 1 ]; then # 1: the program failed, as the record tells
+        echo "$name: $(cat "$scratch/error.txt")" >&2
+        exit 1
+    fi
+    mv "$scratch/record.txt" "tests/sessions/$name.txt"
+    rm -r "$scratch"
+done
+git --no-pager diff --stat tests/sessions

@@ -1,0 +1,105 @@
+// Before and after a step: the program's state, the lines drawn and the files of the working folder, compared.
+
+#include "tools/play_record.h"
+
+#include "core/controls.h"
+#include "tools/play_commands.h"
+#include "tools/play_line.h"
+#include "tools/play_state.h"
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <sstream>
+
+namespace tessaly {
+
+namespace {
+
+constexpr std::size_t mostquoted = 400;  // bytes of a file that are written out; longer ones as length and checksum
+
+using filesbypath = std::map<std::string, std::string>;
+
+struct moment {
+    std::vector<stateline> state;
+    filesbypath files;
+    const control* focus;
+};
+
+std::ofstream record;
+moment before;
+
+filesbypath filesofsession() {
+    filesbypath files;
+    for (const char* folder : {"bmps", "designs", "nonuser"}) {
+        std::error_code missing;
+        for (const auto& entry : std::filesystem::directory_iterator(folder, missing)) {
+            std::ifstream in(entry.path(), std::ios::binary);
+            if (entry.is_regular_file()) files[entry.path()] = (std::ostringstream() << in.rdbuf()).str();
+        }
+    }
+    return files;
+}
+
+moment takemoment() { return {programstate(), filesofsession(), wantedfocus}; }
+
+std::string told(std::string_view bytes) {
+    if (bytes.size() <= mostquoted) return inquotes(bytes);
+    checksum sum;
+    sum.add(bytes);
+    return std::to_string(bytes.size()) + " bytes " + sum.text();
+}
+
+void writechangedstate(const moment& after) {
+    std::map<std::string_view, std::string_view> was;
+    for (const stateline& line : before.state) was[line.name] = line.text;
+    for (const stateline& line : after.state)
+        if (was[line.name] != line.text) record << "  " << line.name << ' ' << line.text << '\n';
+}
+
+void writechangedfiles(const moment& after) {
+    for (const auto& [path, bytes] : after.files) {
+        const auto old = before.files.find(path);
+        if (old == before.files.end())
+            record << "  file " << path << " new " << told(bytes) << '\n';
+        else if (old->second != bytes && bytes.starts_with(old->second))
+            record << "  file " << path << " gained " << told(std::string_view(bytes).substr(old->second.size()))
+                   << '\n';
+        else if (old->second != bytes)
+            record << "  file " << path << " is now " << told(bytes) << '\n';
+    }
+    for (const auto& [path, bytes] : before.files)
+        if (!after.files.contains(path)) record << "  file " << path << " gone\n";
+}
+
+void writelines(const char* name, loggedsurface& drawnon) {
+    const linetally drawn = drawnon.taketally();
+    if (!drawn.picture.empty()) record << "  picture " << name << ' ' << drawn.picture << '\n';
+    if (drawn.lines > 0) record << "  lines " << name << ' ' << drawn.lines << ' ' << drawn.sum.text() << '\n';
+}
+
+}  // namespace
+
+bool startrecord(const std::string& path) {
+    for (loggedsurface* s : {&playedsurface, &playedstrip}) s->starttally();
+    before = takemoment();
+    record.open(path, std::ios::binary);
+    return record.is_open();
+}
+
+bool recordstep(std::string_view step, std::string_view report) {
+    if (!record.is_open()) return true;
+    moment after = takemoment();
+    record << step << '\n';
+    writechangedstate(after);
+    if (after.focus != nullptr && after.focus != before.focus) record << "  focus " << after.focus->name << '\n';
+    writelines("viewport", playedsurface);
+    writelines("strip", playedstrip);
+    writechangedfiles(after);
+    if (!report.empty()) record << "  failure " << report << '\n';
+    before = std::move(after);
+    return static_cast<bool>(record.flush());
+}
+
+}  // namespace tessaly

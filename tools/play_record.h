@@ -1,0 +1,23 @@
+// The record of a played session: under each step of the script what it changed, a line each, so that a change of the
+// program shows as a difference that a person can judge.
+//   click postx0y16
+//     control perptxtx shown "1849.9"            a window, a control or a figure that is another than before
+//     focus capbox                               where the keyboard is wanted
+//     lines viewport 24 8d3e0c5b9a1f2e47         how many were drawn, and their checksum
+//     file designs/girders1.txt gained "..."     what a file of the working folder became
+//     failure ...                                the report of a step that ended the program
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace tessaly {
+
+// From here on each step is recorded in this file; false where it cannot be written.
+bool startrecord(const std::string& path);
+
+// Writes what the step just played changed; nothing where no record was begun. report: of the failure that ended it, or
+// "". false where the disk does not take it.
+bool recordstep(std::string_view step, std::string_view report);
+
+}  // namespace tessaly

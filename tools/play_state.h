@@ -1,0 +1,18 @@
+// The state of the program as lines of text: its windows, controls and figures, as "show" writes them and as a
+// session's record compares them from step to step.
+#pragma once
+
+#include <string>
+#include <vector>
+
+namespace tessaly {
+
+struct stateline {
+    std::string name;  // "window vistaplan", "control floor", "value mag"
+    std::string text;  // "shown", "shown \"1\"", "0.56"
+};
+
+// Windows, controls and reported scalars, each in the order of its table.
+std::vector<stateline> programstate();
+
+}  // namespace tessaly
