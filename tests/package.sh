@@ -15,6 +15,10 @@ for wanted in 'Package: tessaly$' 'Maintainer: .*@' 'Description: .' 'Depends: .
 done
 apt-get -qq --simulate install "$package" >/dev/null || fail "what the package depends on is not to be had"
 
+hardened=hardening-no-bindnow,hardening-no-fortify-functions # are no more than remarks by themselves
+said=$(lintian --allow-root "$package" 2>&1 && lintian --allow-root --display-info --tags $hardened "$package" 2>&1) &&
+    [ -z "$said" ] || fail "lintian: $said"
+
 installed=$scratch/root/usr
 mkdir -p "$scratch/root/var/lib/dpkg/info" "$scratch/root/var/lib/dpkg/updates"
 cp /var/lib/dpkg/status "$scratch/root/var/lib/dpkg"
@@ -33,6 +37,11 @@ for icon in scalable/apps/tessaly.svg {16x16,32x32,48x48,128x128,512x512}/apps/t
     [ -f "$installed/share/icons/hicolor/$icon" ] || fail "no icon $icon"
 done
 grep -qx Icon=tessaly "$installed/share/applications/tessaly.desktop" || fail "the entry's icon"
+
+version=$(dpkg-deb -f "$package" Version)
+grep -q "version=\"$version\"" "$installed"/share/metainfo/*.xml || fail "the metainfo's release"
+zgrep -q "\"Tessaly $version\"" "$installed/share/man/man1/tessaly.1.gz" || fail "the manual's version"
+zgrep -q "^tessaly ($version)" "$installed/share/doc/tessaly/changelog.gz" || fail "the changelog's version"
 
 # What the documents link to lies where they say.
 for page in NOT-BUGS.md docs/guide.md samples/README.md; do

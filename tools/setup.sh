@@ -6,7 +6,7 @@ runpackages=(cmake ninja-build g++ qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' qt6
 testpackages=(libgtest-dev libgmock-dev)
 benchpackages=(libbenchmark-dev)
 checkpackages=(git clang clang-format xvfb xdotool x11-utils imagemagick
-    locales dpkg-dev file appstream desktop-file-utils)
+    locales dpkg-dev file appstream desktop-file-utils lintian)
 
 # installed NAME: whether the package of that name is installed (not merely known or half removed).
 installed() {
