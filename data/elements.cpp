@@ -6,11 +6,10 @@
 #include "core/channels.h"
 #include "core/failure.h"
 #include "core/fields.h"
+#include "core/sine.h"
 #include "core/world.h"
 #include "data/transforms.h"
 #include "render/projector.h"
-
-#include <cmath>
 
 namespace tessaly {
 
@@ -193,7 +192,7 @@ void expandcube(cubeslots& next, const value& x1, const value& y1, const value& 
 
 void rotzplace() {
     toworldplace();
-    const double a = radians(rotz), c = std::cos(a), s = std::sin(a);
+    const double a = radians(rotz), c = cosineof(a), s = sineof(a);
     const double dx = placex, dy = placey, dz = placez;
     for (int i = 1; i <= lastplaced; ++i) {
         const double x = basex[i], y = basey[i], z = basez[i];
@@ -207,7 +206,7 @@ void rotzplace() {
 void rotxplace() {
     toworldplace();
     rotx = radians(rotx);
-    const double a = rotx, c = std::cos(a), s = std::sin(a);
+    const double a = rotx, c = cosineof(a), s = sineof(a);
     const double dx = placex, dy = placey, dz = placez;
     for (int i = 1; i <= lastplaced; ++i) {
         const double x = basex[i], y = basey[i], z = basez[i];

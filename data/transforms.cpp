@@ -5,11 +5,11 @@
 #include "core/channels.h"
 #include "core/failure.h"
 #include "core/fields.h"
+#include "core/sine.h"
 #include "core/world.h"
 #include "data/elements.h"
 
 #include <algorithm>
-#include <cmath>
 #include <string>
 #include <string_view>
 
@@ -87,7 +87,7 @@ void keepplace(const value* offsets) {
 
 void rotatetranslate(const value* row, double angle, turn about) {
     keepplace(row + 3);
-    const double c = std::cos(angle), s = std::sin(angle);
+    const double c = cosineof(angle), s = sineof(angle);
     for (int i = asindex(row[0]), last = asindex(row[1]); i <= last; ++i) about(i, c, s, placex, placey, placez);
 }
 
@@ -129,7 +129,7 @@ void wrap(const value* row, value& running, turn about, int axis) {
         first += 10;
         last += 10;
         factor += 1;
-        const double r = factor * risen, c = std::cos(running), s = std::sin(running);
+        const double r = factor * risen, c = cosineof(running), s = sineof(running);
         for (int i = first; i <= last; ++i) about(i, c, s, axis == 0 ? r : 0, axis == 1 ? r : 0, axis == 2 ? r : 0);
     }
 }

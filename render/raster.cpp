@@ -2,8 +2,7 @@
 
 #include "render/raster.h"
 
-#include "core/channels.h"
-#include "core/failure.h"
+#include "render/bitmap.h"
 #include "render/facefill.h"
 #include "render/linepart.h"
 
@@ -14,8 +13,7 @@
 
 namespace tessaly {
 
-std::function<void(const raster&, const std::string&)> writepicture;
-std::function<void(raster&, const std::string&)> readpicture;
+std::function<void(raster&, const std::string&)> readpicture = readbitmap;
 
 namespace {
 
@@ -111,15 +109,9 @@ void raster::web(const facecorners& f, int n, colour c) {
     mask.overruns([&](int y, int from, int to) { fillrow(y, from, to, pixel); });
 }
 
-void raster::save(const std::string& path) {
-    if (!writepicture) throw failure(failurekind::fileaccess, path + ": this program writes no picture files");
-    writepicture(*this, path);
-}
+void raster::save(const std::string& path) { writebitmap(*this, path); }
 
-void raster::setpicture(const std::string& path) {
-    if (!readpicture) throw failure(failurekind::fileaccess, path + ": this program reads no picture files");
-    readpicture(*this, path);
-}
+void raster::setpicture(const std::string& path) { readpicture(*this, path); }
 
 colour raster::at(int x, int y) const {
     const std::uint32_t pixel =

@@ -35,9 +35,8 @@ class raster : public surface {
     std::vector<std::uint32_t> image;
 };
 
-// Picture files are a library's work: the program sets these two. Both take a path of this system and fail as
-// surface::save and surface::setpicture do.
-extern std::function<void(const raster&, const std::string& path)> writepicture;
+// Reads a picture file, as surface::setpicture does. By itself the engine reads bitmaps as it writes them; the program
+// lends it a library that knows more kinds.
 extern std::function<void(raster&, const std::string& path)> readpicture;
 
 }  // namespace tessaly

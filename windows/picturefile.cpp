@@ -1,15 +1,15 @@
-// Picture files: bitmaps and PNG out, any picture that the image library knows in, told by its content. A picture takes
-// its name only when it is whole, and one that is not whole is not shown: the one that was there before stays.
+// Picture files: PNG out, any picture that the image library knows in, told by its content. A picture takes its name
+// only when it is whole, and one that is not whole is not shown: the one that was there before stays.
 
 #include "windows/picturefile.h"
 
 #include "core/channels.h"
 #include "core/failure.h"
+#include "render/bitmap.h"
 
 #include <QFile>
 #include <QImage>
 #include <QImageReader>
-#include <QImageWriter>
 #include <QSaveFile>
 #include <QtEndian>
 
@@ -25,18 +25,13 @@ QImage viewof(const raster& image) {
                   QImage::Format_RGB32);
 }
 
-void writeas(const raster& image, const std::string& path, const char* format) {
+void writepng(const raster& image, const std::string& path) {
     QSaveFile file(QFile::decodeName(systempath(path).c_str()));
-    file.setDirectWriteFallback(true);  // a folder that takes no new name may still have a file that can be written
     if (!file.open(QIODevice::WriteOnly))
         throw failure(failurekind::fileaccess, path + " (picture): " + file.errorString().toStdString());
-    QImageWriter writer(&file, format);
-    const bool written = writer.write(viewof(image)) && file.commit();
-    if (!written) throw failure(failurekind::fileaccess, path + ": the picture could not be written in whole");
+    if (!viewof(image).save(&file, "png") || !file.commit())
+        throw failure(failurekind::fileaccess, path + ": the picture could not be written in whole");
 }
-
-// A capture is a bitmap whatever its name says.
-void writebitmap(const raster& image, const std::string& path) { writeas(image, path, "bmp"); }
 
 // Whether a bitmap is shorter than its head says; the library would show the missing rows as black.
 bool cutshort(QFile& file) {
@@ -71,14 +66,11 @@ bool endswithnocase(const std::string& path, const std::string& ending) {
 
 }  // namespace
 
-void usepicturefiles() {
-    writepicture = writebitmap;
-    readpicture = readintoimage;
-}
+void usepicturefiles() { readpicture = readintoimage; }
 
 void savepicture(const raster& image, const std::string& path) {
-    if (endswithnocase(path, ".png")) return writeas(image, path, "png");
-    if (endswithnocase(path, ".bmp")) return writeas(image, path, "bmp");
+    if (endswithnocase(path, ".png")) return writepng(image, path);
+    if (endswithnocase(path, ".bmp")) return writebitmap(image, path);
     throw failure(failurekind::fileaccess, path + ": a name that ends in .png or .bmp was expected");
 }
 

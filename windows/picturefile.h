@@ -1,4 +1,4 @@
-// Picture files through the image library: what raster's save and setpicture use.
+// Picture files through the image library.
 #pragma once
 
 #include "render/raster.h"
@@ -7,7 +7,7 @@
 
 namespace tessaly {
 
-// Sets writepicture and readpicture of render/raster.
+// Sets readpicture of render/raster: from here on any picture that the library knows is read.
 void usepicturefiles();
 
 // Writes the image as PNG or BMP by the path's extension; fails with file access error.
