@@ -40,7 +40,7 @@ TEST(makers, buttonpicturesarekept) {
     const fs::path folder = fs::temp_directory_path() / ("tessaly-buttons" + std::to_string(::getpid()));
     for (const char* own : {"designs", "bmps", "nonuser"}) fs::create_directories(folder / own);
     for (const char* data : {"datah", "pals"}) fs::create_directory_symlink(source / data, folder / data);
-    expectkept("makebuttons", " " + folder.string(), source / "windows" / "pictures", 13);
+    expectkept("makebuttons", " " + folder.string(), source / "windows/qt/pictures", 13);
     fs::remove_all(folder);
 }
 
@@ -68,7 +68,7 @@ TEST(makers, windowpicturesarekept) {
                              (made / "documents").string() + " 2>/dev/null";
     ASSERT_EQ(std::system(line.c_str()), 0);
     int pictures = 0;
-    for (const auto& [folder, kept] : {std::pair{made / "help", source / "windows" / "pictures"},
+    for (const auto& [folder, kept] : {std::pair{made / "help", source / "windows/qt/pictures"},
                                        std::pair{made / "documents", source / "docs" / "pictures"}})
         for (const auto& file : fs::directory_iterator(folder)) {
             ++pictures;

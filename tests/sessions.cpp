@@ -3,7 +3,7 @@
 // tools/make-sessions.sh writes the records anew; a change of theirs is to be read like a change of the program.
 #include "tests/session.h"
 #include "tools/play_commands.h"
-#include "windows/picturefile.h"
+#include "windows/qt/picturefiles/picturefile.h"
 
 using namespace tessaly;
 

@@ -2,7 +2,7 @@
 
 #include "core/failure.h"
 #include "tests/windowsession.h"
-#include "windows/canvas.h"
+#include "windows/qt/canvas.h"
 
 #include <QImage>
 #include <QLineEdit>

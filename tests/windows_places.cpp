@@ -1,7 +1,7 @@
 // Every window as it is built: places as in the tables, captions whole, nothing over anything else.
 
 #include "tests/windowsession.h"
-#include "windows/button.h"
+#include "windows/qt/button.h"
 
 #include <QLabel>
 #include <QLineEdit>

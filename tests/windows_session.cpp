@@ -3,7 +3,7 @@
 #include "core/failure.h"
 #include "render/surface.h"
 #include "tests/windowsession.h"
-#include "windows/canvas.h"
+#include "windows/qt/canvas.h"
 
 #include <QComboBox>
 #include <QLineEdit>

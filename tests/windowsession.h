@@ -1,9 +1,9 @@
 // The real windows on a screen that nobody sees, over a scratch working folder, used by mouse and keyboard.
 #pragma once
 
-#include "windows/binding.h"
-#include "windows/look.h"
-#include "windows/picturefile.h"
+#include "windows/qt/binding.h"
+#include "windows/qt/look.h"
+#include "windows/qt/picturefiles/picturefile.h"
 
 #include <QApplication>
 #include <QListWidget>

@@ -8,7 +8,7 @@
 #include "render/projector.h"
 #include "render/raster.h"
 #include "windows/handlers.h"
-#include "windows/picturefile.h"
+#include "windows/qt/picturefiles/picturefile.h"
 
 #include <QImage>
 #include <QPainter>

@@ -5,11 +5,11 @@
 #include "building/layouts.h"
 #include "core/controls.h"
 #include "core/world.h"
-#include "windows/binding.h"
-#include "windows/canvas.h"
 #include "windows/handlers.h"
-#include "windows/look.h"
-#include "windows/picturefile.h"
+#include "windows/qt/binding.h"
+#include "windows/qt/canvas.h"
+#include "windows/qt/look.h"
+#include "windows/qt/picturefiles/picturefile.h"
 
 #include <QApplication>
 #include <QPainter>

@@ -7,7 +7,7 @@
 #include "core/failure.h"
 #include "tools/play_commands.h"
 #include "windows/handlers.h"
-#include "windows/picturefile.h"
+#include "windows/qt/picturefiles/picturefile.h"
 
 #include <cstdio>
 #include <fstream>

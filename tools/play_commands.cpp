@@ -8,7 +8,7 @@
 #include "tools/play_record.h"
 #include "tools/play_state.h"
 #include "windows/handlers.h"
-#include "windows/picturefile.h"
+#include "windows/qt/picturefiles/picturefile.h"
 
 #include <algorithm>
 #include <cstdio>

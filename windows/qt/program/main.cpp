@@ -1,8 +1,8 @@
 // The program with its windows.
 
-#include "windows/binding.h"
-#include "windows/look.h"
-#include "windows/picturefile.h"
+#include "windows/qt/binding.h"
+#include "windows/qt/look.h"
+#include "windows/qt/picturefiles/picturefile.h"
 
 #include <clocale>
 

@@ -1,10 +1,10 @@
 // Frame, plan and the user's closing of a window.
 
-#include "windows/face.h"
+#include "windows/qt/face.h"
 
-#include "windows/binding.h"
 #include "windows/handlers.h"
-#include "windows/look.h"
+#include "windows/qt/binding.h"
+#include "windows/qt/look.h"
 
 #include <QCloseEvent>
 #include <QPainter>

@@ -1,8 +1,8 @@
 // Buttons paint themselves: the smallest are 15 pixels high, where a desktop's own buttons would cut their captions.
 
-#include "windows/button.h"
+#include "windows/qt/button.h"
 
-#include "windows/look.h"
+#include "windows/qt/look.h"
 
 #include <QFile>
 #include <QKeyEvent>

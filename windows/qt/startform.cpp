@@ -1,7 +1,7 @@
 // The opening window: large letters, and a steel frame drawn behind them.
 
-#include "windows/binding.h"
-#include "windows/look.h"
+#include "windows/qt/binding.h"
+#include "windows/qt/look.h"
 
 #include <QLabel>
 #include <QPainter>

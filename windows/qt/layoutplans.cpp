@@ -1,8 +1,8 @@
 // What the three layout windows show behind their buttons: the grid, posts and beams as decoration, and the axes. All
 // coordinates are twips of the window unless said otherwise; x of the plan runs down, y runs across.
 
-#include "windows/binding.h"
-#include "windows/look.h"
+#include "windows/qt/binding.h"
+#include "windows/qt/look.h"
 
 #include <QPainter>
 

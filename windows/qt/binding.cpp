@@ -1,12 +1,12 @@
 // The carrying of state between controls and widgets, and the frame around every event.
 
-#include "windows/binding.h"
+#include "windows/qt/binding.h"
 
 #include "core/failure.h"
 #include "render/surface.h"
-#include "windows/canvas.h"
-#include "windows/controlwidgets.h"
 #include "windows/handlers.h"
+#include "windows/qt/canvas.h"
+#include "windows/qt/controlwidgets.h"
 
 #include <QApplication>
 #include <QMessageBox>

@@ -1,6 +1,6 @@
 // Style, palette, fonts and icon. Only the sizes matter to the rest: they are pixels, never points.
 
-#include "windows/look.h"
+#include "windows/qt/look.h"
 
 #include <QFontDatabase>
 #include <QIcon>

@@ -1,6 +1,6 @@
 // Painting of the two images, and the progress strip's way to the screen while a replay holds the window.
 
-#include "windows/canvas.h"
+#include "windows/qt/canvas.h"
 
 #include "core/controls.h"
 

@@ -1,8 +1,8 @@
 // The quick views' diagram: the layout grid from above with the places around it, and the two scales of heights. The
 // lines are fixed; which buttons stand on them is the tables' matter. Coordinates are twips of the window.
 
-#include "windows/binding.h"
-#include "windows/look.h"
+#include "windows/qt/binding.h"
+#include "windows/qt/look.h"
 
 #include <QPainter>
 

@@ -1,8 +1,8 @@
 // The main window: maximised at the start, with the help on F1.
 
-#include "windows/binding.h"
 #include "windows/handlers.h"
-#include "windows/look.h"
+#include "windows/qt/binding.h"
+#include "windows/qt/look.h"
 
 #include <QLabel>
 #include <QLineEdit>

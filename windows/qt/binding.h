@@ -3,7 +3,7 @@
 // the event's procedure runs, then everything that changed in the state goes to the widgets.
 #pragma once
 
-#include "windows/face.h"
+#include "windows/qt/face.h"
 
 #include <functional>
 

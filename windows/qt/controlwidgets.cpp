@@ -1,12 +1,12 @@
 // The kinds of controls on the screen.
 
-#include "windows/controlwidgets.h"
+#include "windows/qt/controlwidgets.h"
 
-#include "windows/binding.h"
-#include "windows/button.h"
-#include "windows/canvas.h"
 #include "windows/handlers.h"
-#include "windows/look.h"
+#include "windows/qt/binding.h"
+#include "windows/qt/button.h"
+#include "windows/qt/canvas.h"
+#include "windows/qt/look.h"
 
 #include <QComboBox>
 #include <QKeyEvent>
