@@ -22,13 +22,17 @@ cat >"$prefix/libexec/tessaly/tessaly" <<'PROGRAM'
 { pwd; printf '<%s>' "$@"; } >"$STARTED"
 exit 3
 PROGRAM
-chmod +x "$prefix/libexec/tessaly/tessaly"
+cat >"$prefix/libexec/tessaly/report" <<'REPORT'
+#!/bin/sh
+printf '%s\n' "$@" >"$REPORTED"
+REPORT
+chmod +x "$prefix"/libexec/tessaly/*
 for file in datah/post.txt datah/beam.txt pals/p.pal samples/s.txt el-numbers/e.png; do
     echo shipped >"$share/$file"
 done
 chmod a-w "$share/datah/beam.txt"
-export STARTED=$scratch/started HOME="$scratch/some home"
-unset TESSALY_HOME
+export STARTED=$scratch/started REPORTED=$scratch/reported HOME="$scratch/some home"
+unset TESSALY_HOME DISPLAY WAYLAND_DISPLAY
 mkdir "$HOME"
 
 # start STATUS COMMAND...: the launcher, from a folder of no importance.
@@ -77,10 +81,26 @@ start 3 env CDPATH="$scratch/elsewhere" TESSALY_HOME=here "$launcher"
 holds "$scratch/here/datah/post.txt" newer
 [ "$(head -n 1 "$STARTED")" = "$scratch/here" ] || fail "started in $(head -n 1 "$STARTED")"
 
-# Nowhere to work.
+start 3 env OLDPWD="$scratch/elsewhere" TESSALY_HOME=- "$launcher"
+[ "$(head -n 1 "$STARTED")" = "$scratch/-" ] || fail "started in $(head -n 1 "$STARTED")"
+
+# Killed during its first copies: the next start has whole files and nothing besides.
+mkdir "$scratch/bin"
+printf '#!/bin/sh\nfor to; do :; done\necho half >"$to"\nkill -9 $PPID\n' >"$scratch/bin/cp"
+chmod +x "$scratch/bin/cp"
+export TESSALY_HOME=$scratch/killed
+start 137 env PATH="$scratch/bin:$PATH" sh -c '"$0" || exit' "$launcher"
+grep -qr half "$TESSALY_HOME" || fail "nothing to be cleared away"
+start 3 "$launcher"
+[ -z "$(grep -r half "$TESSALY_HOME")" ] || fail "left behind: $(grep -r half "$TESSALY_HOME")"
+holds "$TESSALY_HOME/datah/beam.txt" shipped
+
+# Nowhere to work: said in a window where there is a display.
 echo "in the way" >"$scratch/file"
-start 1 env -u HOME "$launcher"
+start 1 env -u HOME -u TESSALY_HOME "$launcher"
 [ ! -e "$STARTED" ] && grep -q TESSALY_HOME "$scratch/errors" || fail "started with no folder to work in"
-start 1 env TESSALY_HOME="$scratch/file" "$launcher"
+[ ! -e "$REPORTED" ] || fail "a window without a display"
+start 1 env DISPLAY=:7 TESSALY_HOME="$scratch/file" "$launcher"
 [ ! -e "$STARTED" ] && grep -q "$scratch/file" "$scratch/errors" || fail "started with a file as its folder"
+grep -q "$scratch/file" "$REPORTED" || fail "no window says why nothing starts"
 echo "The launcher makes its folder and leaves what is there."

@@ -95,6 +95,14 @@ clickcontrol "$window" exitbtn
 programended 0
 diff -r "$scratch/before" "$work" || fail "the second start changed the working folder"
 
+# What keeps it from starting is said in a window.
+echo "in the way" >"$scratch/file"
+(cd / && TESSALY_HOME=$scratch/file QT_QPA_PLATFORM=xcb exec "$installed/bin/tessaly") >"$scratch/program.log" 2>&1 &
+programpid=$!
+waitfor "the launcher's report" shown Tessaly 200
+xdotool windowfocus "$window" key Return
+programended 1
+
 packages --purge tessaly
 [ -z "$(find "$scratch/root/usr" ! -type d 2>/dev/null)" ] || fail "left behind: $(find "$scratch/root/usr" ! -type d)"
 [ -f "$work/designs/girders1.txt" ] || fail "the user's building went with the package"
