@@ -99,7 +99,7 @@ class table final : public tablebase {
     const writtenpages& written() const { return pages; }
 
     void forget() override {
-        held.fill(element{});
+        held = {};
         pages.markall();
     }
     std::vector<value> elements() const override { return {held.begin(), held.end()}; }
