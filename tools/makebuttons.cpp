@@ -1,6 +1,7 @@
 // Makes the pictures of the ten element buttons and the three snip buttons: the very elements, drawn solid by the
-// engine from the element files and cut out of its image, so that button and result look alike. makebuttons
-// WORKINGFOLDER FOLDER draws with the data of the working folder and writes FOLDER/<control>.png.
+// engine from the element files at the size at which the buttons show them, so that button and result look alike and
+// every machine makes the same pictures. makebuttons WORKINGFOLDER FOLDER draws with the data of the working folder and
+// writes FOLDER/<control>.png, and <control>@2x.png for screens of double density.
 
 #include "building/layouts.h"
 #include "core/controls.h"
@@ -11,12 +12,13 @@
 #include "windows/qt/picturefiles/picturefile.h"
 
 #include <QImage>
-#include <QPainter>
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
 #include <filesystem>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tessaly {
@@ -25,128 +27,138 @@ namespace {
 
 struct viewpoint {
     double eyex, eyey, eyez;        // model units, relative to the focus
-    double focusx, focusy, focusz;  // model units
-    double magnification;           // as in the magnification box
+    double focusx, focusy, focusz;  // model units; it stands in the middle of what is drawn
+    double magnification;           // as in the magnification box, for a picture of single density
 };
 
-// From the side on which the default view sees a panel's face, near enough to fill the picture.
-constexpr viewpoint panelview{260, -900, 210, 0, -104, 62, 0.28};
-constexpr viewpoint frameview{800, -800, 420, 0, 0, 70, 0.23};
-constexpr viewpoint roofview{800, -800, 620, 0, 0, 118, 0.23};
+// From the side on which the default view sees a panel's face; a panel's two ends straight from the front.
+constexpr viewpoint panelview{260, -900, 210, 3, -104, 62, 0.0425};
+constexpr viewpoint frameview{800, -800, 420, 0, 0, 56, 0.0255};
+constexpr viewpoint roofview{800, -800, 620, 0, 0, 127, 0.0379};
+constexpr viewpoint leftend{0, -900, 0, -84, -104, 84, 0.027};
+constexpr viewpoint rightend{0, -900, 0, 84, -104, 84, 0.027};
+
+// An upright strip of a picture, drawn from a viewpoint of its own.
+struct strip {
+    viewpoint from;
+    int left, width;  // pixels of the picture
+};
+
+// How a picture is drawn: what a button of single density shows within its rim, and what is drawn for each pixel.
+struct form {
+    int width, height;  // pixels
+    int dots;           // for a pixel, each way: slanting edges want some, upright ones one
+    std::vector<strip> strips;
+};
+
+const form panelform{101, 54, 4, {{panelview, 0, 101}}};
+const form frameform{101, 54, 4, {{frameview, 0, 101}}};
+const form roofform{101, 54, 4, {{roofview, 0, 101}}};
+const form endsform{24, 24, 1, {{leftend, 0, 11}, {rightend, 13, 11}}};  // the middle of the panel left out
 
 struct picture {
     const char* button;                  // of the main window or the panel layout
     const char* element;                 // button that chooses the element
-    const char* snip;                    // text of panelsnipper, "" for other elements
+    const char* snip;                    // text of panelsnipper, "" for a whole element
     std::vector<const char*> positions;  // farthest first
-    viewpoint from;
-    int width, height;  // pixels
+    const form& as;
 };
 
 const std::vector<picture>& pictures() {
     static const std::vector<const char*> wall{"pan0x384y576"};
     static const std::vector<const char*> frame{"postx384y784", "beamx384y592",  "vbeamx400y784", "postx384y592",
                                                 "postx576y784", "vbeamx400y592", "beamx576y592",  "postx576y592"};
-    constexpr int width = 2 * 99, height = 2 * 52, snipwidth = 2 * 37, snipheight = 2 * 27;
     static const std::vector<picture> all{
-        {"orange1btn", "orange1btn", "Full panel", wall, panelview, width, height},
-        {"orange2btn", "orange2btn", "Full panel", wall, panelview, width, height},
-        {"orange3btn", "orange3btn", "Full panel", wall, panelview, width, height},
-        {"yellow1btn", "yellow1btn", "Full panel", wall, panelview, width, height},
-        {"yellow2btn", "yellow2btn", "Full panel", wall, panelview, width, height},
-        {"yellow3btn", "yellow3btn", "Full panel", wall, panelview, width, height},
-        {"door2btn", "door2btn", "Full panel", wall, panelview, width, height},
-        {"door4btn", "door4btn", "Full panel", wall, panelview, width, height},
-        {"postbeambtn", "postbeambtn", "", frame, frameview, width, height},
-        {"roofbtn", "roofbtn", "", {"roofx384y576"}, roofview, width, height},
-        {"snipleftbtn", "orange1btn", "snip left side", wall, panelview, snipwidth, snipheight},
-        {"sniprighbtn", "orange1btn", "snip right side", wall, panelview, snipwidth, snipheight},
-        {"snipbothbtn", "orange1btn", "snip both sides", wall, panelview, snipwidth, snipheight},
+        {"orange1btn", "orange1btn", "", wall, panelform},
+        {"orange2btn", "orange2btn", "", wall, panelform},
+        {"orange3btn", "orange3btn", "", wall, panelform},
+        {"yellow1btn", "yellow1btn", "", wall, panelform},
+        {"yellow2btn", "yellow2btn", "", wall, panelform},
+        {"yellow3btn", "yellow3btn", "", wall, panelform},
+        {"door2btn", "door2btn", "", wall, panelform},
+        {"door4btn", "door4btn", "", wall, panelform},
+        {"postbeambtn", "postbeambtn", "", frame, frameform},
+        {"roofbtn", "roofbtn", "", {"roofx384y576"}, roofform},
+        {"snipleftbtn", "orange1btn", "snip left side", wall, endsform},
+        {"sniprighbtn", "orange1btn", "snip right side", wall, endsform},
+        {"snipbothbtn", "orange1btn", "snip both sides", wall, endsform},
     };
     return all;
 }
 
-void look(const viewpoint& from) {
+// The view on the middle of the image; zoom is how many of its dots make a pixel of single density.
+void look(const viewpoint& from, const raster& image, int zoom) {
     perprelx = from.eyex;
     perprely = from.eyey;
     perprelz = from.eyez;
     focusx = from.focusx;
     focusy = from.focusy;
     focusz = from.focusz;
-    mag = 10 * from.magnification;
-    vertshift = 490 - 290;
-    horizshift = 448 - 730;
+    mag = 10 * from.magnification * zoom;
+    vertshift = 490 - image.height() / 2;
+    horizshift = image.width() / 2 - 730;
 }
 
 void click(const char* name) { clickcontrol(*findcontrol(name)); }
 
-// The raster's image with the background colour transparent, cut to what was drawn.
-QImage cutout(const raster& from) {
-    const colour back = backgroundcolour();
-    QImage image(from.width(), from.height(), QImage::Format_ARGB32_Premultiplied);
-    QRect drawn;
-    image.fill(Qt::transparent);
-    for (int y = 1; y < from.height(); ++y)  // row 0 and column 0 lie outside every clearing of the picture
-        for (int x = 1; x < from.width(); ++x) {
-            const colour c = from.at(x, y);
-            image.setPixel(x, y, c == back ? 0 : qRgb(c.red, c.green, c.blue));
-            if (!(c == back)) drawn |= QRect(x, y, 1, 1);
-        }
-    return image.copy(drawn);
-}
-
-// Puts the outline of the full panel, as outline holds it, behind the snipped one, strong enough for a small picture.
-void addoutline(QImage& snipped, const QImage& outline) {
-    constexpr int thick = 8;  // pixels of the picture before it is scaled down
-    QPainter painter(&snipped);
-    painter.setCompositionMode(QPainter::CompositionMode_DestinationOver);
-    for (int y = 0; y < outline.height(); ++y)
-        for (int x = 0; x < outline.width(); ++x)
-            if (qAlpha(outline.pixel(x, y)) != 0)
-                painter.fillRect(x - thick / 2, y - thick / 2, thick, thick, QColor(70, 70, 70));
-}
-
-// Draws the elements of a picture; a snipped panel stands before the outline of the full one.
-QImage drawelements(const picture& p, raster& image) {
-    click("fillscreen");
-    look(p.from);
+// Draws the elements of a picture on an image whose untouched dots are 0; a snipped panel stands before the wires of
+// the full one.
+void drawelements(const picture& p, const viewpoint& from, raster& image, int zoom) {
+    std::fill_n(image.pixels(), image.width() * image.height(), 0U);
+    viewportsurface = &image;
+    look(from, image, zoom);
     click(p.element);
-    const bool snipped = *p.snip != '\0' && std::string(p.snip) != "Full panel";
-    QImage outline;
-    if (snipped) {
+    if (*p.snip != '\0') {
         wiresolid.text = "wireframe";
         click(p.positions.front());
         wiresolid.text = "solid";
-        outline = cutout(image);
+        panelsnipper.text = p.snip;
     }
-    if (*p.snip != '\0') panelsnipper.text = p.snip;
     for (const char* position : p.positions) click(position);
-    QImage drawn = cutout(image);
-    if (snipped) addoutline(drawn, outline);
-    return drawn;
 }
 
-// Scaled into the middle of a picture of the button's size.
-QImage fitted(const QImage& drawn, const picture& p) {
-    QImage result(p.width, p.height, QImage::Format_ARGB32_Premultiplied);
-    result.fill(Qt::transparent);
-    const QImage small = drawn.scaled(p.width, p.height, Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    QPainter painter(&result);
-    painter.drawImage((p.width - small.width()) / 2, (p.height - small.height()) / 2, small);
+// One pixel for a square of dots: as opaque as it is touched, in the mean colour of what is. Whole numbers throughout,
+// so that every machine comes to the same picture.
+QRgb meanpixel(const raster& image, int left, int top, int dots) {
+    int touched = 0, red = 0, green = 0, blue = 0;
+    for (int y = top; y < top + dots; ++y)
+        for (int x = left; x < left + dots; ++x) {
+            const QRgb dot = image.pixels()[y * image.width() + x];
+            touched += dot != 0;
+            red += qRed(dot);
+            green += qGreen(dot);
+            blue += qBlue(dot);
+        }
+    if (touched == 0) return 0;
+    const auto mean = [](int sum, int of) { return (sum + of / 2) / of; };
+    return qRgba(mean(red, touched), mean(green, touched), mean(blue, touched), mean(255 * touched, dots * dots));
+}
+
+// The picture for a screen on which so many pixels, each way, make one of the design grid.
+QImage made(const picture& p, int density) {
+    const int dots = p.as.dots;
+    QImage result(p.as.width * density, p.as.height * density, QImage::Format_ARGB32);
+    result.fill(0);
+    for (const strip& s : p.as.strips) {
+        raster image(s.width * density * dots, result.height() * dots);
+        drawelements(p, s.from, image, density * dots);
+        for (int y = 0; y < result.height(); ++y)
+            for (int x = 0; x < s.width * density; ++x)
+                result.setPixel(s.left * density + x, y, meanpixel(image, x * dots, y * dots, dots));
+    }
     return result;
 }
 
 void makeall(const std::string& folder) {
-    raster image(897, 581), strip(17, 705);
+    raster image(897, 581), progress(17, 705);
     viewportsurface = &image;
-    progresssurface = &strip;
+    progresssurface = &progress;
     startprogram();
     click("startprogrambtn");
     writefilebox.text = "off";
-    for (const picture& p : pictures()) {
-        const QImage made = fitted(drawelements(p, image), p);
-        if (!made.save(QString::fromStdString(folder + "/" + p.button + ".png"))) std::exit(1);
-    }
+    for (const picture& p : pictures())
+        for (const auto& [density, ending] : {std::pair{1, ".png"}, std::pair{2, "@2x.png"}})
+            if (!made(p, density).save(QString::fromStdString(folder + "/" + p.button + ending))) std::exit(1);
 }
 
 }  // namespace

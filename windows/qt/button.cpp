@@ -75,17 +75,19 @@ captionlines wrapcaption(const QString& caption, QSize size, bool bold) {
 
 picture::picture(const QString& name) {
     const QString png = ":/pictures/" + name + ".png", svg = ":/pictures/" + name + ".svg";
-    if (QFile::exists(png))
+    if (QFile::exists(png)) {
         pixels.load(png);
-    else if (QFile::exists(svg))
+        dense.load(":/pictures/" + name + "@2x.png");
+    } else if (QFile::exists(svg))
         drawing.load(svg);
 }
 
 QSize picture::size() const { return pixels.isNull() ? drawing.defaultSize() : pixels.size(); }
 
-// Scaled by whole areas: a small picture keeps the thin lines of a large one.
+// Scaled by whole areas: a small picture keeps the thin lines of a large one. At its own size it stays as it is.
 QPixmap picture::scaledto(QSizeF size, qreal ratio) const {
-    QPixmap scaled = pixels.scaled((size * ratio).toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    const QPixmap& from = ratio > 1 && !dense.isNull() ? dense : pixels;
+    QPixmap scaled = from.scaled((size * ratio).toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     scaled.setDevicePixelRatio(ratio);
     return scaled;
 }

@@ -18,7 +18,7 @@ struct captionlines {
 // Breaks a caption at its blanks into lines of like length that fit into size; takes smaller letters where it must.
 captionlines wrapcaption(const QString& caption, QSize size, bool bold);
 
-// The picture of that name among the program's pictures, ".png" or else ".svg".
+// The picture of that name among the program's pictures, ".png" (on dense screens "@2x.png" if there) or else ".svg".
 class picture {
   public:
     explicit picture(const QString& name);
@@ -30,7 +30,7 @@ class picture {
   private:
     QPixmap scaledto(QSizeF size, qreal ratio) const;
 
-    QPixmap pixels;
+    QPixmap pixels, dense;
     mutable QSvgRenderer drawing;
 };
 
