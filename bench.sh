@@ -6,6 +6,5 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh
 
 wantpackages "${runpackages[@]}" "${benchpackages[@]}"
-configure build CMAKE_BUILD_TYPE=Release TESSALY_BENCH=ON
-build build bench
+build bench bench
 QT_QPA_PLATFORM=offscreen exec build/bench "$@"

@@ -19,9 +19,7 @@ player) shipped=(docs/*.play tools/*.play) ;;
 esac
 
 wantpackages "${fuzzpackages[@]}"
-CXX=clang++ configure build-fuzz CMAKE_BUILD_TYPE=Release TESSALY_WINDOWS=OFF TESSALY_TESTS=OFF TESSALY_FUZZ=ON \
-    TESSALY_SANITIZE=ON
-build build-fuzz "fuzz-$target"
+build fuzz "fuzz-$target"
 
 gathered=$PWD/build-fuzz/gathered/$target
 TMPDIR=$(mktemp -d -p "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")")

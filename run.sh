@@ -6,15 +6,14 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh
 
 wantpackages "${runpackages[@]}"
-configure build CMAKE_BUILD_TYPE=Release
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
-    build build tessaly-app
+    build release tessaly-app
     exec build/tessaly "$@"
 fi
 
 # The demonstration records what it builds: it is played in a folder of its own, never in the user's.
-build build play
+build release play
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
 cp -r datah pals "$scratch"

@@ -6,6 +6,5 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh
 
 wantpackages "${runpackages[@]}" "${testpackages[@]}"
-configure build CMAKE_BUILD_TYPE=Release TESSALY_TESTS=ON TESSALY_WERROR=ON
-build build
-QT_QPA_PLATFORM=offscreen ctest --test-dir build -j2 --output-on-failure "$@"
+build tests
+ctest --preset tests "$@"

@@ -6,8 +6,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/setup.sh
 
 wantpackages "${runpackages[@]}"
-configure build CMAKE_BUILD_TYPE=Release
-build build play
+build release play
 root=$PWD
 [ $# -gt 0 ] || set -- $(basename -s .play tests/sessions/*.play)
 for name in "$@"; do

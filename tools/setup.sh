@@ -67,26 +67,13 @@ wantpackages() {
     return 1
 }
 
-# configure FOLDER OPTION=VALUE...: runs cmake where the folder does not have these options yet. What changed in
-# CMakeLists.txt or in the list of sources is seen by the build itself.
-configure() {
-    local folder=$1 option needed=
-    shift
-    [ -f "$folder/build.ninja" ] || [ -f "$folder/Makefile" ] || needed=yes
-    for option in "$@"; do
-        grep -q "^${option%%=*}:[A-Z]*=${option#*=}\$" "$folder/CMakeCache.txt" 2>/dev/null || needed=yes
-    done
-    [ -z "$needed" ] && return 0
+export CMAKE_GENERATOR=${CMAKE_GENERATOR:-Ninja} # of a folder that has none yet
 
-    local generator=()
-    [ -f "$folder/CMakeCache.txt" ] || generator=(-G Ninja)
-    cmake -S . -B "$folder" "${generator[@]}" "${@/#/-D}"
-}
-
-# build FOLDER TARGET...: builds these targets, or everything, on all cores.
+# build PRESET TARGET...: configures by the preset of that name (CMakePresets.json), which costs a moment where nothing has
+# changed, and builds these targets, or everything, on all cores.
 build() {
-    local folder=$1 targets=()
+    local preset=$1 targets=()
     shift
     [ $# -gt 0 ] && targets=(--target "$@")
-    cmake --build "$folder" -j "$(nproc)" "${targets[@]}"
+    cmake --preset "$preset" >/dev/null && cmake --build --preset "$preset" -j "$(nproc)" "${targets[@]}"
 }

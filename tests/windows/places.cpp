@@ -1,6 +1,6 @@
 // Every window as it is built: places as in the tables, captions whole, nothing over anything else.
 
-#include "tests/windowsession.h"
+#include "tests/windows/windowsession.h"
 #include "windows/qt/button.h"
 
 #include <QLabel>

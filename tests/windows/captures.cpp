@@ -1,7 +1,7 @@
 // Captures in the real windows: the files that other programs open, and pictures that are not as they should be.
 
 #include "core/failure.h"
-#include "tests/windowsession.h"
+#include "tests/windows/windowsession.h"
 #include "windows/qt/canvas.h"
 
 #include <QImage>
