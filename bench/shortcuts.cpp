@@ -3,7 +3,6 @@
 #include "bench/measure.h"
 #include "bench/surfaces.h"
 #include "building/layouts.h"
-#include "building/replay.h"
 #include "core/world.h"
 #include "data/elements.h"
 #include "render/quadsort.h"
@@ -29,19 +28,11 @@ void readpanel() {
     readelements();
 }
 
-void farrecords() {
-    for (int i = 1; i <= lastrecord; ++i) {
-        rdnumber.set(i, i);
-        quaddist.set(i, 100 + i * 7919 % 1000);
-    }
-}
-
 constexpr shortcut shortcuts[] = {
     // clang-format off
     {"clear the tables", readpanel,  resetworld},
     {"read an element",  [] {},      readpanel},
     {"order its quads",  readpanel,  orderquads},
-    {"sort 1000 records", farrecords, [] { sortrecords(rdnumber, lastrecord); }},
     // clang-format on
 };
 

@@ -8,9 +8,7 @@
 #include "data/elements.h"
 #include "render/surface.h"
 
-#include <algorithm>
 #include <cmath>
-#include <vector>
 
 namespace tessaly {
 
@@ -66,7 +64,7 @@ void measurerecords(int n) {
     }
 }
 
-void sortrecordsplainly(const table<value, lastrecord>& number, int n) {
+void sortrecords(const table<value, lastrecord>& number, int n) {
     for (int slot = 1; slot <= n; ++slot) {
         double best = nearestchosen;
         for (int j = 1; j <= lastrecord; ++j) {
@@ -76,21 +74,6 @@ void sortrecordsplainly(const table<value, lastrecord>& number, int n) {
         }
         quaddist.set(rdorder[slot], 0);
     }
-}
-
-// The records that can be chosen are chosen in falling order of distance; once none is left, none comes back.
-void sortrecords(const table<value, lastrecord>& number, int n) {
-    if (plainway) return sortrecordsplainly(number, n);
-    if (n == 0) return;
-    std::vector<int> chosen;
-    for (int j = 1; j <= lastrecord; ++j)
-        if (number[j] != 0 && quaddist[j] > nearestchosen) chosen.push_back(j);
-    std::stable_sort(chosen.begin(), chosen.end(), [](int a, int b) { return quaddist[a] > quaddist[b]; });
-    if (chosen.size() > static_cast<std::size_t>(n)) chosen.resize(static_cast<std::size_t>(n));
-
-    int slot = 0;
-    for (const int j : chosen) rdorder.set(++slot, j);
-    for (slot = 1; slot <= n; ++slot) quaddist.set(rdorder[slot], 0);
 }
 
 void drawprogress(int n) {

@@ -51,11 +51,10 @@ void measurerecords(int n);
 
 // Orders records farthest first: rdorder[1..n] by quaddist, equal distances in the order of the file, records of number
 // 0 passed over. A record at a distance of 1 or less is never chosen; a slot that finds none keeps what an earlier sort
-// left in rdorder. The second is the plain way, 1000 n comparisons, with the same outcome and the same failures.
+// left in rdorder.
 // reads: number; writes: rdorder, quaddist (0 for every record taken); fails: type mismatch for a number that is a
 // text.
 void sortrecords(const table<value, lastrecord>& number, int n);
-void sortrecordsplainly(const table<value, lastrecord>& number, int n);
 
 // Shows the progress strip for n records: cleared to dark, four light rows a record and four over, from the bottom up.
 void drawprogress(int n);

@@ -4,7 +4,6 @@
 #include "core/channels.h"
 
 #include "core/failure.h"
-#include "core/world.h"
 
 #include <algorithm>
 #include <array>
@@ -12,12 +11,10 @@
 #include <csignal>
 #include <cstring>
 #include <filesystem>
-#include <map>
 #include <optional>
 
 #include <fcntl.h>
 #include <sys/stat.h>
-#include <time.h>
 #include <unistd.h>
 
 namespace tessaly {
@@ -55,52 +52,16 @@ void expectfree(int channel, std::string_view path) {
                                                     std::string(path));
 }
 
-// What tells that a file on disk is still the one whose bytes are kept.
-struct filestamp {
-    dev_t device;
-    ino_t node;
-    off_t size;
-    timespec changed, modified;
-
-    explicit filestamp(const struct stat& s)
-        : device(s.st_dev), node(s.st_ino), size(s.st_size), changed(s.st_ctim), modified(s.st_mtim) {}
-    // The system's clock for files ticks in steps: a file that was written within the last one can change again
-    // without its stamp showing it.
-    bool settled() const {
-        timespec now{};
-        ::clock_gettime(CLOCK_REALTIME, &now);
-        const double age = static_cast<double>(now.tv_sec - changed.tv_sec) +
-                           1e-9 * static_cast<double>(now.tv_nsec - changed.tv_nsec);
-        return age > 0.1;
-    }
-    bool operator==(const filestamp& o) const {
-        const auto same = [](const timespec& a, const timespec& b) {
-            return a.tv_sec == b.tv_sec && a.tv_nsec == b.tv_nsec;
-        };
-        return device == o.device && node == o.node && size == o.size && same(changed, o.changed) &&
-               same(modified, o.modified);
-    }
-};
-
-struct keptfile {
-    filestamp stamp;
-    keptbytes kept;
-};
-
-constexpr std::size_t mostfieldbytes = 100000;  // of a file whose fields are kept too
-
 std::string readwhole(int handle, const std::string& path, const char* what) {
     std::string bytes;
     char block[1 << 16];
     for (;;) {
         const ssize_t got = ::read(handle, block, sizeof block);
+        if (got < 0 && errno == EINTR) continue;
+        const int error = errno;
+        if (got <= 0) ::close(handle);
         if (got == 0) return bytes;
-        if (got < 0) {
-            if (errno == EINTR) continue;
-            const int error = errno;
-            ::close(handle);
-            systemfailure(path, what, error);
-        }
+        if (got < 0) systemfailure(path, what, error);
         bytes.append(block, static_cast<std::size_t>(got));
     }
 }
@@ -135,38 +96,15 @@ std::string textinput::place(int atline, int atfield) const {
     return path + ", line " + std::to_string(atline) + ", field " + std::to_string(atfield);
 }
 
-keptbytes keptfilebytes(std::string_view path, const char* what) {
-    static std::map<std::string, keptfile, std::less<>> kept;
-    const std::string system = systempath(path);
-    struct stat now {};
-    if (::stat(system.c_str(), &now) != 0) systemfailure(std::string(path), what, errno);
-    const auto found = kept.find(system);
-    if (found != kept.end() && found->second.stamp == filestamp(now) && !plainway) return found->second.kept;
-
-    const int handle = ::open(system.c_str(), O_RDONLY | O_CLOEXEC);
+std::string filebytes(std::string_view path, const char* what) {
+    const int handle = ::open(systempath(path).c_str(), O_RDONLY | O_CLOEXEC);
     if (handle < 0) systemfailure(std::string(path), what, errno);
-    ::fstat(handle, &now);  // of the file really read
-    keptbytes fresh{std::make_shared<const std::string>(readwhole(handle, std::string(path), what)), nullptr};
-    ::close(handle);
-    if (plainway) return fresh;
-    kept.erase(system);
-    if (filestamp(now).settled()) {
-        if (fresh.bytes->size() <= mostfieldbytes) fresh.fields = std::make_shared<std::vector<readfield>>();
-        kept.emplace(system, keptfile{filestamp(now), fresh});
-    }
-    return fresh;
-}
-
-std::shared_ptr<const std::string> filebytes(std::string_view path, const char* what) {
-    return keptfilebytes(path, what).bytes;
+    return readwhole(handle, std::string(path), what);
 }
 
 void openinput(int channel, std::string_view path, const char* what) {
     expectfree(channel, path);
-    textinput opened;
-    opened.path = path;
-    static_cast<keptbytes&>(opened) = keptfilebytes(path, what);
-    channelof(channel).input = std::move(opened);
+    channelof(channel).input = textinput{std::string(path), filebytes(path, what)};
 }
 
 void openappend(int channel, std::string_view path, const char* what) {

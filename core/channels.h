@@ -3,9 +3,7 @@
 // Paths are written as users know them ("designs\girders1.txt") and go through one procedure here.
 #pragma once
 
-#include "core/value.h"
-
-#include <memory>
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -15,30 +13,12 @@ namespace tessaly {
 // The path as this system opens it: backslashes become slashes; relative to the working folder.
 std::string systempath(std::string_view path);
 
-// Where the next field of a file begins. line and field count from 1.
-struct textplace {
-    std::size_t at = 0;
-    int line = 1, field = 1;
-    bool operator==(const textplace&) const = default;
-};
-
-// A field of a kept file that was read before: what it was read as, from where, and where the next one begins.
-struct readfield {
-    enum readas { number, label, key } as;
-    textplace from, next;
-    value found;  // of a key: the key
-};
-
-// A file's bytes, and the fields that its last reader took from them, in its order: the next one reads the same ones.
-struct keptbytes {
-    std::shared_ptr<const std::string> bytes;
-    std::shared_ptr<std::vector<readfield>> fields;  // nullptr where the bytes are not kept, or are too many
-};
-
 // A file open for reading, held whole.
-struct textinput : textplace, keptbytes {
-    std::string path;          // as users know it
-    std::size_t replayed = 0;  // fields that were passed in the order of the last reader
+struct textinput {
+    std::string path;    // as users know it
+    std::string bytes;   // as they stood when it was opened
+    std::size_t at = 0;  // where the next field begins; line and field count from 1
+    int line = 1, field = 1;
 
     // "datah\st-post.txt, line 14, field 3", for reports.
     std::string place() const { return place(line, field); }
@@ -72,9 +52,8 @@ void deletefile(std::string_view path);
 // The bare names of the visible files of a folder, sorted; fails with file not found where there is no such folder.
 std::vector<std::string> filesin(std::string_view folder);
 
-// The bytes of a file as they stand. They are kept for the next opening as long as the file on disk is unchanged.
-// Fails with file not found or file access error.
-keptbytes keptfilebytes(std::string_view path, const char* what);
-std::shared_ptr<const std::string> filebytes(std::string_view path, const char* what);
+// The bytes of a file as they stand on disk now: nothing is kept from an earlier reading. Fails with file not found or
+// file access error.
+std::string filebytes(std::string_view path, const char* what);
 
 }  // namespace tessaly

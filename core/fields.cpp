@@ -18,7 +18,7 @@ struct scanner {
     const std::string& bytes;
     const char* what;
 
-    scanner(textinput& from, const char* sought) : in(from), bytes(*in.bytes), what(sought) {}
+    scanner(textinput& from, const char* sought) : in(from), bytes(in.bytes), what(sought) {}
 
     bool atend() const { return in.at >= bytes.size(); }
     char next() const { return bytes[in.at]; }
@@ -124,29 +124,22 @@ struct scanner {
     }
 };
 
-// The field that begins here, as the last reader of this kept file took it; nullptr where it did not or took it as
-// something else.
-const readfield* readbefore(textinput& in, readfield::readas as) {
-    if (!in.fields || in.replayed >= in.fields->size()) return nullptr;
-    const readfield& f = (*in.fields)[in.replayed];
-    return f.as == as && f.from == in ? &f : nullptr;
+}  // namespace
+
+value readvalue(int channel, const char* what) {
+    scanner s(channelinput(channel), what);
+    s.skipblanklines();
+    return s.takevalue();
 }
 
-const value& replay(textinput& in, const readfield& f) {
-    static_cast<textplace&>(in) = f.next;
-    ++in.replayed;
-    return f.found;
+value readrecordfield(int channel, const char* what) {
+    scanner s(channelinput(channel), what);
+    s.skipblanks();
+    return s.takevalue();
 }
 
-// Keeps a field that was just read, in place of what the last reader took from here on.
-void keepfield(textinput& in, readfield::readas as, const textplace& from, const value& found) {
-    if (!in.fields) return;
-    in.fields->resize(in.replayed, {});
-    in.fields->push_back({as, from, in, found});
-    ++in.replayed;
-}
-
-int scanlabel(scanner& s) {
+int readlabel(int channel, const char* what) {
+    scanner s(channelinput(channel), what);
     s.skipblanklines();
     if (s.atend()) s.pastend();
     const int line = s.in.line, field = s.in.field;
@@ -166,36 +159,6 @@ int scanlabel(scanner& s) {
     return static_cast<int>(label);
 }
 
-}  // namespace
-
-value readvalue(int channel, const char* what) {
-    textinput& in = channelinput(channel);
-    if (const readfield* before = readbefore(in, readfield::number)) return replay(in, *before);
-    const textplace from = in;
-    scanner s(in, what);
-    s.skipblanklines();
-    const value found = s.takevalue();
-    if (!found.istext()) keepfield(in, readfield::number, from, found);  // a text knows its reader's word for it
-    return found;
-}
-
-value readrecordfield(int channel, const char* what) {
-    scanner s(channelinput(channel), what);
-    s.skipblanks();
-    return s.takevalue();
-}
-
-int readlabel(int channel, const char* what) {
-    textinput& in = channelinput(channel);
-    if (const readfield* before = readbefore(in, readfield::label))
-        return static_cast<int>(double(replay(in, *before)));
-    const textplace from = in;
-    scanner s(in, what);
-    const int found = scanlabel(s);
-    keepfield(in, readfield::label, from, found);
-    return found;
-}
-
 std::string_view readtextfield(int channel, const char* what) {
     scanner s(channelinput(channel), what);
     s.skipblanks();
@@ -207,15 +170,7 @@ std::string_view readtextfield(int channel, const char* what) {
 }
 
 void findkey(int channel, const char* key) {
-    textinput& in = channelinput(channel);
-    const readfield* const before = readbefore(in, readfield::key);
-    if (before && before->found.is(key)) {
-        replay(in, *before);
-        return;
-    }
-    const textplace from = in;
     while (readtextfield(channel, key) != key) continue;
-    keepfield(in, readfield::key, from, key);
 }
 
 }  // namespace tessaly

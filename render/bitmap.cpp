@@ -79,13 +79,13 @@ void writebitmap(const raster& image, const std::string& path) {
 }
 
 void readbitmap(raster& image, const std::string& path) {
-    const auto bytes = filebytes(path, "picture");
-    const auto figure = [&](std::size_t at, int count) { return figureat(*bytes, at, count); };
-    if (bytes->size() < headbytes || !bytes->starts_with("BM") || figure(infoat, 4) != infobytes ||
+    const std::string bytes = filebytes(path, "picture");
+    const auto figure = [&](std::size_t at, int count) { return figureat(bytes, at, count); };
+    if (bytes.size() < headbytes || !bytes.starts_with("BM") || figure(infoat, 4) != infobytes ||
         figure(depthat, 2) != 8 * pixelbytes || figure(packedat, 4) != 0)
         throw failure(failurekind::invalidcall, path + " (picture): a bitmap of 24 bits a pixel was expected");
     const std::size_t width = figure(widthat, 4), height = figure(heightat, 4), start = figure(startat, 4);
-    if (std::max(width, height) > 65535 || bytes->size() < start + rowbytes(width) * height)
+    if (std::max(width, height) > 65535 || bytes.size() < start + rowbytes(width) * height)
         throw failure(failurekind::invalidcall, path + " (picture): the file is not whole");
     for (std::size_t y = 0; y < std::min(height, static_cast<std::size_t>(image.height())); ++y)
         for (std::size_t x = 0; x < std::min(width, static_cast<std::size_t>(image.width())); ++x)

@@ -27,7 +27,7 @@ void loadpalette() {
     std::string bytes;
     try {
         openinput(1, path, "palette");
-        bytes = *channelinput(1).bytes;
+        bytes = channelinput(1).bytes;
         closechannel(1);
     } catch (const failure& f) {
         // A record file is opened for reading and writing alike: a missing one is merely empty.

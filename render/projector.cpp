@@ -8,10 +8,7 @@
 #include "core/world.h"
 #include "render/surface.h"
 
-#include <array>
-#include <bit>
 #include <cmath>
-#include <cstdint>
 #include <optional>
 
 namespace tessaly {
@@ -20,8 +17,6 @@ namespace {
 
 constexpr int fullwalk = 299;  // steps into which a near-side walk divides a line
 constexpr double mappingscale = 15.2, mappingx = 730, mappingy = 490;  // viewport pixels
-
-std::uint64_t currentpass = 0;  // of projections that share one sight
 
 // The eye and the plane as plain numbers, taken once a pass: text meets arithmetic here.
 struct sight {
@@ -33,7 +28,6 @@ struct sight {
 };
 
 sight takesight() {
-    ++currentpass;
     sight s{perpx,        perpy,        perpz,  planeseedx, planeseedy, planeseedz, planecentrex,
             planecentrey, planecentrez, focusx, focusy,     focusz,     0};
     s.centresquared = s.cx * s.cx + s.cy * s.cy + s.cz * s.cz;
@@ -58,34 +52,8 @@ void hitplane(const sight& s, int p) {
                       t);
 }
 
-// Where each point was when it was last projected. A point that ends several lines of a group is mostly projected from
-// one place, and what it gave stands in the tables.
-struct projection {
-    std::uint64_t pass = 0;
-    std::array<std::uint64_t, 3> from{};  // the position's bits
-    bool operator==(const projection&) const = default;
-};
-std::array<projection, lastpoint + 1> projections;
-
-// Whether the tables hold what projecting p from where it stands would give. The reference point is never sure of it:
-// a line that ends there moves the reference for all that follow.
-bool projectedbefore(int p) {
-    if (plainway) return false;
-    if (p == referencepoint) {
-        ++currentpass;
-        return false;
-    }
-    const auto bits = [](double d) { return std::bit_cast<std::uint64_t>(d); };
-    const projection now{currentpass, {bits(ptx[p]), bits(pty[p]), bits(ptz[p])}};
-    projection& before = projections[static_cast<std::size_t>(p)];
-    if (before == now) return true;
-    before = now;
-    return false;
-}
-
 // Point p on the picture plane: its hit, then distance, cosine, up and side from the plane's centre.
 void projectpoint(const sight& s, int p) {
-    if (projectedbefore(p)) return;
     hitplane(s, p);
     const double hx = planex[p] - s.cx, hy = planey[p] - s.cy, hz = planez[p] - s.cz;
     const double rx = planex[referencepoint] - s.cx, ry = planey[referencepoint] - s.cy,
@@ -157,7 +125,83 @@ int lineend(const table<value, lastline>& ends, int line, int end) {
                                               std::to_string(lastpoint) + " was expected");
 }
 
+// Moves eye and focus out of the positions in which the projection would divide by zero or see a line end on. Exact
+// comparisons of the figures, in this order.
+void fixup() {
+    const auto same = [](double a, double b) { return a == b; };
+    const auto ratio = [](double a, double b) { return quotient(a, b, "ratio of eye or focus coordinates"); };
+    if (same(focusx, perpx) && same(focusy, perpy)) perpx = perpx * 0.997;
+    if (same(focusx, perpx) && same(focusz, perpz)) perpx = perpx * 0.998;
+    if (same(focusy, perpy) && same(focusz, perpz)) perpy = perpy * 0.999;
+    for (value* figure : {&focusy, &focusx, &focusz, &perpx, &perpy, &perpz})
+        if (*figure == 0) *figure = 0.1;
+    if (ratio(perpx, perpy) == ratio(focusx, focusy)) perpx = perpx * 0.997;
+    if (ratio(perpx, perpz) == ratio(focusx, focusz)) perpx = perpx * 0.998;
+    if (ratio(perpy, perpz) == ratio(focusy, focusz)) perpy = perpy * 0.999;
+    perprelx = perpx;
+    perprely = perpy;
+    perprelz = perpz;
+    viewprompt = "PROMPT";
+}
+
+void prepareview() {
+    if (skipfixup == 1) {
+        skipfixup = 0;
+    } else {
+        refready = 0;
+        if (viewprompt.is("AUTOMA")) fixup();
+        mag = 10 * mag;
+    }
+    relateeye();
+}
+
+void writeviewback() {
+    rebasedone = 0;
+    perpabsx = perprelx + focusx;
+    perpabsy = perprely + focusy;
+    perpabsz = perprelz + focusz;
+    magshown = mag * 0.1;
+    perptxtx.text = boxtext(perpabsx);
+    perptxty.text = boxtext(perpabsy);
+    perptxtz.text = boxtext(perpabsz);
+    focustxtx.text = boxtext(focusx);
+    focustxty.text = boxtext(focusy);
+    focustxtz.text = boxtext(focusz);
+    magtxt.text = boxtext(magshown);
+    verttxt.text = boxtext(vertshift, 5);
+    horiztxt.text = boxtext(horizshift, 5);
+}
+
 }  // namespace
+
+void plotgroups() {
+    double sum = 0;
+    for (int group = 1; group <= linegroups; ++group) {
+        groupfirst.set(group, sum + 1);
+        sum += linecount[group];
+        grouplast.set(group, sum);
+    }
+    grouplast.set(linegroups, sum + 1);  // the last group runs one line past its count, and is meant to
+
+    if (plotstate == 1 || plotstate == 2) {
+        perpx = perprelx;
+        perpy = perprely;
+        perpz = perprelz;
+        refready = 0;
+        skipfixup = 1;
+    }
+    projectdraw();
+}
+
+void projectdraw() {
+    prepareview();
+    rebaseonfocus();
+    setplane();
+    referencepass();
+    if (plotstate == 0 && repaintmainwindow) repaintmainwindow();
+    drawgroups();
+    writeviewback();
+}
 
 int blocksinuse(pointblock (&blocks)[4]) {
     int count = 0;
@@ -237,86 +281,6 @@ void rebaseonfocus() {
         savey.set(i, pty[i]);
         savez.set(i, ptz[i]);
     });
-}
-
-void plotgroups() {
-    double sum = 0;
-    for (int group = 1; group <= linegroups; ++group) {
-        groupfirst.set(group, sum + 1);
-        sum += linecount[group];
-        grouplast.set(group, sum);
-    }
-    grouplast.set(linegroups, sum + 1);  // the last group runs one line past its count, and is meant to
-
-    if (plotstate == 1 || plotstate == 2) {
-        perpx = perprelx;
-        perpy = perprely;
-        perpz = perprelz;
-        refready = 0;
-        skipfixup = 1;
-    }
-    projectdraw();
-}
-
-namespace {
-
-// Moves eye and focus out of the positions in which the projection would divide by zero or see a line end on. Exact
-// comparisons of the figures, in this order.
-void fixup() {
-    const auto same = [](double a, double b) { return a == b; };
-    const auto ratio = [](double a, double b) { return quotient(a, b, "ratio of eye or focus coordinates"); };
-    if (same(focusx, perpx) && same(focusy, perpy)) perpx = perpx * 0.997;
-    if (same(focusx, perpx) && same(focusz, perpz)) perpx = perpx * 0.998;
-    if (same(focusy, perpy) && same(focusz, perpz)) perpy = perpy * 0.999;
-    for (value* figure : {&focusy, &focusx, &focusz, &perpx, &perpy, &perpz})
-        if (*figure == 0) *figure = 0.1;
-    if (ratio(perpx, perpy) == ratio(focusx, focusy)) perpx = perpx * 0.997;
-    if (ratio(perpx, perpz) == ratio(focusx, focusz)) perpx = perpx * 0.998;
-    if (ratio(perpy, perpz) == ratio(focusy, focusz)) perpy = perpy * 0.999;
-    perprelx = perpx;
-    perprely = perpy;
-    perprelz = perpz;
-    viewprompt = "PROMPT";
-}
-
-void prepareview() {
-    if (skipfixup == 1) {
-        skipfixup = 0;
-    } else {
-        refready = 0;
-        if (viewprompt.is("AUTOMA")) fixup();
-        mag = 10 * mag;
-    }
-    relateeye();
-}
-
-void writeviewback() {
-    rebasedone = 0;
-    perpabsx = perprelx + focusx;
-    perpabsy = perprely + focusy;
-    perpabsz = perprelz + focusz;
-    magshown = mag * 0.1;
-    perptxtx.text = boxtext(perpabsx);
-    perptxty.text = boxtext(perpabsy);
-    perptxtz.text = boxtext(perpabsz);
-    focustxtx.text = boxtext(focusx);
-    focustxty.text = boxtext(focusy);
-    focustxtz.text = boxtext(focusz);
-    magtxt.text = boxtext(magshown);
-    verttxt.text = boxtext(vertshift, 5);
-    horiztxt.text = boxtext(horizshift, 5);
-}
-
-}  // namespace
-
-void projectdraw() {
-    prepareview();
-    rebaseonfocus();
-    setplane();
-    referencepass();
-    if (plotstate == 0 && repaintmainwindow) repaintmainwindow();
-    drawgroups();
-    writeviewback();
 }
 
 }  // namespace tessaly

@@ -13,7 +13,7 @@ struct album : recorder {
         if (!out) throw failure(failurekind::fileaccess, path);
         out << "picture " << ++saved;
     }
-    void setpicture(const std::string& path) override { background = *filebytes(path, "picture"); }
+    void setpicture(const std::string& path) override { background = filebytes(path, "picture"); }
     int saved = 0;
     std::string background;
 };

@@ -2,9 +2,6 @@
 #include "core/fields.h"
 #include "tests/session.h"
 
-#include <chrono>
-#include <thread>
-
 using namespace tessaly;
 
 namespace {
@@ -93,27 +90,6 @@ TEST(channels, refuseWhatIsOpenOrNotThere) {
     EXPECT_EQ(failureof([] { openappend(3 - 2, "none\\x.txt", "design file"); })->kind, failurekind::filealreadyopen);
     closechannel(1);
     EXPECT_EQ(failureof([] { openappend(1, "none\\x.txt", "design file"); })->kind, failurekind::filenotfound);
-}
-
-// A user edits a file between two clicks: the next click sees the new bytes, also where size and name are the same.
-TEST(channels, keptBytesFollowTheFile) {
-    session s;
-    const auto first = [] {
-        openinput(1, "f.txt", "test");
-        const double number = readvalue(1, "it");
-        closechannel(1);
-        return number;
-    };
-    for (int i = 101; i <= 300; ++i) {  // many within one tick of the clock
-        session::write("f.txt", std::to_string(i));
-        ASSERT_EQ(first(), i);
-    }
-    std::this_thread::sleep_for(std::chrono::milliseconds(150));
-    EXPECT_EQ(first(), 300);  // kept from here on
-    session::write("f.txt", "301");
-    EXPECT_EQ(first(), 301);
-    deletefile("f.txt");
-    EXPECT_EQ(failureof([&] { first(); })->kind, failurekind::filenotfound);
 }
 
 TEST(channels, fileListsHoldVisibleFilesOnly) {
