@@ -15,8 +15,6 @@ namespace {
 
 constexpr int mostpainted = 100;  // nearest quads that are painted
 
-bool emptyquad(int i) { return quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[i] == 0; }
-
 bool isroof(const value& filename) { return filename.text().substr(0, 4) == "roof"; }
 
 int choosedivisions() {

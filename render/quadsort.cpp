@@ -17,8 +17,6 @@ constexpr int lastsorted = 7000;                          // quads that take par
 constexpr double farthest = 1000000, takenout = 2000000;  // model units
 static_assert(lastsorted == clearedpoints);               // a slot that was not written since a clear is empty
 
-bool emptyquad(int i) { return quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[i] == 0; }
-
 double eyedistance(const value& point) {
     const double x = perpx - ptx[point], y = perpy - pty[point], z = perpz - ptz[point];
     return std::sqrt((x * x + y * y) + z * z);
@@ -74,8 +72,6 @@ void sortquads(const std::vector<int>& slots) {
 
 }  // namespace
 
-std::string faceplace(int quad) { return shapefile.text() + ", face " + std::to_string(quad); }
-
 void orderquads() {
     if (plainway || quad4[0] != 0) return orderquadsplainly();  // with slot 0 filled no quad counts as empty
     static std::vector<int> slots;
@@ -100,5 +96,9 @@ void orderquadsplainly() {
         quaddist.set(quadorder[i], takenout);
     }
 }
+
+bool emptyquad(int i) { return quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[i] == 0; }
+
+std::string faceplace(int quad) { return shapefile.text() + ", face " + std::to_string(quad); }
 
 }  // namespace tessaly

@@ -14,6 +14,9 @@ void orderquads();
 // The plain way, 7000 comparisons a quad; the same outcome and the same failures.
 void orderquadsplainly();
 
+// Whether a slot of the quad tables holds no quad.
+bool emptyquad(int slot);
+
 // "datah\st-post.txt, face 3", for reports.
 std::string faceplace(int quad);
 
