@@ -10,9 +10,14 @@ namespace tessaly {
 
 namespace {
 
+void openlayout(window& layout) {
+    chosenelement = usedcontrol;
+    showwindow(layout);
+}
+
 void openpanels(const char* prefix) {
     panelprefix = prefix;
-    showwindow(layoutpanels);
+    openlayout(layoutpanels);
 }
 
 // Turns one of two texts into the other; any third text is left alone.
@@ -44,8 +49,8 @@ void clickyellow2btn() { openpanels("st-panels-2yel-"); }
 void clickyellow3btn() { openpanels("st-panels-3yel-"); }
 void clickdoor2btn() { openpanels("st-panels-2door-"); }
 void clickdoor4btn() { openpanels("st-panels-4door-"); }
-void clickpostbeambtn() { showwindow(layoutgirder); }
-void clickroofbtn() { showwindow(layoutroof); }
+void clickpostbeambtn() { openlayout(layoutgirder); }
+void clickroofbtn() { openlayout(layoutroof); }
 
 void clickfloorbtn() { show(floorlist); }
 

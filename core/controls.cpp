@@ -44,6 +44,8 @@ window instructions("instructions", "Tessaly Panel and Girder", 19200, 12990, {1
 #include "core/controls.def"
 #undef CONTROL
 
+control* usedcontrol = nullptr;
+control* chosenelement = nullptr;
 control* wantedfocus = nullptr;
 std::function<void()> repaintmainwindow;
 bool programended = false;
@@ -76,7 +78,7 @@ void forgetcontrols() {
         *f.c = f.state;
         addcontrol(*f.c);
     }
-    wantedfocus = nullptr;
+    usedcontrol = chosenelement = wantedfocus = nullptr;
     programended = false;
 }
 
@@ -111,6 +113,20 @@ void showwindow(window& w) {
 void hidewindow(window& w) {
     w.created = true;
     w.shown = false;
+}
+
+void show(control& c) {
+    c.shown = true;
+    if (usedcontrol == nullptr || usedcontrol == &c) return;
+    c.openedby = usedcontrol;
+    if (c.kind == controlkind::list || c.kind == controlkind::filelist) wantedfocus = &c;
+}
+
+control* focusafter(const control& c) {
+    constexpr int longestchain = 8;  // controls that show each other in turn make a ring
+    control* back = c.openedby;
+    for (int step = 0; back != nullptr && !back->shown && step < longestchain; ++step) back = back->openedby;
+    return back != nullptr && back->shown ? back : nullptr;
 }
 
 void setfolder(control& filelist, std::string_view folder) {

@@ -47,8 +47,9 @@ struct control {
     std::string spoken;       // for screen readers; the caption where empty
     std::string folder = {};  // of a file list, as users write it
     std::vector<std::string> items = {};
-    int selected = -1;      // place in items, -1: none
-    int elementnumber = 0;  // of a layout button
+    int selected = -1;            // place in items, -1: none
+    int elementnumber = 0;        // of a layout button
+    control* openedby = nullptr;  // the control whose event showed it last
 };
 
 // The windows, in the order in which reports list them.
@@ -79,7 +80,9 @@ inline bool islist(const control& c) { return c.kind == controlkind::list || c.k
 void showwindow(window& w);
 void hidewindow(window& w);
 
-inline void show(control& c) { c.shown = true; }
+// Show and hide a control. The control that is used now is remembered as the one that opened it, and the keyboard goes
+// to a list that is opened.
+void show(control& c);
 inline void hide(control& c) { c.shown = false; }
 
 // Points a file list at its folder, or reads that folder again: every visible file by bare name, nothing selected.
@@ -87,8 +90,18 @@ inline void hide(control& c) { c.shown = false; }
 void setfolder(control& filelist, std::string_view folder);
 void refresh(control& filelist);
 
+// The control whose event runs, or ran last.
+extern control* usedcontrol;
+
+// The element button pressed last, which goes on looking pressed.
+extern control* chosenelement;
+
 // The control that is to get the keyboard focus after this event; nullptr: the focus stays.
 extern control* wantedfocus;
+
+// Where the focus goes when c is hidden: to what opened it, or, where that is hidden too, to what opened that; nullptr
+// where nothing did that is still there.
+control* focusafter(const control& c);
 
 // Asks the main window for a repaint of its own surface; set by the window layer.
 extern std::function<void()> repaintmainwindow;

@@ -50,7 +50,7 @@ TEST(quickviews, everyPlaceButtonDoesWhatItSays) {
                           z = (eye ? perptxtz : focustxtz).text;
         const std::string place = height ? 'z' + z : 'x' + spelled(x) + 'y' + spelled(y);
         EXPECT_EQ(c->name, (eye ? "perp" : "focus") + (place == "x384y192" ? "x192y384" : place));
-        EXPECT_EQ(c->tooltip, (eye ? "Eye at " : "Focus at ") + (height ? "Z " + z : "X " + x + ", Y " + y));
+        EXPECT_EQ(c->spoken, (eye ? "Eye at " : "Focus at ") + (height ? "Z " + z : "X " + x + ", Y " + y));
     }
 }
 

@@ -104,7 +104,7 @@ void definequickviews() {
                            true,
                            kindof(q).back,
                            true,
-                           spoken(q),
+                           spoken(q) + ": SET takes it",
                            spoken(q)});
         addcontrol(buttons.back());
     }

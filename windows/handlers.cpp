@@ -22,6 +22,9 @@
 #include "windows/helppages.h"
 #include "windows/helpwindow.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace tessaly {
 
 namespace {
@@ -159,7 +162,33 @@ const handler handlers[] = {
 #undef CLICK
 #undef PICK
 
-void runhandler(const control& c) {
+// The buttons that the Escape key presses, each with what of its own the focus may be on.
+struct closer {
+    control* button;
+    const control* closes[4];
+};
+const closer closers[] = {
+    {&capescapebtn, {&capbox, &screencapenter}},
+    {&escapefilelistbtn, {&autofile, &autofile1, &autofile3, &autofile5}},
+    {&closefilelistbtn, {&designfileslist, &killfilebtn}},
+    {&closebmpbtn, {&bmplistbox, &displayimagebtn, &delbmpbtn}},
+    {&easysetbtn, {}},
+    {&returntomainbtn, {}},
+};
+
+control* closerof(const window& w, const control* focused) {
+    control* first = nullptr;
+    for (const closer& c : closers) {
+        if (c.button->in != &w || !c.button->shown) continue;
+        if (focused && std::find(std::begin(c.closes), std::end(c.closes), focused) != std::end(c.closes))
+            return c.button;
+        if (!first) first = c.button;
+    }
+    return first;
+}
+
+void runhandler(control& c) {
+    usedcontrol = &c;
     wantedfocus = nullptr;
     if (const position* p = positionof(c)) {
         clickposition(*p);
@@ -197,6 +226,16 @@ void pickitem(control& c, int item) {
 void typetext(control& c, std::string_view text) {
     c.text = text;
     if (c.kind == controlkind::combobox) c.selected = -1;
+}
+
+void pressescape(window& w, const control* focused) {
+    wantedfocus = nullptr;
+    if (focused && focused->kind == controlkind::list)
+        wantedfocus = focusafter(*focused);
+    else if (control* const button = closerof(w, focused))
+        clickcontrol(*button);
+    else if (&w == &layoutgirder || &w == &layoutpanels || &w == &layoutroof)
+        closewindow(w);
 }
 
 void closewindow(window& w) {

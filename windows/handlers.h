@@ -21,6 +21,11 @@ void pickitem(control& c, int item);
 // The user's text in a text box or combination box.
 void typetext(control& c, std::string_view text);
 
+// The Escape key in a window, with the focus on focused (nullptr: on no control). It does what the window's own closing
+// button does: of those of the main window the one that belongs to focused, or else the first that is shown. A list
+// that only a pick closes gives the focus back and stays.
+void pressescape(window& w, const control* focused);
+
 // The user closes a window: the two programs windows end the program as exitbtn does, any other is hidden.
 void closewindow(window& w);
 

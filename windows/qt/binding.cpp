@@ -7,6 +7,7 @@
 #include "windows/handlers.h"
 #include "windows/qt/canvas.h"
 #include "windows/qt/controlwidgets.h"
+#include "windows/qt/spoken.h"
 
 #include <QApplication>
 #include <QMessageBox>
@@ -78,13 +79,23 @@ void carrytowidget(boundcontrol& b) {
     if (comestofront(*b.of)) b.widget->raise();
 }
 
+// The toolkit would hand the focus of a control that goes to the next one, unseen: it goes back to what opened it.
+void takefocusback(const window& w, const boundwindow& bound) {
+    const control* const focused = focusedcontrol(w);
+    if (!focused || focused->shown) return;
+    const control* const back = focusafter(*focused);
+    QWidget* const to = back ? widgetof(*back) : bound.frame->plan();
+    to->show();
+    to->setFocus();
+}
+
 void showface(face& f) {
     const bool first = !f.testAttribute(Qt::WA_WState_ExplicitShowHide);
     if (first) {
         f.resize(f.designedsize());
         f.firstshowing(f);
-        f.plan()->setFocus();  // no box takes what is typed before it is chosen
     }
+    if (f.isHidden()) f.plan()->setFocus();  // no control takes a key before it is chosen
     if (f.isMinimized()) f.setWindowState(f.windowState() & ~Qt::WindowMinimized);
     f.show();
     f.raise();
@@ -95,6 +106,7 @@ void carrytowindow(window& w) {
     if (!w.shown && !faceof(w)) return;
     boundwindow& bound = boundwindows()[&w];
     if (!bound.frame) buildwindow(w, bound);
+    takefocusback(w, bound);
     for (boundcontrol& b : bound.controls) carrytowidget(b);
     if (!w.shown) bound.frame->hide();
 }
@@ -143,6 +155,7 @@ void reportfailure(const failure& f) {
                     "Tessaly has met a failure and ends: " + kind + ".\n\n" + QString::fromStdString(f.detail),
                     QMessageBox::Ok, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
+    box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     box.setInformativeText("Everything recorded in the design files is kept.");
     box.exec();
     endprogram(1);
@@ -158,6 +171,7 @@ void openwindows() {
     repaintmainwindow = [] {
         if (QWidget* picture = widgetof(viewport)) picture->update();
     };
+    usespokenroles();
     ending = false;
     runevent(startprogram);
 }
@@ -187,6 +201,14 @@ QWidget* widgetof(const control& c) {
     if (found == boundwindows().end()) return nullptr;
     for (const boundcontrol& b : found->second.controls)
         if (b.of == &c) return b.widget;
+    return nullptr;
+}
+
+const control* focusedcontrol(const window& w) {
+    const auto found = boundwindows().find(&w);
+    if (found == boundwindows().end()) return nullptr;
+    for (const boundcontrol& b : found->second.controls)
+        if (b.widget == found->second.frame->focusWidget()) return b.of;
     return nullptr;
 }
 

@@ -19,6 +19,9 @@ void dropwindows();
 // with status 0; once it is ending, further events do nothing.
 void runevent(const std::function<void()>& procedure);
 
+// The control of the widget that holds or would hold a window's focus, nullptr where none does.
+const control* focusedcontrol(const window& w);
+
 // The widget of a control or a window, nullptr as long as its window was never shown.
 QWidget* widgetof(const control& c);
 face* faceof(const window& w);

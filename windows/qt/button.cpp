@@ -8,6 +8,10 @@
 #include <QKeyEvent>
 #include <QLinearGradient>
 #include <QPainter>
+#include <QScrollArea>
+
+#include <cmath>
+#include <map>
 
 namespace tessaly {
 
@@ -57,7 +61,34 @@ QFont buttonfont(int pixels, bool bold) {
     return font;
 }
 
+QPushButton* nearestbutton(const QWidget& plan, QPoint from, QPoint direction) {
+    QPushButton* nearest = nullptr;
+    int least = 0;
+    for (QPushButton* b : plan.findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly)) {
+        const QPoint way = b->geometry().center() - from;
+        const int along = QPoint::dotProduct(way, direction);
+        const int aside = std::abs(QPoint::dotProduct(way, {direction.y(), direction.x()}));
+        const int distance = along + 2 * aside;
+        if (b->isHidden() || along <= 0 || 2 * aside > 3 * along || (nearest && distance >= least)) continue;
+        nearest = b;
+        least = distance;
+    }
+    return nearest;
+}
+
 }  // namespace
+
+bool walkbyarrow(const QWidget& plan, QPoint from, int key) {
+    static const std::map<int, QPoint> arrows{
+        {Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}};
+    const auto arrow = arrows.find(key);
+    if (arrow == arrows.end()) return false;
+    QPushButton* const next = nearestbutton(plan, from, arrow->second);
+    if (!next) return true;
+    next->setFocus(Qt::TabFocusReason);
+    if (auto* frame = qobject_cast<QScrollArea*>(plan.window())) frame->ensureWidgetVisible(next);
+    return true;
+}
 
 captionlines wrapcaption(const QString& caption, QSize size, bool bold) {
     const QStringList words = caption.split(' ', Qt::SkipEmptyParts);
@@ -111,10 +142,16 @@ button::button(const QColor& itsface, QWidget* parent) : QPushButton(parent), fa
 
 void button::setpicture(const QString& name) { shows = std::make_unique<picture>(name); }
 
+void button::setchosen(bool itis) {
+    if (itis == chosen) return;
+    chosen = itis;
+    update();
+}
+
 void button::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintface(painter);
-    if (isDown()) painter.translate(1, 1);
+    if (lookspressed()) painter.translate(1, 1);
     if (shows && !shows->isnull())
         shows->paint(painter, QRectF(seen()).adjusted(2, 2, -2, -2));
     else
@@ -124,10 +161,13 @@ void button::paintEvent(QPaintEvent*) {
 QRect button::seen() const { return rect() & parentWidget()->rect().translated(-pos()); }
 
 void button::paintface(QPainter& painter) const {
-    const QColor base = isDown() ? face.darker(115) : underMouse() ? face.lighter(106) : face;
+    const bool dark = inkupon(face) != QColor(0, 0, 0);  // where a little lighter or darker would not be seen
+    const QColor base = lookspressed() ? face.darker(dark ? 200 : 115)
+                        : underMouse() ? face.lighter(dark ? 165 : 106)
+                                       : face;
     QLinearGradient shade(0, 0, 0, height());
-    shade.setColorAt(0, isDown() ? base.darker(106) : base.lighter(108));
-    shade.setColorAt(1, isDown() ? base : base.darker(106));
+    shade.setColorAt(0, lookspressed() ? base.darker(106) : base.lighter(108));
+    shade.setColorAt(1, lookspressed() ? base : base.darker(106));
     const QRectF rim = QRectF(seen()).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.setRenderHint(QPainter::Antialiasing);
     // The ring of the keyboard shows only to those who use it.
@@ -136,10 +176,11 @@ void button::paintface(QPainter& painter) const {
     painter.setBrush(shade);
     painter.drawRoundedRect(rim, 2, 2);
     painter.setBrush(Qt::NoBrush);
-    if (!isDown()) {
+    if (lookspressed())
+        painter.setPen(QPen(face.darker(170), 1));
+    else
         painter.setPen(QPen(QColor(255, 255, 255, 110), 1));
-        painter.drawLine(QPointF(2, 1.5), QPointF(width() - 2, 1.5));
-    }
+    painter.drawLine(QPointF(2, 1.5), QPointF(width() - 2, 1.5));
     if (ring) {
         painter.setPen(QPen(inkupon(face) == QColor(0, 0, 0) ? ringcolour : QColor(255, 255, 255), 1));
         painter.drawRoundedRect(rim.adjusted(1, 1, -1, -1), 1, 1);
@@ -169,7 +210,7 @@ void button::paintcaption(QPainter& painter) const {
 void button::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();
-    else
+    else if (!walkbyarrow(*parentWidget(), geometry().center(), event->key()))
         QPushButton::keyPressEvent(event);
 }
 

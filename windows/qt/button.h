@@ -34,10 +34,15 @@ class picture {
     mutable QSvgRenderer drawing;
 };
 
+// Takes the focus from a place on a plan to the nearest button in an arrow key's direction, one in line with it before
+// others. Whether it was an arrow key.
+bool walkbyarrow(const QWidget& plan, QPoint from, int key);
+
 class button : public QPushButton {
   public:
     button(const QColor& itsface, QWidget* parent);
     void setpicture(const QString& name);
+    void setchosen(bool itis);  // whether it looks pressed all the time
 
   protected:
     void paintEvent(QPaintEvent*) override;
@@ -49,7 +54,10 @@ class button : public QPushButton {
     void paintface(QPainter& painter) const;
     void paintcaption(QPainter& painter) const;
 
+    bool lookspressed() const { return chosen || isDown(); }
+
     QColor face;
+    bool chosen = false;
     std::unique_ptr<picture> shows;
 };
 

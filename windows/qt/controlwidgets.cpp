@@ -7,6 +7,7 @@
 #include "windows/qt/button.h"
 #include "windows/qt/canvas.h"
 #include "windows/qt/look.h"
+#include "windows/qt/spoken.h"
 
 #include <QComboBox>
 #include <QKeyEvent>
@@ -38,6 +39,10 @@ class list : public QListWidget {
         setUniformItemSizes(true);
         setVerticalScrollMode(ScrollPerPixel);
         connect(this, &QListWidget::clicked, this, [this](const QModelIndex& row) { pick(row.row()); });
+        // A row that something else selects, as assistive technology does, is picked.
+        connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this](const QItemSelection& rows) {
+            if (!marking && !rows.isEmpty()) pick(rows.front().top());
+        });
     }
 
     int rowheight(int rows) const {
@@ -51,8 +56,10 @@ class list : public QListWidget {
         const QModelIndexList marked = selectedIndexes();
         if (row < 0 ? marked.isEmpty() : !marked.isEmpty() && marked.front().row() == row) return;
         const QModelIndex picked = model()->index(row, 0);
+        marking = true;
         selectionModel()->setCurrentIndex(picked, QItemSelectionModel::NoUpdate);
         selectionModel()->select(picked, QItemSelectionModel::ClearAndSelect);
+        marking = false;
     }
 
   protected:
@@ -90,6 +97,7 @@ class list : public QListWidget {
     }
 
     control& of;
+    bool marking = false;
 };
 
 // ---- the kinds ---------------------------------------------------------------------------------------------
@@ -194,7 +202,10 @@ QWidget* makewidget(control& c, QWidget* plan) {
                         inpixels(c.place.height));
     widget->setToolTip(QString::fromStdString(c.tooltip));
     widget->setAccessibleName(c.spoken.empty() ? caption : QString::fromStdString(c.spoken));
-    widget->setAccessibleDescription(widget->toolTip());
+    widget->setAccessibleDescription(widget->toolTip().section(": ", -1));  // what the name does not say already
+    if (c.kind == controlkind::picturebox) setrole(*widget, QAccessible::Graphic);
+    if (c.kind == controlkind::frame) setrole(*widget, QAccessible::Grouping);
+    if (auto* box = qobject_cast<QComboBox*>(widget)) box->lineEdit()->setAccessibleName(box->accessibleName());
     widget->hide();
     return widget;
 }
@@ -227,10 +238,11 @@ void settext(QWidget& widget, const std::string& text) {
     if (auto* line = qobject_cast<QLineEdit*>(&widget)) {
         line->setText(shown);
         line->setCursorPosition(0);
+    } else if (auto* box = qobject_cast<QComboBox*>(&widget)) {
+        box->setCurrentIndex(box->findText(shown, Qt::MatchExactly));  // the row that its list opens at
+        box->setEditText(shown);
     } else if (auto* page = qobject_cast<QPlainTextEdit*>(&widget))
         page->setPlainText(shown);
-    else if (auto* box = qobject_cast<QComboBox*>(&widget))
-        box->setEditText(shown);
     else if (auto* label = qobject_cast<QLabel*>(&widget))
         label->setText(shown);
     else if (auto* push = qobject_cast<QPushButton*>(&widget))
@@ -257,6 +269,7 @@ void setitems(QWidget& widget, const std::vector<std::string>& items) {
 
 void setselection(const control& c, QWidget& widget) {
     if (auto* rows = dynamic_cast<list*>(&widget)) rows->mark(c.selected);
+    if (auto* push = dynamic_cast<button*>(&widget)) push->setchosen(&c == chosenelement);
 }
 
 }  // namespace tessaly

@@ -62,9 +62,6 @@ void drawdiagram(QPainter& painter) {
 
 }  // namespace
 
-void dresseasyviews(face& f) {
-    f.decoration = drawdiagram;
-    f.firstshowing = openatlowerright;
-}
+void dresseasyviews(face& f) { f.decoration = drawdiagram; }
 
 }  // namespace tessaly

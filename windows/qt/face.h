@@ -12,11 +12,10 @@ namespace tessaly {
 
 class face;
 
-// For the first showing: places a window, no larger than the screen; keeps it in front of another window, whichever of
-// the two the user works in.
+// For the first showing, no larger than the screen: in its middle; or beside the main window, where the window hides
+// the least of what it is used with, and in front of it from then on, whichever of the two the user works in.
 void openincentre(face& f);
-void openatlowerright(face& f);
-void stayinfrontof(face& f, const window& other);
+void openbesidemain(face& f);
 
 class face : public QScrollArea {
   public:
@@ -28,12 +27,13 @@ class face : public QScrollArea {
     // Paints behind the controls, in pixels of the plan.
     std::function<void(QPainter&)> decoration;
     // The first showing: where it stands and how large.
-    std::function<void(face&)> firstshowing = openincentre;
+    std::function<void(face&)> firstshowing = openbesidemain;
 
     tessaly::window& of;
 
   protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 };
 
 // What each window has of its own, once its controls stand on the plan.

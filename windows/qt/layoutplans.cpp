@@ -71,17 +71,12 @@ void setbold(const control& label) {
     widget->setFont(font);
 }
 
-// Layouts open where the main window keeps the least of what they are used with, and stay in front of it.
 void dresslayout(face& f, const control& labelx, const control& labely, void (*draw)(QPainter&)) {
     setbold(labelx);
     setbold(labely);
     f.decoration = [draw](QPainter& painter) {
         painter.setRenderHint(QPainter::Antialiasing);
         draw(painter);
-    };
-    f.firstshowing = [](face& first) {
-        openatlowerright(first);
-        stayinfrontof(first, vistaplan);
     };
 }
 

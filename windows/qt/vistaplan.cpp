@@ -1,4 +1,4 @@
-// The main window: maximised at the start, with the help on F1.
+// The main window: maximised at the start, with its keys.
 
 #include "windows/handlers.h"
 #include "windows/qt/binding.h"
@@ -24,6 +24,13 @@ const boxtag tags[] = {{&perptxtx, "persp X"},  {&perptxty, "persp Y"},  {&perpt
                        {&magtxt, "mag"}};
 constexpr int tagpixels = 9;
 const QColor hintpaper(255, 255, 225);
+
+// Buttons with a key of their own, from whichever window.
+struct keyrow {
+    Qt::Key key;
+    control& of;
+};
+const keyrow keys[] = {{Qt::Key_F1, instructionsbtn}, {Qt::Key_F5, cventerbtn}};
 
 class tag : public QWidget {
   public:
@@ -67,9 +74,14 @@ void dressvistaplan(face& f) {
     for (const control* c : {&Label4, &Label5, &Label6, &vert, &horizlabel})
         qobject_cast<QLabel*>(widgetof(*c))->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     for (const control* c : {&selectgirderfile, &selectpanelfile, &selectedbox, &autohintbox}) makereadonly(*c);
-    auto* help = new QShortcut(Qt::Key_F1, &f);
-    help->setContext(Qt::ApplicationShortcut);
-    QObject::connect(help, &QShortcut::activated, &f, [] { runevent([] { clickcontrol(instructionsbtn); }); });
+    for (const keyrow& k : keys) {
+        auto* shortcut = new QShortcut(k.key, &f);
+        shortcut->setContext(Qt::ApplicationShortcut);
+        QObject::connect(shortcut, &QShortcut::activated, &f, [&k] { runevent([&k] { clickcontrol(k.of); }); });
+    }
+    QObject::connect(qobject_cast<QLineEdit*>(widgetof(capbox)), &QLineEdit::returnPressed, &f, [] {
+        if (screencapenter.shown) runevent([] { clickcontrol(screencapenter); });
+    });
     f.firstshowing = [](face& first) { first.setWindowState(first.windowState() | Qt::WindowMaximized); };
 }
 
