@@ -3,8 +3,8 @@
 #include "bench/scene.h"
 
 #include "bench/surfaces.h"
-#include "building/designfiles.h"
 #include "building/layouts.h"
+#include "building/records.h"
 #include "core/channels.h"
 #include "core/world.h"
 #include "windows/handlers.h"

@@ -2,13 +2,14 @@
 
 #include "building/choice.h"
 
-#include "building/designfiles.h"
 #include "core/controls.h"
 #include "core/world.h"
 
 namespace tessaly {
 
 namespace {
+
+constexpr double floorheight = 128;  // layout units
 
 void openlayout(window& layout) {
     chosenelement = usedcontrol;
@@ -39,6 +40,14 @@ void readbuildstate() {
     if (drawtext.is("solid")) drawmode = 2;
     floornum = Val(floor.text);
     setfloor(floornum);
+}
+
+void setfloor(const value& level) {
+    for (int number = 1; number <= 10; ++number) {
+        if (level != number) continue;
+        floorname = std::to_string(number);
+        placez = floorheight * (number - 1);
+    }
 }
 
 void clickorange1btn() { openpanels("st-panels-1or-"); }

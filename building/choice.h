@@ -1,11 +1,16 @@
 // Element choice, floor, draw mode and record mode: what the layout windows read at the moment of a click.
 #pragma once
 
+#include "core/value.h"
+
 namespace tessaly {
 
 // Takes record mode, draw mode and floor from their boxes. reads: writefilebox, wiresolid, floor;
 // writes: recordtext, recordmode, drawtext, drawmode, floornum, floorname, placez.
 void readbuildstate();
+
+// Sets floorname and placez for floor numbers 1..10; any other number leaves them.
+void setfloor(const value& level);
 
 // The ten element buttons: the panel buttons set panelprefix, all open their layout window.
 void clickorange1btn();

@@ -4,10 +4,10 @@
 #include "building/combinedreader.h"
 
 #include "building/designfiles.h"
+#include "building/records.h"
 #include "building/replay.h"
 #include "core/channels.h"
 #include "core/controls.h"
-#include "render/painter.h"
 
 namespace tessaly {
 
@@ -21,90 +21,43 @@ void clearrecords() {
     }
 }
 
-// Reads a design file into the record tables, adds its records to combinedcount and returns how many they are.
-int keepfile(const value& name) {
-    openinput(1, designpath(name), "design file");
-    const int n = untilfailure(lastrecord, [](int i) {
-        value number, x, y, trailer;
-        readrecord(1,
-                   {&elementkind, &number, &x, &y, &girdercode, &rotx, &rotz, &placex, &placey, &facecode, &trailer});
-        rdkind.set(i, elementkind);
-        rdtrailer.set(i, trailer);
-        rdnumber.set(i, number);
-        rdx.set(i, x);
-        rdy.set(i, y);
-        rdcode.set(i, girdercode);
-        rdrotx.set(i, rotx);
-        rdrotz.set(i, rotz);
-        rdplacex.set(i, placex);
-        rdplacey.set(i, placey);
-        rdface.set(i, facecode);
-    });
-    closechannel(1);
-    combinedcount = combinedcount + n;
-    return n;
-}
+const std::vector<column> recordcolumns =
+    designcolumns({nullptr, &rdnumber}, {&girdercode, &rdcode}, {nullptr, &rdtrailer});
 
-// A record for the temporary files: first, the design record's fields less its trailer, last.
-std::string combinedline(const value& first, const value& r, const value& last) {
-    return recordline({first, rdkind[r], rdnumber[r], rdx[r], rdy[r], rdcode[r], rdrotx[r], rdrotz[r], rdplacex[r],
-                       rdplacey[r], rdface[r], last});
+// The twelve columns of the temporary files: a design record's ten before its trailer between these two.
+std::vector<column> tempcolumns(column first, column last) {
+    std::vector<column> all = designcolumns({&anynumber, &rdnumber}, {&anycode, &rdcode}, last);
+    all.insert(all.begin(), first);
+    return all;
 }
+const std::vector<column> wirecolumns = tempcolumns({&placez, nullptr}, {nullptr, &rdtrailer});
+const std::vector<column> solidcolumns = tempcolumns({}, {&placez, &rdplacez});
 
-// line(i): record i in the form of the mode.
+// A line for the temporary files, of record r in the tables.
+std::string templine(const value& first, const value& r, const value& last) {
+    return keptline(first, columns(recordcolumns).first(recordcolumns.size() - 1), r, last);
+}
+std::string wireline(int i) { return templine(placez, i, rdtrailer[i]); }
+std::string solidline(int i) { return templine(i, i, placez); }
+std::string sortedline(int slot) { return templine(slot, rdorder[slot], rdplacez[rdorder[slot]]); }
+
+// Reads a design file into the record tables, and adds its records to combinedcount and to tempfile.
 template <class form>
-void addtotempfile(int n, form line) {
-    openappend(2, tempfile, "temporary file");
-    for (int i = 1; i <= n; ++i) writetext(2, line(i));
-    closechannel(2);
+void addfile(const value& name, form line) {
+    clearrecords();
+    const int n = keepdesignfile(1, name, recordcolumns);
+    combinedcount = combinedcount + n;
+    floorfromname(name.text());
+    addlines(tempfile, n, line);
 }
 
-std::string wireline(int i) { return combinedline(placez, i, rdtrailer[i]); }
-std::string solidline(int i) { return combinedline(i, i, placez); }
-
-// Both files from tempfile into the record tables, which end at 1000.
+// Both files from tempfile into the record tables, which end at 1000. The scalars are left for the sorted order.
 void keepbothfiles(int n) {
+    std::vector<column> keptonly = solidcolumns;
+    for (column& c : keptonly) c.place = nullptr;
     openinput(2, tempfile, "temporary file");
-    for (int k = 1; k <= n; ++k) {
-        value index, kind, number, x, y, code, turnx, turnz, offsetx, offsety, face, floorheight;
-        readrecord(2, {&index, &kind, &number, &x, &y, &code, &turnx, &turnz, &offsetx, &offsety, &face, &floorheight});
-        rdkind.set(k, kind);
-        rdnumber.set(k, number);
-        rdx.set(k, x);
-        rdy.set(k, y);
-        rdcode.set(k, code);
-        rdrotx.set(k, turnx);
-        rdrotz.set(k, turnz);
-        rdplacex.set(k, offsetx);
-        rdplacey.set(k, offsety);
-        rdface.set(k, face);
-        rdplacez.set(k, floorheight);
-    }
+    for (int k = 1; k <= n; ++k) keeprecord(k, keptonly, readrecord(2, keptonly));
     closechannel(2);
-}
-
-void writesorted(int n) {
-    openappend(2, sortedtempfile, "temporary file");
-    for (int slot = 1; slot <= n; ++slot) {
-        const value& r = rdorder[slot];
-        writetext(2, combinedline(slot, r, rdplacez[r]));
-    }
-    closechannel(2);
-}
-
-void paintsorted(int n) {
-    openinput(2, sortedtempfile, "temporary file");
-    for (int k = 1; k <= n; ++k) {
-        value position, x, y;
-        readrecord(2, {&position, &elementkind, &anynumber, &x, &y, &anycode, &rotx, &rotz, &placex, &placey, &facecode,
-                       &placez});
-        stepprogress();
-        drawrecord(elementkind, anycode);
-        paintsolids();
-    }
-    closechannel(2);
-    deletefile(tempfile);
-    deletefile(sortedtempfile);
 }
 
 // Draws the records of tempfile as wires, the first file's and then the second's. reads: combinedcount.
@@ -112,9 +65,7 @@ void replaycombined() {
     const int n = indexof(combinedcount, "combinedcount");
     openinput(2, tempfile, "temporary file");
     for (int k = 1; k <= n; ++k) {
-        value x, y, trailer;
-        readrecord(2, {&placez, &elementkind, &anynumber, &x, &y, &anycode, &rotx, &rotz, &placex, &placey, &facecode,
-                       &trailer});
+        readrecord(2, wirecolumns);
         drawrecord(elementkind, anycode);
     }
     closechannel(2);
@@ -137,11 +88,8 @@ void takefirst(control& list, control& secondlist, form line) {
     hide(selectgirderfile);
     selectedbox.text = "You selected:  " + firstfilename.text();
     show(selectedbox);
-    clearrecords();
     combinedcount = 0;
-    const int n = keepfile(firstfilename);
-    floorfromname(firstfilename.text());
-    addtotempfile(n, line);
+    addfile(firstfilename, line);
     show(selectpanelfile);
     refresh(secondlist);
     show(secondlist);
@@ -154,10 +102,7 @@ void takesecond(control& list, form line) {
     hide(list);
     hide(selectpanelfile);
     hide(autohintbox);
-    clearrecords();
-    const int n = keepfile(secondfilename);
-    floorfromname(secondfilename.text());
-    addtotempfile(n, line);
+    addfile(secondfilename, line);
 }
 
 }  // namespace
@@ -182,9 +127,11 @@ void pickautofile4() {
     makeeyeabsolute();
     measurerecords(n);
     sortrecords(rdnumber, n);
-    writesorted(n);
+    addlines(sortedtempfile, n, sortedline);
     drawprogress(n);
-    paintsorted(n);
+    paintrecords(sortedtempfile, n, solidcolumns, elementkind, anycode);
+    deletefile(tempfile);
+    deletefile(sortedtempfile);
     hide(progressbar);
 }
 

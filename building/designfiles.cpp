@@ -2,6 +2,8 @@
 
 #include "building/designfiles.h"
 
+#include "building/choice.h"
+#include "building/records.h"
 #include "core/channels.h"
 #include "core/failure.h"
 #include "core/world.h"
@@ -11,7 +13,6 @@ namespace tessaly {
 namespace {
 
 constexpr int recordtrailer = 64;
-constexpr double floorheight = 128;  // layout units
 
 struct panelrow {
     const char* prefix;
@@ -58,17 +59,8 @@ std::string_view firstcharacters(std::string_view text, int n) {
 
 }  // namespace
 
-std::string recordline(std::initializer_list<value> fields) {
-    std::string line;
-    for (const value& field : fields) {
-        if (!line.empty() || &field != fields.begin()) line += ',';
-        line += field.istext() ? '"' + field.text() + '"' : field.text();
-    }
-    return line + "\r\n";
-}
-
 void recordelement(const char* family, int number, int x, int y, const value& code) {
-    openappend(1, std::string("designs\\") + family + floorname.text() + ".txt", "design file");
+    openappend(1, designpath(family + floorname.text() + ".txt"), "design file");
     writetext(1, recordline({elementkind, number, x, y, code, rotx, rotz, placex, placey, facecode, recordtrailer}));
     closechannel(1);
 }
@@ -108,14 +100,6 @@ void floorfromname(const std::string& name) {
                           "first four letters, as long) and the floor's digit was expected");
     floornum = digit - '0';
     setfloor(floornum == 0 ? value(10) : floornum);
-}
-
-void setfloor(const value& floor) {
-    for (int number = 1; number <= 10; ++number) {
-        if (floor != number) continue;
-        floorname = std::to_string(number);
-        placez = floorheight * (number - 1);
-    }
 }
 
 }  // namespace tessaly

@@ -3,13 +3,9 @@
 
 #include "core/value.h"
 
-#include <initializer_list>
 #include <string>
 
 namespace tessaly {
-
-// One line of text fields as records are written: texts in double quotes, numbers bare, commas between, CR LF behind.
-std::string recordline(std::initializer_list<value> fields);
 
 // Appends the record of a click to "designs\" + family + floorname + ".txt" on channel 1. number, x, y, code: constants
 // of the clicked button. reads: elementkind, rotx, rotz, placex, placey, facecode, floorname; fails: file already open,
@@ -26,8 +22,5 @@ int panelcodefor(const std::string& prefix, const std::string& part);
 // Sets floornum, floorname and placez from a design file's name: the digit behind "girders", "panels" or "roofs".
 // Fails with type mismatch where the name tells no floor.
 void floorfromname(const std::string& name);
-
-// Sets floorname and placez for floor numbers 1..10; any other number leaves them.
-void setfloor(const value& floor);
 
 }  // namespace tessaly

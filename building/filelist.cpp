@@ -2,7 +2,7 @@
 
 #include "building/filelist.h"
 
-#include "building/replay.h"
+#include "building/records.h"
 #include "core/channels.h"
 #include "core/controls.h"
 

@@ -3,9 +3,10 @@
 #include "building/replay.h"
 
 #include "building/designfiles.h"
+#include "core/channels.h"
 #include "core/controls.h"
-#include "core/fields.h"
 #include "data/elements.h"
+#include "render/painter.h"
 #include "render/surface.h"
 
 #include <cmath>
@@ -38,11 +39,12 @@ double squared(double d) { return d * d; }
 
 }  // namespace
 
-void readrecord(int channel, std::initializer_list<value*> places) {
-    for (value* place : places) *place = readrecordfield(channel, "a field of a design record");
+int keepdesignfile(int channel, const value& name, columns form) {
+    openinput(channel, designpath(name), "design file");
+    const int n = untilfailure(lastrecord, [&](int i) { keeprecord(i, form, readrecord(channel, form)); });
+    closechannel(channel);
+    return n;
 }
-
-std::string designpath(const value& name) { return "designs\\" + name.text(); }
 
 void drawrecord(const value& kind, const value& code) {
     elementfileforcode(kind, code);
@@ -74,6 +76,17 @@ void sortrecords(const table<value, lastrecord>& number, int n) {
         }
         quaddist.set(rdorder[slot], 0);
     }
+}
+
+void paintrecords(const char* file, int n, columns form, const value& kind, const value& code) {
+    openinput(2, file, "temporary file");
+    for (int k = 1; k <= n; ++k) {
+        readrecord(2, form);
+        stepprogress();
+        drawrecord(kind, code);
+        paintsolids();
+    }
+    closechannel(2);
 }
 
 void drawprogress(int n) {

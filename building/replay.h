@@ -1,13 +1,13 @@
-// What the file readers share: reading records, the trap that ends a design file, the sort of a solid replay by plan
-// distance, and the progress strip. The readers themselves are singlereader and combinedreader.
+// What the file readers share: the trap that ends a design file, the steps of a solid replay (the sort by plan
+// distance, the temporary file in its order, the painting from it) and the progress strip. The readers themselves are
+// singlereader and combinedreader.
 #pragma once
 
+#include "building/records.h"
+#include "core/channels.h"
 #include "core/failure.h"
 #include "core/value.h"
 #include "core/world.h"
-
-#include <initializer_list>
-#include <string>
 
 namespace tessaly {
 
@@ -29,12 +29,9 @@ int untilfailure(int most, procedure step) {
     return done;
 }
 
-// Reads fields from channel into places, one after the other: a record that breaks off leaves its front in them.
-// fails: input past end of file, overflow.
-void readrecord(int channel, std::initializer_list<value*> places);
-
-// "designs\" and the name.
-std::string designpath(const value& name);
+// Keeps the records of a design file, 1000 at most, and returns how many they are. The first failure ends the file.
+// fails: as openinput.
+int keepdesignfile(int channel, const value& name, columns form);
 
 // Places, reads and draws the element of the record just read, by the column of kind and its code. rotx is 0
 // afterwards, for placement leaves radians in it. reads: rotx, rotz, placex, placey, placez; writes, fails: as
@@ -55,6 +52,18 @@ void measurerecords(int n);
 // reads: number; writes: rdorder, quaddist (0 for every record taken); fails: type mismatch for a number that is a
 // text.
 void sortrecords(const table<value, lastrecord>& number, int n);
+
+// Adds line(1) .. line(n) to a temporary file, on channel 2. fails: as openappend, type mismatch, subscript.
+template <class form>
+void addlines(const char* file, int n, form line) {
+    openappend(2, file, "temporary file");
+    for (int i = 1; i <= n; ++i) writetext(2, line(i));
+    closechannel(2);
+}
+
+// Reads n records of a temporary file and draws and paints each, a step of the strip before it. kind, code: as
+// drawrecord. fails: as drawrecord and paintsolids; the file stays open on channel 2.
+void paintrecords(const char* file, int n, columns form, const value& kind, const value& code);
 
 // Shows the progress strip for n records: cleared to dark, four light rows a record and four over, from the bottom up.
 void drawprogress(int n);

@@ -4,10 +4,10 @@
 #include "building/singlereader.h"
 
 #include "building/designfiles.h"
+#include "building/records.h"
 #include "building/replay.h"
 #include "core/channels.h"
 #include "core/controls.h"
-#include "render/painter.h"
 
 namespace tessaly {
 
@@ -17,18 +17,16 @@ constexpr int mostwirerecords = 10000;
 
 // What the three classes of design files keep apart.
 struct recordclass {
-    const char* prefix;  // of the file's name
-    const char* kind;
-    value& code;  // of the record just read
-    table<value, lastrecord>&numbers, &codes;
-    bool keepstrailer;  // a roof's is not kept: its temporary record carries what stood in rdtrailer before
+    const char* prefix;            // of the file's name
+    value kind;                    // by which its codes are read
+    column number, code, trailer;  // a roof's trailer is not kept: what stood in rdtrailer before is written for it
 };
 
 const recordclass classes[] = {
     // clang-format off
-    {"gird", "girder", girdercode, rdgirdernumber, rdgirdercode, true},
-    {"pane", "panel",  panelcode,  rdpanelnumber,  rdpanelcode,  true},
-    {"roof", "roof",   roofcode,   rdroofnumber,   rdroofcode,   false},
+    {"gird", "girder", {nullptr, &rdgirdernumber}, {&girdercode, &rdgirdercode}, {nullptr, &rdtrailer}},
+    {"pane", "panel",  {nullptr, &rdpanelnumber},  {&panelcode,  &rdpanelcode},  {nullptr, &rdtrailer}},
+    {"roof", "roof",   {nullptr, &rdroofnumber},   {&roofcode,   &rdroofcode},   {}},
     // clang-format on
 };
 
@@ -38,67 +36,7 @@ const recordclass& classof(const std::string& name) {
     throw failure(failurekind::typemismatch, "the name " + name + " tells no class of design file");
 }
 
-// A record's fields that have no place of their own in the world.
-struct recordrest {
-    value number, x, y, trailer;
-};
-
-void readdesignrecord(const recordclass& c, recordrest& r) {
-    readrecord(2,
-               {&elementkind, &r.number, &r.x, &r.y, &c.code, &rotx, &rotz, &placex, &placey, &facecode, &r.trailer});
-}
-
-void keeprecord(const recordclass& c, int i, const recordrest& r) {
-    c.numbers.set(i, r.number);
-    rdx.set(i, r.x);
-    rdy.set(i, r.y);
-    c.codes.set(i, c.code);
-    rdrotx.set(i, rotx);
-    rdrotz.set(i, rotz);
-    rdplacex.set(i, placex);
-    rdplacey.set(i, placey);
-    rdface.set(i, facecode);
-    rdkind.set(i, elementkind);
-    if (c.keepstrailer) rdtrailer.set(i, r.trailer);
-}
-
-// The design file's records into the tables; returns how many there are.
-int keeprecords(const recordclass& c) {
-    for (int i = 1; i <= lastrecord; ++i) c.numbers.set(i, 0);
-    openinput(2, designpath(secondfilename), "design file");
-    const int n = untilfailure(lastrecord, [&c](int i) {
-        recordrest rest;
-        readdesignrecord(c, rest);
-        keeprecord(c, i, rest);
-    });
-    closechannel(2);
-    return n;
-}
-
-void writesorted(const recordclass& c, int n) {
-    openappend(2, tempfile, "temporary file");
-    for (int slot = 1; slot <= n; ++slot) {
-        const value& r = rdorder[slot];
-        writetext(2, recordline({slot, c.numbers[r], rdx[r], rdy[r], c.codes[r], rdrotx[r], rdrotz[r], rdplacex[r],
-                                 rdplacey[r], rdface[r], rdtrailer[r]}));
-    }
-    closechannel(2);
-}
-
-void paintsorted(const recordclass& c, int n) {
-    openinput(2, tempfile, "temporary file");
-    for (int k = 1; k <= n; ++k) {
-        value position;
-        recordrest r;
-        readrecord(2,
-                   {&position, &r.number, &r.x, &r.y, &c.code, &rotx, &rotz, &placex, &placey, &facecode, &r.trailer});
-        stepprogress();
-        drawrecord(c.kind, c.code);
-        paintsolids();
-    }
-    closechannel(2);
-    deletefile(tempfile);
-}
+std::vector<column> columnsof(const recordclass& c) { return designcolumns(c.number, c.code, c.trailer); }
 
 void offer(control& list) {
     show(escapefilelistbtn);
@@ -123,24 +61,31 @@ void clickautosolidsingle() { offer(autofile5); }
 
 void pickautofile() {
     const recordclass& c = takename(autofile);
+    const std::vector<column> form = columnsof(c);
     openinput(2, designpath(secondfilename), "design file");
-    untilfailure(mostwirerecords, [&c](int) {
-        recordrest rest;
-        readdesignrecord(c, rest);
-        drawrecord(c.kind, c.code);
+    untilfailure(mostwirerecords, [&](int) {
+        readrecord(2, form);
+        drawrecord(c.kind, *c.code.place);
     });
     closechannel(2);
 }
 
 void pickautofile5() {
     const recordclass& c = takename(autofile5);
-    const int n = keeprecords(c);
+    std::vector<column> form = columnsof(c);
+    for (int i = 1; i <= lastrecord; ++i) c.number.kept->set(i, 0);
+    const int n = keepdesignfile(2, secondfilename, form);
     makeeyeabsolute();
     measurerecords(n);
-    sortrecords(c.numbers, n);
-    writesorted(c, n);
+    sortrecords(*c.number.kept, n);
+    form.front() = {};  // in the temporary file the sorted position stands in the kind's place
+    addlines(tempfile, n, [&form](int slot) {
+        const value& r = rdorder[slot];
+        return keptline(slot, columns(form).subspan(1, form.size() - 2), r, rdtrailer[r]);
+    });
     drawprogress(n);
-    paintsorted(c, n);
+    paintrecords(tempfile, n, form, c.kind, *c.code.place);
+    deletefile(tempfile);
     hide(autofile5);
     hide(progressbar);
 }

@@ -1,5 +1,6 @@
 // Records as text, and codes turned back into element files.
 #include "building/designfiles.h"
+#include "building/records.h"
 #include "tests/session.h"
 
 using namespace tessaly;

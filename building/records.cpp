@@ -1,0 +1,57 @@
+// Records by their columns.
+
+#include "building/records.h"
+
+#include "core/fields.h"
+
+namespace tessaly {
+
+std::vector<column> designcolumns(column number, column code, column trailer) {
+    return {
+        {&elementkind, &rdkind},
+        number,
+        {nullptr, &rdx},
+        {nullptr, &rdy},
+        code,
+        {&rotx, &rdrotx},
+        {&rotz, &rdrotz},
+        {&placex, &rdplacex},
+        {&placey, &rdplacey},
+        {&facecode, &rdface},
+        trailer,
+    };
+}
+
+std::string recordline(const std::vector<value>& fields) {
+    std::string line;
+    for (const value& field : fields) {
+        if (&field != &fields.front()) line += ',';
+        line += field.istext() ? '"' + field.text() + '"' : field.text();
+    }
+    return line + "\r\n";
+}
+
+std::string keptline(const value& first, columns kept, const value& r, const value& last) {
+    std::vector<value> fields{first};
+    for (const column& c : kept) fields.push_back((*c.kept)[r]);
+    fields.push_back(last);
+    return recordline(fields);
+}
+
+std::vector<value> readrecord(int channel, columns form) {
+    std::vector<value> fields;
+    for (const column& c : form) {
+        fields.push_back(readrecordfield(channel, "a field of a design record"));
+        if (c.place) *c.place = fields.back();
+    }
+    return fields;
+}
+
+void keeprecord(int i, columns form, const std::vector<value>& fields) {
+    for (std::size_t k = 0; k < form.size(); ++k)
+        if (form[k].kept) form[k].kept->set(i, fields[k]);
+}
+
+std::string designpath(const value& name) { return "designs\\" + name.text(); }
+
+}  // namespace tessaly

@@ -1,0 +1,39 @@
+// Records: lines of fields, as design files and a replay's temporary files hold them, and the one table of the columns
+// of a design record. Where a reader differs from the other it says so by its columns.
+#pragma once
+
+#include "core/world.h"
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tessaly {
+
+// A column of a file of records.
+struct column {
+    value* place = nullptr;                    // takes a field as it is read
+    table<value, lastrecord>* kept = nullptr;  // keeps the fields of all records, one index a record
+};
+using columns = std::span<const column>;
+
+// The eleven columns of a design record; the three in which readers differ come from the caller.
+std::vector<column> designcolumns(column number, column code, column trailer);
+
+// One line of text fields as records are written: texts in double quotes, numbers bare, commas between, CR LF behind.
+std::string recordline(const std::vector<value>& fields);
+
+// A line of first, record r as the tables of these columns keep it, and last.
+std::string keptline(const value& first, columns kept, const value& r, const value& last);
+
+// Reads a record from channel, each field into its column's place: a record that breaks off leaves its front there.
+// Returns the fields; fails: input past end of file, overflow.
+std::vector<value> readrecord(int channel, columns form);
+
+// Keeps a record's fields in the tables of its columns.
+void keeprecord(int i, columns form, const std::vector<value>& fields);
+
+// "designs\" and the name.
+std::string designpath(const value& name);
+
+}  // namespace tessaly
