@@ -1,5 +1,5 @@
-// The world's tables and scalars themselves, the list of the scalars, and the two ways of clearing.
-// A table's address decides which cache lines it fights for: all of them stand in one file, in the header's order.
+// The world's tables and scalars themselves, each registered where it is defined, and the two ways of clearing.
+// A table's address decides which cache lines it fights for: all of them stand in one file, group after group.
 
 #include "core/world.h"
 
@@ -8,6 +8,8 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <string>
+#include <vector>
 
 namespace tessaly {
 
@@ -36,60 +38,56 @@ table<value, lastrecord> TABLE(rdnumber), TABLE(rdgirdernumber), TABLE(rdpanelnu
     TABLE(rdorder);
 #undef TABLE
 
-value ptcount[5], linecount[linegroups + 1], wirecolour[linegroups + 1], drawset, rowgrade, rowcolour;
-value backred, backgreen, backblue;
-value perpx, perpy, perpz, focusx, focusy, focusz, mag, vertshift, horizshift;
-value perprelx, perprely, perprelz, perpabsx, perpabsy, perpabsz, perprelative, viewprompt, refready, plotstate;
-value skipfixup, rebasedone, magshown, curgroup, curwirecolour;
 double planeseedx, planeseedy, planeseedz, planecentrex, planecentrey, planecentrez;
 int walkcount, divisions;
-value datafile, elementkind, placemode, placex, placey, placez, rotz, rotx, facecode, spareface;
-value floorname, floornum, drawmode, recordmode, recordtext, drawtext, palname, panelprefix, panelcode;
-value girdercode, roofcode, anycode, anynumber, firstfilename, secondfilename, shapefile, preopened;
-value startgroup1, startgroup2, startgroup3, startstep, startprefix, startdone;
-value rotstage, rotboxx, rotboxy, focusinc, focussign, focusstep, maginc, shiftinc, perpsumx, perpsumy, perpsumz;
-value facecolour, framecolour, railstart1, railend1, railstart2, railend2, framen, framesecond, combinedcount;
-value capname, capsidecar, bmpfile, bmpstem, bmpext, bmpimage, bmpsidecar;
 
 namespace {
 
-#define SHOWN(name)                                                                                                    \
-    { #name, &name, true }
-#define KEPT(name)                                                                                                     \
-    { #name, &name, false }
-const scalar scalars[] = {
-    // clang-format off
-    SHOWN(perpx), SHOWN(perpy), SHOWN(perpz), SHOWN(focusx), SHOWN(focusy), SHOWN(focusz), SHOWN(mag),
-    SHOWN(vertshift), SHOWN(horizshift), SHOWN(perprelx), SHOWN(perprely), SHOWN(perprelz),
-    SHOWN(perpabsx), SHOWN(perpabsy), SHOWN(perpabsz), SHOWN(perprelative), SHOWN(viewprompt), SHOWN(refready),
-    SHOWN(plotstate), SHOWN(skipfixup), SHOWN(rebasedone), SHOWN(magshown),
-    SHOWN(floorname), SHOWN(floornum), SHOWN(drawmode), SHOWN(recordmode), SHOWN(palname), SHOWN(panelcode),
-    SHOWN(firstfilename), SHOWN(secondfilename), SHOWN(preopened),
-    SHOWN(datafile), SHOWN(elementkind), SHOWN(placemode), SHOWN(placex), SHOWN(placey), SHOWN(placez),
-    SHOWN(rotz), SHOWN(rotx), SHOWN(facecode),
-    SHOWN(rotstage), SHOWN(rotboxx), SHOWN(rotboxy), SHOWN(drawset), SHOWN(panelprefix), SHOWN(combinedcount),
-    SHOWN(bmpimage),
-    SHOWN(linecount1), SHOWN(linecount2), SHOWN(linecount3), SHOWN(linecount4), SHOWN(linecount5),
-    SHOWN(linecount6), SHOWN(linecount7), SHOWN(linecount8), SHOWN(linecount9), SHOWN(linecount10),
-    SHOWN(ptcount1), SHOWN(ptcount2), SHOWN(ptcount3), SHOWN(ptcount4),
-    KEPT(shapefile), KEPT(wirecolour1), KEPT(wirecolour2), KEPT(wirecolour3), KEPT(wirecolour4), KEPT(wirecolour5),
-    KEPT(wirecolour6), KEPT(wirecolour7), KEPT(wirecolour8), KEPT(wirecolour9), KEPT(wirecolour10),
-    KEPT(rowgrade), KEPT(rowcolour), KEPT(backred), KEPT(backgreen), KEPT(backblue), KEPT(curgroup),
-    KEPT(curwirecolour), KEPT(spareface), KEPT(recordtext), KEPT(drawtext), KEPT(girdercode), KEPT(roofcode),
-    KEPT(anycode), KEPT(anynumber), KEPT(startgroup1), KEPT(startgroup2), KEPT(startgroup3), KEPT(startstep),
-    KEPT(startprefix), KEPT(startdone), KEPT(focusinc), KEPT(focussign), KEPT(focusstep), KEPT(maginc),
-    KEPT(shiftinc), KEPT(perpsumx), KEPT(perpsumy), KEPT(perpsumz), KEPT(facecolour), KEPT(framecolour),
-    KEPT(railstart1), KEPT(railend1), KEPT(railstart2), KEPT(railend2), KEPT(framen), KEPT(framesecond),
-    KEPT(capname), KEPT(capsidecar), KEPT(bmpfile), KEPT(bmpstem), KEPT(bmpext), KEPT(bmpsidecar),
-    // clang-format on
+std::vector<scalar>& registered() {
+    static std::vector<scalar> all;
+    return all;
+}
+
+// Registers a scalar with its definition, or those of an array from 1 on: linecount1, linecount2 ..
+struct entry {
+    entry(const char* name, value& held, bool reported) { registered().push_back({name, &held, reported}); }
+    entry(const char* word, std::span<value> held, bool reported) {
+        for (std::size_t i = 1; i < held.size(); ++i)
+            registered().push_back({word + std::to_string(i), &held[i], reported});
+    }
 };
-#undef SHOWN
-#undef KEPT
 
 }  // namespace
 
-const scalar* scalarsbegin() { return std::begin(scalars); }
-const scalar* scalarsend() { return std::end(scalars); }
+// A scalar with its entry. The ones that are shown stand in reports, in this order.
+// clang-format off
+#define SHOWN(name) value name; const entry name##entry(#name, name, true)
+#define KEPT(name) value name; const entry name##entry(#name, name, false)
+SHOWN(perpx); SHOWN(perpy); SHOWN(perpz); SHOWN(focusx); SHOWN(focusy); SHOWN(focusz); SHOWN(mag);
+SHOWN(vertshift); SHOWN(horizshift); SHOWN(perprelx); SHOWN(perprely); SHOWN(perprelz);
+SHOWN(perpabsx); SHOWN(perpabsy); SHOWN(perpabsz); SHOWN(perprelative); SHOWN(viewprompt); SHOWN(refready);
+SHOWN(plotstate); SHOWN(skipfixup); SHOWN(rebasedone); SHOWN(magshown);
+SHOWN(floorname); SHOWN(floornum); SHOWN(drawmode); SHOWN(recordmode); SHOWN(palname); SHOWN(panelcode);
+SHOWN(firstfilename); SHOWN(secondfilename); SHOWN(preopened);
+SHOWN(datafile); SHOWN(elementkind); SHOWN(placemode); SHOWN(placex); SHOWN(placey); SHOWN(placez);
+SHOWN(rotz); SHOWN(rotx); SHOWN(facecode);
+SHOWN(rotstage); SHOWN(rotboxx); SHOWN(rotboxy); SHOWN(drawset); SHOWN(panelprefix); SHOWN(combinedcount);
+SHOWN(bmpimage);
+value linecount[linegroups + 1]; const entry linecounts("linecount", linecount, true);
+value ptcount[5]; const entry ptcounts("ptcount", ptcount, true);
+value wirecolour[linegroups + 1]; const entry wirecolours("wirecolour", wirecolour, false);
+KEPT(shapefile); KEPT(rowgrade); KEPT(rowcolour); KEPT(backred); KEPT(backgreen); KEPT(backblue);
+KEPT(curwirecolour); KEPT(recordtext); KEPT(drawtext); KEPT(girdercode); KEPT(roofcode); KEPT(anycode);
+KEPT(startgroup1); KEPT(startgroup2); KEPT(startgroup3); KEPT(startprefix); KEPT(startdone);
+KEPT(focusinc); KEPT(focusstep); KEPT(maginc); KEPT(shiftinc); KEPT(perpsumx); KEPT(perpsumy); KEPT(perpsumz);
+KEPT(facecolour); KEPT(framecolour); KEPT(railstart1); KEPT(railend1); KEPT(railstart2); KEPT(railend2); KEPT(framen);
+KEPT(capname); KEPT(capsidecar); KEPT(bmpfile); KEPT(bmpstem); KEPT(bmpext); KEPT(bmpsidecar);
+KEPT(curgroup); KEPT(startstep); KEPT(spareface); KEPT(anynumber); KEPT(focussign); KEPT(framesecond);
+// clang-format on
+#undef SHOWN
+#undef KEPT
+
+std::span<const scalar> scalars() { return registered(); }
 
 void subscriptfailure(const char* tablename, double index, int last) {
     throw failure(failurekind::subscript, std::string(tablename) + " has no index " + shortesttext(index) +
@@ -115,7 +113,8 @@ void resetworld() {
 
 void forgetworld() {
     for (tablebase* t = tablebase::first; t != nullptr; t = t->next) t->forget();
-    for (const scalar& s : scalars) *s.held = value();
+    for (const scalar& s : scalars()) *s.held = value();
+    for (double* d : {&planeseedx, &planeseedy, &planeseedz, &planecentrex, &planecentrey, &planecentrez}) *d = 0;
     walkcount = divisions = 0;
 }
 

@@ -6,6 +6,9 @@
 #include "core/table.h"
 #include "core/value.h"
 
+#include <span>
+#include <string>
+
 namespace tessaly {
 
 constexpr int lastpoint = 10000;     // of the point tables
@@ -29,11 +32,9 @@ extern table<value, lastpoint, clearedpoints> basex, basey, basez;  // model uni
 extern table<value, lastpoint, clearedpoints> ptx, pty, ptz;  // model units; relative to the focus while displaying
 extern table<value, lastpoint> savex, savey, savez;           // copy of ptx.. from which the near-side walk starts
 extern table<double, lastpoint> planex, planey, planez;       // model units: the sight line's hit of the picture plane
-extern table<double, lastpoint> planedist;           // model units: distance of that hit from the plane's centre
-extern table<double, lastpoint> planecos;            // cosine of the angle between hit and up reference
-extern table<double, lastpoint> planeup, planeside;  // model units on the picture plane
-extern table<double, lastpoint> screenx, screeny;    // viewport pixels, y down; screeny 9999: given up in this pass
-extern value ptcount[5];                             // points in use of blocks 1..4
+extern table<double, lastpoint> planeup, planeside;           // model units on the picture plane
+extern table<double, lastpoint> screenx, screeny;  // viewport pixels, y down; screeny 9999: given up in this pass
+extern value ptcount[5];                           // points in use of blocks 1..4
 inline value &ptcount1 = ptcount[1], &ptcount2 = ptcount[2], &ptcount3 = ptcount[3], &ptcount4 = ptcount[4];
 extern value drawset;  // 2: a projection walks blocks 1 to 4; anything else: blocks 1, 3 and 4
 
@@ -56,8 +57,7 @@ inline value &wirecolour1 = wirecolour[1], &wirecolour2 = wirecolour[2], &wireco
 // AUTOPLANE: faces start at 1, AUTOCUBE400: faces at 4001, AUTOCUBE600: faces at 6001, ten slots a cube.
 extern table<value, lastquad, clearedpoints> quad1, quad2, quad3, quad4;  // point indexes
 extern table<value, lastquad, clearedpoints> quadcolour;  // palette index; the painter changes it on turned ones
-extern table<value, lastquad, clearedpoints> quadface, quadgrade;  // kept with the quad; nothing draws by them
-extern table<value, lastquad, clearedpoints> framing1, framing2;   // framing lines along the two directions; 0: none
+extern table<value, lastquad, clearedpoints> framing1, framing2;  // framing lines along the two directions; 0: none
 extern table<double, lastquad> quaddist;  // model units: nearest corner to the eye; the sort uses it up
 extern table<double, lastquad> quadcornerdist1, quadcornerdist2, quadcornerdist3, quadcornerdist4;  // 1, 3, 2, 4
 extern table<value, lastquad> quadorder;  // quad indexes, nearest first
@@ -88,7 +88,7 @@ extern value magshown;                      // the figure of magtxt, a tenth of 
 extern double planeseedx, planeseedy, planeseedz;        // a point near the eye, relative to the focus
 extern double planecentrex, planecentrey, planecentrez;  // picture plane's centre, relative to the focus
 extern int walkcount;                                    // countdown of the near-side walk, shared by a line's ends
-extern value curgroup, curwirecolour;                    // line group being drawn and its palette index
+extern value curwirecolour;                              // palette index of the line group being drawn
 
 // ---- placement of the element about to be read -----------------------------------------------------------
 extern value datafile;                // name of the element file under datah
@@ -97,39 +97,38 @@ extern value placemode;               // 0 the file's script, 1 and 4 turn about
 extern value placex, placey, placez;  // layout units; placement turns x and y into world units in place
 extern value rotz;                    // degrees about Z; a script leaves radians here
 extern value rotx;                    // degrees about X; placement overwrites it with radians
-extern value facecode, spareface;     // recorded and carried along; nothing draws by them
+extern value facecode;                // recorded and carried along; nothing draws by it
 
 // ---- run mode --------------------------------------------------------------------------------------------
-extern value floorname;             // "1".."10", in design file names
-extern value floornum;              // the number read from the floor box or a file name
-extern value drawmode;              // 1 wireframe, 2 solid
-extern value recordmode;            // 1 recording to the design file, 0 not
-extern value recordtext, drawtext;  // the texts of writefilebox and wiresolid as last read
-extern value palname;               // palette file's name without folder and extension
-extern value panelprefix;           // first part of the panel file's name, set by the eight panel buttons
-extern value panelcode;             // code of the panel last chosen or replayed; the painter reads it
-extern value girdercode, roofcode, anycode, anynumber;  // codes and number of the record being replayed
-extern value firstfilename, secondfilename;             // names last picked in the file lists; the painter reads them
-extern value shapefile;                                 // the data file last read into the tables, for reports
-extern value preopened;  // 1..4: the reader of that number finds its file open on channel 1
+extern value floorname;                      // "1".."10", in design file names
+extern value floornum;                       // the number read from the floor box or a file name
+extern value drawmode;                       // 1 wireframe, 2 solid
+extern value recordmode;                     // 1 recording to the design file, 0 not
+extern value recordtext, drawtext;           // the texts of writefilebox and wiresolid as last read
+extern value palname;                        // palette file's name without folder and extension
+extern value panelprefix;                    // first part of the panel file's name, set by the eight panel buttons
+extern value panelcode;                      // code of the panel last chosen or replayed; the painter reads it
+extern value girdercode, roofcode, anycode;  // codes of the record being replayed
+extern value firstfilename, secondfilename;  // names last picked in the file lists; the painter reads them
+extern value shapefile;                      // the data file last read into the tables, for reports
+extern value preopened;                      // 1..4: the reader of that number finds its file open on channel 1
 
 // ---- start-up --------------------------------------------------------------------------------------------
-extern table<value, 12 * 9> viewpreset;  // twelve records of nine values (record r starts at 9r - 8), eye relative
 extern value startgroup1, startgroup2, startgroup3;  // file names without folder and extension
-extern value startstep, startprefix, startdone;
+extern value startprefix, startdone;
 
 // ---- view controls ---------------------------------------------------------------------------------------
-extern value rotstage;                        // 1 X falls, 2 Y rises, 3 X rises, 4 Y falls
-extern value rotboxx, rotboxy;                // absolute eye as last read from the boxes by an arrow
-extern value focusinc, focussign, focusstep;  // vertical focus step, its direction, and the signed step of shiftz
-extern value maginc, shiftinc;                // steps of magnification (box units) and shifts (pixels)
-extern value perpsumx, perpsumy, perpsumz;    // eye plus focus after a step
+extern value rotstage;                      // 1 X falls, 2 Y rises, 3 X rises, 4 Y falls
+extern value rotboxx, rotboxy;              // absolute eye as last read from the boxes by an arrow
+extern value focusinc, focusstep;           // vertical focus step, and the signed step of shiftz
+extern value maginc, shiftinc;              // steps of magnification (box units) and shifts (pixels)
+extern value perpsumx, perpsumy, perpsumz;  // eye plus focus after a step
 
 // ---- the solid painter -----------------------------------------------------------------------------------
 extern int divisions;                                     // intervals of the fill
 extern value facecolour, framecolour;                     // palette indexes of the quad being painted
 extern value railstart1, railend1, railstart2, railend2;  // point indexes of the edges that framing lines join
-extern value framen, framesecond;
+extern value framen;                                      // framing lines of a direction
 
 // ---- design records of a replay: one index is one record -------------------------------------------------
 // Filled by the file readers; rdorder is never cleared, so a slot that a sort does not fill keeps its old figure.
@@ -145,15 +144,28 @@ extern value combinedcount;  // records of both files of a combined replay
 extern value capname, capsidecar;                             // names of bitmap and view record being written
 extern value bmpfile, bmpstem, bmpext, bmpimage, bmpsidecar;  // names of an image retrieval
 
+// ---- written and never read ------------------------------------------------------------------------------
+// What the steps leave behind of what they read and worked out. Nothing draws by it and no file gets it; it is kept
+// because the world is to show all of a step to who looks into it, and nothing that a data file says gets lost.
+extern table<double, lastpoint> planedist;  // model units: distance of a point's hit from the plane's centre
+extern table<double, lastpoint> planecos;   // cosine of the angle between hit and up reference
+extern table<value, lastquad, clearedpoints> quadface, quadgrade;  // face number; grade of a cube's faces 1..4
+extern table<value, 12 * 9> viewpreset;  // twelve records of nine values (record r starts at 9r - 8), eye relative
+extern value startstep;                  // number of the start group being read
+extern value curgroup;                   // line group being drawn
+extern value spareface;                  // set by each click on a position
+extern value anynumber;                  // number of the record being replayed
+extern value focussign;                  // direction of the vertical focus step
+extern value framesecond;                // 1 while the first of two framing directions is drawn
+
 // A scalar by name, for reports of the program's state and for forgetting it.
 struct scalar {
-    const char* name;
+    std::string name;
     value* held;
     bool reported;  // stands in the written state
 };
-// All scalars, the reported ones in the order in which they are written.
-const scalar* scalarsbegin();
-const scalar* scalarsend();
+// All scalars that are values, the reported ones first and in the order in which they are written.
+std::span<const scalar> scalars();
 
 // Clears the tables for the next element: the counts of lines and points, indexes 1..7000 of working and base
 // coordinates, quads, framing, colours and grades, and indexes 1..700 of cubecolour. Everything else stays.
@@ -163,7 +175,7 @@ void resetworld();
 // never sets it.
 extern bool plainway;
 
-// Puts every table and scalar back to its state before the program started.
+// Puts every table and scalar of this header back to its state before the program started.
 void forgetworld();
 
 }  // namespace tessaly

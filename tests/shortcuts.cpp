@@ -41,10 +41,10 @@ moment thismoment(const raster& image, const std::string& report) {
         for (const value& v : t->elements()) d.add(v);
         seen.emplace_back(t->name, d.sum);
     }
-    for (const scalar* s = scalarsbegin(); s != scalarsend(); ++s) {
+    for (const scalar& s : scalars()) {
         digest d;
-        d.add(*s->held);
-        seen.emplace_back(s->name, d.sum);
+        d.add(*s.held);
+        seen.emplace_back(s.name, d.sum);
     }
     digest picture, failed;
     for (int i = 0; i < image.width() * image.height(); ++i) picture.add(image.pixels()[i]);

@@ -26,8 +26,8 @@ std::vector<stateline> programstate() {
         for (const control* c : w->controls)
             state.push_back(
                 {"control " + c->name, visibility(c->shown) + ' ' + inquotes(islist(*c) ? selectedtext(*c) : c->text)});
-    for (const scalar* s = scalarsbegin(); s != scalarsend(); ++s)
-        if (s->reported) state.push_back({std::string("value ") + s->name, statetext(*s->held)});
+    for (const scalar& s : scalars())
+        if (s.reported) state.push_back({"value " + s.name, statetext(*s.held)});
     return state;
 }
 
