@@ -95,9 +95,9 @@ void floorfromname(const std::string& name) {
     const char digit = stem.empty() ? ' ' : stem.back();
     if (digit < '0' || digit > '9')
         throw failure(failurekind::typemismatch,
-                      "designs\\" + name +
-                          ": the name tells no floor; a name girders, panels or roofs (or with their "
-                          "first four letters, as long) and the floor's digit was expected");
+                      "the name tells no floor; a name girders, panels or roofs (or with their first four letters, as "
+                      "long) and the floor's digit was expected",
+                      designpath(name));
     floornum = digit - '0';
     setfloor(floornum == 0 ? value(10) : floornum);
 }

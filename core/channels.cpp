@@ -41,7 +41,7 @@ channelstate& channelof(int channel) { return channels.at(static_cast<std::size_
 
 [[noreturn]] void systemfailure(const std::string& path, const char* what, int error) {
     const auto kind = error == ENOENT || error == ENOTDIR ? failurekind::filenotfound : failurekind::fileaccess;
-    throw failure(kind, path + " (" + what + "): " + std::strerror(error));
+    throw failure(kind, std::strerror(error), path + " (" + what + ")");
 }
 
 void expectfree(int channel, std::string_view path) {

@@ -21,14 +21,14 @@ std::uint8_t component(double figure) {
     return static_cast<std::uint8_t>(std::min(whole, 255.0));
 }
 
-// As makecolour; a component out of its range is told with its place in the files.
+// As makecolour; a component that is none is told with its place in the files.
 template <class placing>
 colour colourof(const value& red, const value& green, const value& blue, placing place) {
     try {
         return makecolour(red, green, blue);
-    } catch (const failure& f) {
-        if (f.kind == failurekind::typemismatch) throw;
-        throw failure(f.kind, place() + ": " + f.detail);
+    } catch (failure& f) {
+        f.tellplace(place());
+        throw;
     }
 }
 

@@ -21,8 +21,11 @@ std::string_view kindname(failurekind kind) {
     return "unknown failure";
 }
 
-failure::failure(failurekind failed, std::string why) : kind(failed), detail(std::move(why)) {
-    report = std::string(kindname(kind)) + ": " + detail;
+failure::failure(failurekind failed, std::string why, std::string where)
+    : kind(failed), detail(std::move(why)), place(std::move(where)) {}
+
+void failure::tellplace(const std::string& where) {
+    if (place.empty()) place = where;
 }
 
 double quotient(double dividend, double divisor, const char* what) {

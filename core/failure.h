@@ -25,27 +25,33 @@ enum class failurekind {
 std::string_view kindname(failurekind kind);
 
 struct failure : std::exception {
-    failure(failurekind failed, std::string why);
+    failure(failurekind failed, std::string why, std::string where = {});
+
+    // Tells the place, for whoever knows it on the failure's way up: the first one's counts, which is the nearest.
+    void tellplace(const std::string& where);
+
+    // Place and detail, and all three, in one line, as shown.
+    std::string told() const { return place.empty() ? detail : place + ": " + detail; }
+    std::string report() const { return std::string(kindname(kind)) + ": " + told(); }
+
+    const char* what() const noexcept override { return detail.c_str(); }
 
     failurekind kind;
-    std::string detail;  // what a person needs to mend it: file, line, field, what was expected
-    std::string report;  // kind and detail in one line, as shown
-
-    const char* what() const noexcept override { return report.c_str(); }
+    std::string detail;  // what was found and what was expected
+    std::string place;   // where to mend it: file, line and field, or text box; empty where it is no place's fault
 };
 
 // dividend / divisor; fails with division by zero naming what was being computed.
 double quotient(double dividend, double divisor, const char* what);
 
-// Runs step. An index outside a table, which a figure of a data file named, is told with place() before it, unless the
-// report tells the file already.
+// Runs step. An index outside a table was named by a figure of a data file, at place().
 template <class placing, class procedure>
 void tellmisses(placing place, procedure step) {
     try {
         step();
-    } catch (const failure& f) {
-        if (f.kind != failurekind::subscript || f.detail.starts_with("datah\\")) throw;
-        throw failure(f.kind, place() + ": " + f.detail);
+    } catch (failure& f) {
+        if (f.kind == failurekind::subscript) f.tellplace(place());
+        throw;
     }
 }
 

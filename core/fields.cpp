@@ -24,7 +24,7 @@ struct scanner {
     char next() const { return bytes[in.at]; }
 
     [[noreturn]] void pastend() const {
-        throw failure(failurekind::inputpastend, in.place() + ": the file ends while looking for " + what);
+        throw failure(failurekind::inputpastend, std::string("the file ends while looking for ") + what, in.place());
     }
     void skipblanks() {
         while (!atend() && isblank(next())) ++in.at;
@@ -102,7 +102,7 @@ struct scanner {
         try {
             number = strictnumber(front);
         } catch (const failure& beyond) {
-            throw failure(beyond.kind, in.place() + ": " + beyond.detail + " (" + what + ")");
+            throw failure(beyond.kind, beyond.detail + " (" + what + ")", in.place());
         }
         if (number) {
             in.at += front.size();
@@ -154,8 +154,9 @@ int readlabel(int channel, const char* what) {
     }
     label = nearestwhole(label);
     if (label < -32768 || label > 32767)
-        throw failure(failurekind::overflow, s.in.place(line, field) + ": " + shortesttext(label) + " as " + s.what +
-                                                 ", a whole number -32768..32767 was expected");
+        throw failure(failurekind::overflow,
+                      shortesttext(label) + " as " + s.what + ", a whole number -32768..32767 was expected",
+                      s.in.place(line, field));
     return static_cast<int>(label);
 }
 

@@ -98,13 +98,13 @@ std::string value::text() const {
 
 double value::converted() const {
     const pooled& held = pool()[form];
-    const std::string place = held.origin.empty() ? std::string() : held.origin + ": ";
     try {
         if (const auto number = strictnumber(held.text)) return *number;
-    } catch (const failure& beyond) {
-        throw failure(beyond.kind, place + beyond.detail);
+    } catch (failure& beyond) {
+        beyond.tellplace(held.origin);
+        throw;
     }
-    throw failure(failurekind::typemismatch, place + "\"" + held.text + "\" where a number was expected");
+    throw failure(failurekind::typemismatch, "\"" + held.text + "\" where a number was expected", held.origin);
 }
 
 std::optional<double> strictnumber(std::string_view text) {

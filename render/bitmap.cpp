@@ -67,7 +67,7 @@ void writebitmap(const raster& image, const std::string& path) {
     fs::path file = systempath(path);
     if (fs::is_symlink(file, ignored)) file = fs::weakly_canonical(file, ignored);
     if (fs::exists(file, ignored) && !std::ofstream(file, std::ios::app))
-        throw failure(failurekind::fileaccess, path + ": there is something of that name that cannot be written");
+        throw failure(failurekind::fileaccess, "there is something of that name that cannot be written", path);
 
     const fs::path unfinished = file.parent_path() / ("." + file.filename().string() + ".part");
     const bool aside = std::ofstream(unfinished).is_open();  // a folder may take no new name and yet this file
@@ -75,7 +75,7 @@ void writebitmap(const raster& image, const std::string& path) {
     if (aside && whole) fs::rename(unfinished, file, failed);
     if (whole && !failed) return;
     if (aside) fs::remove(unfinished, ignored);
-    throw failure(failurekind::fileaccess, path + ": the picture could not be written in whole");
+    throw failure(failurekind::fileaccess, "the picture could not be written in whole", path);
 }
 
 void readbitmap(raster& image, const std::string& path) {
@@ -83,10 +83,10 @@ void readbitmap(raster& image, const std::string& path) {
     const auto figure = [&](std::size_t at, int count) { return figureat(bytes, at, count); };
     if (bytes.size() < headbytes || !bytes.starts_with("BM") || figure(infoat, 4) != infobytes ||
         figure(depthat, 2) != 8 * pixelbytes || figure(packedat, 4) != 0)
-        throw failure(failurekind::invalidcall, path + " (picture): a bitmap of 24 bits a pixel was expected");
+        throw failure(failurekind::invalidcall, "a bitmap of 24 bits a pixel was expected", path + " (picture)");
     const std::size_t width = figure(widthat, 4), height = figure(heightat, 4), start = figure(startat, 4);
     if (std::max(width, height) > 65535 || bytes.size() < start + rowbytes(width) * height)
-        throw failure(failurekind::invalidcall, path + " (picture): the file is not whole");
+        throw failure(failurekind::invalidcall, "the file is not whole", path + " (picture)");
     for (std::size_t y = 0; y < std::min(height, static_cast<std::size_t>(image.height())); ++y)
         for (std::size_t x = 0; x < std::min(width, static_cast<std::size_t>(image.width())); ++x)
             image.pixels()[y * static_cast<std::size_t>(image.width()) + x] =

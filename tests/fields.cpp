@@ -76,7 +76,7 @@ TEST(fields, keysAreFoundByWholeFields) {
     EXPECT_EQ(readvalue(1, "it"), 1);
     const auto f = failureof([] { findkey(1, "OTHER:"); });
     ASSERT_TRUE(f);
-    EXPECT_EQ(f->report, "input past end of file: f.txt, line 5, field 1: the file ends while looking for OTHER:");
+    EXPECT_EQ(f->report(), "input past end of file: f.txt, line 5, field 1: the file ends while looking for OTHER:");
 }
 
 TEST(channels, refuseWhatIsOpenOrNotThere) {

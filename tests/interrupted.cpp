@@ -77,7 +77,7 @@ void expectappendfails() {
     const auto failed = failureof(appendpost);
     ASSERT_TRUE(failed);
     EXPECT_EQ(failed->kind, failurekind::fileaccess);
-    EXPECT_NE(failed->detail.find("designs\\girders1.txt"), std::string::npos) << failed->detail;
+    EXPECT_NE(failed->report().find("designs\\girders1.txt"), std::string::npos) << failed->report();
 }
 
 // No file may grow beyond this many bytes for as long as it lives.

@@ -61,7 +61,7 @@ TEST(set, aTextThatIsNoNumberEndsTheProgram) {
             const auto failed = failureof([&] { s.click("cventerbtn"); });
             ASSERT_TRUE(failed) << box;
             EXPECT_EQ(failed->kind, failurekind::typemismatch);
-            EXPECT_NE(failed->detail.find(box), std::string::npos) << failed->detail;
+            EXPECT_NE(failed->place.find(box), std::string::npos) << failed->place;
         }
 }
 

@@ -69,7 +69,7 @@ std::vector<moment> play(bool plainly, const filesbypath& files, int steps, proc
         try {
             step(s, i);
         } catch (const failure& f) {
-            report = f.report;
+            report = f.report();
             forgetchannels();
         }
         seen.push_back(thismoment(image, report));

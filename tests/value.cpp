@@ -58,8 +58,8 @@ TEST(value, textMeetsArithmetic) {
     EXPECT_TRUE(value("a").is("a") && value().is("") && !value(0).is("0") && !value("a").is("A"));
     const auto f = failureof([] { return value("ten", "datah\\x.txt, line 3, field 2") + 1; });
     ASSERT_TRUE(f);
-    EXPECT_EQ(f->report, "type mismatch: datah\\x.txt, line 3, field 2: \"ten\" where a number was expected");
-    EXPECT_EQ(failureof([] { return value("1e400", "text box magtxt") + 1; })->report,
+    EXPECT_EQ(f->report(), "type mismatch: datah\\x.txt, line 3, field 2: \"ten\" where a number was expected");
+    EXPECT_EQ(failureof([] { return value("1e400", "text box magtxt") + 1; })->report(),
               "overflow: text box magtxt: the number 1e400 is too large");
 }
 
@@ -83,7 +83,7 @@ TEST(world, resetClearsItsRangeOnly) {
     EXPECT_TRUE(basex[1] == 0 && basex[7000] == 0 && quad4[7000] == 0 && cubecolour[700] == 0);
     EXPECT_TRUE(linecount7 == 0 && ptcount2 == 0);
     EXPECT_TRUE(basex[0] == 5 && basex[7001] == 5 && quad4[7001] == 5 && savex[1] == 5 && cubecolour[701] == 5);
-    EXPECT_EQ(failureof([] { basex.set(10001, 1); })->report,
+    EXPECT_EQ(failureof([] { basex.set(10001, 1); })->report(),
               "subscript out of range: basex has no index 10001, an index 0..10000 was expected");
     EXPECT_EQ(failureof([] { return lineend1[value(-1)]; })->kind, failurekind::subscript);
 }

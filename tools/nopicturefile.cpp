@@ -8,7 +8,7 @@ namespace tessaly {
 void usepicturefiles() {}
 
 void savepicture(const raster&, const std::string& path) {
-    throw failure(failurekind::fileaccess, path + ": this player was built without the toolkit that writes pictures");
+    throw failure(failurekind::fileaccess, "this player was built without the toolkit that writes pictures", path);
 }
 
 }  // namespace tessaly

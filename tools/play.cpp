@@ -46,7 +46,7 @@ int play(std::istream& script, const std::string& name) {
         return 0;
     } catch (const failure& f) {
         std::fflush(stdout);
-        std::fprintf(stderr, "failure %s\n", f.report.c_str());
+        std::fprintf(stderr, "failure %s\n", f.report().c_str());
         return programfailed;
     } catch (const scripterror& error) {
         std::fflush(stdout);

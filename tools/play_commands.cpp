@@ -89,7 +89,7 @@ void picture(scriptline& line) {
     try {
         savepicture(playedsurface.image, path);
     } catch (const failure& f) {
-        throw scripterror(f.report);  // the player's own file: nothing of the program failed
+        throw scripterror(f.report());  // the player's own file: nothing of the program failed
     }
 }
 
@@ -135,7 +135,7 @@ void obeyline(std::string_view text) {
     try {
         known->obey(line);
     } catch (const failure& f) {
-        keepstep(text, f.report);
+        keepstep(text, f.report());
         throw;
     }
     if (known->acts) keepstep(text, "");

@@ -148,11 +148,11 @@ void endprogram(int status) {
 
 void reportfailure(const failure& f) {
     ending = true;  // behind the message nothing moves on
-    std::fprintf(stderr, "failure %s\n", f.report.c_str());
+    std::fprintf(stderr, "failure %s\n", f.report().c_str());
     std::fflush(stderr);
     const QString kind = QString::fromUtf8(kindname(f.kind).data());
     QMessageBox box(QMessageBox::Critical, "Tessaly",
-                    "Tessaly has met a failure and ends: " + kind + ".\n\n" + QString::fromStdString(f.detail),
+                    "Tessaly has met a failure and ends: " + kind + ".\n\n" + QString::fromStdString(f.told()),
                     QMessageBox::Ok, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -28,9 +28,9 @@ QImage viewof(const raster& image) {
 void writepng(const raster& image, const std::string& path) {
     QSaveFile file(QFile::decodeName(systempath(path).c_str()));
     if (!file.open(QIODevice::WriteOnly))
-        throw failure(failurekind::fileaccess, path + " (picture): " + file.errorString().toStdString());
+        throw failure(failurekind::fileaccess, file.errorString().toStdString(), path + " (picture)");
     if (!viewof(image).save(&file, "png") || !file.commit())
-        throw failure(failurekind::fileaccess, path + ": the picture could not be written in whole");
+        throw failure(failurekind::fileaccess, "the picture could not be written in whole", path);
 }
 
 // Whether a bitmap is shorter than its head says; the library would show the missing rows as black.
@@ -43,13 +43,13 @@ void readintoimage(raster& image, const std::string& path) {
     QFile file(QFile::decodeName(systempath(path).c_str()));
     if (!file.exists()) throw failure(failurekind::filenotfound, path + " (picture)");
     if (!file.open(QIODevice::ReadOnly))
-        throw failure(failurekind::fileaccess, path + " (picture): " + file.errorString().toStdString());
-    if (cutshort(file)) throw failure(failurekind::invalidcall, path + " (picture): the file is not whole");
+        throw failure(failurekind::fileaccess, file.errorString().toStdString(), path + " (picture)");
+    if (cutshort(file)) throw failure(failurekind::invalidcall, "the file is not whole", path + " (picture)");
     QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     const QImage picture = reader.read().convertToFormat(QImage::Format_RGB32);
     if (picture.isNull())
-        throw failure(failurekind::invalidcall, path + " (picture): " + reader.errorString().toStdString());
+        throw failure(failurekind::invalidcall, reader.errorString().toStdString(), path + " (picture)");
     const int wide = std::min(picture.width(), image.width());
     const int high = std::min(picture.height(), image.height());
     for (int y = 0; y < high; ++y) {
@@ -71,7 +71,7 @@ void usepicturefiles() { readpicture = readintoimage; }
 void savepicture(const raster& image, const std::string& path) {
     if (endswithnocase(path, ".png")) return writepng(image, path);
     if (endswithnocase(path, ".bmp")) return writebitmap(image, path);
-    throw failure(failurekind::fileaccess, path + ": a name that ends in .png or .bmp was expected");
+    throw failure(failurekind::fileaccess, "a name that ends in .png or .bmp was expected", path);
 }
 
 }  // namespace tessaly
