@@ -3,10 +3,9 @@
 #include "captures/capture.h"
 
 #include "core/channels.h"
-#include "core/controls.h"
 #include "core/failure.h"
+#include "core/viewfigures.h"
 #include "core/windows1252.h"
-#include "core/world.h"
 #include "render/surface.h"
 
 namespace tessaly {
@@ -16,9 +15,7 @@ namespace {
 // Nine fields in quotation marks; nothing in them is escaped, also not a quotation mark.
 std::string viewrecord() {
     std::string record;
-    for (const control* box :
-         {&perptxtx, &perptxty, &perptxtz, &focustxtx, &focustxty, &focustxtz, &magtxt, &verttxt, &horiztxt})
-        record += (record.empty() ? "\"" : ",\"") + towindows1252(box->text) + '"';
+    for (const viewfigure& f : viewfigures) record += (record.empty() ? "\"" : ",\"") + towindows1252(f.box.text) + '"';
     return record + "\r\n";
 }
 

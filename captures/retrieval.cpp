@@ -6,26 +6,19 @@
 #include "captures/capture.h"
 #include "core/channels.h"
 #include "core/colour.h"
-#include "core/controls.h"
 #include "core/failure.h"
 #include "core/fields.h"
-#include "core/viewboxes.h"
+#include "core/viewfigures.h"
 #include "core/windows1252.h"
-#include "core/world.h"
 #include "render/projector.h"
 #include "render/redraw.h"
 #include "render/surface.h"
 
-#include <array>
-#include <iterator>
+#include <vector>
 
 namespace tessaly {
 
 namespace {
-
-constexpr const char* fieldnames[] = {"eye X",   "eye Y",         "eye Z",          "focus X",         "focus Y",
-                                      "focus Z", "magnification", "vertical shift", "horizontal shift"};
-using viewrecord = std::array<value, std::size(fieldnames)>;
 
 // From the name picked to the names of its pair. Another ending leaves the bitmap of the retrieval before.
 void namefiles() {
@@ -37,51 +30,38 @@ void namefiles() {
 }
 
 // The first nine fields, as texts. A record that ends early leaves the channel open: every later opening of it fails.
-viewrecord readviewrecord() {
+std::vector<value> readviewrecord() {
     const std::string path = "bmps\\" + bmpsidecar.text();
-    viewrecord fields;
+    std::vector<value> fields;
     openinput(1, path, "view record");
-    for (std::size_t i = 0; i < fields.size(); ++i)
-        fields[i] = value(fromwindows1252(readtextfield(1, fieldnames[i])), path + " (" + fieldnames[i] + ")");
+    for (const viewfigure& f : viewfigures)
+        fields.emplace_back(fromwindows1252(readtextfield(1, f.word)), path + " (" + f.word + ")");
     closechannel(1);
     return fields;
 }
 
-void takeview(const viewrecord& fields) {
-    perpx = fields[0];
-    perpy = fields[1];
-    perpz = fields[2];
-    focusx = fields[3];
-    focusy = fields[4];
-    focusz = fields[5];
-    mag = fields[6];
-    vertshift = fields[7];
-    horizshift = fields[8];
-    perprelx = perpx;
-    perprely = perpy;
-    perprelz = perpz;
-}
-
-void writeboxes() {
+void writenineboxes() {
     constexpr std::size_t cut = 9;
     sumabsoluteeye();
     writeeyeboxes(perpabsx, perpabsy, perpabsz, cut);
-    writefocusboxes(cut);
+    writeboxes(focusfigures, cut);
     magtxt.text = boxtext(mag / 10, cut);
-    writeshiftboxes(cut);
+    writeboxes(shiftfigures, cut);
     copyboxestoeasyviews();
 }
 
 void bringback() {
     namefiles();
-    const viewrecord fields = readviewrecord();
+    const std::vector<value> fields = readviewrecord();
     perprelative = 0;
     restorepoints();
-    takeview(fields);
+    auto field = fields.begin();
+    for (const viewfigure& f : viewfigures) f.figure = *field++;
+    keepeye();
     // Less than other clears: what lies beyond shows until the bitmap covers it.
     viewportsurface->wash(1, 1125, 1, 829, backgroundcolour());
     projectdraw();
-    writeboxes();
+    writenineboxes();
     viewportsurface->setpicture("bmps\\" + bmpimage.text());
 }
 

@@ -4,15 +4,14 @@
 #include "data/startdisplay.h"
 
 #include "core/channels.h"
-#include "core/controls.h"
 #include "core/fields.h"
-#include "core/world.h"
+#include "core/viewfigures.h"
 #include "data/cubes.h"
 #include "data/elements.h"
 #include "data/transforms.h"
 #include "render/palette.h"
 #include "render/projector.h"
-#include "render/surface.h"
+#include "render/redraw.h"
 
 namespace tessaly {
 
@@ -22,12 +21,11 @@ constexpr const char* presetkeys[] = {
     "HighZ(full)",  "HighZ(zoom)",  "FarX(full)",   "FarX(zoom)",   "FarY(full)",   "FarY(zoom)",
     "Perspective1", "Perspective2", "Perspective3", "Perspective4", "Perspective5", "Perspective6",
 };
-constexpr int viewvalues = 9;
+constexpr int viewvalues = std::size(viewfigures);
 
 void readdefaultview() {
     findkey(1, "DEFAULTVIEW:");
-    for (value* v : {&perpx, &perpy, &perpz, &focusx, &focusy, &focusz, &mag, &vertshift, &horizshift})
-        *v = readvalue(1, "a figure of DEFAULTVIEW:");
+    for (const viewfigure& f : viewfigures) f.figure = readvalue(1, "a figure of DEFAULTVIEW:");
 }
 
 // A preset's eye is kept relative to its focus.
@@ -98,7 +96,7 @@ void displaygroup() {
 void startdisplay() {
     if (startdone != 1) {
         readstartfile();
-        viewportsurface->wash(1, 1450, 1, 1010, backgroundcolour());
+        clearpicture();
     }
     int step = 0;
     for (const value* name : {&startgroup1, &startgroup2, &startgroup3}) {

@@ -3,9 +3,8 @@
 
 #include "render/projector.h"
 
-#include "core/controls.h"
 #include "core/failure.h"
-#include "core/world.h"
+#include "core/viewfigures.h"
 #include "render/surface.h"
 
 #include <cmath>
@@ -125,31 +124,18 @@ int lineend(const table<value, lastline>& ends, int line, int end) {
                                               std::to_string(lastpoint) + " was expected");
 }
 
-// Moves eye and focus out of the positions in which the projection would divide by zero or see a line end on. Exact
-// comparisons of the figures, in this order.
-void fixup() {
-    const auto same = [](double a, double b) { return a == b; };
-    const auto ratio = [](double a, double b) { return quotient(a, b, "ratio of eye or focus coordinates"); };
-    if (same(focusx, perpx) && same(focusy, perpy)) perpx = perpx * 0.997;
-    if (same(focusx, perpx) && same(focusz, perpz)) perpx = perpx * 0.998;
-    if (same(focusy, perpy) && same(focusz, perpz)) perpy = perpy * 0.999;
-    for (value* figure : {&focusy, &focusx, &focusz, &perpx, &perpy, &perpz})
-        if (*figure == 0) *figure = 0.1;
-    if (ratio(perpx, perpy) == ratio(focusx, focusy)) perpx = perpx * 0.997;
-    if (ratio(perpx, perpz) == ratio(focusx, focusz)) perpx = perpx * 0.998;
-    if (ratio(perpy, perpz) == ratio(focusy, focusz)) perpy = perpy * 0.999;
-    perprelx = perpx;
-    perprely = perpy;
-    perprelz = perpz;
-    viewprompt = "PROMPT";
-}
+bool samenumber(const value& focus, const value& eye) { return double(eye) == double(focus); }
 
 void prepareview() {
     if (skipfixup == 1) {
         skipfixup = 0;
     } else {
         refready = 0;
-        if (viewprompt.is("AUTOMA")) fixup();
+        if (viewprompt.is("AUTOMA")) {
+            nudgeview(samenumber);
+            keepeye();
+            viewprompt = "PROMPT";
+        }
         mag = 10 * mag;
     }
     relateeye();
@@ -157,19 +143,12 @@ void prepareview() {
 
 void writeviewback() {
     rebasedone = 0;
-    perpabsx = perprelx + focusx;
-    perpabsy = perprely + focusy;
-    perpabsz = perprelz + focusz;
+    sumabsoluteeye();
     magshown = mag * 0.1;
-    perptxtx.text = boxtext(perpabsx);
-    perptxty.text = boxtext(perpabsy);
-    perptxtz.text = boxtext(perpabsz);
-    focustxtx.text = boxtext(focusx);
-    focustxty.text = boxtext(focusy);
-    focustxtz.text = boxtext(focusz);
+    writeeyeboxes(perpabsx, perpabsy, perpabsz, std::string::npos);
+    writeboxes(focusfigures, std::string::npos);
     magtxt.text = boxtext(magshown);
-    verttxt.text = boxtext(vertshift, 5);
-    horiztxt.text = boxtext(horizshift, 5);
+    writeboxes(shiftfigures, 5);
 }
 
 }  // namespace
@@ -260,15 +239,37 @@ void drawgroups() {
     }
 }
 
+void keepeye() {
+    perprelx = perpx;
+    perprely = perpy;
+    perprelz = perpz;
+}
+
 void relateeye() {
     if (perprelative != 0) return;
     perpx = perpx - focusx;
     perpy = perpy - focusy;
     perpz = perpz - focusz;
     perprelative = 1;
-    perprelx = perpx;
-    perprely = perpy;
-    perprelz = perpz;
+    keepeye();
+}
+
+void sumabsoluteeye() {
+    perpabsx = perprelx + focusx;
+    perpabsy = perprely + focusy;
+    perpabsz = perprelz + focusz;
+}
+
+void nudgeview(bool (*same)(const value& focus, const value& eye)) {
+    constexpr double shares[] = {0.997, 0.998, 0.999}, nearlynothing = 0.1;
+    if (same(focusx, perpx) && same(focusy, perpy)) perpx = perpx * shares[0];
+    if (same(focusx, perpx) && same(focusz, perpz)) perpx = perpx * shares[1];
+    if (same(focusy, perpy) && same(focusz, perpz)) perpy = perpy * shares[2];
+    for (value* figure : {&focusy, &focusx, &focusz, &perpx, &perpy, &perpz})
+        if (*figure == 0) *figure = nearlynothing;  // and no divisor is 0 from here on
+    if (perpx / perpy == focusx / focusy) perpx = perpx * shares[0];
+    if (perpx / perpz == focusx / focusz) perpx = perpx * shares[1];
+    if (perpy / perpz == focusy / focusz) perpy = perpy * shares[2];
 }
 
 void rebaseonfocus() {

@@ -40,8 +40,18 @@ void drawlines(int first, int last, const value& palettecolourindex);
 // The ten groups one after the other, those with a count.
 void drawgroups();
 
-// Turns an absolute eye relative to the focus, once.
+// Keeps the eye as the view's: perprelx.. = perpx..
+void keepeye();
+
+// Turns an absolute eye relative to the focus, once, and keeps it.
 void relateeye();
+
+// perpabsx.. = perprelx.. + focusx..
+void sumabsoluteeye();
+
+// Moves eye and focus out of the positions in which the projection would divide by zero or see a line end on, step by
+// step in a fixed order; same tells how the first three steps compare. fails: type mismatch.
+void nudgeview(bool (*same)(const value& focus, const value& eye));
 
 // Moves the working points of the blocks of drawset by minus the focus and keeps them in savex...
 void rebaseonfocus();

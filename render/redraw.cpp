@@ -8,9 +8,17 @@
 
 namespace tessaly {
 
+namespace {
+
+constexpr int rightmost = 1450, lowest = 1010;  // of a clear: more than the surface shows
+
+}  // namespace
+
+void clearpicture() { viewportsurface->wash(1, rightmost, 1, lowest, backgroundcolour()); }
+
 void replot() {
     // From 2 on, unlike every other clear: row 1 and column 1 keep what was drawn there. It stays so.
-    viewportsurface->wash(2, 1450, 2, 1010, backgroundcolour());
+    viewportsurface->wash(2, rightmost, 2, lowest, backgroundcolour());
     setplane();
     referencepass();
     drawgroups();

@@ -4,6 +4,9 @@
 
 namespace tessaly {
 
+// Wipes the whole of viewport in the background colour. fails: as backgroundcolour.
+void clearpicture();
+
 // Wipes viewport from (2, 2) on in the background colour and draws the ten groups from the working points.
 // reads: points, groups, eye, mag, shifts, refready; writes: plane and screen tables, refready; fails: as projectdraw.
 void replot();

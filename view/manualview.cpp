@@ -2,75 +2,35 @@
 
 #include "view/manualview.h"
 
-#include "core/colour.h"
-#include "core/failure.h"
-#include "core/viewboxes.h"
-#include "core/world.h"
 #include "render/projector.h"
 #include "render/redraw.h"
-#include "render/surface.h"
+#include "view/viewboxes.h"
 
 namespace tessaly {
 
 namespace {
 
-control* const hiddenboxes[] = {&perptxtx, &perptxty, &perptxtz, &focustxtx, &focustxty, &focustxtz, &magtxt};
-
-void takeboxes() {
-    perpx = boxvalue(perptxtx);
-    perpy = boxvalue(perptxty);
-    perpz = boxvalue(perptxtz);
-    focusx = boxvalue(focustxtx);
-    focusy = boxvalue(focustxty);
-    focusz = boxvalue(focustxtz);
-    mag = boxvalue(magtxt);
-    vertshift = boxvalue(verttxt);
-    horizshift = boxvalue(horiztxt);
-}
-
-// Character by character: "100" is not "100.0", and a number is the same as no text.
+// Character by character: "100" is not "100.0", and a number is the same as no text. An eye that has been moved is a
+// number, and so is out of the comparisons that follow.
 bool sametext(const value& a, const value& b) { return a.istext() && b.istext() && a.text() == b.text(); }
-
-bool sameratio(const value& a, const value& b, const value& c, const value& d) {
-    return quotient(a, b, "ratio of eye coordinates") == quotient(c, d, "ratio of focus coordinates");
-}
-
-// Moves eye and focus out of sight lines that the projection cannot carry. The first three compare what was typed, and
-// an eye that one of them has moved is a number, which the next do not see any more.
-void nudge() {
-    if (sametext(focusx, perpx) && sametext(focusy, perpy)) perpx = perpx * 0.997;
-    if (sametext(focusx, perpx) && sametext(focusz, perpz)) perpx = perpx * 0.998;
-    if (sametext(focusy, perpy) && sametext(focusz, perpz)) perpy = perpy * 0.999;
-    for (value* figure : {&focusy, &focusx, &focusz, &perpx, &perpy, &perpz})
-        if (*figure == 0) *figure = 0.1;
-    if (sameratio(perpx, perpy, focusx, focusy)) perpx = perpx * 0.997;
-    if (sameratio(perpx, perpz, focusx, focusz)) perpx = perpx * 0.998;
-    if (sameratio(perpy, perpz, focusy, focusz)) perpy = perpy * 0.999;
-}
-
-void keepeye() {
-    perprelx = perpx;
-    perprely = perpy;
-    perprelz = perpz;
-}
 
 }  // namespace
 
 void clickcventerbtn() {
     perprelative = 0;
     restorepoints();
-    takeboxes();
-    nudge();
+    for (const viewfigure& f : viewfigures) f.figure = boxvalue(f.box);
+    nudgeview(sametext);
     keepeye();
-    viewportsurface->wash(1, 1450, 1, 1010, backgroundcolour());
+    clearpicture();
     projectdraw();
     sumabsoluteeye();
     // A character less for the last three than a step writes: a shift of -1270 reads -127 from here on, and the next
     // SET takes that. The box is the truth after SET.
     writeeyeboxes(perpabsx, perpabsy, perpabsz, 5);
-    writefocusboxes(5);
+    writeboxes(focusfigures, 5);
     magtxt.text = boxtext(mag / 10, 5);
-    writeshiftboxes(4);
+    writeboxes(shiftfigures, 4);
     copyboxestoeasyviews();
 }
 
@@ -92,13 +52,13 @@ void clickdefaultviewbtn() {
 }
 
 void clickhidpfm() {
-    for (control* box : hiddenboxes) hide(*box);
+    for (const viewfigure& f : taggedfigures) hide(f.box);
     hide(hidpfm);
     show(shopfm);
 }
 
 void clickshopfm() {
-    for (control* box : hiddenboxes) show(*box);
+    for (const viewfigure& f : taggedfigures) show(f.box);
     show(hidpfm);
     hide(shopfm);
 }
@@ -112,11 +72,8 @@ void drawrelativeview() {
     sumabsoluteeye();
     settle();
     replot();
-    sumeye();
-    writeeyeboxes(perpsumx, perpsumy, perpsumz, 5);
-    writefocusboxes(5);
-    magtxt.text = boxtext(magshown, 6);
-    writeshiftboxes(5);
+    writesteppedview();
+    writeboxes(shiftfigures, 5);
 }
 
 }  // namespace tessaly

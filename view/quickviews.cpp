@@ -2,7 +2,7 @@
 
 #include "view/quickviews.h"
 
-#include "core/viewboxes.h"
+#include "core/viewfigures.h"
 
 #include <algorithm>
 #include <iterator>
@@ -58,23 +58,23 @@ constexpr std::string_view focuscopier = "perpx0ym1800";
 
 constexpr int buttonsize = 255;  // twips
 
-// What the places of a kind share: their boxes on easyviews and on the main window, and how they look and sound.
+// What the places of a kind share: the figures that they stand for, X and Y or Z, and how they look and sound.
 struct kindrow {
-    control *boxes[2], *mainboxes[2];
+    figurespan figures;
     colour back;
     const char* spoken;
 };
 const kindrow kinds[] = {
     // clang-format off
-    {{&eperpxbox,  &eperpybox},  {&perptxtx,  &perptxty},  {192, 255, 192}, "Eye"},
-    {{&eperpzbox,  nullptr},     {&perptxtz,  nullptr},    {255, 192, 255}, "Eye"},
-    {{&efocusxbox, &efocusybox}, {&focustxtx, &focustxty}, {128, 128, 255}, "Focus"},
-    {{&efocuszbox, nullptr},     {&focustxtz, nullptr},    {255,   0,   0}, "Focus"},
+    {eyefigures.first(2),   {192, 255, 192}, "Eye"},
+    {eyefigures.last(1),    {255, 192, 255}, "Eye"},
+    {focusfigures.first(2), {128, 128, 255}, "Focus"},
+    {focusfigures.last(1),  {255,   0,   0}, "Focus"},
     // clang-format on
 };
 
 const kindrow& kindof(const quickview& q) { return kinds[static_cast<int>(q.kind)]; }
-bool isheight(const quickview& q) { return kindof(q).boxes[1] == nullptr; }
+bool isheight(const quickview& q) { return kindof(q).figures.size() == 1; }
 
 // "Eye at X 1800, Y 0", "Focus at Z 850": by the figures that the button writes.
 std::string spoken(const quickview& q) {
@@ -118,11 +118,10 @@ const quickview* quickviewof(const control& c) {
 }
 
 void clickquickview(const quickview& q) {
-    const kindrow& kind = kindof(q);
-    const int count = isheight(q) ? 1 : 2;
-    for (int i = 0; i < count; ++i) kind.boxes[i]->text = std::to_string(q.figures[i]);
+    int i = 0;
+    for (const viewfigure& f : kindof(q).figures) f.copy->text = std::to_string(q.figures[i++]);
     if (q.name == focuscopier) focustxtx.text = efocusxbox.text;
-    for (int i = 0; i < count; ++i) kind.mainboxes[i]->text = kind.boxes[i]->text;
+    for (const viewfigure& f : kindof(q).figures) f.box.text = f.copy->text;
 }
 
 }  // namespace tessaly

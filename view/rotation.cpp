@@ -3,10 +3,9 @@
 
 #include "view/rotation.h"
 
-#include "core/viewboxes.h"
-#include "core/world.h"
 #include "render/redraw.h"
 #include "view/manualview.h"
+#include "view/viewboxes.h"
 
 namespace tessaly {
 

@@ -2,9 +2,8 @@
 
 #include "view/stepping.h"
 
-#include "core/viewboxes.h"
-#include "core/world.h"
 #include "render/redraw.h"
+#include "view/viewboxes.h"
 
 namespace tessaly {
 
@@ -14,13 +13,6 @@ constexpr double usualfocusstep = 50, usualperpstep = 100;  // model units
 constexpr double usualmagstep = 0.001;                      // units of magtxt
 constexpr double usualshiftstep = 50;                       // viewport pixels
 constexpr double magscale = 10;                             // mag while displaying over its figure in magtxt
-
-void writesevenboxes() {
-    sumeye();
-    writeeyeboxes(perpsumx, perpsumy, perpsumz, 5);
-    writefocusboxes(5);
-    magtxt.text = boxtext(magshown, 6);
-}
 
 // The eye is kept relative to the focus: it moves against it and so stays in its place.
 void stepfocus(int sign) {
@@ -32,8 +24,8 @@ void stepfocus(int sign) {
     settle();
     focusstep = sign * focusinc;
     shiftz();
-    writesevenboxes();
-    copytoeasyviews(focustxtz, efocuszbox);
+    writesteppedview();
+    copytoeasyviews(focusfigures[2]);
 }
 
 void stepperp(int sign) {
@@ -42,8 +34,8 @@ void stepperp(int sign) {
     perprelz = perpz;
     settle();
     replot();
-    writesevenboxes();
-    copytoeasyviews(perptxtz, eperpzbox);
+    writesteppedview();
+    copytoeasyviews(eyefigures[2]);
 }
 
 void stepmag(int sign) {

@@ -14,7 +14,7 @@
 #include "core/world.h"
 #include "data/cubes.h"
 #include "data/startdisplay.h"
-#include "render/surface.h"
+#include "render/redraw.h"
 #include "view/manualview.h"
 #include "view/quickviews.h"
 #include "view/rotation.h"
@@ -53,7 +53,7 @@ void clickstartprogrambtn() {
     showwindow(vistaplan);
 }
 
-void clickfillscreen() { viewportsurface->wash(1, 1450, 1, 1010, backgroundcolour()); }
+void clickfillscreen() { clearpicture(); }
 
 void clickexitbtn() {
     for (window* w : {&startform, &vistaplan, &easyviews, &instructions, &layoutgirder, &layoutpanels, &layoutroof})

@@ -1,5 +1,6 @@
 // The main window: maximised at the start, with its keys.
 
+#include "core/viewfigures.h"
 #include "windows/handlers.h"
 #include "windows/qt/binding.h"
 #include "windows/qt/look.h"
@@ -14,14 +15,7 @@ namespace tessaly {
 
 namespace {
 
-// The seven boxes over the picture have no labels beside them: each carries a word at its right end.
-struct boxtag {
-    const control* of;
-    const char* word;
-};
-const boxtag tags[] = {{&perptxtx, "persp X"},  {&perptxty, "persp Y"},  {&perptxtz, "persp Z"},
-                       {&focustxtx, "focus X"}, {&focustxty, "focus Y"}, {&focustxtz, "focus Z"},
-                       {&magtxt, "mag"}};
+// The seven boxes over the picture have no labels beside them: each carries its tag at its right end.
 constexpr int tagpixels = 9;
 const QColor hintpaper(255, 255, 225);
 
@@ -66,9 +60,9 @@ void makereadonly(const control& c) {
 }  // namespace
 
 void dressvistaplan(face& f) {
-    for (const boxtag& t : tags) {
-        auto* box = qobject_cast<QLineEdit*>(widgetof(*t.of));
-        auto* word = new tag(t.word, box);
+    for (const viewfigure& over : taggedfigures) {
+        auto* box = qobject_cast<QLineEdit*>(widgetof(over.box));
+        auto* word = new tag(over.tag, box);
         box->setTextMargins(1, 0, word->width() - 2, 0);
     }
     for (const control* c : {&Label4, &Label5, &Label6, &vert, &horizlabel})
