@@ -6,6 +6,7 @@
 #include "building/records.h"
 #include "core/channels.h"
 #include "core/failure.h"
+#include "core/windows1252.h"
 #include "core/world.h"
 
 namespace tessaly {
@@ -52,7 +53,7 @@ std::string_view firstcharacters(std::string_view text, int n) {
     std::size_t end = 0;
     for (; n > 0 && end < text.size(); --n) {
         ++end;
-        while (end < text.size() && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80) ++end;
+        while (end < text.size() && continuescharacter(text[end])) ++end;
     }
     return text.substr(0, end);
 }

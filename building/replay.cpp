@@ -15,8 +15,7 @@ namespace tessaly {
 
 namespace {
 
-constexpr int planoriginx = 488, planoriginy = 680;  // layout units of the world's origin
-constexpr double nearestchosen = 1;                  // a sort's first best distance, which is to be exceeded
+constexpr double nearestchosen = 1;  // a sort's first best distance, which is to be exceeded
 
 // The strip, in its own pixels, y down: rows of one pixel from x 1 to x 17, and the row just below its last one.
 constexpr float stripleft = 1, stripright = 17;

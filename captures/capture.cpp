@@ -56,7 +56,7 @@ std::string stemof(const value& name) {
         if (end == 0)
             throw failure(failurekind::invalidcall,
                           "\"" + whole + "\" as a file name in bmps, four characters or more were expected");
-        for (--end; end > 0 && (static_cast<unsigned char>(whole[end]) & 0xC0) == 0x80;) --end;  // a UTF-8 character
+        for (--end; end > 0 && continuescharacter(whole[end]);) --end;  // a UTF-8 character
     }
     return whole.substr(0, end);
 }

@@ -10,7 +10,6 @@ namespace tessaly {
 
 namespace {
 
-bool isblank(char c) { return c == ' ' || c == '\t'; }
 bool islineend(char c) { return c == '\n' || c == '\r'; }
 
 struct scanner {

@@ -4,6 +4,8 @@
 // what: the field's role, for reports ("x of a STANDARD: row").
 #pragma once
 
+#include "core/channels.h"
+#include "core/failure.h"
 #include "core/value.h"
 
 #include <string_view>
@@ -27,5 +29,11 @@ std::string_view readtextfield(int channel, const char* what);
 
 // Reads text fields until one equals key exactly.
 void findkey(int channel, const char* key);
+
+// Runs step with a row of a section: an index outside a table is told with the place at which the row began.
+template <class procedure>
+void tellrow(int channel, int line, int field, std::string_view section, procedure step) {
+    tellmisses([&] { return channelinput(channel).place(line, field) + " (" + std::string(section) + ")"; }, step);
+}
 
 }  // namespace tessaly

@@ -36,7 +36,6 @@ std::uint32_t poolplace(std::string_view text, std::string_view origin) {
     return found->second;
 }
 
-bool isblank(char c) { return c == ' ' || c == '\t'; }
 bool isdigit(char c) { return c >= '0' && c <= '9'; }
 
 // The length of the number at the front of text (sign, digits, point, digits, exponent), 0 when there are no digits.

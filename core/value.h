@@ -44,6 +44,9 @@ class value {
 };
 static_assert(sizeof(value) <= 16);
 
+// Blanks may stand around a number and before a field.
+inline bool isblank(char c) { return c == ' ' || c == '\t'; }
+
 // A text that is a number as a whole: blanks around it, sign, digits with one point, exponent. Nothing for any
 // other text; fails with overflow where the number is beyond double precision.
 std::optional<double> strictnumber(std::string_view text);

@@ -18,8 +18,6 @@ static_assert(std::size(fromeighty) == 0x20);
 
 constexpr char32_t nocharacter = 0xFFFFFFFF;
 
-bool continues(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
-
 // Takes the first character off a UTF-8 text; a byte that begins none is taken alone.
 char32_t takecharacter(std::string_view& text) {
     const auto lead = static_cast<unsigned char>(text.front());
@@ -29,7 +27,7 @@ char32_t takecharacter(std::string_view& text) {
     if (more == 0) return nocharacter;
     char32_t character = lead & (0x3Fu >> more);
     for (int i = 0; i < more; ++i) {
-        if (text.empty() || !continues(text.front())) return nocharacter;
+        if (text.empty() || !continuescharacter(text.front())) return nocharacter;
         character = character << 6 | (static_cast<unsigned char>(text.front()) & 0x3Fu);
         text.remove_prefix(1);
     }

@@ -6,6 +6,9 @@
 
 namespace tessaly {
 
+// Whether a byte of UTF-8 goes on with a character that one before it began.
+inline bool continuescharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
+
 // A UTF-8 text in Windows-1252: a character outside it becomes "?", and so does a byte that is no UTF-8.
 std::string towindows1252(std::string_view text);
 

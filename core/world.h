@@ -24,6 +24,8 @@ constexpr int referencepoint = 8001;  // the picture plane's up reference
 constexpr int framingscratch = 7001;  // first point and first line of the painter's framing lines
 constexpr int framinggroup = 11;
 constexpr double sentinel = 9999;  // ends rows in all data files, and marks a failed point in screeny
+inline bool endsrows(const value& v) { return !v.istext() && v == sentinel; }
+constexpr int planoriginx = 488, planoriginy = 680;  // the world's origin in layout units
 
 // ---- points: parallel tables, one index is one point ----------------------------------------------------
 // Blocks start at 1, 2001, 4001, 6001 and are walked over their count; 8001 is the up reference; 7001.. is also

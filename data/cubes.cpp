@@ -64,17 +64,18 @@ void readcubeframing(const char* key, table<value, lastquad, clearedpoints>& fra
         const value first = readvalue(1, "the first quad of a framing row");
         const value last = readvalue(1, "the last quad of a framing row");
         const value count = readvalue(1, "the count of a framing row");
-        const bool end = !count.istext() && count == sentinel;
+        const bool end = endsrows(count);
         const auto frame = [&] {
             if (end) return framing.set(value(walked), 0);
             for (walked = first; walked <= last; walked += 10) framing.set(value(walked), count);
         };
-        tellmisses([&] { return channelinput(1).place(line, field) + " (" + key + ")"; }, frame);
+        tellrow(1, line, field, key, frame);
         if (end) return;
     }
 }
 
-void readcubesections(axis stepped) {
+template <axis stepped>
+void readcubesections() {
     findkey(1, "WIRECOLORS:");
     for (int group = 6; group <= 9; ++group) wirecolour[group] = readvalue(1, "a wire colour (WIRECOLORS:)");
 
@@ -101,24 +102,16 @@ void readcubesections(axis stepped) {
     readcubeframing("AUTOFRAMING2:", framing2);
 }
 
-void readcubefile(axis stepped, int ownpreopened) {
-    resetworld();
-    const bool opened = preopened == ownpreopened;
-    if (!opened) openinput(1, "datah\\" + datafile.text(), "axis-cube file");
-    shapefile = channelinput(1).path;
-    tellmisses([] { return channelinput(1).place(); }, [stepped] { readcubesections(stepped); });
-    if (opened) return;
+bool placecubes() {
     runtransforms();
-    closechannel(1);
-    drawset = 2;
-    plotgroups();
+    return true;
 }
 
 }  // namespace
 
-void readcubex() { readcubefile(alongx, 2); }
-void readcubey() { readcubefile(alongy, 3); }
-void readcubez() { readcubefile(alongz, 4); }
+void readcubex() { readshape({2, "axis-cube file", readcubesections<alongx>, placecubes, 2}); }
+void readcubey() { readshape({3, "axis-cube file", readcubesections<alongy>, placecubes, 2}); }
+void readcubez() { readshape({4, "axis-cube file", readcubesections<alongz>, placecubes, 2}); }
 
 void clickdisplaycubebtn() {
     for (window* layout : {&layoutgirder, &layoutpanels, &layoutroof}) hidewindow(*layout);

@@ -6,25 +6,18 @@
 #include "core/channels.h"
 #include "core/failure.h"
 #include "core/fields.h"
-#include "core/sine.h"
 #include "core/world.h"
 #include "data/transforms.h"
+#include "data/turns.h"
 #include "render/projector.h"
 
 namespace tessaly {
 
 namespace {
 
-constexpr double planshiftx = 488, planshifty = 680;  // layout units less these are world units
-constexpr int lastplaced = 100;                       // points that a placement moves
+constexpr int lastplaced = 100;  // points that a placement moves
 constexpr int lastplane = 7000;
 constexpr int cubesinsection = 200;
-
-inline void copytobase(int i) {
-    basex.set(i, ptx[i]);
-    basey.set(i, pty[i]);
-    basez.set(i, ptz[i]);
-}
 
 void readwirecolours() {
     findkey(1, "WIRECOLORS:");
@@ -46,15 +39,13 @@ void readpoints() {
     }
 }
 
-bool isnumber(const value& v, double number) { return !v.istext() && v == number; }
-
 // Reads one LINEG section from line index first on; gives its count of lines. A section without an end row counts none.
 int readlines(const char* key, int first) {
     findkey(1, key);
     for (int n = first; n <= lastline; ++n) {
         lineend1.set(n, readvalue(1, "the first point of a line row"));
         lineend2.set(n, readvalue(1, "the second point of a line row"));
-        if (isnumber(lineend1[n], sentinel) && isnumber(lineend2[n], sentinel)) return n - first;
+        if (endsrows(lineend1[n]) && endsrows(lineend2[n])) return n - first;
     }
     return 0;
 }
@@ -79,9 +70,8 @@ void readframing(const char* key, table<value, lastquad, clearedpoints>& framing
         const int line = channelinput(1).line, field = channelinput(1).field;
         const value quad = readvalue(1, "the quad index of a framing row");
         const value count = readvalue(1, "the count of a framing row");
-        const bool last = isnumber(count, sentinel);
-        tellmisses([&] { return channelinput(1).place(line, field) + " (" + key + ")"; },
-                   [&] { framing.set(quad, last ? value(0) : count); });
+        const bool last = endsrows(count);
+        tellrow(1, line, field, key, [&] { framing.set(quad, last ? value(0) : count); });
         if (last) return;
     }
 }
@@ -113,8 +103,8 @@ void readsections() {
 }
 
 void toworldplace() {
-    placex = placex - planshiftx;
-    placey = placey - planshifty;
+    placex = placex - planoriginx;
+    placey = placey - planoriginy;
 }
 
 // Runs the placement of placemode; false for a mode that places nothing.
@@ -192,53 +182,33 @@ void expandcube(cubeslots& next, const value& x1, const value& y1, const value& 
 
 void rotzplace() {
     toworldplace();
-    const double a = radians(rotz), c = cosineof(a), s = sineof(a);
-    const double dx = placex, dy = placey, dz = placez;
-    for (int i = 1; i <= lastplaced; ++i) {
-        const double x = basex[i], y = basey[i], z = basez[i];
-        ptx.set(i, x * c - y * s + dx);
-        pty.set(i, x * s + y * c + dy);
-        ptz.set(i, z + dz);
-        copytobase(i);
-    }
+    turnpoints(1, lastplaced, radians(rotz), turnz);
 }
 
 void rotxplace() {
     toworldplace();
     rotx = radians(rotx);
-    const double a = rotx, c = cosineof(a), s = sineof(a);
-    const double dx = placex, dy = placey, dz = placez;
-    for (int i = 1; i <= lastplaced; ++i) {
-        const double x = basex[i], y = basey[i], z = basez[i];
-        ptx.set(i, x + dx);
-        pty.set(i, y * c - z * s + dy);
-        ptz.set(i, y * s + z * c + dz);
-        copytobase(i);
-    }
+    turnpoints(1, lastplaced, rotx, turnx);
 }
 
 void shiftplace() {
     toworldplace();
-    const double dx = placex, dy = placey, dz = placez;
-    for (int i = 1; i <= lastplaced; ++i) {
-        ptx.set(i, basex[i] + dx);
-        pty.set(i, basey[i] + dy);
-        ptz.set(i, basez[i] + dz);
-        copytobase(i);
-    }
+    shiftpoints(1, lastplaced, 1);
 }
 
-void readelements() {
+void readelements() { readshape({1, "element file", readsections, place, 1}); }
+
+void readshape(const shapereader& r) {
     resetworld();
-    const bool opened = preopened == 1;
-    if (!opened) openinput(1, "datah\\" + datafile.text(), "element file");
+    const bool opened = preopened == r.preopened;
+    if (!opened) openinput(1, "datah\\" + datafile.text(), r.role);
     shapefile = channelinput(1).path;
-    tellmisses([] { return channelinput(1).place(); }, readsections);
+    tellmisses([] { return channelinput(1).place(); }, r.readsections);
     if (opened) return;
     // A placemode that nothing sets leaves the file open on channel 1, so that the next element fails.
-    if (!place()) return;
+    if (!r.place()) return;
     closechannel(1);
-    drawset = 1;
+    drawset = r.drawset;
     plotgroups();
 }
 

@@ -17,8 +17,17 @@ void rotzplace();   // about Z
 void rotxplace();   // about X; leaves radians in rotx
 void shiftplace();  // moved only
 
-// Degrees to radians with the truncated pi that shows in the coordinates.
-constexpr double radians(double degrees) { return degrees * 3.14159 / 180; }
+// What the readers of element files and of axis-cube files keep apart.
+struct shapereader {
+    int preopened;     // at which the reader finds its file open on channel 1
+    const char* role;  // of its file, for reports
+    void (*readsections)();
+    bool (*place)();  // false: nothing placed it
+    int drawset;
+};
+
+// Clears the tables, reads a file's sections and, where it opened the file itself, places and plots them.
+void readshape(const shapereader& r);
 
 // Where the next cube goes.
 struct cubeslots {

@@ -7,7 +7,7 @@
 #include "core/fields.h"
 #include "core/sine.h"
 #include "core/world.h"
-#include "data/elements.h"
+#include "data/turns.h"
 
 #include <algorithm>
 #include <string>
@@ -19,12 +19,6 @@ namespace {
 
 constexpr int mostrows = 7000, mostpairs = 10000;
 constexpr int mostfields = 6;
-
-void copytobase(int i) {
-    basex.set(i, ptx[i]);
-    basey.set(i, pty[i]);
-    basez.set(i, ptz[i]);
-}
 
 // The end of a range of points. It may lie outside the tables: only the indexes that are touched count.
 int asindex(const value& v) { return static_cast<int>(std::clamp(nearestwhole(v), -1e6, 1e6)); }
@@ -55,30 +49,6 @@ void resize(const value* row) {
     }
 }
 
-// Rotations about one axis by an angle whose cosine and sine are c and s, from the base tables, then the translation.
-using turn = void (*)(int i, double c, double s, double dx, double dy, double dz);
-
-void turnx(int i, double c, double s, double dx, double dy, double dz) {
-    ptx.set(i, basex[i] + dx);
-    pty.set(i, basey[i] * c - basez[i] * s + dy);
-    ptz.set(i, basey[i] * s + basez[i] * c + dz);
-    copytobase(i);
-}
-
-void turny(int i, double c, double s, double dx, double dy, double dz) {
-    ptx.set(i, basez[i] * s + basex[i] * c + dx);
-    pty.set(i, basey[i] + dy);
-    ptz.set(i, basez[i] * c - basex[i] * s + dz);
-    copytobase(i);
-}
-
-void turnz(int i, double c, double s, double dx, double dy, double dz) {
-    ptx.set(i, basex[i] * c - basey[i] * s + dx);
-    pty.set(i, basex[i] * s + basey[i] * c + dy);
-    ptz.set(i, basez[i] + dz);
-    copytobase(i);
-}
-
 void keepplace(const value* offsets) {
     placex = offsets[0];
     placey = offsets[1];
@@ -87,8 +57,7 @@ void keepplace(const value* offsets) {
 
 void rotatetranslate(const value* row, double angle, turn about) {
     keepplace(row + 3);
-    const double c = cosineof(angle), s = sineof(angle);
-    for (int i = asindex(row[0]), last = asindex(row[1]); i <= last; ++i) about(i, c, s, placex, placey, placez);
+    turnpoints(asindex(row[0]), asindex(row[1]), angle, about);
 }
 
 void xrotatetranslate(const value* row) {
@@ -105,12 +74,7 @@ void zrotatetranslate(const value* row) {
 
 void translatesteps(const value* row, int step) {
     keepplace(row + 2);
-    for (int i = asindex(row[0]), last = asindex(row[1]); i <= last; i += step) {
-        ptx.set(i, basex[i] + placex);
-        pty.set(i, basey[i] + placey);
-        ptz.set(i, basez[i] + placez);
-        copytobase(i);
-    }
+    shiftpoints(asindex(row[0]), asindex(row[1]), step);
 }
 
 void translate(const value* row) { translatesteps(row, 1); }
@@ -176,9 +140,8 @@ void obeyblock(const block& b) {
         const int line = channelinput(1).line, field = channelinput(1).field;
         value row[mostfields];
         for (int f = 0; f < b.fields; ++f) row[f] = readvalue(1, "a field of a transformation row");
-        if (!row[0].istext() && row[0] == sentinel) return;
-        tellmisses([&] { return channelinput(1).place(line, field) + " (" + std::string(b.keyword) + ")"; },
-                   [&] { b.obey(row); });
+        if (endsrows(row[0])) return;
+        tellrow(1, line, field, b.keyword, [&] { b.obey(row); });
     }
 }
 

@@ -1,7 +1,7 @@
 // Transformation scripts: every keyword against points worked out by hand, and scripts that go wrong.
 #include "data/transforms.h"
 #include "core/sine.h"
-#include "data/elements.h"
+#include "data/turns.h"
 #include "tests/session.h"
 
 #include <array>
