@@ -6,7 +6,7 @@
 
 namespace tessaly {
 
-painterimage::painterimage(bool clipped) : image(viewwide, viewhigh, QImage::Format_RGB32), painter(&image) {
+painterimage::painterimage(bool clipped) : image(viewportwidth, viewportheight, QImage::Format_RGB32), painter(&image) {
     image.fill(Qt::white);
     painter.setRenderHint(QPainter::Antialiasing, false);
     if (clipped) painter.setClipRect(image.rect());
@@ -26,7 +26,8 @@ void pixelcounter::line(float x1, float y1, float x2, float y2, colour) {
     ++lines;
     if (!withinnearline(x1, y1, x2, y2)) return;
     linepart part;
-    if (visiblepart({nearestpixel(x1), nearestpixel(y1), nearestpixel(x2), nearestpixel(y2)}, viewwide, viewhigh, part))
+    if (visiblepart({nearestpixel(x1), nearestpixel(y1), nearestpixel(x2), nearestpixel(y2)}, viewportwidth,
+                    viewportheight, part))
         pixels += part.last - part.first + 1;
 }
 

@@ -10,12 +10,10 @@
 
 namespace tessaly {
 
-constexpr int viewwide = 897, viewhigh = 581;
-
 // The plain way of the program's own image.
 class plainraster : public raster {
   public:
-    plainraster() : raster(viewwide, viewhigh) {}
+    plainraster() : raster(viewportwidth, viewportheight) {}
     void wash(int x1, int x2, int y1, int y2, colour c) override { surface::wash(x1, x2, y1, y2, c); }
     void web(const facecorners& f, int n, colour c) override { surface::web(f, n, c); }
 };

@@ -38,7 +38,9 @@ class surface {
     virtual void flush() {}
 };
 
-// The building's surface, 897 x 581, and the progress strip of the solid replays, 17 x 705. Set by the program.
+// The building's surface and the progress strip of the solid replays, in pixels. Set by the program.
+constexpr int viewportwidth = 897, viewportheight = 581;
+constexpr int progresswidth = 17, progressheight = 705;
 extern surface* viewportsurface;
 extern surface* progresssurface;
 

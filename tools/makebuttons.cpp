@@ -150,7 +150,7 @@ QImage made(const picture& p, int density) {
 }
 
 void makeall(const std::string& folder) {
-    raster image(897, 581), progress(17, 705);
+    raster image(viewportwidth, viewportheight), progress(progresswidth, progressheight);
     viewportsurface = &image;
     progresssurface = &progress;
     startprogram();

@@ -15,7 +15,7 @@
 
 namespace tessaly {
 
-loggedsurface playedsurface(897, 581), playedstrip(17, 705);
+loggedsurface playedsurface(viewportwidth, viewportheight), playedstrip(progresswidth, progressheight);
 
 namespace {
 

@@ -1,8 +1,10 @@
 // Captures in the real windows: the files that other programs open, and pictures that are not as they should be.
 
 #include "core/failure.h"
+#include "core/viewfigures.h"
 #include "tests/windows/windowsession.h"
 #include "windows/qt/canvas.h"
+#include "windows/qt/picturefiles/rasterview.h"
 
 #include <QImage>
 #include <QLineEdit>
@@ -39,16 +41,10 @@ class windowcaptures : public windowsession {
     }
     static QStringList boxes() {
         QStringList texts;
-        for (const control* c :
-             {&perptxtx, &perptxty, &perptxtz, &focustxtx, &focustxty, &focustxtz, &magtxt, &verttxt, &horiztxt})
-            texts << qobject_cast<QLineEdit*>(widgetof(*c))->text();
+        for (const viewfigure& f : viewfigures) texts << qobject_cast<QLineEdit*>(widgetof(f.box))->text();
         return texts;
     }
-    static QImage surface() {
-        return QImage(reinterpret_cast<const uchar*>(viewportimage().pixels()), viewportwidth, viewportheight,
-                      QImage::Format_RGB32)
-            .copy();
-    }
+    static QImage surface() { return viewof(viewportimage()).copy(); }
 };
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include "windows/qt/canvas.h"
 
 #include "core/controls.h"
+#include "windows/qt/picturefiles/rasterview.h"
 
 #include <QElapsedTimer>
 #include <QPaintEvent>
@@ -47,13 +48,11 @@ canvas::canvas(const raster& itsimage, QWidget* parent) : QWidget(parent), image
 }
 
 void canvas::paintEvent(QPaintEvent* event) {
-    const QImage shown(reinterpret_cast<const uchar*>(image.pixels()), image.width(), image.height(),
-                       image.width() * static_cast<int>(sizeof(std::uint32_t)), QImage::Format_RGB32);
     QPainter painter(this);
     painter.setClipRegion(event->region());
     // A pixel stays a pixel, but where the screen has no whole number of its own for each: thin lines would go uneven.
     painter.setRenderHint(QPainter::SmoothPixmapTransform, devicePixelRatioF() != std::floor(devicePixelRatioF()));
-    painter.drawImage(rect(), shown);
+    painter.drawImage(rect(), viewof(image));
 }
 
 raster& viewportimage() {

@@ -8,9 +8,6 @@
 
 namespace tessaly {
 
-constexpr int viewportwidth = 897, viewportheight = 581;
-constexpr int progresswidth = 17, progressheight = 705;
-
 class canvas : public QWidget {
   public:
     canvas(const raster& itsimage, QWidget* parent);

@@ -13,26 +13,24 @@ namespace {
 constexpr int gridleft = 3120, gridtop = 3240, gridwidth = 3375, gridheight = 2415;
 constexpr int baysacross = 7, baysdown = 5;
 
-QPointF point(int lefttwips, int toptwips) { return {lefttwips / 15.0, toptwips / 15.0}; }
-
 void drawgrid(QPainter& painter) {
     painter.setPen(QPen(QColor(96, 96, 160), 1));
     painter.setBrush(QColor(214, 214, 255));
-    painter.drawRect(QRectF(point(gridleft, gridtop), point(gridleft + gridwidth, gridtop + gridheight)));
+    painter.drawRect(QRectF(pointat(gridleft, gridtop), pointat(gridleft + gridwidth, gridtop + gridheight)));
     painter.setPen(QPen(QColor(150, 150, 210), 1));
     for (int bay = 1; bay < baysacross; ++bay) {
         const int left = gridleft + gridwidth * bay / baysacross;
-        painter.drawLine(point(left, gridtop), point(left, gridtop + gridheight));
+        painter.drawLine(pointat(left, gridtop), pointat(left, gridtop + gridheight));
     }
     for (int bay = 1; bay < baysdown; ++bay) {
         const int top = gridtop + gridheight * bay / baysdown;
-        painter.drawLine(point(gridleft, top), point(gridleft + gridwidth, top));
+        painter.drawLine(pointat(gridleft, top), pointat(gridleft + gridwidth, top));
     }
     // The two axes cross where the world's origin is.
     const int middleleft = gridleft + gridwidth / 2, middletop = gridtop + gridheight / 2;
     painter.setPen(QPen(QColor(96, 96, 160), 1, Qt::DashLine));
-    painter.drawLine(point(middleleft, gridtop - 2600), point(middleleft, gridtop + gridheight + 2700));
-    painter.drawLine(point(gridleft - 2400, middletop), point(gridleft + gridwidth + 2500, middletop));
+    painter.drawLine(pointat(middleleft, gridtop - 2600), pointat(middleleft, gridtop + gridheight + 2700));
+    painter.drawLine(pointat(gridleft - 2400, middletop), pointat(gridleft + gridwidth + 2500, middletop));
 }
 
 // A scale of heights: a line beside the buttons at left, a tick and a figure for each.
@@ -46,11 +44,11 @@ constexpr int buttonsize = 255;
 void drawscale(QPainter& painter, const scale& s) {
     const int lineleft = s.left + buttonsize + 120, half = buttonsize / 2;
     painter.setPen(QPen(QColor(96, 96, 160), 1));
-    painter.drawLine(point(lineleft, s.top + half), point(lineleft, s.top + s.step * (s.marks - 1) + half));
+    painter.drawLine(pointat(lineleft, s.top + half), pointat(lineleft, s.top + s.step * (s.marks - 1) + half));
     for (int mark = 0; mark < s.marks; ++mark) {
         const int top = s.top + s.step * mark + half;
-        painter.drawLine(point(lineleft - 60, top), point(lineleft + 60, top));
-        painter.drawText(point(lineleft + 150, top + 60), QString::number(s.highest - s.fall * mark));
+        painter.drawLine(pointat(lineleft - 60, top), pointat(lineleft + 60, top));
+        painter.drawText(pointat(lineleft + 150, top + 60), QString::number(s.highest - s.fall * mark));
     }
 }
 

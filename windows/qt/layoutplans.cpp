@@ -19,18 +19,19 @@ struct grid {
     int top(int row) const { return top0 + pitch * row; }
 };
 
-QPointF point(int lefttwips, int toptwips) { return {lefttwips / 15.0, toptwips / 15.0}; }
 QRectF box(int lefttwips, int toptwips, int widthtwips, int heighttwips) {
-    return {point(lefttwips, toptwips), QSizeF(widthtwips / 15.0, heighttwips / 15.0)};
+    const QPointF size = pointat(widthtwips, heighttwips);
+    return {pointat(lefttwips, toptwips), QSizeF(size.x(), size.y())};
 }
 
 void drawgrid(QPainter& painter, const grid& g, const QColor& ink) {
     painter.setPen(QPen(ink, 1, Qt::DashLine));
     for (int column = 0; column < columns; ++column)
-        painter.drawLine(point(g.left(column), g.top0 - g.overhang),
-                         point(g.left(column), g.top(rows - 1) + g.overhang));
+        painter.drawLine(pointat(g.left(column), g.top0 - g.overhang),
+                         pointat(g.left(column), g.top(rows - 1) + g.overhang));
     for (int row = 0; row < rows; ++row)
-        painter.drawLine(point(g.left0 - g.overhang, g.top(row)), point(g.left(columns - 1) + g.overhang, g.top(row)));
+        painter.drawLine(pointat(g.left0 - g.overhang, g.top(row)),
+                         pointat(g.left(columns - 1) + g.overhang, g.top(row)));
 }
 
 void drawarrow(QPainter& painter, QPointF from, QPointF to) {
@@ -44,8 +45,8 @@ void drawarrow(QPainter& painter, QPointF from, QPointF to) {
 // The axes from the plan's first corner: y to the right along the top, x down along the left.
 void drawaxes(QPainter& painter, int lefttwips, int toptwips, int righttwips, int bottomtwips, const QColor& ink) {
     painter.setPen(QPen(ink, 1));
-    drawarrow(painter, point(lefttwips, toptwips), point(righttwips, toptwips));
-    drawarrow(painter, point(lefttwips, toptwips), point(lefttwips, bottomtwips));
+    drawarrow(painter, pointat(lefttwips, toptwips), pointat(righttwips, toptwips));
+    drawarrow(painter, pointat(lefttwips, toptwips), pointat(lefttwips, bottomtwips));
 }
 
 void drawposts(QPainter& painter, const grid& g, int size, const QColor& fill) {

@@ -2,7 +2,7 @@
 // design grid and neither a dark desktop theme nor a large desktop font changes anything.
 #pragma once
 
-#include "core/colour.h"
+#include "core/controls.h"
 
 #include <QApplication>
 #include <QColor>
@@ -25,7 +25,10 @@ QFont pagefont();
 QColor screencolour(colour c);
 QColor inkupon(const QColor& back);
 
-// Pixels of the design grid.
-constexpr int inpixels(int twips) { return (twips + 7) / 15; }
+// Pixels of the design grid: of a control's place, to the nearest, and of a point that is drawn.
+constexpr int inpixels(int twips) { return (twips + twipsperpixel / 2) / twipsperpixel; }
+inline QPointF pointat(double lefttwips, double toptwips) {
+    return {lefttwips / twipsperpixel, toptwips / twipsperpixel};
+}
 
 }  // namespace tessaly

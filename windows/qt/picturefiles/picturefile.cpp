@@ -6,9 +6,9 @@
 #include "core/channels.h"
 #include "core/failure.h"
 #include "render/bitmap.h"
+#include "windows/qt/picturefiles/rasterview.h"
 
 #include <QFile>
-#include <QImage>
 #include <QImageReader>
 #include <QSaveFile>
 #include <QtEndian>
@@ -18,12 +18,6 @@
 namespace tessaly {
 
 namespace {
-
-// The image's pixels as the library sees them, not copied.
-QImage viewof(const raster& image) {
-    return QImage(reinterpret_cast<const uchar*>(image.pixels()), image.width(), image.height(), image.width() * 4,
-                  QImage::Format_RGB32);
-}
 
 void writepng(const raster& image, const std::string& path) {
     QSaveFile file(QFile::decodeName(systempath(path).c_str()));
