@@ -16,10 +16,10 @@ fi
 build release play
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT
-cp -r datah pals "$scratch"
-mkdir "$scratch/designs" "$scratch/bmps" "$scratch/nonuser"
+root=$PWD
+. tools/workingfolder.sh
+workingfolder "$scratch"
 echo "No display (DISPLAY and WAYLAND_DISPLAY are empty): playing tools/demo.play instead."
-here=$PWD
-(cd "$scratch" && timeout 60 "$here/build/tools/play" "$here/tools/demo.play")
+(cd "$scratch" && timeout 60 "$root/build/tools/play" "$root/tools/demo.play")
 mv "$scratch/demo.png" build/demo.png
-echo "Its picture is $here/build/demo.png"
+echo "Its picture is $root/build/demo.png"

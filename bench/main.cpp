@@ -3,6 +3,7 @@
 
 #include "bench/measure.h"
 #include "core/world.h"
+#include "tools/workingfolder.h"
 
 #include <algorithm>
 #include <cstdio>
@@ -77,8 +78,6 @@ int run(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
-    enterscene();
-    const int status = run(argc, argv);
-    leavescene();
-    return status;
+    const workingfolder scratch(std::filesystem::current_path());
+    return run(argc, argv);
 }

@@ -9,11 +9,9 @@
 #include "core/world.h"
 #include "windows/handlers.h"
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
-#include <stdexcept>
 #include <vector>
 
 namespace tessaly {
@@ -22,8 +20,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-fs::path startedin, scratch;
-raster progress(17, 705);
+raster progress(progresswidth, progressheight);
 
 control& named(const std::string& name) {
     control* const c = findcontrol(name);
@@ -69,7 +66,7 @@ std::string designfile(const std::string& name, int n, kinds kindof) {
 
 std::unique_ptr<surface> surfaceof(way w) {
     switch (w) {
-    case way::program: return std::make_unique<raster>(viewwide, viewhigh);
+    case way::program: return std::make_unique<raster>(viewportwidth, viewportheight);
     case way::plain: return std::make_unique<plainraster>();
     case way::plainqpainter: return std::make_unique<painterimage>(false);
     case way::plainclippedqpainter: return std::make_unique<painterimage>(true);
@@ -78,22 +75,6 @@ std::unique_ptr<surface> surfaceof(way w) {
 }
 
 }  // namespace
-
-void enterscene() {
-    startedin = fs::current_path();
-    std::string name = (fs::temp_directory_path() / "tessaly-bench-XXXXXX").string();
-    if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no scratch folder");
-    scratch = name;
-    for (const char* data : {"datah", "pals"}) fs::copy(startedin / data, scratch / data);
-    for (const char* made : {"designs", "bmps", "nonuser"}) fs::create_directory(scratch / made);
-    fs::current_path(scratch);
-}
-
-void leavescene() {
-    std::error_code ignored;
-    fs::current_path(startedin);
-    fs::remove_all(scratch, ignored);
-}
 
 std::string girdersfile(int n, int onfloor) {
     return designfile(designname("girds", 7, n, onfloor), n, [](std::size_t) { return "girder"; });

@@ -9,11 +9,6 @@
 
 namespace tessaly {
 
-// Makes the scratch folder, with copies of datah and pals of the folder that the benchmark was started in and the
-// design files below, and goes there; leavescene removes it.
-void enterscene();
-void leavescene();
-
 // ---- design files of the scene --------------------------------------------------------------------------
 // The name of a file in designs\ of n records of one floor, 1..10, their positions in turn all over the plan. A mixed
 // file is part of a house: of ten records four are girders, five panels and one a roof, about ten faces each.

@@ -115,7 +115,7 @@ TEST(cubes, theCubeButtonDisplacesBlockTwo) {
     s.start();
     s.click("postbeambtn");
     s.click("postx0y16");
-    std::filesystem::remove("datah");
+    std::filesystem::remove_all("datah");
     std::filesystem::create_directory("datah");
     session::write("datah/az-cube.txt", cubefile({"100,100,0,150,150,50,1,0,0,5", nullptr,
                                                   "100,100,0,150,150,50,1,200,0,5", nullptr, nullptr, nullptr}));

@@ -128,7 +128,7 @@ TEST(girders, theFloorListFillsTheBox) {
 TEST(girders, aFailureLeavesTheRecord) {
     session s;
     s.start();
-    std::filesystem::remove("datah");
+    std::filesystem::remove_all("datah");
     std::filesystem::create_directory("datah");
     EXPECT_EQ(failureof([&] { s.click("postx0y16"); })->kind, failurekind::filenotfound);
     EXPECT_EQ(session::file(girders1), "\"girder\",1,8,8,41,90,0,0,16,4,64\r\n");

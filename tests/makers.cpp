@@ -1,5 +1,7 @@
 // The committed pictures are what their makers draw: the element maps and the pictures on the buttons.
 
+#include "tools/workingfolder.h"
+
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -37,11 +39,8 @@ TEST(makers, mapsarekept) { expectkept("makemaps", "", source / "el-numbers", 3)
 
 // Catches an element changed with its button's picture left as it was.
 TEST(makers, buttonpicturesarekept) {
-    const fs::path folder = fs::temp_directory_path() / ("tessaly-buttons" + std::to_string(::getpid()));
-    for (const char* own : {"designs", "bmps", "nonuser"}) fs::create_directories(folder / own);
-    for (const char* data : {"datah", "pals"}) fs::create_directory_symlink(source / data, folder / data);
-    expectkept("makebuttons", " " + folder.string(), source / "windows/qt/pictures", 26);
-    fs::remove_all(folder);
+    const tessaly::workingfolder folder(source);
+    expectkept("makebuttons", " .", source / "windows/qt/pictures", 26);
 }
 
 // How many pixels of two pictures differ clearly. Letters may come out a shade different with another font library.

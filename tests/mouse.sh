@@ -2,6 +2,7 @@
 # Sourced, not run. Nothing here sleeps for a fixed long time: every step waits for what it expects to see.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$root/tools/workingfolder.sh"
 build=${TESSALY_BUILD:-$root/build}
 scratch=$(mktemp -d)
 screenpid= programpid=
@@ -38,12 +39,6 @@ waitfor() {
         [ $SECONDS -lt $deadline ] || fail "waited in vain for $what"
         sleep 0.05
     done
-}
-
-# workingfolder FOLDER: a working folder as a fresh clone has it.
-workingfolder() {
-    mkdir -p "$1/designs" "$1/bmps" "$1/nonuser"
-    cp -r "$root/datah" "$root/pals" "$1"
 }
 
 # startscreen WIDTH HEIGHT: a screen in memory, on the first display number that is free.

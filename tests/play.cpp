@@ -172,8 +172,6 @@ TEST(play, tellsFailuresOfTheProgram) {
     };
     for (const auto& c : cases) {
         session s;
-        std::filesystem::remove("datah");
-        std::filesystem::copy(TESSALY_SOURCE_DIR "/datah", "datah");
         const std::string path = std::string("datah/") + c.path;
         session::write(path, replaced(session::file(path), c.taken, c.put));
         const played p = play("say begun\nclick startprogrambtn\nclick postbeambtn\nclick postx0y16\nsay never\n");

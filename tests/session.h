@@ -8,9 +8,9 @@
 #include "core/value.h"
 #include "core/world.h"
 #include "render/surface.h"
+#include "tools/workingfolder.h"
 #include "windows/handlers.h"
 
-#include <filesystem>
 #include <fstream>
 #include <gtest/gtest.h>
 #include <map>
@@ -47,30 +47,13 @@ inline const filesbypath ownfolder{{"datah/.own", ""}};  // no shipped data: a t
 class session {
   public:
     // In a working folder of the shipped data, or, with files, in one that holds these and nothing else.
-    explicit session(const filesbypath& files = {}) {
-        namespace fs = std::filesystem;
-        std::string name = (fs::temp_directory_path() / "tessaly-XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no scratch folder");
-        folder = name;
-        fs::current_path(folder);
-        for (const char* made : {"designs", "bmps", "nonuser"}) fs::create_directory(made);
-        for (const char* data : {"datah", "pals"}) {
-            if (files.empty())
-                fs::create_directory_symlink(fs::path(TESSALY_SOURCE_DIR) / data, data);
-            else
-                fs::create_directory(data);
-        }
+    explicit session(const filesbypath& files = {}) : folder(files.empty() ? TESSALY_SOURCE_DIR : "") {
         for (const auto& [path, bytes] : files) write(path, bytes);
         viewportsurface = &viewport;
         progresssurface = &progress;
         startprogram();
     }
-    ~session() {
-        std::error_code ignored;
-        forgetchannels();
-        std::filesystem::current_path("/");
-        std::filesystem::remove_all(folder, ignored);
-    }
+    ~session() { forgetchannels(); }
     session(const session&) = delete;
 
     // ---- what a user does; a name that is not there is a fault of the test ----
@@ -97,9 +80,10 @@ class session {
     }
 
     recorder viewport, progress;
-    std::filesystem::path folder;
 
   private:
+    workingfolder folder;
+
     static control& named(const std::string& name) {
         control* const c = findcontrol(name);
         if (c == nullptr) throw std::logic_error("no control " + name);

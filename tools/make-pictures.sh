@@ -4,6 +4,7 @@
 # is put together by montage (package imagemagick).
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$root/tools/workingfolder.sh"
 play=$(realpath "$1")
 folder=$(realpath "$2")
 
@@ -12,8 +13,7 @@ folder=$(realpath "$2")
 scene() {
     local scratch
     scratch=$(mktemp -d)
-    cp -r "$root/datah" "$root/pals" "$scratch"
-    mkdir "$scratch/designs" "$scratch/bmps" "$scratch/nonuser"
+    workingfolder "$scratch"
     cp "$root"/samples/*.txt "$scratch/designs"
     if [ -n "$2" ]; then
         sed -i "/^DEFAULTVIEW:/{n;s/.*/$2/}" "$scratch/datah/start.txt"
@@ -110,8 +110,7 @@ done
 
 # The guide's own building, by the guide's own script.
 scratch=$(mktemp -d)
-cp -r "$root/datah" "$root/pals" "$scratch"
-mkdir "$scratch/designs" "$scratch/bmps" "$scratch/nonuser"
+workingfolder "$scratch"
 (cd "$scratch" && "$play" "$root/docs/guide.play")
 rm "$scratch/guide-retrieved.png" # the same as guide-house.png
 mv "$scratch"/guide-*.png "$folder"

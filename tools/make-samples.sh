@@ -4,6 +4,7 @@
 # tools/make-samples.sh clicks house|tower: only writes the clicks.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+. "$root/tools/workingfolder.sh"
 
 # Plan coordinates are bays: bay I J has its posts at columns I and I+1, rows J and J+1. One bay is 192 layout units.
 post() { echo "click postx$((192 * $1))y$((192 * $2 + 16))"; }
@@ -110,8 +111,7 @@ tower() {
 samples() {
     local name=$1 scratch file floor
     scratch=$(mktemp -d)
-    cp -r "$root/datah" "$root/pals" "$scratch"
-    mkdir "$scratch/designs" "$scratch/bmps" "$scratch/nonuser"
+    workingfolder "$scratch"
     "$name" | (cd "$scratch" && "$play" -)
     for file in "$scratch"/designs/*.txt; do
         floor=$(basename "$file" .txt)

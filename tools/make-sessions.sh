@@ -8,11 +8,11 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 wantpackages "${runpackages[@]}"
 build release play
 root=$PWD
+. tools/workingfolder.sh
 [ $# -gt 0 ] || set -- $(basename -s .play tests/sessions/*.play)
 for name in "$@"; do
     scratch=$(mktemp -d)
-    mkdir "$scratch"/{designs,bmps,nonuser}
-    cp -r datah pals "$scratch"
+    workingfolder "$scratch"
     [ ! -d "tests/sessions/$name" ] || cp -r "tests/sessions/$name/." "$scratch"
     status=0
     (cd "$scratch" && { echo "record record.txt"; cat "$root/tests/sessions/$name.play"; } |

@@ -5,6 +5,7 @@
 #include "building/layouts.h"
 #include "core/controls.h"
 #include "core/world.h"
+#include "tools/workingfolder.h"
 #include "windows/handlers.h"
 #include "windows/qt/binding.h"
 #include "windows/qt/canvas.h"
@@ -21,8 +22,6 @@
 #include <filesystem>
 #include <initializer_list>
 #include <string>
-
-#include <unistd.h>
 
 namespace tessaly {
 
@@ -149,14 +148,9 @@ void makeall(const fs::path& help, const fs::path& documents) {
     dropwindows();
 }
 
-// A working folder with the data of root and its sample designs.
-fs::path workingfolder(const fs::path& root) {
-    const fs::path folder = fs::temp_directory_path() / ("tessaly-windows" + std::to_string(::getpid()));
-    for (const char* own : {"designs", "bmps", "nonuser"}) fs::create_directories(folder / own);
-    for (const char* data : {"datah", "pals"}) fs::create_directory_symlink(root / data, folder / data);
-    for (const auto& sample : fs::directory_iterator(root / "samples"))
-        if (sample.path().extension() == ".txt") fs::copy(sample.path(), folder / "designs");
-    return folder;
+void copysamples(const fs::path& from, const fs::path& to) {
+    for (const auto& sample : fs::directory_iterator(from))
+        if (sample.path().extension() == ".txt") fs::copy(sample.path(), to);
 }
 
 }  // namespace
@@ -177,11 +171,10 @@ int main(int argc, char** argv) {
     tessaly::usepicturefiles();
     try {
         const fs::path help = fs::absolute(argv[2]), documents = fs::absolute(argv[3]);
-        const fs::path folder = tessaly::workingfolder(fs::absolute(argv[1]));
-        fs::current_path(folder);
+        const fs::path root = fs::absolute(argv[1]);
+        const tessaly::workingfolder scratch(root);
+        tessaly::copysamples(root / "samples", "designs");
         tessaly::makeall(help, documents);
-        fs::current_path("/");
-        fs::remove_all(folder);
     } catch (const std::exception& failed) {
         std::fprintf(stderr, "makewindowpictures: %s\n", failed.what());
         return 1;

@@ -1,6 +1,7 @@
 // The real windows on a screen that nobody sees, over a scratch working folder, used by mouse and keyboard.
 #pragma once
 
+#include "tools/workingfolder.h"
 #include "windows/qt/binding.h"
 #include "windows/qt/look.h"
 #include "windows/qt/picturefiles/picturefile.h"
@@ -12,8 +13,8 @@
 
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <fstream>
+#include <optional>
 #include <sstream>
 
 namespace tessaly {
@@ -35,21 +36,13 @@ class windowsession : public testing::Test {
   protected:
     void SetUp() override {
         application();
-        home = std::filesystem::current_path();
-        char name[] = "/tmp/tessaly-windows-XXXXXX";
-        folder = ::mkdtemp(name);
-        for (const char* empty : {"designs", "bmps", "nonuser"}) std::filesystem::create_directory(folder / empty);
-        for (const char* shipped : {"datah", "pals"})
-            std::filesystem::copy(std::filesystem::path(TESSALY_SOURCE_DIR) / shipped, folder / shipped,
-                                  std::filesystem::copy_options::recursive);
-        std::filesystem::current_path(folder);
+        folder.emplace(TESSALY_SOURCE_DIR);
         openwindows();
     }
 
     void TearDown() override {
         dropwindows();
-        std::filesystem::current_path(home);
-        std::filesystem::remove_all(folder);
+        folder.reset();
     }
 
     static void click(const control& c) {
@@ -83,7 +76,7 @@ class windowsession : public testing::Test {
         return bytes.str();
     }
 
-    std::filesystem::path home, folder;
+    std::optional<workingfolder> folder;
 };
 
 }  // namespace tessaly

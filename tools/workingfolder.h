@@ -1,0 +1,40 @@
+// A scratch working folder for tests, benchmarks and makers: made, gone into, and removed when it goes.
+#pragma once
+
+#include <filesystem>
+#include <stdexcept>
+#include <string>
+
+#include <stdlib.h>
+
+namespace tessaly {
+
+class workingfolder {
+  public:
+    // With copies of datah and pals as they stand in source, or with empty ones; the other folders are empty.
+    explicit workingfolder(const std::filesystem::path& source = {}) {
+        namespace fs = std::filesystem;
+        std::string name = (fs::temp_directory_path() / "tessaly-XXXXXX").string();
+        if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no scratch folder");
+        path = name;
+        for (const char* written : {"designs", "bmps", "nonuser"}) fs::create_directory(path / written);
+        for (const char* data : {"datah", "pals"}) {
+            if (source.empty())
+                fs::create_directory(path / data);
+            else
+                fs::copy(source / data, path / data);
+        }
+        fs::current_path(path);
+    }
+    ~workingfolder() {
+        std::error_code ignored;
+        std::filesystem::current_path(camefrom, ignored);
+        std::filesystem::remove_all(path, ignored);
+    }
+    workingfolder(const workingfolder&) = delete;
+
+  private:
+    std::filesystem::path camefrom = std::filesystem::current_path(), path;
+};
+
+}  // namespace tessaly
