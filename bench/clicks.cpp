@@ -21,11 +21,11 @@ const position& middleof(const family& f) {
 }  // namespace
 
 void addclicks() {
-    for (const family* f = familiesbegin(); f != familiesend(); ++f)
+    for (const family& f : allfamilies())
         for (const way w : {way::program, way::plain})
-            addmeasure(std::string("click/") + f->word, w, 1, [f] {
+            addmeasure(std::string("click/") + f.word, w, 1, [&f] {
                 panelprefix = "st-panels-1or-";
-                clickposition(middleof(*f));
+                clickposition(middleof(f));
             });
     for (const way w : {way::program, way::plain, way::plainqpainter}) {
         addmeasure("view/step", w, 0, [] { click("horizinc"); });

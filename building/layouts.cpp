@@ -97,8 +97,7 @@ void setplacement(const position& p) {
 
 }  // namespace
 
-const family* familiesbegin() { return std::begin(families); }
-const family* familiesend() { return std::end(families); }
+std::span<const family> allfamilies() { return families; }
 
 const std::vector<position>& allpositions() {
     static const std::vector<position> positions = workoutpositions();

@@ -3,6 +3,8 @@
 
 #include "core/controls.h"
 
+#include <span>
+
 namespace tessaly {
 
 // A family of position buttons. x = x0 + 192 i and y = y0 + 192 j in layout units, i = 0..cols-1, j = 0..rows-1; the
@@ -30,8 +32,7 @@ struct position {
     int middlex, middley;  // fields 3 and 4 of its record
 };
 
-const family* familiesbegin();
-const family* familiesend();
+std::span<const family> allfamilies();
 
 // All positions in the order of families and numbers; 329 in all.
 const std::vector<position>& allpositions();

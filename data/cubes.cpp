@@ -10,8 +10,6 @@
 #include "core/world.h"
 #include "data/elements.h"
 #include "data/transforms.h"
-#include "render/palette.h"
-#include "render/projector.h"
 
 namespace tessaly {
 
@@ -118,13 +116,7 @@ void clickdisplaycubebtn() {
     openinput(1, "datah\\az-cube.txt", "axis-cube file");
     preopened = 4;
     readcubez();
-    preopened = 0;
-    runtransforms();
-    closechannel(1);
-    viewprompt = "AUTOMA";
-    loadpalette();
-    plotgroups();
-    plotstate = 2;
+    showscene();
 }
 
 }  // namespace tessaly

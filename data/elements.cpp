@@ -9,6 +9,7 @@
 #include "core/world.h"
 #include "data/transforms.h"
 #include "data/turns.h"
+#include "render/palette.h"
 #include "render/projector.h"
 
 namespace tessaly {
@@ -125,16 +126,46 @@ bool place() {
 
 }  // namespace
 
-void readcuberows(int firstcube, int mostrows, cubeslots& next) {
-    for (int c = firstcube; c < firstcube + mostrows; ++c) {
-        const int label = readlabel(1, "the label of a cube row");
-        value corner[6];
-        for (value& v : corner) v = readvalue(1, "a corner coordinate of a cube row");
-        cubegrade.set(c, readvalue(1, "the grade of a cube row"));
-        cubecolour.set(c, readvalue(1, "the colour of a cube row"));
-        if (label == sentinel) return;
-        expandcube(next, corner[0], corner[1], corner[2], corner[3], corner[4], corner[5], cubegrade[c], cubecolour[c]);
-    }
+void readelements() { readshape({1, "element file", readsections, place, 1}); }
+
+void rotzplace() {
+    toworldplace();
+    turnpoints(1, lastplaced, radians(rotz), turnz);
+}
+
+void rotxplace() {
+    toworldplace();
+    rotx = radians(rotx);
+    turnpoints(1, lastplaced, rotx, turnx);
+}
+
+void shiftplace() {
+    toworldplace();
+    shiftpoints(1, lastplaced, 1);
+}
+
+void readshape(const shapereader& r) {
+    resetworld();
+    const bool opened = preopened == r.preopened;
+    if (!opened) openinput(1, "datah\\" + datafile.text(), r.role);
+    shapefile = channelinput(1).path;
+    tellmisses([] { return channelinput(1).place(); }, r.readsections);
+    if (opened) return;
+    // A placemode that nothing sets leaves the file open on channel 1, so that the next element fails.
+    if (!r.place()) return;
+    closechannel(1);
+    drawset = r.drawset;
+    plotgroups();
+}
+
+void showscene() {
+    preopened = 0;
+    runtransforms();
+    closechannel(1);
+    viewprompt = "AUTOMA";
+    loadpalette();
+    plotgroups();
+    plotstate = 2;
 }
 
 void expandcube(cubeslots& next, const value& x1, const value& y1, const value& z1, const value& x2, const value& y2,
@@ -180,36 +211,16 @@ void expandcube(cubeslots& next, const value& x1, const value& y1, const value& 
     next.quad += 10;
 }
 
-void rotzplace() {
-    toworldplace();
-    turnpoints(1, lastplaced, radians(rotz), turnz);
-}
-
-void rotxplace() {
-    toworldplace();
-    rotx = radians(rotx);
-    turnpoints(1, lastplaced, rotx, turnx);
-}
-
-void shiftplace() {
-    toworldplace();
-    shiftpoints(1, lastplaced, 1);
-}
-
-void readelements() { readshape({1, "element file", readsections, place, 1}); }
-
-void readshape(const shapereader& r) {
-    resetworld();
-    const bool opened = preopened == r.preopened;
-    if (!opened) openinput(1, "datah\\" + datafile.text(), r.role);
-    shapefile = channelinput(1).path;
-    tellmisses([] { return channelinput(1).place(); }, r.readsections);
-    if (opened) return;
-    // A placemode that nothing sets leaves the file open on channel 1, so that the next element fails.
-    if (!r.place()) return;
-    closechannel(1);
-    drawset = r.drawset;
-    plotgroups();
+void readcuberows(int firstcube, int mostrows, cubeslots& next) {
+    for (int c = firstcube; c < firstcube + mostrows; ++c) {
+        const int label = readlabel(1, "the label of a cube row");
+        value corner[6];
+        for (value& v : corner) v = readvalue(1, "a corner coordinate of a cube row");
+        cubegrade.set(c, readvalue(1, "the grade of a cube row"));
+        cubecolour.set(c, readvalue(1, "the colour of a cube row"));
+        if (label == sentinel) return;
+        expandcube(next, corner[0], corner[1], corner[2], corner[3], corner[4], corner[5], cubegrade[c], cubecolour[c]);
+    }
 }
 
 }  // namespace tessaly

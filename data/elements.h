@@ -29,6 +29,11 @@ struct shapereader {
 // Clears the tables, reads a file's sections and, where it opened the file itself, places and plots them.
 void readshape(const shapereader& r);
 
+// Ends the reading of a scene whose file was opened for its reader: runs its script, and plots it with the view of a
+// new scene. writes: preopened, palette, viewprompt, plotstate and as plotgroups; draws on viewport; fails: as
+// readelements.
+void showscene();
+
 // Where the next cube goes.
 struct cubeslots {
     int point, quad, line;

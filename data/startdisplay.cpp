@@ -8,9 +8,6 @@
 #include "core/viewfigures.h"
 #include "data/cubes.h"
 #include "data/elements.h"
-#include "data/transforms.h"
-#include "render/palette.h"
-#include "render/projector.h"
 #include "render/redraw.h"
 
 namespace tessaly {
@@ -63,8 +60,8 @@ void opengroup(const value& name, int step) {
     startstep = step;
 }
 
-// Reads the group open on channel 1 by the reader that its name asks for; any other name leaves the tables to the
-// script.
+// Reads the group open on channel 1 by the reader that its name asks for, and shows it; any other name leaves the
+// tables to the script.
 void readgroup() {
     struct reader {
         const char* prefix;
@@ -78,17 +75,7 @@ void readgroup() {
         preopened = r.preopened;
         r.read();
     }
-    preopened = 0;
-    runtransforms();
-    closechannel(1);
-}
-
-void displaygroup() {
-    readgroup();
-    viewprompt = "AUTOMA";
-    loadpalette();
-    plotgroups();
-    plotstate = 2;
+    showscene();
 }
 
 }  // namespace
@@ -101,7 +88,7 @@ void startdisplay() {
     int step = 0;
     for (const value* name : {&startgroup1, &startgroup2, &startgroup3}) {
         opengroup(*name, step++);
-        displaygroup();
+        readgroup();
     }
 }
 

@@ -88,13 +88,13 @@ void addmark(marks& at, double dot, int figure) {
 // The figures of x in the names down the left side and those of y along the top: long buttons nearer to the plan.
 void drawaxes(QPainter& p, const window& w, const scale& s) {
     marks across, inneracross, down;
-    for (const family* f = familiesbegin(); f != familiesend(); ++f) {
-        if (f->on != &w) continue;
-        for (int j = 0; j < f->rows; ++j)
-            addmark(f->width > f->height ? inneracross : across,
-                    s.rect({f->left0 + f->pitch * j, 0, f->width, 0}).center().x(), f->y0 + 192 * j);
-        for (int i = 0; i < f->cols; ++i)
-            addmark(down, s.rect({0, f->top0 + f->pitch * i, 0, f->height}).center().y(), f->x0 + 192 * i);
+    for (const family& f : allfamilies()) {
+        if (f.on != &w) continue;
+        for (int j = 0; j < f.rows; ++j)
+            addmark(f.width > f.height ? inneracross : across,
+                    s.rect({f.left0 + f.pitch * j, 0, f.width, 0}).center().x(), f.y0 + 192 * j);
+        for (int i = 0; i < f.cols; ++i)
+            addmark(down, s.rect({0, f.top0 + f.pitch * i, 0, f.height}).center().y(), f.x0 + 192 * i);
     }
     p.setFont(font(17));
     p.setPen(Qt::black);
@@ -111,16 +111,16 @@ void drawaxes(QPainter& p, const window& w, const scale& s) {
 
 void drawlegend(QPainter& p, const window& w) {
     int y = planbottom + 36;
-    for (const family* f = familiesbegin(); f != familiesend(); ++f) {
-        if (f->on != &w) continue;
+    for (const family& f : allfamilies()) {
+        if (f.on != &w) continue;
         p.setPen(QPen(Qt::black, 1));
-        p.setBrush(shade(f->back));
-        p.drawRect(QRectF(planleft, y, f->width >= f->height ? 44 : 18, f->height >= f->width ? 30 : 18));
+        p.setBrush(shade(f.back));
+        p.drawRect(QRectF(planleft, y, f.width >= f.height ? 44 : 18, f.height >= f.width ? 30 : 18));
         p.setPen(Qt::black);
         p.setFont(font(21));
-        const int last = f->first + f->cols * f->rows - 1;
+        const int last = f.first + f.cols * f.rows - 1;
         p.drawText(QRectF(planleft + 64, y - 4, 1400, 34), Qt::AlignLeft | Qt::AlignVCenter,
-                   QString("%1 to %2   %3   (buttons %4..y..)").arg(f->first).arg(last).arg(f->spoken, f->word));
+                   QString("%1 to %2   %3   (buttons %4..y..)").arg(f.first).arg(last).arg(f.spoken, f.word));
         y += 38;
     }
 }
