@@ -28,7 +28,6 @@ class playedsession : public testing::Test {
         usepicturefiles();
         viewportsurface = &playedsurface;
         progresssurface = &playedstrip;
-        obeyline("record record.txt");
         std::ifstream script(kept / (name + ".play"));
         try {
             for (std::string line; !programended && std::getline(script, line);) obeyline(line);

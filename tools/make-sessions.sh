@@ -15,8 +15,7 @@ for name in "$@"; do
     workingfolder "$scratch"
     [ ! -d "tests/sessions/$name" ] || cp -r "tests/sessions/$name/." "$scratch"
     status=0
-    (cd "$scratch" && { echo "record record.txt"; cat "$root/tests/sessions/$name.play"; } |
-        "$root/build/tools/play" - 2>error.txt) || status=$?
+    (cd "$scratch" && "$root/build/tools/play" "$root/tests/sessions/$name.play" 2>error.txt) || status=$?
     if [ "$status" -gt 1 ]; then # 1: the program failed, as the record tells
         echo "$name: $(cat "$scratch/error.txt")" >&2
         exit 1

@@ -74,7 +74,7 @@ void writeline(const std::string& text) {
 
 void showstate(scriptline& line) {
     line.expectend();
-    for (const stateline& state : programstate()) writeline(state.name + ' ' + state.text);
+    for (const stateline& state : programstate()) writeline(state.name + state.visibility + state.text);
 }
 
 void lines(scriptline& line) {

@@ -51,11 +51,16 @@ std::string told(std::string_view bytes) {
     return std::to_string(bytes.size()) + " bytes " + sum.text();
 }
 
+// Of what is another than before, that which changed.
 void writechangedstate(const moment& after) {
-    std::map<std::string_view, std::string_view> was;
-    for (const stateline& line : before.state) was[line.name] = line.text;
-    for (const stateline& line : after.state)
-        if (was[line.name] != line.text) record << "  " << line.name << ' ' << line.text << '\n';
+    std::map<std::string_view, const stateline*> was;
+    for (const stateline& line : before.state) was[line.name] = &line;
+    for (const stateline& is : after.state) {
+        const stateline* const old = was[is.name];
+        const bool shown = old == nullptr || old->visibility != is.visibility;
+        const bool text = old == nullptr || old->text != is.text;
+        if (shown || text) record << "  " << is.name << (shown ? is.visibility : "") << (text ? is.text : "") << '\n';
+    }
 }
 
 void writechangedfiles(const moment& after) {
@@ -84,7 +89,7 @@ void writelines(const char* name, loggedsurface& drawnon) {
 bool startrecord(const std::string& path) {
     for (loggedsurface* s : {&playedsurface, &playedstrip}) s->starttally();
     before = takemoment();
-    record.open(path, std::ios::binary);
+    record = std::ofstream(path, std::ios::binary);
     return record.is_open();
 }
 

@@ -1,7 +1,8 @@
 // The record of a played session: under each step of the script what it changed, a line each, so that a change of the
 // program shows as a difference that a person can judge.
 //   click postx0y16
-//     control perptxtx shown "1849.9"            a window, a control or a figure that is another than before
+//     control capbox shown                       a window that was opened, a control that came into view
+//     control perptxtx "1849.9"                  a text, an item or a figure that is another than before
 //     focus capbox                               where the keyboard is wanted
 //     lines viewport 24 8d3e0c5b9a1f2e47         how many were drawn, and their checksum
 //     file designs/girders1.txt gained "..."     what a file of the working folder became

@@ -10,7 +10,7 @@ namespace tessaly {
 
 namespace {
 
-std::string visibility(bool shown) { return shown ? "shown" : "hidden"; }
+std::string visibility(bool shown) { return shown ? " shown" : " hidden"; }
 
 std::string statetext(const value& v) {
     if (v.empty()) return "empty";
@@ -21,13 +21,13 @@ std::string statetext(const value& v) {
 
 std::vector<stateline> programstate() {
     std::vector<stateline> state;
-    for (const window* w : allwindows()) state.push_back({std::string("window ") + w->name, visibility(w->shown)});
+    for (const window* w : allwindows()) state.push_back({std::string("window ") + w->name, visibility(w->shown), ""});
     for (const window* w : allwindows())
         for (const control* c : w->controls)
             state.push_back(
-                {"control " + c->name, visibility(c->shown) + ' ' + inquotes(islist(*c) ? selectedtext(*c) : c->text)});
+                {"control " + c->name, visibility(c->shown), ' ' + inquotes(islist(*c) ? selectedtext(*c) : c->text)});
     for (const scalar& s : scalars())
-        if (s.reported) state.push_back({"value " + s.name, statetext(*s.held)});
+        if (s.reported) state.push_back({"value " + s.name, "", ' ' + statetext(*s.held)});
     return state;
 }
 

@@ -8,8 +8,9 @@
 namespace tessaly {
 
 struct stateline {
-    std::string name;  // "window vistaplan", "control floor", "value mag"
-    std::string text;  // "shown", "shown \"1\"", "0.56"
+    std::string name;        // "window vistaplan", "control floor", "value mag"
+    std::string visibility;  // " shown" or " hidden"; "" of a figure
+    std::string text;        // " \"1\"" of a control, " 0.56" of a figure
 };
 
 // Windows, controls and reported scalars, each in the order of its table.
