@@ -7,7 +7,8 @@ testpackages=(libgtest-dev libgmock-dev)
 benchpackages=(libbenchmark-dev)
 fuzzpackages=(cmake ninja-build clang)
 checkpackages=(git clang clang-format xvfb xdotool x11-utils imagemagick
-    locales dpkg-dev file appstream desktop-file-utils lintian)
+    locales dpkg-dev file appstream desktop-file-utils lintian
+    at-spi2-core dbus-bin dbus-daemon gir1.2-atspi-2.0 python3-gi)
 
 # installed NAME: whether the package of that name is installed (not merely known or half removed).
 installed() {

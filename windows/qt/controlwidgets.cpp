@@ -196,6 +196,8 @@ QWidget* makekind(control& c, QWidget* plan) {
 
 QWidget* makewidget(control& c, QWidget* plan) {
     QWidget* widget = makekind(c, plan);
+    if (c.kind == controlkind::picturebox) setrole(*widget, QAccessible::Graphic);
+    if (c.kind == controlkind::frame) setrole(*widget, QAccessible::Grouping);
     const QString caption = QString::fromStdString(c.text).simplified();
     widget->setObjectName(QString::fromStdString(c.name));
     widget->setGeometry(inpixels(c.place.left), inpixels(c.place.top), inpixels(c.place.width),
@@ -203,8 +205,6 @@ QWidget* makewidget(control& c, QWidget* plan) {
     widget->setToolTip(QString::fromStdString(c.tooltip));
     widget->setAccessibleName(c.spoken.empty() ? caption : QString::fromStdString(c.spoken));
     widget->setAccessibleDescription(widget->toolTip().section(": ", -1));  // what the name does not say already
-    if (c.kind == controlkind::picturebox) setrole(*widget, QAccessible::Graphic);
-    if (c.kind == controlkind::frame) setrole(*widget, QAccessible::Grouping);
     if (auto* box = qobject_cast<QComboBox*>(widget)) box->lineEdit()->setAccessibleName(box->accessibleName());
     widget->hide();
     return widget;

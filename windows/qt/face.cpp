@@ -67,7 +67,7 @@ QRect placeonscreen(const QWidget& widget) { return {widget.mapToGlobal(QPoint(0
 // The controls of the main window, the boxes over its picture also while they are hidden; the picture itself; and the
 // other windows that stand beside it, with the bars that the desktop puts above them.
 std::vector<obstacle> obstaclesto(const face& f) {
-    constexpr int picture = 1, otherwindow = 3, control = 20;
+    constexpr int picture = 4, otherwindow = 1, control = 40;
     std::vector<obstacle> found;
     for (const tessaly::control* c : vistaplan.controls) {
         const bool counts = c->shown ? c->kind != controlkind::frame : c->kind == controlkind::textbox;

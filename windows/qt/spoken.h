@@ -8,7 +8,7 @@ class QWidget;
 
 namespace tessaly {
 
-// Gives a widget a role; its name is its spoken name, or a window's title.
+// Gives a widget a role, before anything asks for it; its name is its spoken name, or a window's title.
 void setrole(QWidget& widget, QAccessible::Role role);
 
 // To be called once there is an application, before its first window.
