@@ -20,9 +20,6 @@ namespace {
 constexpr int mostrows = 7000, mostpairs = 10000;
 constexpr int mostfields = 6;
 
-// The end of a range of points. It may lie outside the tables: only the indexes that are touched count.
-int asindex(const value& v) { return static_cast<int>(std::clamp(nearestwhole(v), -1e6, 1e6)); }
-
 // ---- one procedure a keyword; row holds its fields in file order ----
 
 void setx(const value* row) {
@@ -41,12 +38,12 @@ void setz(const value* row) {
 }
 
 void resize(const value* row) {
-    for (int i = asindex(row[0]), last = asindex(row[1]); i <= last; ++i) {
+    overpoints(row[0], row[1], 1, [row](int i) {
         ptx.set(i, ptx[i] * row[2]);
         pty.set(i, pty[i] * row[3]);
         ptz.set(i, ptz[i] * row[4]);
         copytobase(i);
-    }
+    });
 }
 
 void keepplace(const value* offsets) {
@@ -57,7 +54,7 @@ void keepplace(const value* offsets) {
 
 void rotatetranslate(const value* row, double angle, turn about) {
     keepplace(row + 3);
-    turnpoints(asindex(row[0]), asindex(row[1]), angle, about);
+    turnpoints(row[0], row[1], angle, about);
 }
 
 void xrotatetranslate(const value* row) {
@@ -74,7 +71,7 @@ void zrotatetranslate(const value* row) {
 
 void translatesteps(const value* row, int step) {
     keepplace(row + 2);
-    shiftpoints(asindex(row[0]), asindex(row[1]), step);
+    shiftpoints(row[0], row[1], step);
 }
 
 void translate(const value* row) { translatesteps(row, 1); }
@@ -83,18 +80,18 @@ void step10translate(const value* row) { translatesteps(row, 10); }
 // A wrap: copies passes over a run of points, ten indexes further on each, with an angle and a rise that grow; the rise
 // along the axis in pass k is (base + k) k rise. axis tells which of dx, dy, dz the rise is.
 void wrap(const value* row, value& running, turn about, int axis) {
-    int first = asindex(row[0]) - 10, last = asindex(row[1]) - 10;
-    const double angle = radians(row[2]), copies = row[3], rise = row[5];
-    double factor = row[4], risen = 0;
+    const double first = row[0], last = row[1], angle = radians(row[2]), copies = row[3], base = row[4], rise = row[5];
+    // A run of points leaves the tables after so many passes, which fails; an empty one only turns the angle.
+    const double passes = first > last ? std::min<double>(copies, lastpoint / 10) : copies;
+    double factor = base, risen = 0;
     running = 0;
-    for (int k = 1; k <= copies; ++k) {
+    for (int k = 1; k <= passes; ++k) {
         risen += rise;
         running = running + angle;
-        first += 10;
-        last += 10;
         factor += 1;
         const double r = factor * risen, c = cosineof(running), s = sineof(running);
-        for (int i = first; i <= last; ++i) about(i, c, s, axis == 0 ? r : 0, axis == 1 ? r : 0, axis == 2 ? r : 0);
+        overpoints(first + 10 * (k - 1), last + 10 * (k - 1), 1,
+                   [=](int i) { about(i, c, s, axis == 0 ? r : 0, axis == 1 ? r : 0, axis == 2 ? r : 0); });
     }
 }
 

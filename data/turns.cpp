@@ -2,8 +2,8 @@
 
 #include "data/turns.h"
 
+#include "core/failure.h"
 #include "core/sine.h"
-#include "core/world.h"
 
 namespace tessaly {
 
@@ -37,18 +37,23 @@ void turnz(int i, double c, double s, double dx, double dy, double dz) {
     copytobase(i);
 }
 
-void turnpoints(int first, int last, double angle, turn about) {
+void turnpoints(double first, double last, double angle, turn about) {
     const double c = cosineof(angle), s = sineof(angle);
-    for (int i = first; i <= last; ++i) about(i, c, s, placex, placey, placez);
+    overpoints(first, last, 1, [=](int i) { about(i, c, s, placex, placey, placez); });
 }
 
-void shiftpoints(int first, int last, int step) {
-    for (int i = first; i <= last; i += step) {
+void shiftpoints(double first, double last, int step) {
+    overpoints(first, last, step, [](int i) {
         ptx.set(i, basex[i] + placex);
         pty.set(i, basey[i] + placey);
         ptz.set(i, basez[i] + placez);
         copytobase(i);
-    }
+    });
+}
+
+void runfailure(double first, double last) {
+    throw failure(failurekind::subscript, "points " + shortesttext(first) + ".." + shortesttext(last) + ", points 0.." +
+                                              std::to_string(lastpoint) + " were expected");
 }
 
 }  // namespace tessaly

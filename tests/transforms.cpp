@@ -60,8 +60,10 @@ TEST(transforms, keywords) {
         // blocks compose in file order, each on what the one before left; what stands between them is skipped
         {"TRAN\nTRANSLATE:\n1,1,1,0,0\n9999,0,0,0,0\nfree, text\nTRAN\nRESIZE:\n1,1,3,1,1\n9999,0,0,0,0\nTRAN\nSTOP\nx",
          {{1, {6, 2, 3}}}},
-        // a first above its last does nothing, wherever it points
-        {"TRAN\nTRANSLATE:\n20000,3,1,1,1\n9999,0,0,0,0\nTRAN\nSTOP\n", four},
+        // a first above its last does nothing, wherever they point and however often it is to be done
+        {"TRAN\nTRANSLATE:\n20000,3,1,1,1\n3000000,2000000,1,1,1\n1.2,1.1,1,1,1\n9999,0,0,0,0\nTRAN\nZWRAP:\n"
+         "5,1,0,1e18,0,0\n9999,0,0,0,0,0\nTRAN\nSTOP\n",
+         four},
         // an end row one field short takes the next TRAN with it: the block behind is missed
         {"TRAN\nTRANSLATE:\n9999,0,0,0\nTRAN\nRESIZE:\n1,1,9,9,9\n9999,0,0,0,0\nTRAN\nSTOP\n", four},
         // a keyword TRAN is read as pairs up to its end row, and the keyword of the next block follows at once
@@ -101,6 +103,7 @@ TEST(transforms, mistakesOfAScript) {
         {"TRAN\nTRANSLATE:\n9999,0,0,0,0\nTRAN\n", failurekind::inputpastend, "keyword"},
         {"TRAN\nTRANSLATE:\n1,10001,0,0,0\n9999,0,0,0,0\n", failurekind::subscript, "script.txt, line 3, field 1"},
         {"TRAN\nZWRAP:\n1,1,0,1001,0,0\n9999,0,0,0,0,0\n", failurekind::subscript, "10001"},
+        {"TRAN\nSTEP10TRANSLATE:\n5,1e9,0,0,0\n9999,0,0,0,0\n", failurekind::subscript, "points 5.."},
         {"TRAN\nXTRANSFORMATIONS:\n-1,0\n9999,0\n", failurekind::subscript, "line 3"},
         {"TRAN\nRESIZE:\n1,1,1,1,one\n9999,0,0,0,0\n", failurekind::typemismatch, "line 3, field 5"},
         {"TRAN\nZWRAP:\n1,1,x,1,0,0\n9999,0,0,0,0,0\n", failurekind::typemismatch, "\"x\""},
@@ -109,8 +112,6 @@ TEST(transforms, mistakesOfAScript) {
         session s;
         expectfailure(failureof([&] { run(c.script, four); }), c.kind, c.told);
     }
-    session s;
-    run("TRAN\nTRANSLATE:\n1e10,10,1,1,1\n9999,0,0,0,0\nTRAN\nSTOP\n", four);  // an empty range touches nothing
 }
 
 // Degrees at which libraries and processors round differently, and the usual ones; worked out with 120 figures.
