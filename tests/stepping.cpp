@@ -76,6 +76,9 @@ TEST(stepping, aShiftKeepsFiveCharactersOfItself) {
     vertshift = 1.25e-7;
     s.click("vertinc");  // "1.25E"
     EXPECT_EQ(vertshift, 51.25);
+    vertshift = "12345x";  // cut before it is a number
+    s.click("vertinc");
+    EXPECT_EQ(vertshift, 12395);
     vertshift = value("12a", "text box verttxt");
     EXPECT_EQ(failureof([&] { s.click("vertdec"); })->kind, failurekind::typemismatch);
 }

@@ -48,12 +48,17 @@ void stepmag(int sign) {
     magtxt.text = boxtext(magshown, 6);
 }
 
-// The shift itself is cut to what five characters hold of it before the step: what stands behind them is lost. Where
-// they end within an exponent, the digits in front of it count; a shift that is no number at all fails.
+// What five characters hold of a shift: what stands behind them is lost, whatever it is. Where they end within an
+// exponent, the digits in front of it count; a shift that does not begin as a number fails.
+double frontof(const value& shift) {
+    const std::string front = shift.text().substr(0, 5);
+    if (!strictnumber(front)) static_cast<void>(static_cast<double>(shift));
+    return Val(front);
+}
+
 void stepshift(int sign, value& shift, control& box) {
     shiftinc = pickedstep(incrementlist, usualshiftstep);
-    static_cast<void>(static_cast<double>(shift));
-    shift = Val(shift.text().substr(0, 5)) + sign * shiftinc;
+    shift = frontof(shift) + sign * shiftinc;
     settle();
     replot();
     box.text = boxtext(shift, 5);
