@@ -35,7 +35,7 @@ std::vector<value> readviewrecord() {
     std::vector<value> fields;
     openinput(1, path, "view record");
     for (const viewfigure& f : viewfigures)
-        fields.emplace_back(fromwindows1252(readtextfield(1, f.word)), path + " (" + f.word + ")");
+        fields.emplace_back(fromwindows1252(readrecordtext(1, f.word)), path + " (" + f.word + ")");
     closechannel(1);
     return fields;
 }

@@ -47,9 +47,10 @@ struct scanner {
             ++in.field;
         }
     }
-    void skipblanklines() {
+    // Blank lines, and the line end of a row that is broken after a comma.
+    void skiplineends() {
         skipblanks();
-        while (in.field == 1 && !atend() && islineend(next())) {
+        while (!atend() && islineend(next())) {
             takelineend();
             skipblanks();
         }
@@ -127,7 +128,7 @@ struct scanner {
 
 value readvalue(int channel, const char* what) {
     scanner s(channelinput(channel), what);
-    s.skipblanklines();
+    s.skiplineends();
     return s.takevalue();
 }
 
@@ -139,7 +140,7 @@ value readrecordfield(int channel, const char* what) {
 
 int readlabel(int channel, const char* what) {
     scanner s(channelinput(channel), what);
-    s.skipblanklines();
+    s.skiplineends();
     if (s.atend()) s.pastend();
     const int line = s.in.line, field = s.in.field;
     double label = 0;
@@ -160,6 +161,13 @@ int readlabel(int channel, const char* what) {
 }
 
 std::string_view readtextfield(int channel, const char* what) {
+    scanner s(channelinput(channel), what);
+    s.skipblanks();
+    if (s.in.field > 1 && !s.atend() && islineend(s.next())) s.takelineend();  // the row is broken after a comma
+    return readrecordtext(channel, what);
+}
+
+std::string_view readrecordtext(int channel, const char* what) {
     scanner s(channelinput(channel), what);
     s.skipblanks();
     if (s.atend()) s.pastend();

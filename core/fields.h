@@ -1,7 +1,8 @@
-// The field reader: files are read field by field, and it makes no difference how fields are spread over lines.
-// A comma or a line end closes a field, blanks before it are skipped, double quotes delimit a text, a number also ends
-// at a blank and takes one separator with it. Reading past the end fails with input past end of file.
-// what: the field's role, for reports ("x of a STANDARD: row").
+// The field reader: files are read field by field, and it makes no difference how fields are spread over lines: a row
+// may be broken after a comma. A comma or a line end closes a field, blanks before it are skipped, double quotes
+// delimit a text, a number also ends at a blank and takes one separator with it. In design and view records, which are
+// lines, a comma at the end of a line has an empty field behind it. Reading past the end fails with input past end of
+// file. what: the field's role, for reports ("x of a STANDARD: row").
 #pragma once
 
 #include "core/channels.h"
@@ -16,7 +17,7 @@ namespace tessaly {
 // before it are skipped. A quoted field is a text always.
 value readvalue(int channel, const char* what);
 
-// A field of a design record or view record: as readvalue, but a blank line is one empty field.
+// A field of a design record: as readvalue, but a blank line is one empty field.
 value readrecordfield(int channel, const char* what);
 
 // A field as a label: a signed 16-bit whole number, halves to the even one; a text that is no number is 0. Blank lines
@@ -26,6 +27,9 @@ int readlabel(int channel, const char* what);
 // A field as a text, to the comma or the line end, trailing blanks included. It stands in the file's bytes: use it
 // before the channel is closed.
 std::string_view readtextfield(int channel, const char* what);
+
+// A text field of a design record or view record.
+std::string_view readrecordtext(int channel, const char* what);
 
 // Reads text fields until one equals key exactly.
 void findkey(int channel, const char* key);

@@ -19,6 +19,7 @@ std::string readall(const std::string& bytes, const std::string& reads) {
             if (read == 'v') result += shown(readvalue(1, "it"));
             if (read == 'r') result += shown(readrecordfield(1, "it"));
             if (read == 'l') result += std::to_string(readlabel(1, "it"));
+            if (read == 's') result += '"' + std::string(readrecordtext(1, "it")) + '"';
             if (read == 't') result += '"' + std::string(readtextfield(1, "it")) + '"';
         } catch (const failure& f) {
             return result + std::string(kindname(f.kind));
@@ -39,9 +40,11 @@ TEST(fields, rulesAtTheirEdges) {
         {"1 , ,2", "vvv", "1 - 2"},
         {"1,,2", "vvv", "1 - 2"},
         {",5", "vv", "- 5"},
-        {"1,\n2", "vvv", "1 - 2"},  // the comma opened a field, the line end closes it
-        {"\n \r\n\n 5", "v", "5"},  // blank lines are skipped where a figure is expected
-        {"\n5", "rr", "- 5"},       // but are a field of a record
+        {"1,\n2, \r\n\n3,\n4", "vvll", "1 2 3 4"},  // a row may be broken after a comma
+        {"a,\nb,c,\n\nd", "ttttt", "\"a\" \"b\" \"c\" \"\" \"d\""},
+        {"1,\n2,\nx", "rrrss", "1 - 2 \"\" \"x\""},  // but not a record's
+        {"\n \r\n\n 5", "v", "5"},                   // blank lines are skipped where a figure is expected
+        {"\n5", "rr", "- 5"},                        // but are a field of a record
         {"5\n\n6", "rrr", "5 - 6"},
         {"a b ,c", "tt", "\"a b \" \"c\""},
         {"a, b\nc", "ttt", "\"a\" \"b\" \"c\""},
