@@ -35,6 +35,7 @@ struct channelstate {
 };
 
 constexpr int lastchannel = 2;
+constexpr std::size_t mostbytes = 64 << 20;  // of a file that is held whole
 std::array<channelstate, lastchannel + 1> channels;
 
 channelstate& channelof(int channel) { return channels.at(static_cast<std::size_t>(channel)); }
@@ -52,18 +53,27 @@ void expectfree(int channel, std::string_view path) {
                                                     std::string(path));
 }
 
-std::string readwhole(int handle, const std::string& path, const char* what) {
-    std::string bytes;
+// Opens a file as flags say: a regular one, for a pipe may never answer and a device never end.
+int openregular(const std::string& path, const char* what, int flags) {
+    const int handle = ::open(systempath(path).c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666);
+    struct stat s {};
+    if (handle >= 0 && ::fstat(handle, &s) == 0 && S_ISREG(s.st_mode)) return handle;
+    const int error = handle < 0 ? errno : ENXIO;
+    if (handle >= 0) ::close(handle);
+    if (error != ENXIO) systemfailure(path, what, error);  // which is also what a pipe without a reader says
+    throw failure(failurekind::fileaccess, path + " (" + what + "): this is no regular file");
+}
+
+// Reads up to the end or a little more than mostbytes; 0, or the system's error.
+int readwhole(int handle, std::string& bytes) {
     char block[1 << 16];
-    for (;;) {
+    while (bytes.size() <= mostbytes) {
         const ssize_t got = ::read(handle, block, sizeof block);
         if (got < 0 && errno == EINTR) continue;
-        const int error = errno;
-        if (got <= 0) ::close(handle);
-        if (got == 0) return bytes;
-        if (got < 0) systemfailure(path, what, error);
+        if (got <= 0) return got < 0 ? errno : 0;
         bytes.append(block, static_cast<std::size_t>(got));
     }
+    return 0;
 }
 
 // Writes all of text at the end of the file behind handle, or leaves the file at its length and tells the error.
@@ -88,7 +98,8 @@ int appendwhole(int handle, const std::string& text) {
 
 std::string systempath(std::string_view path) {
     std::string result(path);
-    std::replace(result.begin(), result.end(), '\\', '/');
+    const std::size_t folderend = result.find('\\');
+    if (folderend != std::string::npos) result[folderend] = '/';
     return result;
 }
 
@@ -97,10 +108,21 @@ std::string textinput::place(int atline, int atfield) const {
 }
 
 std::string filebytes(std::string_view path, const char* what) {
-    const int handle = ::open(systempath(path).c_str(), O_RDONLY | O_CLOEXEC);
-    if (handle < 0) systemfailure(std::string(path), what, errno);
-    return readwhole(handle, std::string(path), what);
+    const std::string name(path);
+    const int handle = openfile(path, what);
+    const auto size = static_cast<std::size_t>(::lseek(handle, 0, SEEK_END));
+    std::string bytes;
+    ::lseek(handle, 0, SEEK_SET);
+    const int error = size > mostbytes ? 0 : readwhole(handle, bytes);
+    ::close(handle);
+    if (error != 0) systemfailure(name, what, error);
+    const std::size_t found = std::max(size, bytes.size());
+    if (found <= mostbytes) return bytes;
+    throw failure(failurekind::fileaccess, name + " (" + what + "): the file has " + std::to_string(found) +
+                                               " bytes, " + std::to_string(mostbytes) + " at most were expected");
 }
+
+int openfile(std::string_view path, const char* what) { return openregular(std::string(path), what, O_RDONLY); }
 
 void openinput(int channel, std::string_view path, const char* what) {
     expectfree(channel, path);
@@ -110,13 +132,11 @@ void openinput(int channel, std::string_view path, const char* what) {
 void openappend(int channel, std::string_view path, const char* what) {
     expectfree(channel, path);
     std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is a failed write, not the end of the process
-    const std::string system = systempath(path);
-    constexpr int flags = O_WRONLY | O_APPEND | O_CREAT | O_CLOEXEC;
-    int handle = ::open(system.c_str(), flags | O_EXCL, 0666);
-    const bool created = handle >= 0;
-    if (!created && errno == EEXIST) handle = ::open(system.c_str(), flags, 0666);
-    if (handle < 0) systemfailure(std::string(path), what, errno);
-    channelof(channel).output = appending{std::string(path), {}, handle, created};
+    const std::string name(path);
+    constexpr int flags = O_WRONLY | O_APPEND | O_CREAT;
+    const int created = ::open(systempath(path).c_str(), flags | O_EXCL | O_CLOEXEC, 0666);
+    const int handle = created >= 0 ? created : openregular(name, what, flags);
+    channelof(channel).output = appending{name, {}, handle, created >= 0};
 }
 
 void writetext(int channel, std::string_view text) {

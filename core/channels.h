@@ -1,6 +1,7 @@
 // Numbered channels: sequential text files as the building set uses them. Channel 1 serves element, scene and start
 // files and design files being written; channel 2 a design file during replay and its temporary files.
-// Paths are written as users know them ("designs\girders1.txt") and go through one procedure here.
+// Paths are written as users know them ("designs\girders1.txt") and go through one procedure here: the first backslash
+// ends the folder, and in the name behind it a backslash is a letter like any other, as it is on this system.
 #pragma once
 
 #include <cstddef>
@@ -10,7 +11,7 @@
 
 namespace tessaly {
 
-// The path as this system opens it: backslashes become slashes; relative to the working folder.
+// The path as this system opens it, relative to the working folder.
 std::string systempath(std::string_view path);
 
 // A file open for reading, held whole.
@@ -52,8 +53,12 @@ void deletefile(std::string_view path);
 // The bare names of the visible files of a folder, sorted; fails with file not found where there is no such folder.
 std::vector<std::string> filesin(std::string_view folder);
 
-// The bytes of a file as they stand on disk now: nothing is kept from an earlier reading. Fails with file not found or
-// file access error.
+// The bytes of a file as they stand on disk now: nothing is kept from an earlier reading. Fails with file not found,
+// with file access error also where it is no regular file or has more than 64 MB.
 std::string filebytes(std::string_view path, const char* what);
+
+// The system's handle of a file, open for reading, which is the caller's to close. Fails with file not found, with file
+// access error also where it is no regular file: a pipe may never answer, a device never end.
+int openfile(std::string_view path, const char* what);
 
 }  // namespace tessaly

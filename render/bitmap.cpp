@@ -6,10 +6,12 @@
 #include "core/failure.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <string_view>
+#include <system_error>
 
 namespace tessaly {
 
@@ -33,12 +35,13 @@ std::uint32_t figureat(std::string_view bytes, std::size_t at, int count) {
     return figure;
 }
 
-// Whether a file takes these bytes.
-bool takes(const std::filesystem::path& file, const std::string& bytes) {
+// Writes a file of these bytes; why it could not, or nothing.
+std::error_code errorofwriting(const std::filesystem::path& file, const std::string& bytes) {
+    errno = 0;
     std::ofstream out(file, std::ios::binary);
     out << bytes;
     out.close();
-    return out.good();
+    return out ? std::error_code() : std::error_code(errno, std::generic_category());
 }
 
 }  // namespace
@@ -63,19 +66,19 @@ std::string bitmapof(const raster& image) {
 
 void writebitmap(const raster& image, const std::string& path) {
     namespace fs = std::filesystem;
-    std::error_code ignored, failed;
+    std::error_code ignored;
     fs::path file = systempath(path);
     if (fs::is_symlink(file, ignored)) file = fs::weakly_canonical(file, ignored);
-    if (fs::exists(file, ignored) && !std::ofstream(file, std::ios::app))
+    if (fs::exists(file, ignored) && (!fs::is_regular_file(file, ignored) || !std::ofstream(file, std::ios::app)))
         throw failure(failurekind::fileaccess, "there is something of that name that cannot be written", path);
 
     const fs::path unfinished = file.parent_path() / ("." + file.filename().string() + ".part");
     const bool aside = std::ofstream(unfinished).is_open();  // a folder may take no new name and yet this file
-    const bool whole = takes(aside ? unfinished : file, bitmapof(image));
-    if (aside && whole) fs::rename(unfinished, file, failed);
-    if (whole && !failed) return;
+    std::error_code failed = errorofwriting(aside ? unfinished : file, bitmapof(image));
+    if (aside && !failed) fs::rename(unfinished, file, failed);
+    if (!failed) return;
     if (aside) fs::remove(unfinished, ignored);
-    throw failure(failurekind::fileaccess, "the picture could not be written in whole", path);
+    throw failure(failurekind::fileaccess, "the picture could not be written in whole: " + failed.message(), path);
 }
 
 void readbitmap(raster& image, const std::string& path) {

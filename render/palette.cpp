@@ -30,8 +30,10 @@ void loadpalette() {
         bytes = channelinput(1).bytes;
         closechannel(1);
     } catch (const failure& f) {
-        // A record file is opened for reading and writing alike: a missing one is merely empty.
+        // A record file is opened for reading and writing alike: a missing one is merely empty. Its folder has to be
+        // there.
         if (f.kind != failurekind::filenotfound) throw;
+        filesin("pals\\");
     }
     for (int k = 1; k <= lastrecordread; ++k) {
         const auto record = static_cast<std::size_t>((k - 1) * recordbytes);

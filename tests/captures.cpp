@@ -75,7 +75,7 @@ TEST(capture, failuresAreNotTrapped) {
     const auto kindof = [&](const char* name) { return failureof([&] { s.capture(name); })->kind; };
     EXPECT_EQ(kindof("\xC3\xA9\xC3\xA9\xC3\xA9"), failurekind::invalidcall);  // three characters
     EXPECT_TRUE(std::filesystem::is_empty("bmps"));
-    EXPECT_EQ(kindof("no\\view.bmp"), failurekind::filenotfound);
+    EXPECT_EQ(kindof("no/view.bmp"), failurekind::filenotfound);
     EXPECT_TRUE(capbox.shown);
     std::filesystem::create_directory("bmps/view.bmp");
     EXPECT_EQ(kindof("view.bmp"), failurekind::fileaccess);
@@ -145,6 +145,22 @@ TEST(retrieval, aRecordThatEndsEarlyHoldsTheChannel) {
     EXPECT_EQ(perpx, 1850);
     EXPECT_EQ(s.retrieve("view1.bmp"), "");
     EXPECT_EQ(failureof([&] { s.capture("view2.bmp"); })->kind, failurekind::filealreadyopen);
+}
+
+// A name may hold what is no letter to other systems, or to anybody.
+TEST(retrieval, actsOnThePickedFileWhateverItsNameLooksLike) {
+    capturing s;
+    std::filesystem::create_directory("bmps/old");
+    s.write("bmps/old/view1.bmp", "another picture");
+    for (const char* name : {"old\\view1.bmp", "\xE9\xFF.bmp"}) {
+        s.capture(name);
+        EXPECT_EQ(s.retrieve(name), "picture " + std::to_string(s.pictures.saved)) << name;
+        s.click("retrieveimagetbtn");
+        s.pick("bmplistbox", name);
+        s.click("delbmpbtn");
+        EXPECT_EQ(s.file("bmps/" + std::string(name)), "(none)");
+    }
+    EXPECT_EQ(s.file("bmps/old/view1.bmp"), "another picture");
 }
 
 TEST(retrieval, deletesOneFileAndLeavesItsNameInTheList) {

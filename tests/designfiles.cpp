@@ -54,11 +54,3 @@ TEST(designfiles, channelOneIsTakenAndGivenBack) {
     EXPECT_EQ(session::file("designs/girders1.txt"), "\"girder\",1,2,3,41,,,,,,64\r\n");
     EXPECT_EQ(failureof([] { openinput(1, "datah\\st-post.txt", "test"); }), std::nullopt);
 }
-
-TEST(designfiles, aFullDiskLeavesNoHalfRecord) {
-    session s;
-    floorname = "1";
-    elementkind = "girder";
-    std::filesystem::create_symlink("/dev/full", "designs/girders1.txt");
-    EXPECT_EQ(failureof([] { recordelement("girders", 1, 2, 3, 41); })->kind, failurekind::fileaccess);
-}

@@ -1,12 +1,16 @@
 // The field rules at their edges, and the channels that the fields come from.
 #include "core/fields.h"
+#include "render/bitmap.h"
 #include "tests/session.h"
+
+#include <sys/stat.h>
 
 using namespace tessaly;
 
 namespace {
 
-// What a run of reads gives: v value, r record field, l label, t text field; numbers bare, texts in quotes, "-" empty.
+// What a run of reads gives: v value, r record field, s its text, l label, t text field; numbers bare, texts in quotes,
+// "-" empty.
 std::string readall(const std::string& bytes, const std::string& reads) {
     session s;
     session::write("f.txt", bytes);
@@ -93,6 +97,26 @@ TEST(channels, refuseWhatIsOpenOrNotThere) {
     EXPECT_EQ(failureof([] { openappend(3 - 2, "none\\x.txt", "design file"); })->kind, failurekind::filealreadyopen);
     closechannel(1);
     EXPECT_EQ(failureof([] { openappend(1, "none\\x.txt", "design file"); })->kind, failurekind::filenotfound);
+}
+
+// A pipe may never answer, a device never end, and a file of any size would be held whole.
+TEST(channels, refuseWhatIsNoFileToReadInWhole) {
+    session s;
+    ASSERT_EQ(::mkfifo("designs/pipe", 0666), 0);
+    std::filesystem::create_symlink("/dev/zero", "designs/endless");
+    session::write("designs/large", "");
+    std::filesystem::resize_file("designs/large", (64 << 20) + 1);
+    for (const char* name : {"designs\\pipe", "designs\\endless"}) {
+        expectfailure(failureof([&] { openinput(2, name, "design file"); }), failurekind::fileaccess,
+                      "no regular file");
+        expectfailure(failureof([&] { openappend(1, name, "design file"); }), failurekind::fileaccess,
+                      "no regular file");
+    }
+    expectfailure(failureof([] { openinput(2, "designs\\large", "design file"); }), failurekind::fileaccess,
+                  "67108865 bytes");
+    std::filesystem::resize_file("designs/large", 64 << 20);
+    EXPECT_EQ(failureof([] { openinput(2, "designs\\large", "design file"); }), std::nullopt);
+    expectfailure(failureof([] { writebitmap(raster(1, 1), "designs\\pipe"); }), failurekind::fileaccess, "pipe");
 }
 
 TEST(channels, fileListsHoldVisibleFilesOnly) {

@@ -24,6 +24,20 @@ TEST(filelist, deletesThePickedFileAndClosesTheList) {
     EXPECT_EQ(firstfilename.text(), "roofs1.txt");  // the painter goes by it until another name comes
 }
 
+// A name from elsewhere may hold a backslash: it is a letter, and no way into another folder.
+TEST(filelist, deletesAndReplaysWhatWasPickedWhateverItsNameLooksLike) {
+    replaysession s;
+    const std::string odd = "girders1\\..\\girders1.txt";
+    std::filesystem::create_directory("designs/girders1");
+    s.design("girders1.txt", post(1, 8, 8));
+    s.design(odd, post(1, 200, 8) + post(2, 392, 8));
+    EXPECT_EQ(s.wire(odd).size(), 2U);
+    s.click("displayfilelistbtn");
+    s.pick("designfileslist", odd);
+    s.click("killfilebtn");
+    EXPECT_EQ(designfileslist.items, std::vector<std::string>{"girders1.txt"});
+}
+
 TEST(filelist, fileThatIsGoneAlreadyIsAFailure) {
     replaysession s;
     s.design("girders1.txt", "");

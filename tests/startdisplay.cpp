@@ -181,4 +181,7 @@ TEST(startdisplay, foldersMustExist) {
         EXPECT_EQ(failureof([&] { s.start(); })->kind, failurekind::filenotfound);
         EXPECT_TRUE(s.lines().empty());
     }
+    session s(startfolder());
+    std::filesystem::remove_all("pals");  // a palette may be missing, its folder may not
+    expectfailure(failureof([&] { s.start(); }), failurekind::filenotfound, "pals\\ (folder)");
 }

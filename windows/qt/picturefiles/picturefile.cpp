@@ -24,7 +24,8 @@ void writepng(const raster& image, const std::string& path) {
     if (!file.open(QIODevice::WriteOnly))
         throw failure(failurekind::fileaccess, file.errorString().toStdString(), path + " (picture)");
     if (!viewof(image).save(&file, "png") || !file.commit())
-        throw failure(failurekind::fileaccess, "the picture could not be written in whole", path);
+        throw failure(failurekind::fileaccess,
+                      "the picture could not be written in whole: " + file.errorString().toStdString(), path);
 }
 
 // Whether a bitmap is shorter than its head says; the library would show the missing rows as black.
@@ -34,9 +35,8 @@ bool cutshort(QFile& file) {
 }
 
 void readintoimage(raster& image, const std::string& path) {
-    QFile file(QFile::decodeName(systempath(path).c_str()));
-    if (!file.exists()) throw failure(failurekind::filenotfound, path + " (picture)");
-    if (!file.open(QIODevice::ReadOnly))
+    QFile file;  // by its handle: the library would lose a name that is no UTF-8
+    if (!file.open(openfile(path, "picture"), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
         throw failure(failurekind::fileaccess, file.errorString().toStdString(), path + " (picture)");
     if (cutshort(file)) throw failure(failurekind::invalidcall, "the file is not whole", path + " (picture)");
     QImageReader reader(&file);
