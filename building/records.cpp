@@ -8,7 +8,7 @@ namespace tessaly {
 
 std::vector<column> designcolumns(column number, column code, column trailer) {
     return {
-        {&elementkind, &rdkind},
+        {&elementkind, &rdkind, true},
         number,
         {nullptr, &rdx},
         {nullptr, &rdy},
@@ -41,7 +41,8 @@ std::string keptline(const value& first, columns kept, const value& r, const val
 std::vector<value> readrecord(int channel, columns form) {
     std::vector<value> fields;
     for (const column& c : form) {
-        fields.push_back(readrecordfield(channel, "a field of a design record"));
+        constexpr const char* what = "a field of a design record";
+        fields.push_back(c.text ? value(readrecordtext(channel, what)) : readrecordfield(channel, what));
         if (c.place) *c.place = fields.back();
     }
     return fields;

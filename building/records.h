@@ -14,6 +14,7 @@ namespace tessaly {
 struct column {
     value* place = nullptr;                    // takes a field as it is read
     table<value, lastrecord>* kept = nullptr;  // keeps the fields of all records, one index a record
+    bool text = false;                         // holds texts, whatever they look like
 };
 using columns = std::span<const column>;
 

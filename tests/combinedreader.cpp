@@ -47,6 +47,12 @@ TEST(combinedreader, temporaryFilesCarryTheHeightOfEachRecord) {
     EXPECT_EQ(s.file("nonuser/temp2.txt"),
               "1,\"panel\",1,-488,-576,1,0,270,0,208,2,0\r\n2,\"girder\",1,-480,-672,41,90,0,0,16,4,128\r\n");
     EXPECT_TRUE(progressbar.shown);
+    forgetchannels();
+    std::filesystem::remove("nonuser/temp.txt");
+    s.design("girders2.txt", ",1,8,8,41,90,0,0,16,4,64\r\n12,2,8,8,41,90,0,0,16,4,64\r\n");  // a kind is a text
+    s.click("autowirebtn");
+    s.pick("autofile1", "girders2.txt");
+    EXPECT_EQ(temp(), "128,\"\",1,8,8,41,90,0,0,16,4,64\r\n128,\"12\",2,8,8,41,90,0,0,16,4,64\r\n");
 }
 
 TEST(combinedreader, oneSortOverBothFilesAtTheirOwnHeights) {

@@ -179,7 +179,7 @@ TEST(singlereader, blankLinesShiftTheFields) {
     s.design("girders1.txt", nearest + "\r\n");
     EXPECT_EQ(s.wire("girders1.txt"), s.wiresof(nearest));
     s.wire("girders1.txt");
-    EXPECT_TRUE(elementkind.empty());  // of the half record at the end
+    EXPECT_TRUE(elementkind.is(""));  // of the half record at the end
     EXPECT_EQ(s.solid("girders1.txt"), s.wiresof(nearest));
     s.design("girders1.txt", nearest + "\r\n" + farther + farther);
     EXPECT_EQ(s.wire("girders1.txt").size(), 3);  // the second and third begin a field early, the fourth breaks off
