@@ -62,7 +62,7 @@ void keepbothfiles(int n) {
 
 // Draws the records of tempfile as wires, the first file's and then the second's. reads: combinedcount.
 void replaycombined() {
-    const int n = indexof(combinedcount, "combinedcount");
+    const int n = indexof(combinedcount, "combinedcount", 2 * lastrecord);
     openinput(2, tempfile, "temporary file");
     for (int k = 1; k <= n; ++k) {
         readrecord(2, wirecolumns);
@@ -122,7 +122,7 @@ void pickautofile2() {
 
 void pickautofile4() {
     takesecond(autofile4, solidline);
-    const int n = indexof(combinedcount, "combinedcount");
+    const int n = indexof(combinedcount, "combinedcount", 2 * lastrecord);
     keepbothfiles(n);
     makeeyeabsolute();
     measurerecords(n);

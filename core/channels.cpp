@@ -4,6 +4,7 @@
 #include "core/channels.h"
 
 #include "core/failure.h"
+#include "core/value.h"
 
 #include <algorithm>
 #include <array>
@@ -42,7 +43,8 @@ channelstate& channelof(int channel) { return channels.at(static_cast<std::size_
 
 [[noreturn]] void systemfailure(const std::string& path, const char* what, int error) {
     const auto kind = error == ENOENT || error == ENOTDIR ? failurekind::filenotfound : failurekind::fileaccess;
-    throw failure(kind, std::strerror(error), path + " (" + what + ")");
+    constexpr std::size_t mostofpath = 300;  // more than any file's
+    throw failure(kind, std::strerror(error), excerpt(path, mostofpath) + " (" + what + ")");
 }
 
 void expectfree(int channel, std::string_view path) {
@@ -61,7 +63,7 @@ int openregular(const std::string& path, const char* what, int flags) {
     const int error = handle < 0 ? errno : ENXIO;
     if (handle >= 0) ::close(handle);
     if (error != ENXIO) systemfailure(path, what, error);  // which is also what a pipe without a reader says
-    throw failure(failurekind::fileaccess, path + " (" + what + "): this is no regular file");
+    throw failure(failurekind::fileaccess, "this is no regular file", path + " (" + what + ")");
 }
 
 // Reads up to the end or a little more than mostbytes; 0, or the system's error.
@@ -118,8 +120,10 @@ std::string filebytes(std::string_view path, const char* what) {
     if (error != 0) systemfailure(name, what, error);
     const std::size_t found = std::max(size, bytes.size());
     if (found <= mostbytes) return bytes;
-    throw failure(failurekind::fileaccess, name + " (" + what + "): the file has " + std::to_string(found) +
-                                               " bytes, " + std::to_string(mostbytes) + " at most were expected");
+    throw failure(failurekind::fileaccess,
+                  "the file has " + std::to_string(found) + " bytes, " + std::to_string(mostbytes) +
+                      " at most were expected",
+                  name + " (" + what + ")");
 }
 
 int openfile(std::string_view path, const char* what) { return openregular(std::string(path), what, O_RDONLY); }

@@ -3,6 +3,7 @@
 #include "core/colour.h"
 
 #include "core/failure.h"
+#include "core/fields.h"
 #include "core/world.h"
 
 #include <algorithm>
@@ -15,21 +16,27 @@ std::uint8_t component(double figure) {
     const double whole = nearestwhole(figure);
     if (!(whole >= -32768 && whole <= 32767))
         throw failure(failurekind::overflow,
-                      "colour component " + shortesttext(figure) + ", a whole number -32768..32767 was expected");
+                      "colour component " + plaintext(figure) + ", a whole number -32768..32767 was expected");
     if (whole < 0)
-        throw failure(failurekind::invalidcall, "colour component " + shortesttext(figure) + ", 0..255 was expected");
+        throw failure(failurekind::invalidcall, "colour component " + plaintext(figure) + ", 0..255 was expected");
     return static_cast<std::uint8_t>(std::min(whole, 255.0));
 }
 
-// As makecolour; a component that is none is told with its place in the files.
+// As makecolour; a component that is none is told with place(0..2), where it stands in the files.
 template <class placing>
-colour colourof(const value& red, const value& green, const value& blue, placing place) {
+colour colourof(std::initializer_list<value> components, placing place) {
+    std::uint8_t made[3];
+    int i = 0;
     try {
-        return makecolour(red, green, blue);
+        for (const value& figure : components) {
+            made[i] = component(figure);
+            ++i;
+        }
     } catch (failure& f) {
-        f.tellplace(place());
+        f.tellplace(place(i));
         throw;
     }
+    return {made[0], made[1], made[2]};
 }
 
 }  // namespace
@@ -39,14 +46,14 @@ colour makecolour(const value& red, const value& green, const value& blue) {
 }
 
 colour palettecolour(const value& index) {
-    const int entry = indexof(index, "palette");
-    if (entry < 0 || entry > lastcolour) subscriptfailure("palette", entry, lastcolour);
-    return colourof(palred[entry], palgreen[entry], palblue[entry],
-                    [entry] { return "pals\\" + palname.text() + ".pal, record " + std::to_string(entry); });
+    const int entry = indexof(index, "palette", lastcolour);
+    return colourof({palred[entry], palgreen[entry], palblue[entry]},
+                    [entry](int) { return "pals\\" + palname.text() + ".pal, record " + std::to_string(entry); });
 }
 
 colour backgroundcolour() {
-    return colourof(backred, backgreen, backblue, [] { return std::string("datah\\start.txt, BACKGROUNDCOLOR"); });
+    return colourof({backred, backgreen, backblue},
+                    [](int i) { return figureplace("datah\\start.txt", "BACKGROUNDCOLOR:", i); });
 }
 
 }  // namespace tessaly

@@ -155,7 +155,7 @@ int readlabel(int channel, const char* what) {
     label = nearestwhole(label);
     if (label < -32768 || label > 32767)
         throw failure(failurekind::overflow,
-                      shortesttext(label) + " as " + s.what + ", a whole number -32768..32767 was expected",
+                      plaintext(label) + " as " + s.what + ", a whole number -32768..32767 was expected",
                       s.in.place(line, field));
     return static_cast<int>(label);
 }
@@ -175,6 +175,23 @@ std::string_view readrecordtext(int channel, const char* what) {
     const std::string_view text = s.tocommaorlineend();
     s.takeseparator();
     return text;
+}
+
+void skiptofigure(int channel) { scanner(channelinput(channel), "a figure").skiplineends(); }
+
+std::string figureplace(const std::string& path, const std::string& key, int skipped) {
+    constexpr int forreports = 0;  // a channel of its own
+    std::string place = path;
+    try {
+        openinput(forreports, path, "file of a report");
+        findkey(forreports, key.c_str());
+        for (; skipped > 0; --skipped) readvalue(forreports, key.c_str());
+        skiptofigure(forreports);
+        place = channelinput(forreports).place() + " (" + key + ")";
+    } catch (const failure&) {
+    }
+    closechannel(forreports);
+    return place;
 }
 
 void findkey(int channel, const char* key) {

@@ -9,6 +9,7 @@
 #include "core/failure.h"
 #include "core/value.h"
 
+#include <string>
 #include <string_view>
 
 namespace tessaly {
@@ -33,6 +34,13 @@ std::string_view readrecordtext(int channel, const char* what);
 
 // Reads text fields until one equals key exactly.
 void findkey(int channel, const char* key);
+
+// Moves over blanks, blank lines and the line end of a broken row to where the next figure begins.
+void skiptofigure(int channel);
+
+// Where a figure of a section stands, for reports: that with so many others between it and its key, with the key behind
+// it. The file is read again for it; only its name where it does not go as far any more.
+std::string figureplace(const std::string& path, const std::string& key, int skipped);
 
 // Runs step with a row of a section: an index outside a table is told with the place at which the row began.
 template <class procedure>

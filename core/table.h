@@ -13,15 +13,14 @@
 namespace tessaly {
 
 // The nearest whole number, which v is not already; indexof is the one to call.
-int roundedindex(const value& v, const char* tablename);
+int roundedindex(const value& v, const char* tablename, int last);
 
 // The whole number that a value is when it stands as an index: rounded to the nearest; fails with subscript out
-// of range where it is beyond any table, with type mismatch where it is a text.
-inline int indexof(const value& v, const char* tablename) {
-    constexpr double beyondall = 1e6;
+// of range where it is not within 0..last, with type mismatch where it is a text.
+inline int indexof(const value& v, const char* tablename, int last) {
     const double number = v.isnumber() ? double(v) : -1;
-    if (number >= 0 && number < beyondall && number == static_cast<int>(number)) return static_cast<int>(number);
-    return roundedindex(v, tablename);
+    if (number >= 0 && number <= last && number == static_cast<int>(number)) return static_cast<int>(number);
+    return roundedindex(v, tablename, last);
 }
 
 [[noreturn]] void subscriptfailure(const char* tablename, double index, int last);
@@ -80,10 +79,10 @@ class table final : public tablebase {
     explicit table(const char* itsname) : tablebase(itsname) { pages.markall(); }
 
     const element& operator[](int index) const { return held[checked(index)]; }
-    const element& operator[](const value& index) const { return held[checked(indexof(index, name))]; }
+    const element& operator[](const value& index) const { return held[checked(indexof(index, name, last))]; }
 
     void set(int index, element e) { held[mark(index)] = e; }
-    void set(const value& index, element e) { held[mark(indexof(index, name))] = e; }
+    void set(const value& index, element e) { held[mark(indexof(index, name, last))] = e; }
 
     // Every index 1..cleared becomes 0. Only pages written since the last call are touched: the rest is 0 already.
     void clear() {

@@ -3,6 +3,7 @@
 #include "core/value.h"
 
 #include "core/failure.h"
+#include "core/windows1252.h"
 
 #include <algorithm>
 #include <charconv>
@@ -103,7 +104,7 @@ double value::converted() const {
         beyond.tellplace(held.origin);
         throw;
     }
-    throw failure(failurekind::typemismatch, "\"" + held.text + "\" where a number was expected", held.origin);
+    throw failure(failurekind::typemismatch, "\"" + excerpt(held.text) + "\" where a number was expected", held.origin);
 }
 
 std::optional<double> strictnumber(std::string_view text) {
@@ -111,7 +112,7 @@ std::optional<double> strictnumber(std::string_view text) {
     while (!text.empty() && isblank(text.back())) text.remove_suffix(1);
     if (text.empty() || numberlength(text) != text.size()) return std::nullopt;
     const double number = parsed(text);
-    if (std::isinf(number)) throw failure(failurekind::overflow, "the number " + std::string(text) + " is too large");
+    if (std::isinf(number)) throw failure(failurekind::overflow, "the number " + excerpt(text) + " is too large");
     return number;
 }
 
@@ -142,6 +143,23 @@ std::string generaltext(double number) {
 std::string shortesttext(double number) {
     char digits[40];
     return std::string(digits, std::to_chars(digits, digits + sizeof digits, number).ptr);
+}
+
+std::string plaintext(double number) {
+    char digits[40];
+    constexpr double twentydigits = 1e20;  // the exponent of a larger one reads better
+    if (!(std::abs(number) < twentydigits)) return shortesttext(number);
+    const auto written = std::to_chars(digits, digits + sizeof digits, number, std::chars_format::fixed);
+    return written.ec == std::errc() ? std::string(digits, written.ptr) : shortesttext(number);
+}
+
+std::string excerpt(std::string_view text, std::size_t most) {
+    const auto begins = [](char c) { return !continuescharacter(c); };
+    const auto characters = static_cast<std::size_t>(std::count_if(text.begin(), text.end(), begins));
+    if (characters <= most) return std::string(text);
+    std::size_t end = 0;
+    for (std::size_t begun = 0; end < text.size() && (begun += begins(text[end])) <= most;) ++end;
+    return std::string(text.substr(0, end)) + "... (" + std::to_string(characters) + " characters)";
 }
 
 std::string boxtext(const value& v, std::size_t n) { return (v.istext() ? generaltext(v) : v.text()).substr(0, n); }

@@ -90,13 +90,13 @@ KEPT(curgroup); KEPT(startstep); KEPT(spareface); KEPT(anynumber); KEPT(focussig
 std::span<const scalar> scalars() { return registered(); }
 
 void subscriptfailure(const char* tablename, double index, int last) {
-    throw failure(failurekind::subscript, std::string(tablename) + " has no index " + shortesttext(index) +
+    throw failure(failurekind::subscript, std::string(tablename) + " has no index " + plaintext(index) +
                                               ", an index 0.." + std::to_string(last) + " was expected");
 }
 
-int roundedindex(const value& v, const char* tablename) {
+int roundedindex(const value& v, const char* tablename, int last) {
     const double index = nearestwhole(v);
-    if (!(std::abs(index) < 1e9)) subscriptfailure(tablename, index, 0);
+    if (!(index >= 0 && index <= last)) subscriptfailure(tablename, v, last);
     return static_cast<int>(index);
 }
 

@@ -58,6 +58,7 @@ void readcubeframing(const char* key, table<value, lastquad, clearedpoints>& fra
     findkey(1, key);
     double walked = 0;
     for (;;) {
+        skiptofigure(1);
         const int line = channelinput(1).line, field = channelinput(1).field;
         const value first = readvalue(1, "the first quad of a framing row");
         const value last = readvalue(1, "the last quad of a framing row");

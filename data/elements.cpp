@@ -68,6 +68,7 @@ void readplanes() {
 void readframing(const char* key, table<value, lastquad, clearedpoints>& framing) {
     findkey(1, key);
     for (;;) {
+        skiptofigure(1);
         const int line = channelinput(1).line, field = channelinput(1).field;
         const value quad = readvalue(1, "the quad index of a framing row");
         const value count = readvalue(1, "the count of a framing row");

@@ -134,6 +134,7 @@ const block& blockof(std::string_view keyword) {
 
 void obeyblock(const block& b) {
     for (int n = 1; n <= b.rows; ++n) {
+        skiptofigure(1);
         const int line = channelinput(1).line, field = channelinput(1).field;
         value row[mostfields];
         for (int f = 0; f < b.fields; ++f) row[f] = readvalue(1, "a field of a transformation row");

@@ -52,7 +52,7 @@ void shiftpoints(double first, double last, int step) {
 }
 
 void runfailure(double first, double last) {
-    throw failure(failurekind::subscript, "points " + shortesttext(first) + ".." + shortesttext(last) + ", points 0.." +
+    throw failure(failurekind::subscript, "points " + plaintext(first) + ".." + plaintext(last) + ", points 0.." +
                                               std::to_string(lastpoint) + " were expected");
 }
 

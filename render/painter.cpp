@@ -5,6 +5,7 @@
 #include "core/colour.h"
 #include "core/failure.h"
 #include "core/world.h"
+#include "render/places.h"
 #include "render/projector.h"
 #include "render/quadsort.h"
 #include "render/surface.h"
@@ -42,21 +43,18 @@ void buildrail(const value& start, const value& end, int firstpoint, int count, 
     }
 }
 
-// The framing lines of one direction: count lines between rail start1-end1 and rail start2-end2. The scratch points
-// have no saved positions and no base of their own: a near-side walk starts from what the tables hold there, and the
-// restore overwrites them.
-void framedirection(const value& start1, const value& end1, const value& start2, const value& end2,
-                    const value& lines) {
-    railstart1 = start1;
-    railend1 = end1;
-    railstart2 = start2;
-    railend2 = end2;
-    framen = lines;
-    curgroup = framinggroup;
-    const colour c = palettecolour(framecolour);
-    viewportsurface->line(static_cast<float>(screenx[railend2]), static_cast<float>(screeny[railend2]),
-                          static_cast<float>(screenx[railend1]), static_cast<float>(screeny[railend1]), c);
-    const int count = indexof(framen, "framing count");
+// A direction of framing: its rails begin at corner 1 and end at corner 4, and its lines run from rail to rail.
+struct direction {
+    int number;
+    const table<value, lastquad, clearedpoints>&counts, &firstend, &secondstart;
+};
+const direction directions[] = {{1, framing1, quad2, quad3}, {2, framing2, quad3, quad2}};
+
+// The scratch points have no saved positions and no base of their own: a near-side walk starts from what the tables
+// hold there, and the restore overwrites them.
+void framelines() {
+    constexpr int mostlines = (lastpoint - framingscratch + 1) / 2;
+    const int count = indexof(framen, "framing", mostlines);
     groupfirst.set(framinggroup, framingscratch);
     grouplast.set(framinggroup, framingscratch - 1 + count);
     buildrail(railstart1, railend1, framingscratch, count, lineend1);
@@ -64,14 +62,27 @@ void framedirection(const value& start1, const value& end1, const value& start2,
     drawlines(framingscratch, framingscratch - 1 + count, framecolour);
 }
 
+void framedirection(int q, const direction& d) {
+    railstart1 = quad1[q];
+    railend1 = d.firstend[q];
+    railstart2 = d.secondstart[q];
+    railend2 = quad4[q];
+    framen = d.counts[q];
+    curgroup = framinggroup;
+    const colour c = palettecolour(framecolour);
+    viewportsurface->line(static_cast<float>(screenx[railend2]), static_cast<float>(screeny[railend2]),
+                          static_cast<float>(screenx[railend1]), static_cast<float>(screeny[railend1]), c);
+    tellmisses([&] { return placeofframing(q, d.number); }, framelines);
+}
+
 void drawframing(int q) {
     if (framing1[q] == 0 && framing2[q] == 0) return;
     framecolour = quadcolour[q] + 1;
     const bool first = framing1[q] > 0, second = framing2[q] > 0;
     framesecond = first && second ? 1 : 0;
-    if (first) framedirection(quad1[q], quad2[q], quad3[q], quad4[q], framing1[q]);
+    if (first) framedirection(q, directions[0]);
     framesecond = 0;
-    if (second) framedirection(quad1[q], quad3[q], quad2[q], quad4[q], framing2[q]);
+    if (second) framedirection(q, directions[1]);
 }
 
 void paintface(int q) {
@@ -88,8 +99,8 @@ void paintsolids() {
     divisions = choosedivisions();
     for (int i = mostpainted; i >= 1; --i) {
         if (emptyquad(i)) continue;  // the slot at i itself: an element's quads fill the table from 1 upward
-        const int q = indexof(quadorder[i], "quadorder");
-        tellmisses([q] { return faceplace(q); }, [q] { paintface(q); });
+        const int q = indexof(quadorder[i], "quadorder", lastquad);
+        tellmisses([q] { return placeofcolour(q); }, [q] { paintface(q); });
     }
 }
 

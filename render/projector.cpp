@@ -5,6 +5,7 @@
 
 #include "core/failure.h"
 #include "core/viewfigures.h"
+#include "render/places.h"
 #include "render/surface.h"
 
 #include <cmath>
@@ -114,14 +115,15 @@ void mapend(int e, double scale, double shiftright, double shiftup) {
     screeny.set(e, ((scale * -mappingscale) * planeup[e] + mappingy) - shiftup);
 }
 
-// A line end as a point index. A miss is told by line, since a data file's row named the point.
+// A line end as a point index, which a row of its group named.
 int lineend(const table<value, lastline>& ends, int line, int end) {
     const value& named = ends[line];
     const double whole = nearestwhole(named);
     if (whole >= 0 && whole <= lastpoint) return static_cast<int>(whole);
-    throw failure(failurekind::subscript, "end " + std::to_string(end) + " of line " + std::to_string(line) +
-                                              " names point " + shortesttext(named) + ", a point 0.." +
-                                              std::to_string(lastpoint) + " was expected");
+    const int group = static_cast<int>(double(curgroup)), row = line - static_cast<int>(double(groupfirst[group])) + 1;
+    throw failure(failurekind::subscript,
+                  "point " + plaintext(named) + ", a point 0.." + std::to_string(lastpoint) + " was expected",
+                  placeofend(group, row, end));
 }
 
 bool samenumber(const value& focus, const value& eye) { return double(eye) == double(focus); }
@@ -184,10 +186,10 @@ void projectdraw() {
 
 int blocksinuse(pointblock (&blocks)[4]) {
     int count = 0;
-    blocks[count++] = {1, indexof(ptcount1, "ptcount1")};
-    if (drawset.isnumber() && drawset == 2) blocks[count++] = {2001, 2000 + indexof(ptcount2, "ptcount2")};
-    blocks[count++] = {4001, 4000 + indexof(ptcount3, "ptcount3")};
-    blocks[count++] = {6001, 6000 + indexof(ptcount4, "ptcount4")};
+    blocks[count++] = {1, indexof(ptcount1, "ptcount1", lastpoint)};
+    if (drawset.isnumber() && drawset == 2) blocks[count++] = {2001, 2000 + indexof(ptcount2, "ptcount2", lastpoint)};
+    blocks[count++] = {4001, 4000 + indexof(ptcount3, "ptcount3", lastpoint)};
+    blocks[count++] = {6001, 6000 + indexof(ptcount4, "ptcount4", lastpoint)};
     return count;
 }
 
@@ -233,8 +235,9 @@ void drawgroups() {
         if (linecount[group] == 0) continue;
         curgroup = group;
         curwirecolour = wirecolour[group];
-        const int first = indexof(groupfirst[group], "groupfirst"), last = indexof(grouplast[group], "grouplast");
-        tellmisses([group] { return shapefile.text() + ", line group " + std::to_string(group); },
+        const int first = indexof(groupfirst[group], "groupfirst", lastline),
+                  last = indexof(grouplast[group], "grouplast", lastline);
+        tellmisses([group] { return placeofwirecolour(group); },
                    [first, last] { drawlines(first, last, curwirecolour); });
     }
 }

@@ -4,6 +4,7 @@
 
 #include "core/failure.h"
 #include "core/world.h"
+#include "render/places.h"
 
 #include <algorithm>
 #include <cmath>
@@ -38,7 +39,7 @@ void measurecorners(int i) {
 void measurequad(int i) {
     // The fourth corner is slot 0's, not slot i's: three corners decide whether a quad counts as empty here.
     if (quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[0] == 0) return;
-    tellmisses([i] { return faceplace(i); }, [i] { measurecorners(i); });
+    tellmisses([i] { return placeofcorner(i); }, [i] { measurecorners(i); });
 }
 
 // Runs visit(i) for every slot that may hold a quad, ascending.
@@ -98,7 +99,5 @@ void orderquadsplainly() {
 }
 
 bool emptyquad(int i) { return quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[i] == 0; }
-
-std::string faceplace(int quad) { return shapefile.text() + ", face " + std::to_string(quad); }
 
 }  // namespace tessaly

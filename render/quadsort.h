@@ -1,8 +1,6 @@
 // The order in which the painter takes the quads of the element in the tables: nearest corner first.
 #pragma once
 
-#include <string>
-
 namespace tessaly {
 
 // Measures the quads of slots 1..7000 and sorts them into quadorder. A quad with a key of 1000000 or more is never
@@ -16,8 +14,5 @@ void orderquadsplainly();
 
 // Whether a slot of the quad tables holds no quad.
 bool emptyquad(int slot);
-
-// "datah\st-post.txt, face 3", for reports.
-std::string faceplace(int quad);
 
 }  // namespace tessaly

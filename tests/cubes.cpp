@@ -1,5 +1,6 @@
 // Axis-cube files: rows of cubes by section, their counts, framing in steps of ten, and the cube button.
 #include "data/cubes.h"
+#include "render/painter.h"
 #include "tests/session.h"
 
 #include <array>
@@ -25,10 +26,10 @@ std::string cubefile(const std::array<const char*, 6>& rows, const std::string& 
 }
 
 void readfile(void (*reader)(), const std::string& text) {
-    session::write("datah/cubes.txt", text);
+    session::write("datah/az-cubes.txt", text);
     setview(1850, -1850, 550);
     focusx = focusy = focusz = 0.5;
-    datafile = "cubes.txt";
+    datafile = "az-cubes.txt";
     reader();
 }
 
@@ -92,6 +93,21 @@ TEST(cubes, framingGoesInStepsOfTen) {
     EXPECT_TRUE(framing1[22] == 3 && framing1[32] == 0);
 }
 
+// A report names the row of the section that gave the face its figures.
+TEST(cubes, reportsNameTheRowOfTheFace) {
+    session s(ownfolder);
+    const char *const row = "0,0,0,1,1,1,10,5,0,5", *const black = "0,50,0,1,51,1,10,100,0,300";
+    const auto painted = [&](const char* first, const char* framing) {
+        return failureof([&] {
+            readfile(readcubex, cubefile({first, nullptr, nullptr, nullptr, nullptr, nullptr}, "", framing));
+            paintsolids();
+        });
+    };
+    expectfailure(painted(black, ""), failurekind::subscript, "line 5, field 10 (AUTOCUBE000:): palette");
+    expectfailure(painted(row, "2,2,3\n1,41,1501\n42,52,3\n"), failurekind::subscript,
+                  "line 20, field 3 (AUTOFRAMING1:)");
+}
+
 TEST(cubes, ownScriptRunsUnlessTheFileWasOpened) {
     session s(ownfolder);
     const std::string text = cubefile({"1,1,1,2,2,2,1,0,0,5", nullptr, nullptr, nullptr, nullptr, nullptr}, "", "",
@@ -100,7 +116,7 @@ TEST(cubes, ownScriptRunsUnlessTheFileWasOpened) {
     EXPECT_EQ(base(1), (corner{11, 1, 1}));
     const auto drawn = s.takelines().size();
     drawset = 1;
-    openinput(1, "datah\\cubes.txt", "test");
+    openinput(1, "datah\\az-cubes.txt", "test");
     preopened = 4;
     readcubez();
     EXPECT_EQ(base(1), (corner{1, 1, 1}));

@@ -16,7 +16,7 @@ using corner = std::array<double, 3>;
 
 corner base(int i) { return {basex[i], basey[i], basez[i]}; }
 corner working(int i) { return {ptx[i], pty[i], ptz[i]}; }
-corner base(const value& i) { return base(indexof(i, "test")); }
+corner base(const value& i) { return base(indexof(i, "test", lastpoint)); }
 
 // The element in a file of its own, read by a placement, from a view that shows it.
 void readfile(const std::string& text, int mode = 3) {
@@ -220,14 +220,17 @@ TEST(elements, mistakesOfAFile) {
         {"LINEG4:\n", "", failurekind::inputpastend, "looking for LINEG4:"},
         {"2,50,0,0", "2,5O,0,0", failurekind::typemismatch, "line 6, field 2 (x of a STANDARD: row)"},
         {"1,2\n9999", "1,two\n9999", failurekind::typemismatch, "\"two\""},
-        {"1,2\n9999,9999", "1,10001\n9999,9999", failurekind::subscript, "names point 10001"},
-        {"1,2\n9999", "1,-1\n9999", failurekind::subscript, "names point -1"},
-        {"WIRECOLORS:\n1", "WIRECOLORS:\n300", failurekind::subscript, "line group 1: palette has no index 300"},
+        {"1,2\n9999,9999", "1,10001\n9999,9999", failurekind::subscript, "line 9, field 2 (LINEG1:)"},
+        {"1,2\n9999", "1,-1\n9999", failurekind::subscript, "point -1, a point 0..10000 was expected"},
+        {"WIRECOLORS:\n1", "WIRECOLORS:\n300", failurekind::subscript, "line 3, field 1 (WIRECOLORS:)"},
         {"1,0,0,0,1,1,1,0,0", "1,0,0,0,one,1,1,0,0", failurekind::typemismatch, "line 20, field 5"},
         {"1,0,0,0,1,1,1,0,0", "40000,0,0,0,1,1,1,0,0", failurekind::overflow, "40000"},
         {"9999,0,0,0,0,0,0,0,0\nAUTOCUBE600:", "9999,0\nAUTOCUBE600:", failurekind::inputpastend, "AUTOCUBE600:"},
-        {"1,1,2,1,2,1,7", "1,1,2,1,10001,1,7", failurekind::subscript, "face 1: ptx has no index 10001"},
-        {"1,2\n0,9999", "10001,2\n0,9999", failurekind::subscript, "framing1 has no index 10001"},
+        {"1,1,2,1,2,1,7", "1,1,2,1,10001,1,7", failurekind::subscript,
+         "line 25, field 5 (AUTOPLANE:): ptx has no index 10001"},
+        {"1,1,2,1,2,1,7", "1,1,2,1,2,1,\n\n257", failurekind::subscript, "line 27, field 1 (AUTOPLANE:): palette"},
+        {"1,2\n0,9999", "5e6,2\n0,9999", failurekind::subscript, "framing1 has no index 5000000, an index 0..10000"},
+        {"1,2\n0,9999", "1,2\n1,1501\n0,9999", failurekind::subscript, "line 29, field 2 (AUTOFRAMING1:)"},
         {"0,9999\nTRAN", "0,9998\n", failurekind::inputpastend, "the count of a framing row"},
         {"9999,0,0,0\nLINEG1:", "LINEG1:", failurekind::inputpastend, "LINEG1:"},  // its rows are read as points
     };

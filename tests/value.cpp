@@ -61,6 +61,11 @@ TEST(value, textMeetsArithmetic) {
     EXPECT_EQ(f->report(), "type mismatch: datah\\x.txt, line 3, field 2: \"ten\" where a number was expected");
     EXPECT_EQ(failureof([] { return value("1e400", "text box magtxt") + 1; })->report(),
               "overflow: text box magtxt: the number 1e400 is too large");
+    // A report can be read whatever a file holds.
+    EXPECT_EQ(failureof([] { return value(std::string(1000000, 'x')) + 1; })->detail,
+              '"' + std::string(60, 'x') + "... (1000000 characters)\" where a number was expected");
+    EXPECT_EQ(excerpt("\xC3\xA9\xC3\xA9", 2) + excerpt("\xC3\xA9\xC3\xA9", 1),
+              "\xC3\xA9\xC3\xA9\xC3\xA9... (2 characters)");
 }
 
 TEST(value, wholeNumbersTakeTheEvenHalf) {
@@ -85,5 +90,8 @@ TEST(world, resetClearsItsRangeOnly) {
     EXPECT_TRUE(basex[0] == 5 && basex[7001] == 5 && quad4[7001] == 5 && savex[1] == 5 && cubecolour[701] == 5);
     EXPECT_EQ(failureof([] { basex.set(10001, 1); })->report(),
               "subscript out of range: basex has no index 10001, an index 0..10000 was expected");
-    EXPECT_EQ(failureof([] { return lineend1[value(-1)]; })->kind, failurekind::subscript);
+    expectfailure(failureof([] { return lineend1[value(-2.75)]; }), failurekind::subscript,
+                  "-2.75, an index 0..20000 was expected");
+    expectfailure(failureof([] { return palred[value(5e12)]; }), failurekind::subscript,
+                  "5000000000000, an index 0..256");
 }
