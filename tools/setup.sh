@@ -6,6 +6,7 @@ runpackages=(cmake ninja-build g++ qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' qt6
 testpackages=(libgtest-dev libgmock-dev)
 benchpackages=(libbenchmark-dev)
 fuzzpackages=(cmake ninja-build clang)
+machinepackages=(cmake ninja-build g++ clang g++-aarch64-linux-gnu qemu-user)
 checkpackages=(git clang clang-format xvfb xdotool x11-utils imagemagick
     locales dpkg-dev file appstream desktop-file-utils lintian
     at-spi2-core dbus-bin dbus-daemon gir1.2-atspi-2.0 python3-gi)

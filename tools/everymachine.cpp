@@ -1,0 +1,275 @@
+// Plays the same buildings on any machine and writes, after each step, checksums that are to be the same on all of
+// them: of the picture, of the lines drawn, and of the figures behind them, which tell apart what a line's ends round
+// away.
+//   everymachine ROOT          all steps, a row each, with the data, scripts and samples of the project's folder ROOT
+//   everymachine ROOT STEP     of that step every line and figure that its checksums are made of
+
+#include "building/layouts.h"
+#include "core/controls.h"
+#include "core/failure.h"
+#include "core/viewfigures.h"
+#include "core/world.h"
+#include "render/projector.h"
+#include "tools/checksum.h"
+#include "tools/play_commands.h"
+#include "tools/workingfolder.h"
+#include "windows/handlers.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <initializer_list>
+#include <optional>
+#include <random>
+#include <string>
+
+namespace {
+
+using namespace tessaly;
+namespace fs = std::filesystem;
+
+// ---- what is summed ----------------------------------------------------------------------
+
+checksum lines, figures;  // of the step being played
+long drawn = 0;
+int step = 1, toldstep = 0;
+
+void add(checksum& sum, const char* what, std::initializer_list<double> added) {
+    for (const double figure : added) sum.add(figure);
+    if (step != toldstep) return;
+    std::fputs(what, stdout);
+    for (const double figure : added) std::printf(" %s", shortesttext(figure).c_str());
+    std::putchar('\n');
+}
+
+struct linesum : surface {
+    void line(float x1, float y1, float x2, float y2, colour c) override {
+        ++drawn;
+        const auto full = [](float single) { return static_cast<double>(single); };
+        add(lines, "line", {full(x1), full(y1), full(x2), full(y2), c.red * 65536.0 + c.green * 256.0 + c.blue});
+    }
+    void save(const std::string&) override {}
+    void setpicture(const std::string&) override {}
+};
+
+// The picture as the program paints it, by its shortcuts, and beside it the lines one by one.
+struct measuredsurface : surface {
+    raster image{897, 581};
+    linesum summed;
+
+    void line(float x1, float y1, float x2, float y2, colour c) override {
+        image.line(x1, y1, x2, y2, c);
+        summed.line(x1, y1, x2, y2, c);
+    }
+    void wash(int x1, int x2, int y1, int y2, colour c) override {
+        image.wash(x1, x2, y1, y2, c);
+        summed.wash(x1, x2, y1, y2, c);
+    }
+    void web(const facecorners& f, int n, colour c) override {
+        image.web(f, n, c);
+        add(figures, "face", {f.x1, f.y1, f.x2, f.y2, f.x3, f.y3, f.x4, f.y4});
+        summed.web(f, n, c);
+    }
+    void save(const std::string& path) override { image.save(path); }
+    void setpicture(const std::string& path) override { image.setpicture(path); }
+};
+
+void addpoint(int i) {
+    add(figures, "place", {basex[i], basey[i], basez[i], ptx[i], pty[i], ptz[i], savex[i], savey[i], savez[i]});
+    add(figures, "plane", {planex[i], planey[i], planez[i], planedist[i], planecos[i], planeup[i], planeside[i]});
+    add(figures, "screen", {screenx[i], screeny[i]});
+}
+
+// The element in the tables: its points, those of its last framing lines, and how far its faces are from the eye.
+void addelement() {
+    constexpr int framingpoints = 60, faces = 100;
+    pointblock blocks[4];
+    for (int b = 0, count = blocksinuse(blocks); b < count; ++b)
+        for (int i = blocks[b].first; i <= blocks[b].last; ++i) addpoint(i);
+    for (int i = framingscratch; i < framingscratch + framingpoints; ++i) addpoint(i);
+    addpoint(referencepoint);
+    add(figures, "plane's centre", {planecentrex, planecentrey, planecentrez});
+    for (int q = 1; q <= faces; ++q)
+        add(figures, "distances",
+            {quadcornerdist1[q], quadcornerdist2[q], quadcornerdist3[q], quadcornerdist4[q], double(quadorder[q])});
+}
+
+// A replay brings its strip to the screen before each element: the one before stands in the tables still.
+struct measuredstrip : linesum {
+    void line(float, float, float, float, colour) override {}
+    void flush() override { addelement(); }
+};
+
+measuredsurface measured;
+measuredstrip progress;
+
+// ---- steps -------------------------------------------------------------------------------
+
+fs::path root;
+std::optional<workingfolder> folder;
+
+void play(const std::string& script) {
+    obeyline(script);
+    addelement();
+}
+
+// The end of a step: its row, if it drew anything.
+void endstep(const std::string& name) {
+    if (drawn == 0) return;
+    if (step == toldstep) std::exit(0);
+    if (toldstep == 0) {
+        checksum picture;
+        for (int i = 0; i < measured.image.width() * measured.image.height(); ++i)
+            picture.add(std::uint64_t{measured.image.pixels()[i]});
+        std::printf("%s %s %s %7ld lines, step %d: %s\n", picture.text().c_str(), lines.text().c_str(),
+                    figures.text().c_str(), drawn, step, name.c_str());
+    }
+    lines = figures = {};
+    drawn = 0;
+    ++step;
+}
+
+void begin() {
+    folder.emplace(root);
+    measured.image.clear();
+    startprogram();
+    play("click startprogrambtn");
+}
+
+void playscript(const fs::path& path) {
+    begin();
+    std::ifstream script(path);
+    for (std::string line; std::getline(script, line);) {
+        if (!line.starts_with("click") && !line.starts_with("pick") && !line.starts_with("type")) continue;
+        if (line == "click startprogrambtn" || line == "click exitbtn") continue;
+        play(line);
+        endstep(path.stem().string() + ", " + line);
+    }
+}
+
+void look(std::initializer_list<std::string> figuresofview) {
+    auto figure = figuresofview.begin();
+    for (const viewfigure& f : viewfigures) play("type " + f.box.name + " \"" + *figure++ + '"');
+    play("click cventerbtn");
+}
+
+void replay(const std::string& design) {
+    play("click autosolidsingle");
+    play("pick autofile5 \"" + design + ".txt\"");
+}
+
+void beginwithsamples() {
+    begin();
+    for (const auto& sample : fs::directory_iterator(root / "samples"))
+        if (sample.path().extension() == ".txt") fs::copy(sample.path(), "designs");
+    play("click shopfm");
+}
+
+void playhouse() {
+    constexpr const char* sides[][2] = {{"1850", "-1850"}, {"2600", "10"},  {"1850", "1850"},   {"20", "2600"},
+                                        {"-1850", "1850"}, {"-2600", "30"}, {"-1850", "-1850"}, {"40", "-2600"}};
+    beginwithsamples();
+    for (const auto& [x, y] : sides) {
+        look({x, y, "830", "1", "2", "280", ".056", "170", "-270"});
+        for (const char* design : {"girdhou1", "paneho1", "roofh1", "girdhou2", "paneho2", "roofh2"}) replay(design);
+        endstep(std::string("the house from ") + x + ", " + y);
+    }
+}
+
+void playtower() {
+    beginwithsamples();
+    look({"1850", "-1850", "1230", "1", "1", "600", ".036", "200", "-270"});
+    for (const char* floor : {"1", "2", "3", "4", "5", "6", "7", "8", "9", "0"}) {
+        for (const char* design : {"girdtow", "paneto"}) replay(std::string(design) + floor);
+        endstep(std::string("the tower, floor ") + floor);
+    }
+    replay("rooft0");
+    endstep("the tower, roof");
+}
+
+// Each element at a place of each of its families, which turn it each way, and each part of a panel.
+void playelements(const std::string& mode) {
+    begin();
+    play("type wiresolid \"" + mode + '"');
+    for (const char* scene : {"groupbtn", "displaycubebtn"}) {
+        play(std::string("click ") + scene);
+        endstep(scene);
+    }
+    for (const char* element : {"postbeambtn", "roofbtn", "orange1btn", "orange2btn", "orange3btn", "yellow1btn",
+                                "yellow2btn", "yellow3btn", "door2btn", "door4btn"})
+        for (const family& f : allfamilies()) {
+            const std::string place = positionname({&f, 0, f.x0 + 2 * 192, f.y0 + 3 * 192, 0, 0});
+            play(std::string("click ") + element);
+            if (!f.on->shown) continue;
+            const bool snipped = f.on == &layoutpanels;
+            for (std::size_t snip = 0; snip < (snipped ? panelsnipper.items.size() : 1); ++snip) {
+                if (snipped) play("type panelsnipper \"" + panelsnipper.items[snip] + '"');
+                play("click " + place);
+            }
+            endstep(std::string(element) + ", " + place + ", " + mode);
+        }
+}
+
+// Raw figures of the generator only: the distributions are each library's own.
+std::mt19937 generator;
+int within(int least, int most) {
+    return least + static_cast<int>(generator() % static_cast<unsigned>(most - least + 1));
+}
+std::string tenths(int least, int most) { return shortesttext(within(least, most) / 10.0); }
+
+// Views from anywhere, some from between the elements, each with an element somewhere.
+void playviews() {
+    begin();
+    for (const char* opened : {"shopfm", "postbeambtn", "orange2btn", "roofbtn"}) play(std::string("click ") + opened);
+    for (int view = 1; view <= 300; ++view) {
+        const int far = view % 3 == 0 ? 4000 : 30000;
+        look({tenths(-far, far), tenths(-far, far), tenths(-far / 2, far), tenths(-3000, 3000), tenths(-3000, 3000),
+              tenths(0, 6000), shortesttext(within(5, 105) / 1000.0), tenths(-3000, 3000), tenths(-6000, 3000)});
+        const position& p = allpositions()[static_cast<std::size_t>(within(0, 328))];
+        play(std::string("type wiresolid \"") + (view % 4 == 0 ? "wireframe" : "solid") + '"');
+        play(p.of->on == &layoutpanels ? "click orange2btn"
+             : p.of->on == &layoutroof ? "click roofbtn"
+                                       : "click postbeambtn");
+        play("click " + positionname(p));
+        endstep("view " + std::to_string(view) + ", " + positionname(p));
+    }
+}
+
+// A design file as a hand may write it, its panels turned by any angle.
+void playturned() {
+    begin();
+    std::ofstream turned("designs/panels1.txt");
+    for (int i = 1; i <= 150; ++i)
+        turned << "\"panel\"," << i << ",100,100," << within(1, 15) << ",0," << tenths(-7200, 7200) << ','
+               << tenths(0, 9600) << ',' << tenths(0, 13000) << ",4,64\r\n";
+    turned.close();
+    replay("panels1");
+    endstep("panels at odd angles");
+}
+
+}  // namespace
+
+int main(int count, char** words) {
+    if (count < 2 || count > 3) {
+        std::fputs("usage: everymachine ROOT [STEP]\n", stderr);
+        return 2;
+    }
+    root = fs::absolute(words[1]);
+    if (count == 3) toldstep = std::atoi(words[2]);
+    viewportsurface = &measured;
+    progresssurface = &progress;
+    try {
+        playscript(root / "tools/demo.play");
+        playscript(root / "docs/guide.play");
+        playhouse();
+        playtower();
+        for (const char* mode : {"wireframe", "solid"}) playelements(mode);
+        playviews();
+        playturned();
+    } catch (const std::exception& failed) {
+        std::fprintf(stderr, "everymachine, step %d: %s\n", step, failed.what());
+        return 1;
+    }
+    return 0;
+}
