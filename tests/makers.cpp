@@ -11,8 +11,6 @@
 #include <filesystem>
 #include <string>
 
-#include <unistd.h>
-
 namespace {
 
 namespace fs = std::filesystem;
@@ -20,28 +18,25 @@ namespace fs = std::filesystem;
 const fs::path source = TESSALY_SOURCE_DIR;
 
 // Runs a maker of build/tools into an empty folder and compares each PNG that it writes with the one kept.
-void expectkept(const std::string& maker, const std::string& arguments, const fs::path& kept, int pictures) {
-    const fs::path made = fs::temp_directory_path() / ("tessaly-" + maker + std::to_string(::getpid()));
-    fs::create_directories(made);
+void expectkept(const std::string& maker, const std::string& arguments, const fs::path& kept, int count) {
+    const tessaly::workingfolder folder(source);
+    const fs::path made = fs::current_path() / "made";
+    fs::create_directory(made);
     const fs::path program = fs::path(TESSALY_PLAY).parent_path() / maker;
-    ASSERT_EQ(std::system((program.string() + arguments + " " + made.string() + " 2>/dev/null").c_str()), 0);
-    const QDir folder(QString::fromStdString(made.string()));
-    const QStringList names = folder.entryList({"*.png"}, QDir::Files);
-    EXPECT_EQ(names.size(), pictures);
+    ASSERT_EQ(std::system((program.string() + arguments + " " + made.string()).c_str()), 0);
+    const QDir pictures(QString::fromStdString(made.string()));
+    const QStringList names = pictures.entryList({"*.png"}, QDir::Files);
+    EXPECT_EQ(names.size(), count);
     for (const QString& name : names)
-        EXPECT_EQ(QImage(folder.filePath(name)), QImage(QString::fromStdString((kept / name.toStdString()).string())))
+        EXPECT_EQ(QImage(pictures.filePath(name)), QImage(QString::fromStdString((kept / name.toStdString()).string())))
             << name.toStdString() << " is not what " << maker << " draws: run it again";
-    fs::remove_all(made);
 }
 
 // Catches a layout changed with the maps of el-numbers left as they were.
 TEST(makers, mapsarekept) { expectkept("makemaps", "", source / "el-numbers", 3); }
 
 // Catches an element changed with its button's picture left as it was.
-TEST(makers, buttonpicturesarekept) {
-    const tessaly::workingfolder folder(source);
-    expectkept("makebuttons", " .", source / "windows/qt/pictures", 26);
-}
+TEST(makers, buttonpicturesarekept) { expectkept("makebuttons", " .", source / "windows/qt/pictures", 26); }
 
 // How many pixels of two pictures differ clearly. Letters may come out a shade different with another font library.
 int clearlydifferent(const QImage& a, const QImage& b) {
@@ -59,24 +54,24 @@ int clearlydifferent(const QImage& a, const QImage& b) {
 
 // Catches a control moved, added or renamed on the main window with the help's pictures of it left as they were.
 TEST(makers, windowpicturesarekept) {
-    const fs::path made = fs::temp_directory_path() / ("tessaly-shots" + std::to_string(::getpid()));
+    const tessaly::workingfolder folder;
+    const fs::path made = fs::current_path();
     fs::create_directories(made / "help");
     fs::create_directories(made / "documents");
     const fs::path program = fs::path(TESSALY_PLAY).parent_path() / "makewindowpictures";
-    const std::string line = program.string() + " " + source.string() + " " + (made / "help").string() + " " +
-                             (made / "documents").string() + " 2>/dev/null";
+    const std::string line =
+        program.string() + " " + source.string() + " " + (made / "help").string() + " " + (made / "documents").string();
     ASSERT_EQ(std::system(line.c_str()), 0);
     int pictures = 0;
-    for (const auto& [folder, kept] : {std::pair{made / "help", source / "windows/qt/pictures"},
-                                       std::pair{made / "documents", source / "docs" / "pictures"}})
-        for (const auto& file : fs::directory_iterator(folder)) {
+    for (const auto& [shots, kept] : {std::pair{made / "help", source / "windows/qt/pictures"},
+                                      std::pair{made / "documents", source / "docs" / "pictures"}})
+        for (const auto& file : fs::directory_iterator(shots)) {
             ++pictures;
             const QImage now(QString::fromStdString(file.path().string()));
             const QImage before(QString::fromStdString((kept / file.path().filename()).string()));
             EXPECT_LT(clearlydifferent(now, before), now.width() * now.height() / 500) << file.path().filename();
         }
     EXPECT_EQ(pictures, 11);
-    fs::remove_all(made);
 }
 
 }  // namespace

@@ -6,6 +6,7 @@ root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 build=${TESSALY_BUILD:-$root/build}
 scratch=$(mktemp -d)
 screenpid= programpid=
+export LC_ALL=C.UTF-8 # of what the tools here write; a test of another country sets it for the program alone
 density=100 # percent: pixels of the screen to a hundred of the window
 
 fail() {
@@ -49,7 +50,7 @@ startscreen() {
     waitfor "the screen" test -s "$scratch/display"
     DISPLAY=:$(cat "$scratch/display")
     export DISPLAY
-    unset WAYLAND_DISPLAY QT_SCALE_FACTOR
+    unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_SCREEN_SCALE_FACTORS QT_FONT_DPI QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME
 }
 
 # startprogram VARIABLE=VALUE...: the program in the working folder $scratch/work, with these in its environment.

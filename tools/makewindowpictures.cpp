@@ -164,6 +164,8 @@ int main(int argc, char** argv) {
         return 2;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    for (const char* ofthescreen : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI"})
+        qunsetenv(ofthescreen);
     QApplication::setDesktopSettingsAware(false);
     QApplication app(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
