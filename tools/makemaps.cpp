@@ -4,6 +4,7 @@
 
 #include "building/layouts.h"
 #include "core/controls.h"
+#include "tools/pictured.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -125,6 +126,15 @@ void drawlegend(QPainter& p, const window& w) {
     }
 }
 
+std::string wordsof(const sheet& of) {
+    std::string words = std::string(of.title) + '\n' + of.designs + '\n';
+    for (const family& f : allfamilies())
+        if (f.on == of.of) words += std::string(f.word) + ' ' + std::to_string(f.first) + ' ' + f.spoken + '\n';
+    for (const control* c : of.of->controls)
+        if (stands(*of.of, *c)) words += wordsof(*c);
+    return words;
+}
+
 void drawsheet(const sheet& of, const QString& folder) {
     QImage image(sheetwidth, sheetheight, QImage::Format_RGB32);
     image.setDotsPerMeterX(dotspermetre);
@@ -141,6 +151,7 @@ void drawsheet(const sheet& of, const QString& folder) {
     drawpositions(p, *of.of, s);
     drawlegend(p, *of.of);
     p.end();
+    keepwords(image, wordsof(of));
     if (!image.save(folder + "/" + of.file)) std::exit(1);
 }
 

@@ -5,6 +5,7 @@
 #include "building/layouts.h"
 #include "core/controls.h"
 #include "core/world.h"
+#include "tools/pictured.h"
 #include "tools/workingfolder.h"
 #include "windows/handlers.h"
 #include "windows/qt/binding.h"
@@ -21,6 +22,8 @@
 #include <exception>
 #include <filesystem>
 #include <initializer_list>
+#include <numeric>
+#include <set>
 #include <string>
 
 namespace tessaly {
@@ -61,6 +64,14 @@ void replaysolid(std::initializer_list<const char*> names) {
     }
 }
 
+// Whether a control's middle lies in a region of its window: neighbours overlap the rim.
+bool liesin(const twips& region, const control& c) {
+    const int x = c.place.left + c.place.width / 2 - region.left, y = c.place.top + c.place.height / 2 - region.top;
+    return x >= 0 && x < region.width && y >= 0 && y < region.height;
+}
+
+twips wholeof(const window& w) { return {0, 0, w.widthtwips, w.heighttwips}; }
+
 // The inside of a window at its designed size, sharp at times its pixels.
 QImage shot(const window& w, int times = 1) {
     const QSize size = faceof(w)->designedsize();
@@ -71,8 +82,27 @@ QImage shot(const window& w, int times = 1) {
     return image;
 }
 
-void keep(const QImage& image, const fs::path& folder, const char* name) {
+// The controls in a region of a window, whatever their order, and the engine's picture pixel by pixel.
+std::string wordsof(const window& w, const twips& region) {
+    std::set<std::string> lines;
+    for (const control* c : w.controls)
+        if (c->shown && liesin(region, *c)) lines.insert(wordsof(*c));
+    std::string words = std::accumulate(lines.begin(), lines.end(), std::string());
+    if (&w != &vistaplan || !liesin(region, viewport)) return words;
+    checksum pixels;
+    for (int i = 0; i < viewportimage().width() * viewportimage().height(); ++i)
+        pixels.add(std::uint64_t{viewportimage().pixels()[i]});
+    return words + "on viewport " + pixels.text() + '\n';
+}
+
+// Writes a picture of a region of a window.
+void keep(QImage image, const window& w, const twips& region, const fs::path& folder, const char* name) {
+    keepwords(image, wordsof(w, region));
     if (!image.save(QString::fromStdString((folder / (std::string(name) + ".png")).string()))) std::exit(1);
+}
+
+void keepwindow(const window& w, const fs::path& folder, const char* name) {
+    keep(shot(w), w, wholeof(w), folder, name);
 }
 
 // What a help button has room for, in pixels: as much of it as its window shows, within its rim.
@@ -83,13 +113,9 @@ QSize roomofbutton(const char* name) {
     return {inpixels(place.width) - 2 * rim, inpixels(high) - 2 * rim};
 }
 
-// Leaves on the main window only the controls whose middle lies in a region: neighbours overlap its rim.
+// Leaves on the main window only the controls of a region.
 void showonly(const twips& place) {
-    for (const control* c : vistaplan.controls) {
-        const int x = c->place.left + c->place.width / 2 - place.left;
-        const int y = c->place.top + c->place.height / 2 - place.top;
-        widgetof(*c)->setVisible(c->shown && x >= 0 && x < place.width && y >= 0 && y < place.height);
-    }
+    for (const control* c : vistaplan.controls) widgetof(*c)->setVisible(c->shown && liesin(place, *c));
 }
 
 // A region on the main window's grey, which fills the button that shows it.
@@ -107,9 +133,9 @@ void makehelppictures(const fs::path& folder) {
                 .copy(inimage(r.place.left), inimage(r.place.top), inimage(r.place.width), inimage(r.place.height));
         QPainter(&filled).drawImage((filled.width() - shown.width()) / 2, 0,
                                     cut.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-        keep(filled, folder, r.button);
+        keep(filled, vistaplan, r.place, folder, r.button);
     }
-    showonly({0, 0, vistaplan.widthtwips, vistaplan.heighttwips});
+    showonly(wholeof(vistaplan));
 }
 
 // The view from which the whole tower is seen; it is taken by SET, as a user would.
@@ -129,17 +155,17 @@ void looktower() {
 void makeall(const fs::path& help, const fs::path& documents) {
     openwindows();
     click("startprogrambtn");
-    keep(shot(vistaplan), documents, "main-window-start");
+    keepwindow(vistaplan, documents, "main-window-start");
     makehelppictures(help);
     click("postbeambtn");
-    keep(shot(layoutgirder), documents, "layout-girders");
+    keepwindow(layoutgirder, documents, "layout-girders");
     click("orange1btn");
-    keep(shot(layoutpanels), documents, "layout-panels");
+    keepwindow(layoutpanels, documents, "layout-panels");
     click("fastchange");
-    keep(shot(easyviews), documents, "easy-views");
+    keepwindow(easyviews, documents, "easy-views");
     click("groupbtn");
     replaysolid({"girdhou1", "paneho1", "roofh1", "girdhou2", "paneho2", "roofh2"});
-    keep(shot(vistaplan), documents, "main-window");
+    keepwindow(vistaplan, documents, "main-window");
     looktower();
     replaysolid({"girdtow1", "paneto1",  "girdtow2", "paneto2",  "girdtow3", "paneto3",  "girdtow4",
                  "paneto4",  "girdtow5", "paneto5",  "girdtow6", "paneto6",  "girdtow7", "paneto7",
@@ -164,8 +190,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    for (const char* ofthescreen : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI"})
-        qunsetenv(ofthescreen);
+    for (const char* ofscreens : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI"}) qunsetenv(ofscreens);
     QApplication::setDesktopSettingsAware(false);
     QApplication app(argc, argv);
     std::setlocale(LC_NUMERIC, "C");

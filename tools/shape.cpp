@@ -20,17 +20,16 @@ std::string row(const char* form, numbers... n) {
 // Whether p lies on the open stretch from a to b, to a ten-thousandth of a unit.
 bool between(corner a, corner b, corner p) {
     if (p == a || p == b) return false;
-    const double dx = b.x - a.x, dy = b.y - a.y, dz = b.z - a.z;
-    const double along = ((p.x - a.x) * dx + (p.y - a.y) * dy + (p.z - a.z) * dz) / (dx * dx + dy * dy + dz * dz);
+    const double dx = b.x - a.x, dz = b.z - a.z;
+    const double along = ((p.x - a.x) * dx + (p.z - a.z) * dz) / (dx * dx + dz * dz);
     if (along <= 0 || along >= 1) return false;
-    return std::abs(a.x + along * dx - p.x) + std::abs(a.y + along * dy - p.y) + std::abs(a.z + along * dz - p.z) <
-           1e-4;
+    return std::abs(a.x + along * dx - p.x) + std::abs(a.z + along * dz - p.z) < 1e-4;
 }
 
 std::string pointrows(const shape& s) {
     std::string out = "Points: number x y z\nSTANDARD:\n";
     int n = 0;
-    for (const corner& c : s.points) out += row("%4d, %6g, %6g, %6g\n", ++n, c.x, c.y, c.z);
+    for (const corner& c : s.points) out += row("%4d, %6g,      0, %6g\n", ++n, c.x, c.z);
     return out + "9999,      0,      0,      0\n\n";
 }
 
@@ -47,9 +46,11 @@ std::string linerows(const shape& s) {
 std::string quadrows(const shape& s) {
     std::string out = "Faces: number; corners 1 3 2 4; face; colour\nAUTOPLANE:\n";
     int n = 0;
-    for (const quad& q : s.quads)
-        out += row("%4d, %4d, %4d, %4d, %4d, %3d, %4d\n", ++n, q.points[0], q.points[2], q.points[1], q.points[3],
-                   q.number, q.colour);
+    for (const quad& q : s.quads) {
+        n++;
+        out += row("%4d, %4d, %4d, %4d, %4d, %3d, %4d\n", n, q.points[0], q.points[2], q.points[1], q.points[3], n,
+                   q.colour);
+    }
     return out + "9999,    0,    0,    0,    0,   0,    0\n\n";
 }
 
@@ -83,14 +84,13 @@ void shape::line(int group, corner a, corner b) {
     lines[static_cast<std::size_t>(group) - 1].push_back(ends);
 }
 
-quad& shape::face(int group, int colour, corner one, corner two, corner three, corner four, int columns, int rows) {
-    const std::array corners{pointat(one), pointat(two), pointat(three), pointat(four)};
-    line(group, one, two);
-    line(group, two, four);
-    line(group, four, three);
-    line(group, three, one);
-    quads.push_back({corners, static_cast<int>(quads.size()) + 1, colour, columns, rows});
-    return quads.back();
+void shape::face(int group, int colour, const std::array<corner, 4>& at, int columns, int rows) {
+    const std::array corners{pointat(at[0]), pointat(at[1]), pointat(at[2]), pointat(at[3])};
+    line(group, at[0], at[1]);
+    line(group, at[1], at[3]);
+    line(group, at[3], at[2]);
+    line(group, at[2], at[0]);
+    quads.push_back({corners, colour, columns, rows});
 }
 
 void shape::split() {
@@ -103,8 +103,7 @@ void shape::split() {
             for (const corner& c : points)
                 if (between(from, to, c)) stops.push_back(c);
             std::sort(stops.begin(), stops.end(), [&](corner p, corner q) {
-                return std::hypot(p.x - from.x, p.y - from.y, p.z - from.z) <
-                       std::hypot(q.x - from.x, q.y - from.y, q.z - from.z);
+                return std::hypot(p.x - from.x, p.z - from.z) < std::hypot(q.x - from.x, q.z - from.z);
             });
             for (std::size_t i = 1; i < stops.size(); i++) line(static_cast<int>(g) + 1, stops[i - 1], stops[i]);
         }
@@ -112,8 +111,8 @@ void shape::split() {
 }
 
 std::string shape::text() const {
-    std::string out = title + "\n";
-    for (const std::string& note : notes) out += note + "\n";
+    std::string out = title + "\n" + note + "\n";
+    out += "Seen from outside X runs to the right; the outside looks towards minus Y; Z is up.\n";
     out += "\nColours of the seven line groups, by palette entry\nWIRECOLORS:\n";
     out += row("%d, %d, %d, %d, %d, 0, 0\n\n", wires[0], wires[1], wires[2], wires[3], wires[4]);
     out += pointrows(*this) + linerows(*this);

@@ -2,15 +2,34 @@
 // A panel stands in the plane Y = 0 with its outside towards minus Y; X runs from 0 on the left, seen from outside, to
 // 208 on the right, Z from 0 to 128. The tiles lie edge to edge, so that none can cover another whatever the eye sees
 // first. The outer 16 of all panels of a type are one upright strip: neighbours overlap there, over the post.
+// makepanels FOLDER writes st-panels-<type>-<ends>.txt into it, 32 files.
 #include "tools/shape.h"
-#include "tools/shipped.h"
 
 #include <algorithm>
+#include <cstdio>
+#include <exception>
+#include <fstream>
 #include <utility>
 
 namespace tessaly {
 
 namespace {
+
+// ---- measures, in model units ------------------------------------------------------------
+constexpr int bay = 192;              // from the middle of a post to that of the next
+constexpr int thick = 16;             // side of a post
+constexpr int storey = 128;           // height of a floor
+constexpr int wallong = bay + thick;  // a panel reaches over the posts at both ends
+
+// ---- colours: entries of pals/tessaly.txt, the first of three ------------------------------
+namespace paint {  // clang-format off
+constexpr int
+    orange = 13,     orangerib = 16,   orangetrim = 19,
+    yellow = 22,     yellowboard = 25, yellowtrim = 28,
+    cream = 31,      creamtrim = 34,   sash = 37,        glass = 40,
+    doorred = 43,    doorredin = 46,   doorgreen = 49,   doorgreenin = 52, brass = 55,
+    orangewire = 70, yellowwire = 73,  doorwire = 76,    glasswire = 79;
+}  // clang-format on
 
 // Line groups of a panel. An edge that two pieces share belongs to the lower group.
 enum : int { doorgroup = 1, glassgroup = 2, sashgroup = 3, wallgroup = 4, ribgroup = 5 };
@@ -19,7 +38,7 @@ enum : int { doorgroup = 1, glassgroup = 2, sashgroup = 3, wallgroup = 4, ribgro
 // Framing cuts it into columns and rows; the ribs of a wall are also drawn as wires.
 struct piece {
     int group, colour;
-    std::pair<double, double> at[4];
+    std::array<corner, 4> at;
     int columns, rows;
 };
 
@@ -30,7 +49,7 @@ struct panel {
 };
 
 piece tile(int group, int colour, double x0, double x1, double z0, double z1, int columns = 0, int rows = 0) {
-    return {group, colour, {{x0, z0}, {x1, z0}, {x0, z1}, {x1, z1}}, columns, rows};
+    return {group, colour, {{{x0, z0}, {x1, z0}, {x0, z1}, {x1, z1}}}, columns, rows};
 }
 
 // ---- what all panels share: heights of plinth and cornice, the field between the posts -----
@@ -135,25 +154,24 @@ std::vector<piece> doors(const wall& w, int count, double width, int leaf, int i
 // A window of eight sides in the middle: three panes in a white sash, and the wall around it in bands and corners.
 std::vector<piece> octagon(const wall& w) {
     constexpr double middle = wallong / 2.0, height = 64;
-    using spot = std::pair<double, double>;
     struct ring {
         double reach, half;  // from the middle to a side, half the length of a side
         // The corner in that direction, by the signs of x and z: on the upright side, or on the level one.
-        spot upright(int x, int z) const { return {middle + x * reach, height + z * half}; }
-        spot level(int x, int z) const { return {middle + x * half, height + z * reach}; }
+        corner upright(int x, int z) const { return {middle + x * reach, height + z * half}; }
+        corner level(int x, int z) const { return {middle + x * half, height + z * reach}; }
     };
     constexpr ring out{44, 18}, in{39, 16};
     const double x0 = middle - out.reach, x1 = middle + out.reach, z0 = height - out.reach, z1 = height + out.reach;
     std::vector<piece> p{tile(wallgroup, w.face, left, right, plinth, z0),
                          tile(wallgroup, w.face, left, right, z1, cornice), tile(wallgroup, w.face, left, x0, z0, z1),
                          tile(wallgroup, w.face, x1, right, z0, z1)};
-    const auto put = [&](int group, int colour, spot one, spot two, spot three, spot four, int columns = 0) {
-        p.push_back({group, colour, {one, two, three, four}, columns, 0});
+    const auto put = [&](int group, int colour, corner one, corner two, corner three, corner four, int columns = 0) {
+        p.push_back({group, colour, {{one, two, three, four}}, columns, 0});
     };
     for (const int x : {-1, 1}) {
         for (const int z : {-1, 1}) {
-            const spot corner{middle + x * out.reach, height + z * out.reach};
-            put(wallgroup, w.face, corner, out.level(x, z), out.upright(x, z), out.upright(x, z));
+            const corner edge{middle + x * out.reach, height + z * out.reach};
+            put(wallgroup, w.face, edge, out.level(x, z), out.upright(x, z), out.upright(x, z));
             put(sashgroup, paint::sash, out.level(x, z), out.upright(x, z), in.level(x, z), in.upright(x, z));
         }
         put(sashgroup, paint::sash, out.upright(x, -1), out.upright(x, 1), in.upright(x, -1), in.upright(x, 1));
@@ -212,7 +230,7 @@ void bars(shape& s, const quad& pane) {
     const auto along = [&](int from, int to, int part, int parts) {
         const corner a = s.points[static_cast<std::size_t>(pane.points[static_cast<std::size_t>(from)]) - 1];
         const corner b = s.points[static_cast<std::size_t>(pane.points[static_cast<std::size_t>(to)]) - 1];
-        return corner{a.x + (b.x - a.x) * part / parts, 0, a.z + (b.z - a.z) * part / parts};
+        return corner{a.x + (b.x - a.x) * part / parts, a.z + (b.z - a.z) * part / parts};
     };
     for (int n = 1; n < pane.columns; n++)
         s.line(glassgroup, along(0, 1, n, pane.columns), along(2, 3, n, pane.columns));
@@ -223,27 +241,41 @@ void bars(shape& s, const quad& pane) {
 shape cut(const panel& p, const ends& e) {
     shape s;
     s.title = std::string(p.title) + " (" + e.name + ")";
-    s.notes = {e.says, "Seen from outside X runs to the right; the outside looks towards minus Y; Z is up."};
+    s.note = e.says;
     s.wires = p.wires;
-    const auto within = [&](std::pair<double, double> c) { return c.first >= e.from && c.first <= e.to; };
+    const auto within = [&](corner c) { return c.x >= e.from && c.x <= e.to; };
     for (const piece& q : p.pieces) {
         if (!std::all_of(std::begin(q.at), std::end(q.at), within)) continue;
-        const auto at = [&](int corner) { return tessaly::corner{q.at[corner].first, 0, q.at[corner].second}; };
-        s.face(q.group, q.colour, at(0), at(1), at(2), at(3), q.columns, q.rows);
+        s.face(q.group, q.colour, q.at, q.columns, q.rows);
         if (q.group == glassgroup) bars(s, s.quads.back());
     }
     s.split();
     return s;
 }
 
-}  // namespace
-
-std::vector<shippedfile> panelfiles() {
-    std::vector<shippedfile> files;
+void makeall(const std::string& folder) {
     for (const panel& p : panels())
-        for (const ends& e : cuts)
-            files.push_back({std::string("datah/st-panels-") + p.name + "-" + e.name + ".txt", cut(p, e).text()});
-    return files;
+        for (const ends& e : cuts) {
+            std::ofstream file(folder + "/st-panels-" + p.name + "-" + e.name + ".txt", std::ios::binary);
+            file.exceptions(std::ios::failbit | std::ios::badbit);
+            file << cut(p, e).text() << std::flush;
+        }
 }
 
+}  // namespace
+
 }  // namespace tessaly
+
+int main(int argc, char** argv) {
+    if (argc != 2) {
+        std::fputs("usage: makepanels FOLDER\n", stderr);
+        return 2;
+    }
+    try {
+        tessaly::makeall(argv[1]);
+    } catch (const std::exception& failed) {
+        std::fprintf(stderr, "makepanels: %s: %s\n", argv[1], failed.what());
+        return 1;
+    }
+    return 0;
+}
