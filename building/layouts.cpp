@@ -8,9 +8,6 @@
 #include "data/elements.h"
 #include "render/painter.h"
 
-#include <iterator>
-#include <map>
-
 namespace tessaly {
 
 namespace {
@@ -113,29 +110,18 @@ void definelayouts() {
     for (const position& p : allpositions()) {
         const family& f = *p.of;
         const int i = (p.x - f.x0) / bay, j = (p.y - f.y0) / bay;
-        buttons.push_back({f.on,
-                           controlkind::button,
-                           positionname(p),
-                           {f.left0 + f.pitch * j, f.top0 + f.pitch * i, f.width, f.height},
-                           "",
-                           true,
-                           f.back,
-                           true,
-                           tooltip(p),
-                           spoken(p)});
-        buttons.back().elementnumber = p.number;
+        buttons.push_back({.in = f.on,
+                           .kind = controlkind::button,
+                           .name = positionname(p),
+                           .place = {f.left0 + f.pitch * j, f.top0 + f.pitch * i, f.width, f.height},
+                           .shown = true,
+                           .back = f.back,
+                           .tooltip = tooltip(p),
+                           .spoken = spoken(p),
+                           .elementnumber = p.number,
+                           .run = [&p] { clickposition(p); }});
         addcontrol(buttons.back());
     }
-}
-
-const position* positionof(const control& c) {
-    static const auto byname = [] {
-        std::map<std::string, const position*> names;
-        for (const position& p : allpositions()) names[positionname(p)] = &p;
-        return names;
-    }();
-    const auto found = byname.find(c.name);
-    return found == byname.end() ? nullptr : found->second;
 }
 
 void clickposition(const position& p) {

@@ -40,11 +40,8 @@ const std::vector<position>& allpositions();
 // The name of a position's button, such as "beamx192y400".
 std::string positionname(const position& p);
 
-// Adds the 329 buttons to their windows.
+// Adds the 329 buttons to their windows; each runs clickposition.
 void definelayouts();
-
-// The position behind a layout button, nullptr for any other control.
-const position* positionof(const control& c);
 
 // A click on a position: reads the building state, sets the placement, records, reads and draws the element, and paints
 // its faces in solid mode. fails: as recordelement, readelements and paintsolids; the record stays.

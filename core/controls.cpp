@@ -10,7 +10,7 @@ namespace tessaly {
 
 namespace {
 
-constexpr colour nocolour{};
+constexpr std::nullopt_t nocolour = std::nullopt;
 constexpr colour grey{192, 192, 192};
 constexpr colour darkgrey{64, 64, 64};
 constexpr colour red{255, 0, 0};
@@ -38,8 +38,7 @@ window instructions("instructions", "Tessaly Panel and Girder", 19200, 12990, {1
 
 // clang-format off
 #define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, spoken)                          \
-    control name{&in,  controlkind::kind, #name,          {left, top, width, height}, text, shown,                     \
-                 back, !(back == nocolour), tooltip, spoken};
+    control name{&in, controlkind::kind, #name, {left, top, width, height}, text, shown, back, tooltip, spoken};
 // clang-format on
 #include "core/controls.def"
 #undef CONTROL
@@ -127,6 +126,23 @@ control* focusafter(const control& c) {
     control* back = c.openedby;
     for (int step = 0; back != nullptr && !back->shown && step < longestchain; ++step) back = back->openedby;
     return back != nullptr && back->shown ? back : nullptr;
+}
+
+void clickcontrol(control& c) {
+    usedcontrol = &c;
+    wantedfocus = nullptr;
+    if (c.run) c.run();
+}
+
+void pickitem(control& c, int item) {
+    c.selected = item;
+    if (c.kind == controlkind::combobox) c.text = selectedtext(c);
+    clickcontrol(c);
+}
+
+void typetext(control& c, std::string_view text) {
+    c.text = text;
+    if (c.kind == controlkind::combobox) c.selected = -1;
 }
 
 void setfolder(control& filelist, std::string_view folder) {

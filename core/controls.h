@@ -6,6 +6,7 @@
 #include "core/colour.h"
 
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -39,16 +40,16 @@ struct control {
     controlkind kind;
     std::string name;
     twips place;
-    std::string text;  // caption, or text of a box; UTF-8
+    std::string text = {};  // caption, or text of a box; UTF-8
     bool shown;
-    colour back;  // meant only where coloured
-    bool coloured;
+    std::optional<colour> back;  // its own; the kind's where there is none
     std::string tooltip;
-    std::string spoken;       // for screen readers; the caption where empty
-    std::string folder = {};  // of a file list, as users write it
+    std::string spoken;              // for screen readers; the caption where empty
+    int elementnumber = 0;           // of a layout button
+    std::function<void()> run = {};  // what a click, or a pick of an item, does; set at the start of the program
+    std::string folder = {};         // of a file list, as users write it
     std::vector<std::string> items = {};
     int selected = -1;            // place in items, -1: none
-    int elementnumber = 0;        // of a layout button
     control* openedby = nullptr;  // the control whose event showed it last
 };
 
@@ -84,6 +85,15 @@ void hidewindow(window& w);
 // to a list that is opened.
 void show(control& c);
 inline void hide(control& c) { c.shown = false; }
+
+// A click on a button, and on an item of a list, file list or combination box, which selects it: runs the control's
+// procedure. One without a procedure does nothing but look like a button; a list without one only selects.
+// fails: as the procedure does.
+void clickcontrol(control& c);
+void pickitem(control& c, int item);
+
+// The user's text in a text box or combination box.
+void typetext(control& c, std::string_view text);
 
 // Points a file list at its folder, or reads that folder again: every visible file by bare name, nothing selected.
 // Fails with file not found where there is no such folder.

@@ -7,7 +7,6 @@
 #include "core/world.h"
 #include "tools/pictured.h"
 #include "tools/workingfolder.h"
-#include "windows/handlers.h"
 #include "windows/qt/binding.h"
 #include "windows/qt/canvas.h"
 #include "windows/qt/look.h"

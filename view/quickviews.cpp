@@ -4,7 +4,6 @@
 
 #include "core/viewfigures.h"
 
-#include <algorithm>
 #include <iterator>
 #include <string>
 #include <string_view>
@@ -14,10 +13,19 @@ namespace tessaly {
 
 namespace {
 
-using enum placekind;
+// What a place button stands for.
+enum placekind { eyeplace, eyeheight, focusplace, focusheight };
+
+struct quickview {
+    const char* name;  // of the button
+    placekind kind;
+    int figures[2];  // model units, absolute: X and Y, or Z
+    int left, top;   // twips on easyviews
+};
 
 constexpr quickview quickviews[] = {
     // clang-format off
+    // name               kind         figures          left  top
     {"perpx1800y0",       eyeplace,    { 1800,     0},  4680, 8520},
     {"perpx1660y690",     eyeplace,    { 1660,   690},  6480, 8280},
     {"perpx1270y1270",    eyeplace,    { 1270,  1270},  7920, 7320},
@@ -73,13 +81,20 @@ const kindrow kinds[] = {
     // clang-format on
 };
 
-const kindrow& kindof(const quickview& q) { return kinds[static_cast<int>(q.kind)]; }
+const kindrow& kindof(const quickview& q) { return kinds[q.kind]; }
 bool isheight(const quickview& q) { return kindof(q).figures.size() == 1; }
 
 // "Eye at X 1800, Y 0", "Focus at Z 850": by the figures that the button writes.
 std::string spoken(const quickview& q) {
     const std::string first = std::to_string(q.figures[0]), second = std::to_string(q.figures[1]);
     return std::string(kindof(q).spoken) + " at " + (isheight(q) ? "Z " + first : "X " + first + ", Y " + second);
+}
+
+void clickquickview(const quickview& q) {
+    int i = 0;
+    for (const viewfigure& f : kindof(q).figures) f.copy->text = std::to_string(q.figures[i++]);
+    if (q.name == focuscopier) focustxtx.text = efocusxbox.text;
+    for (const viewfigure& f : kindof(q).figures) f.box.text = f.copy->text;
 }
 
 }  // namespace
@@ -96,32 +111,17 @@ void definequickviews() {
     buttons.clear();
     buttons.reserve(std::size(quickviews));
     for (const quickview& q : quickviews) {
-        buttons.push_back({&easyviews,
-                           controlkind::button,
-                           q.name,
-                           {q.left, q.top, buttonsize, buttonsize},
-                           "",
-                           true,
-                           kindof(q).back,
-                           true,
-                           spoken(q) + ": SET takes it",
-                           spoken(q)});
+        buttons.push_back({.in = &easyviews,
+                           .kind = controlkind::button,
+                           .name = q.name,
+                           .place = {q.left, q.top, buttonsize, buttonsize},
+                           .shown = true,
+                           .back = kindof(q).back,
+                           .tooltip = spoken(q) + ": SET takes it",
+                           .spoken = spoken(q),
+                           .run = [&q] { clickquickview(q); }});
         addcontrol(buttons.back());
     }
-}
-
-const quickview* quickviewof(const control& c) {
-    if (c.in != &easyviews) return nullptr;
-    const auto found = std::find_if(std::begin(quickviews), std::end(quickviews),
-                                    [&c](const quickview& q) { return q.name == c.name; });
-    return found == std::end(quickviews) ? nullptr : found;
-}
-
-void clickquickview(const quickview& q) {
-    int i = 0;
-    for (const viewfigure& f : kindof(q).figures) f.copy->text = std::to_string(q.figures[i++]);
-    if (q.name == focuscopier) focustxtx.text = efocusxbox.text;
-    for (const viewfigure& f : kindof(q).figures) f.box.text = f.copy->text;
 }
 
 }  // namespace tessaly

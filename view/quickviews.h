@@ -2,8 +2,6 @@
 // eye or the focus. A click writes figures into boxes and nothing else: the view changes at SET.
 #pragma once
 
-#include "core/controls.h"
-
 namespace tessaly {
 
 // Opens easyviews with the figures of the main window's boxes.
@@ -12,23 +10,8 @@ void clickfastchange();
 // Hides easyviews; nothing is applied.
 void clickeasysetbtn();
 
-// What a place button stands for.
-enum class placekind { eyeplace, eyeheight, focusplace, focusheight };
-
-struct quickview {
-    const char* name;  // of the button
-    placekind kind;
-    int figures[2];  // model units, absolute: X and Y, or Z
-    int left, top;   // twips on easyviews
-};
-
-// Adds the 30 buttons to easyviews.
+// Adds the 30 buttons to easyviews. A click on one writes its figures to its boxes on easyviews, then copies those to
+// the main window.
 void definequickviews();
-
-// The place behind a button of easyviews, nullptr for any other control.
-const quickview* quickviewof(const control& c);
-
-// A click on a place: writes its figures to its boxes on easyviews, then copies those to the main window.
-void clickquickview(const quickview& q);
 
 }  // namespace tessaly

@@ -1,5 +1,6 @@
-// The one table from a control's name to its procedure, the start and the end of the program, and the two plain actions
-// of the main window. A button without a row does nothing but look like a button; a list without one only selects.
+// The one table of the named controls' procedures, the start and the end of the program, and the two plain actions of
+// the main window. The families (layouts, quick views, the help's regions) give their buttons their procedures
+// themselves.
 
 #include "windows/handlers.h"
 
@@ -19,7 +20,6 @@
 #include "view/quickviews.h"
 #include "view/rotation.h"
 #include "view/stepping.h"
-#include "windows/helppages.h"
 #include "windows/helpwindow.h"
 
 #include <algorithm>
@@ -62,7 +62,7 @@ void clickexitbtn() {
 }
 
 struct handler {
-    const control* of;
+    control* of;
     void (*run)();
 };
 
@@ -152,11 +152,6 @@ const handler handlers[] = {
     CLICK(displayimagebtn),
     // help
     CLICK(instructionsbtn),
-    CLICK(elementsbtn),
-    CLICK(filereaderbtn),
-    CLICK(displaybtn),
-    CLICK(viewcontrolbtn),
-    CLICK(capturesbtn),
     CLICK(returntomainbtn),
 };
 #undef CLICK
@@ -187,21 +182,6 @@ control* closerof(const window& w, const control* focused) {
     return first;
 }
 
-void runhandler(control& c) {
-    usedcontrol = &c;
-    wantedfocus = nullptr;
-    if (const position* p = positionof(c)) {
-        clickposition(*p);
-        return;
-    }
-    if (const quickview* q = quickviewof(c)) {
-        clickquickview(*q);
-        return;
-    }
-    for (const handler& h : handlers)
-        if (h.of == &c) h.run();
-}
-
 }  // namespace
 
 void startprogram() {
@@ -210,22 +190,10 @@ void startprogram() {
     forgetcontrols();
     definelayouts();
     definequickviews();
+    definehelp();
+    for (const handler& h : handlers) h.of->run = h.run;
     panelsnipper.items = {"Full panel", "snip left side", "snip right side", "snip both sides"};
-    for (const helppage& page : helppages) findcontrol(page.name)->text = page.text;
     showwindow(startform);
-}
-
-void clickcontrol(control& c) { runhandler(c); }
-
-void pickitem(control& c, int item) {
-    c.selected = item;
-    if (c.kind == controlkind::combobox) c.text = selectedtext(c);
-    runhandler(c);
-}
-
-void typetext(control& c, std::string_view text) {
-    c.text = text;
-    if (c.kind == controlkind::combobox) c.selected = -1;
 }
 
 void pressescape(window& w, const control* focused) {

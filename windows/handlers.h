@@ -1,25 +1,14 @@
-// What a user's action means: the one table from a control's name to its procedure, and the life of the program. No Qt
+// The life of the program: its start, which gives every control its procedure, and the closing of its windows. No Qt
 // here: the windows and tools/play drive the same procedures over the same controls.
 #pragma once
 
 #include "core/controls.h"
 
-#include <string_view>
-
 namespace tessaly {
 
-// Puts the whole program into its first state: all controls set up, startform shown, nothing loaded.
-// viewportsurface and progresssurface are to be set before.
+// Puts the whole program into its first state: all controls set up with their procedures, startform shown, nothing
+// loaded. viewportsurface and progresssurface are to be set before.
 void startprogram();
-
-// A click on a button. reads: the control's name; fails: as its procedure does.
-void clickcontrol(control& c);
-
-// A click on an item of a list, file list or combination box: selects it and runs the list's procedure.
-void pickitem(control& c, int item);
-
-// The user's text in a text box or combination box.
-void typetext(control& c, std::string_view text);
 
 // The Escape key in a window, with the focus on focused (nullptr: on no control). It does what the window's own closing
 // button does: of those of the main window the one that belongs to focused, or else the first that is shown. A list

@@ -9,7 +9,7 @@ namespace {
 constexpr int half = 66;    // columns of a page that has a neighbour
 constexpr int whole = 130;  // columns of a page alone
 
-const char* const elementstext1 = R"page(
+const char* const elements1 = R"page(
  CHOOSING AND PLACING ELEMENTS
  ================================================================
  1. Press an element in the left column of the main window. The
@@ -52,7 +52,7 @@ const char* const elementstext1 = R"page(
  While it is off, a click is drawn and not recorded.
 )page";
 
-const char* const elementstext2 = R"page(
+const char* const elements2 = R"page(
  DESIGN FILES
  ================================================================
  The folders "designs", "bmps" and "el-numbers" lie side by side
@@ -95,7 +95,7 @@ const char* const elementstext2 = R"page(
  and to pick a file of another name there ends the program.
 )page";
 
-const char* const filereadertext = R"page(
+const char* const filereader1 = R"page(
  SHOWING A DESIGN AGAIN: THE FILE READERS
  ================================================================
  The picture is only a picture. To see your design again, from
@@ -136,7 +136,7 @@ const char* const filereadertext = R"page(
  files with more of them together end the program: split them.
 )page";
 
-const char* const filereadertext2 = R"page(
+const char* const filereader2 = R"page(
  ADVANCED: SPLITTING A FLOOR INTO ELEMENT GROUPS
  ================================================================
  The sort goes by the middle of each element. Where elements
@@ -176,7 +176,7 @@ const char* const filereadertext2 = R"page(
  and it is shown on floor 10.
 )page";
 
-const char* const displaytext = R"page(
+const char* const display = R"page(
  THE DISPLAY BUTTONS
  ======================================================================================================================
 
@@ -213,7 +213,7 @@ const char* const displaytext = R"page(
  "Display markers" and "Display cube" hide the layout windows. Press an element in the left column to open its plan again.
 )page";
 
-const char* const viewcontrolstext = R"page(
+const char* const viewcontrols = R"page(
  CHANGING THE VIEW
  =============================================================================================================================
  A view change wipes the picture. Only wires come back, and only those of what was read last: the layout grid, or the element
@@ -257,7 +257,7 @@ const char* const viewcontrolstext = R"page(
     ("Default view" is told on the page of the display buttons.)
 )page";
 
-const char* const capturetext = R"page(
+const char* const captures = R"page(
  KEEPING PICTURES: CAPTURE AND RETRIEVE BMP IMAGES
  ======================================================================================================================
 
@@ -298,7 +298,7 @@ const char* const capturetext = R"page(
  The txt file of a capture is not to be deleted unless its bmp file goes too: without it the image cannot be retrieved.
 )page";
 
-const char* const hinttext = R"page(
+const char* const hint = R"page(
  A HINT ON THE ROTATION CONTROLS
  ======================================================================================================================
 
@@ -321,24 +321,24 @@ const char* const hinttext = R"page(
 
 const helppage helppages[helppagecount] = {
     // clang-format off
-    {"elementstext1",    half,  elementstext1 + 1},  // the text begins behind the line end of its opening line
-    {"elementstext2",    half,  elementstext2 + 1},
-    {"filereadertext",   half,  filereadertext + 1},
-    {"filereadertext2",  half,  filereadertext2 + 1},
-    {"displaytext",      whole, displaytext + 1},
-    {"viewcontrolstext", whole, viewcontrolstext + 1},
-    {"capturetext",      whole, capturetext + 1},
-    {"hinttext",         whole, hinttext + 1},
+    {&elementstext1,     half,  elements1 + 1},  // the text begins behind the line end of its opening line
+    {&elementstext2,     half,  elements2 + 1},
+    {&filereadertext,    half,  filereader1 + 1},
+    {&filereadertext2,   half,  filereader2 + 1},
+    {&displaytext,       whole, display + 1},
+    {&viewcontrolstext,  whole, viewcontrols + 1},
+    {&capturetext,       whole, captures + 1},
+    {&hinttext,          whole, hint + 1},
     // clang-format on
 };
 
 const helpregion helpregions[helpregioncount] = {
     // clang-format off
-    {"elementsbtn",    "elementstext1",    "elementstext2"},
-    {"filereaderbtn",  "filereadertext",   "filereadertext2"},
-    {"displaybtn",     "displaytext",      nullptr},
-    {"viewcontrolbtn", "viewcontrolstext", nullptr},
-    {"capturesbtn",    "capturetext",      nullptr},
+    {&elementsbtn,    &elementstext1,    &elementstext2},
+    {&filereaderbtn,  &filereadertext,   &filereadertext2},
+    {&displaybtn,     &displaytext,      nullptr},
+    {&viewcontrolbtn, &viewcontrolstext, nullptr},
+    {&capturesbtn,    &capturetext,      nullptr},
     // clang-format on
 };
 

@@ -2,11 +2,13 @@
 // The pages are laid out by blanks and ruled lines for a fixed-pitch font; plain ASCII, lines ended by '\n'.
 #pragma once
 
+#include "core/controls.h"
+
 namespace tessaly {
 
 struct helppage {
-    const char* name;  // of the page's control
-    int columns;       // characters that fit a line: half a window for a page that has a neighbour, else the whole
+    control* on;
+    int columns;  // characters that fit a line: half a window for a page that has a neighbour, else the whole
     const char* text;
 };
 constexpr int helppagecount = 8;
@@ -15,9 +17,9 @@ extern const helppage helppages[helppagecount];
 
 // What a picture button shows; secondpage is nullptr where one page fills the window.
 struct helpregion {
-    const char* button;
-    const char* firstpage;
-    const char* secondpage;
+    control* button;
+    control* firstpage;
+    control* secondpage;
 };
 constexpr int helpregioncount = 5;
 extern const helpregion helpregions[helpregioncount];

@@ -2,37 +2,37 @@
 
 #include "windows/helpwindow.h"
 
-#include "core/controls.h"
 #include "windows/helppages.h"
 
 namespace tessaly {
 
 namespace {
 
-// Shows the pages of a button's region and hides all others; the hint belongs to no region and is never shown.
-void showregion(const control& button) {
+void hidepages() {
+    for (const helppage& page : helppages) hide(*page.on);
+}
+
+// The hint belongs to no region and is never shown.
+void showregion(const helpregion& region) {
     hide(startpicbox);
-    for (const helppage& page : helppages) hide(*findcontrol(page.name));
-    for (const helpregion& region : helpregions) {
-        if (button.name != region.button) continue;
-        show(*findcontrol(region.firstpage));
-        if (region.secondpage != nullptr) show(*findcontrol(region.secondpage));
-    }
+    hidepages();
+    show(*region.firstpage);
+    if (region.secondpage != nullptr) show(*region.secondpage);
 }
 
 }  // namespace
 
+void definehelp() {
+    for (const helppage& page : helppages) page.on->text = page.text;
+    for (const helpregion& region : helpregions) region.button->run = [&region] { showregion(region); };
+}
+
 void clickinstructionsbtn() {
     show(startpicbox);
-    for (const helppage& page : helppages) hide(*findcontrol(page.name));
+    hidepages();
     showwindow(instructions);
 }
 
-void clickelementsbtn() { showregion(elementsbtn); }
-void clickfilereaderbtn() { showregion(filereaderbtn); }
-void clickdisplaybtn() { showregion(displaybtn); }
-void clickviewcontrolbtn() { showregion(viewcontrolbtn); }
-void clickcapturesbtn() { showregion(capturesbtn); }
 void clickreturntomainbtn() { hidewindow(instructions); }
 
 }  // namespace tessaly

@@ -103,7 +103,7 @@ class list : public QListWidget {
 // ---- the kinds ---------------------------------------------------------------------------------------------
 
 QWidget* makebutton(control& c, QWidget* plan) {
-    auto* made = new button(c.coloured ? screencolour(c.back) : buttonface, plan);
+    auto* made = new button(c.back ? screencolour(*c.back) : buttonface, plan);
     if (c.kind == controlkind::picturebutton) made->setpicture(QString::fromStdString(c.name));
     QObject::connect(made, &QPushButton::clicked, made, [&c] { runevent([&c] { clickcontrol(c); }); });
     return made;
