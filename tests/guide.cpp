@@ -46,7 +46,10 @@ TEST(guide, theHouseIsBuiltAndComesBackFromItsCapture) {
     EXPECT_FALSE(session::file("guide-house-front.png") == session::file("guide-house.png"));
 }
 
-TEST(guide, noLinkLeadsNowhere) {
+TEST(guide, noLinkLeadsNowhereAndNoPictureIsLeftOut) {
+    const std::string pages = document("docs/guide.md") + document("README.md");
+    for (const auto& picture : std::filesystem::directory_iterator(TESSALY_SOURCE_DIR "/docs/pictures"))
+        EXPECT_NE(pages.find("pictures/" + picture.path().filename().string() + ")"), std::string::npos) << picture;
     const std::regex link(R"(\]\(([^)#:]*)(#([^)]*))?\))");
     for (const std::filesystem::path page : {"README.md", "NOT-BUGS.md", "ARCHITECTURE.md", "docs/guide.md"}) {
         const std::string text = document(page);

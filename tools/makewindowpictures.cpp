@@ -20,6 +20,7 @@
 #include <cstdio>
 #include <exception>
 #include <filesystem>
+#include <fstream>
 #include <initializer_list>
 #include <numeric>
 #include <set>
@@ -94,6 +95,21 @@ std::string wordsof(const window& w, const twips& region) {
     return words + "on viewport " + pixels.text() + '\n';
 }
 
+// The plan of a layout window, with a frame around each place that the guide's clicks press on it.
+QImage markedplan(const window& w, const fs::path& guide) {
+    QImage image = shot(w);
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(0, 60, 220), 3));
+    std::ifstream clicks(guide);
+    for (std::string word; clicks >> word;) {
+        const control* c = findcontrol(word);
+        if (c && c->in == &w && c->elementnumber)
+            painter.drawRoundedRect(QRectF(widgetof(*c)->geometry()).adjusted(-1.5, -1.5, 1.5, 1.5), 3, 3);
+    }
+    return image;
+}
+
 // Writes a picture of a region of a window.
 void keep(QImage image, const window& w, const twips& region, const fs::path& folder, const char* name) {
     keepwords(image, wordsof(w, region));
@@ -102,6 +118,10 @@ void keep(QImage image, const window& w, const twips& region, const fs::path& fo
 
 void keepwindow(const window& w, const fs::path& folder, const char* name) {
     keep(shot(w), w, wholeof(w), folder, name);
+}
+
+void keepplan(const window& w, const fs::path& guide, const fs::path& folder, const char* name) {
+    keep(markedplan(w, guide), w, wholeof(w), folder, name);
 }
 
 // What a help button has room for, in pixels: as much of it as its window shows, within its rim.
@@ -151,15 +171,17 @@ void looktower() {
     click("groupbtn");
 }
 
-void makeall(const fs::path& help, const fs::path& documents) {
+void makeall(const fs::path& guide, const fs::path& help, const fs::path& documents) {
     openwindows();
     click("startprogrambtn");
     keepwindow(vistaplan, documents, "main-window-start");
     makehelppictures(help);
     click("postbeambtn");
-    keepwindow(layoutgirder, documents, "layout-girders");
+    keepplan(layoutgirder, guide, documents, "layout-girders");
     click("orange1btn");
-    keepwindow(layoutpanels, documents, "layout-panels");
+    keepplan(layoutpanels, guide, documents, "layout-panels");
+    click("roofbtn");
+    keepplan(layoutroof, guide, documents, "layout-roof");
     click("fastchange");
     keepwindow(easyviews, documents, "easy-views");
     click("groupbtn");
@@ -200,7 +222,7 @@ int main(int argc, char** argv) {
         const fs::path root = fs::absolute(argv[1]);
         const tessaly::workingfolder scratch(root);
         tessaly::copysamples(root / "samples", "designs");
-        tessaly::makeall(help, documents);
+        tessaly::makeall(root / "docs" / "guide.play", help, documents);
     } catch (const std::exception& failed) {
         std::fprintf(stderr, "makewindowpictures: %s\n", failed.what());
         return 1;

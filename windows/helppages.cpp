@@ -49,8 +49,7 @@ const char* const elements1 = R"page(
       roofs1.txt     roofs of floor 1
  and so on: girders2.txt, panels7.txt. These files are your
  building; nothing else of it is kept when the program ends.
- While it is off, a click is drawn and not recorded.
-)page";
+ While it is off, a click is drawn and not recorded.)page";
 
 const char* const elements2 = R"page(
  DESIGN FILES
@@ -92,8 +91,7 @@ const char* const elements2 = R"page(
  folder of your own, with your file manager. Move or copy them
  back to see it again. Keep nothing in "designs" but design
  files: the lists of the file readers show whatever lies there,
- and to pick a file of another name there ends the program.
-)page";
+ and to pick a file of another name there ends the program.)page";
 
 const char* const filereader1 = R"page(
  SHOWING A DESIGN AGAIN: THE FILE READERS
@@ -133,8 +131,7 @@ const char* const filereader1 = R"page(
  ----------------------------------------------------------------
  A WHOLE BUILDING: the lowest floor first, then each floor above
  it, the roof last. A solid replay takes 1000 lines at most; two
- files with more of them together end the program: split them.
-)page";
+ files with more of them together end the program: split them.)page";
 
 const char* const filereader2 = R"page(
  ADVANCED: SPLITTING A FLOOR INTO ELEMENT GROUPS
@@ -173,8 +170,7 @@ const char* const filereader2 = R"page(
  on the second floor.
  FLOOR 10: girders10.txt has the 1 in the digit's place and is
  shown on floor 1. Name it girder10.txt (panel10.txt, roof10.txt)
- and it is shown on floor 10.
-)page";
+ and it is shown on floor 10.)page";
 
 const char* const display = R"page(
  THE DISPLAY BUTTONS
@@ -204,14 +200,14 @@ const char* const display = R"page(
                         perspective (eye)    1850  -1850   830          magnification    0.056
                         focus                   0      0   280          shift            170 up, -270 to the right
 
-                   (The boxes may show a 0 of the focus as 0.1.) It wipes the picture and hides the rotation arrow; the
-                   small buttons "left" and "right" above it bring an arrow back. Press the left arrow at least once before:
-                   no small button is there until then, and the arrows would stay away until the program is started again.
+                   (The boxes may show a 0 of the focus as 0.1, and the eye a tenth further or cut to "1850." and "-1849";
+                   press it once more then.) It wipes the picture and hides the rotation arrow; the small buttons "left"
+                   and "right" above it bring an arrow back. Press the left arrow at least once before: no small button
+                   is there until then, and the arrows would stay away until the program is started again.
 
  ----------------------------------------------------------------------------------------------------------------------
 
- "Display markers" and "Display cube" hide the layout windows. Press an element in the left column to open its plan again.
-)page";
+ "Display markers" and "Display cube" hide the layout windows. Press an element in the left column to open its plan again.)page";
 
 const char* const viewcontrols = R"page(
  CHANGING THE VIEW
@@ -238,10 +234,10 @@ const char* const viewcontrols = R"page(
       SHIFT  H         + --    the picture, right and left   50            "Increment"
       the two arrows           the eye, around the building  100           "rotation increment"
 
-    The blank entry of a list is the usual step. The arrows come with "Activate rotation controls", which first
-    resets the view: eye and focus of the start, but for the focus Z, 180, and the eye, 180 higher than its box shows. The eye
-    walks along the four sides of a square; one arrow shows at a time, and the small buttons "right" and "left" switch. Other
-    view changes can confuse the arrows: go on clicking, and they recover by themselves.
+    The blank entry of a list is the usual step. An arrow comes with "Activate rotation controls", which first
+    resets the view: eye and focus of the start, but for the focus Z, 180, and the eye, 180 higher than its box showed. The eye
+    walks along the four sides of a square. With the first press of the arrow comes the small button "right", which brings the
+    other arrow. Other view changes can confuse the arrows: go on clicking, and they recover by themselves.
 
  2. FIGURES, THEN SET: "show perp foc mag" shows the boxes of the eye (upper three), of the focus (middle three) and of the
     magnification; the two of the shift are always there. Type what you want, then press SET. Type numbers only: an empty box
@@ -253,9 +249,7 @@ const char* const viewcontrols = R"page(
       light green   the eye, X and Y              pink   the eye, Z
       blue          the focus, X and Y            red    the focus, Z
 
-    A click only writes the figures into the boxes. Nothing moves until you press SET on the main window.
-    ("Default view" is told on the page of the display buttons.)
-)page";
+    A click only writes the figures into the boxes. Nothing moves until you press SET. For "Default view" see the display buttons.)page";
 
 const char* const captures = R"page(
  KEEPING PICTURES: CAPTURE AND RETRIEVE BMP IMAGES
@@ -295,8 +289,7 @@ const char* const captures = R"page(
  -----------------
  Pick a name in the same list and press "Delete file". One file goes, at once; its name leaves the list when the list is
  opened again.
- The txt file of a capture is not to be deleted unless its bmp file goes too: without it the image cannot be retrieved.
-)page";
+ The txt file of a capture is not to be deleted unless its bmp file goes too: without it the image cannot be retrieved.)page";
 
 const char* const hint = R"page(
  A HINT ON THE ROTATION CONTROLS
@@ -314,8 +307,7 @@ const char* const hint = R"page(
  the arrow that shows a few times before you switch direction.
 
  "Activate rotation controls" resets the view to that of the program's start, and can be pressed once. "Default view"
- hides the arrows; once the left arrow has been used, a small button brings one back.
-)page";
+ hides the arrows; once the left arrow has been used, a small button brings one back.)page";
 
 }  // namespace
 

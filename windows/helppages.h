@@ -1,5 +1,5 @@
 // The words of the instructions window: its text pages, and which of the five picture buttons shows which of them.
-// The pages are laid out by blanks and ruled lines for a fixed-pitch font; plain ASCII, lines ended by '\n'.
+// The pages are laid out by blanks and ruled lines for a fixed-pitch font; plain ASCII, '\n' between lines.
 #pragma once
 
 #include "core/controls.h"
@@ -12,7 +12,7 @@ struct helppage {
     const char* text;
 };
 constexpr int helppagecount = 8;
-constexpr int helplines = 41;  // lines that fit a page
+constexpr int helplines = 40;  // lines that fit a page
 extern const helppage helppages[helppagecount];
 
 // What a picture button shows; secondpage is nullptr where one page fills the window.

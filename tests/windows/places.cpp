@@ -1,10 +1,13 @@
 // Every window as it is built: places as in the tables, captions whole, nothing over anything else.
 
 #include "tests/windows/windowsession.h"
+#include "windows/helppages.h"
 #include "windows/qt/button.h"
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QScrollBar>
 
 namespace tessaly {
 
@@ -81,6 +84,16 @@ TEST_F(windowplaces, controlsSayWhatTheyAre) {
         EXPECT_FALSE(captionless && widget.toolTip().isEmpty()) << c.name;
     });
     EXPECT_EQ(widgetof(*findcontrol("beamx192y400"))->toolTip().toStdString(), "beamx192y400, element 58");
+}
+
+// A page that is longer than its control has a bar to scroll by, over its right edge.
+TEST_F(windowplaces, helpPagesAreSeenWhole) {
+    for (const helppage& page : helppages) {
+        control& c = *findcontrol(page.name);
+        runevent([&c] { show(c); });
+        const auto* text = qobject_cast<const QPlainTextEdit*>(widgetof(c));
+        EXPECT_EQ(text->verticalScrollBar()->maximum() + text->horizontalScrollBar()->maximum(), 0) << c.name;
+    }
 }
 
 TEST_F(windowplaces, nothingLiesOverAnotherControl) {

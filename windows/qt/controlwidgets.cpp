@@ -146,24 +146,30 @@ QWidget* makecombobox(control& c, QWidget* plan) {
     return box;
 }
 
-// A picture box without an image of the engine shows a picture of its own name.
+// A picture box without an image of the engine shows a picture of its own name, and its text upon that.
 class stillpicture : public QWidget {
   public:
-    stillpicture(const QString& name, QWidget* plan) : QWidget(plan), shows(name) {}
+    stillpicture(const control& c, QWidget* plan)
+        : QWidget(plan), shows(QString::fromStdString(c.name)), words(QString::fromStdString(c.text)) {
+        setFont(captionfont(wordpixels));
+    }
 
   protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
         shows.paint(painter, rect());
+        painter.drawText(rect().adjusted(0, wordpixels, 0, 0), Qt::AlignHCenter | Qt::AlignTop, words);
     }
 
   private:
+    static constexpr int wordpixels = 20;
     picture shows;
+    QString words;
 };
 
 QWidget* makepicturebox(const control& c, QWidget* plan) {
     if (&c == &viewport) return new canvas(viewportimage(), plan);
-    if (&c != &progressbar) return new stillpicture(QString::fromStdString(c.name), plan);
+    if (&c != &progressbar) return new stillpicture(c, plan);
     auto* strip = new canvas(progressimage(), plan);
     showprogresson(strip);
     return strip;
