@@ -89,7 +89,7 @@ TEST_F(windowplaces, controlsSayWhatTheyAre) {
 // A page that is longer than its control has a bar to scroll by, over its right edge.
 TEST_F(windowplaces, helpPagesAreSeenWhole) {
     for (const helppage& page : helppages) {
-        control& c = *findcontrol(page.name);
+        control& c = *page.on;
         runevent([&c] { show(c); });
         const auto* text = qobject_cast<const QPlainTextEdit*>(widgetof(c));
         EXPECT_EQ(text->verticalScrollBar()->maximum() + text->horizontalScrollBar()->maximum(), 0) << c.name;
