@@ -36,6 +36,7 @@ class ratios : public benchmark::ConsoleReporter {
         one("  of the whole is not drawing", replay + nameof(way::nodrawing), program);
         one("  times the time of 100 records for 1000", program,
             std::string(tenthofreplay) + "/" + nameof(way::program));
+        one("  times the limit", program, limitofreplay);
     }
 
   private:
@@ -68,6 +69,7 @@ int run(int argc, char** argv) {
     std::puts("1000 records solid: pictures and tables of the quick way and of the plain way are the same.");
     addclicks();
     addreplays();
+    addlimit();
     addshortcuts();
     ratios reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);

@@ -28,13 +28,15 @@ inline void addmeasure(const std::string& name, way w, double elements, const st
     })->Unit(benchmark::kMicrosecond);
 }
 
-// The benchmarks of the three files, added by main.
+// The benchmarks of the four files, added by main.
 void addclicks();
 void addreplays();
+void addlimit();
 void addshortcuts();
 
 // The replay by which the ways are compared, and the same of a tenth of its records.
 constexpr const char* measuredreplay = "replay/combined 1000";
 constexpr const char* tenthofreplay = "replay/combined 100";
+constexpr const char* limitofreplay = "replay/combined 1000/limit";
 
 }  // namespace tessaly

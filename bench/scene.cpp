@@ -66,8 +66,8 @@ std::string designfile(const std::string& name, int n, kinds kindof) {
 
 std::unique_ptr<surface> surfaceof(way w) {
     switch (w) {
-    case way::program: return std::make_unique<raster>(viewportwidth, viewportheight);
-    case way::plain: return std::make_unique<plainraster>();
+    case way::program:
+    case way::plain: return std::make_unique<raster>(viewportwidth, viewportheight);
     case way::plainqpainter: return std::make_unique<painterimage>(false);
     case way::plainclippedqpainter: return std::make_unique<painterimage>(true);
     default: return std::make_unique<nosurface>();

@@ -24,10 +24,9 @@ void painterimage::line(float x1, float y1, float x2, float y2, colour c) {
 
 void pixelcounter::line(float x1, float y1, float x2, float y2, colour) {
     ++lines;
-    if (!withinnearline(x1, y1, x2, y2)) return;
+    pixelline l;
     linepart part;
-    if (visiblepart({nearestpixel(x1), nearestpixel(y1), nearestpixel(x2), nearestpixel(y2)}, viewportwidth,
-                    viewportheight, part))
+    if (wholepixels(x1, y1, x2, y2, l) && visiblepart(l, viewportwidth, viewportheight, part))
         pixels += part.last - part.first + 1;
 }
 

@@ -1,5 +1,5 @@
-// The surfaces that a benchmark draws on: the program's own, the same with every compound operation line by line, the
-// same lines through QPainter, and none at all.
+// The surfaces that a benchmark draws on beside the program's own: the same lines through QPainter, none at all, and
+// what the limit is made of.
 #pragma once
 
 #include "render/raster.h"
@@ -9,14 +9,6 @@
 #include <cstdint>
 
 namespace tessaly {
-
-// The plain way of the program's own image.
-class plainraster : public raster {
-  public:
-    plainraster() : raster(viewportwidth, viewportheight) {}
-    void wash(int x1, int x2, int y1, int y2, colour c) override { surface::wash(x1, x2, y1, y2, c); }
-    void web(const facecorners& f, int n, colour c) override { surface::web(f, n, c); }
-};
 
 // Every line one call of QPainter, without antialiasing. clipped: with the painter's clip rectangle set.
 class painterimage : public surface {
@@ -36,8 +28,7 @@ class painterimage : public surface {
 class nosurface : public surface {
   public:
     void line(float, float, float, float, colour) override {}
-    void wash(int, int, int, int, colour) override {}
-    void web(const facecorners&, int, colour) override {}
+    void sweep(const facecorners&, int, colour) override {}
     void save(const std::string&) override {}
     void setpicture(const std::string&) override {}
 };
@@ -46,8 +37,7 @@ class nosurface : public surface {
 class pixelcounter : public nosurface {
   public:
     void line(float x1, float y1, float x2, float y2, colour c) override;
-    void wash(int x1, int x2, int y1, int y2, colour c) override { surface::wash(x1, x2, y1, y2, c); }
-    void web(const facecorners& f, int n, colour c) override { surface::web(f, n, c); }
+    void sweep(const facecorners& f, int n, colour c) override { surface::sweep(f, n, c); }
     std::int64_t pixels = 0, lines = 0;
 };
 

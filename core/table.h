@@ -23,6 +23,10 @@ inline int indexof(const value& v, const char* tablename, int last) {
     return roundedindex(v, tablename, last);
 }
 
+// true: every shortcut gives way to the plain way that it stands for, this one and those of core/fields and
+// render/raster. Tests and benchmarks compare the two; the program never sets it.
+extern bool plainway;
+
 [[noreturn]] void subscriptfailure(const char* tablename, double index, int last);
 
 // What all tables share, so that the whole world can be put back to its first state.
@@ -55,11 +59,11 @@ class writtenpages {
     void operator|=(const writtenpages& other) {
         for (std::size_t w = 0; w < words.size(); ++w) words[w] |= other.words[w];
     }
-    // Runs visit(first, last) for each written page's indexes within 1..end, ascending.
+    // Runs visit(first, last) for each written page's indexes within 1..end, ascending; the plain way takes every page.
     template <class procedure>
     void over(int end, procedure visit) const {
         for (std::size_t w = 0; w < words.size(); ++w)
-            for (std::uint64_t left = words[w]; left != 0; left &= left - 1) {
+            for (std::uint64_t left = plainway ? ~std::uint64_t(0) : words[w]; left != 0; left &= left - 1) {
                 const int page = static_cast<int>(w) * 64 + std::countr_zero(left);
                 const int first = std::max(page * pagesize, 1), last = std::min(page * pagesize + pagesize - 1, end);
                 if (first > last) return;
@@ -87,11 +91,6 @@ class table final : public tablebase {
     // Every index 1..cleared becomes 0. Only pages written since the last call are touched: the rest is 0 already.
     void clear() {
         pages.over(cleared, [this](int from, int to) { zero(from, to); });
-        pages.forget();
-    }
-    // The same without a look at what was written.
-    void clearplainly() {
-        zero(1, cleared);
         pages.forget();
     }
     // What may be other than 0 in 1..cleared.

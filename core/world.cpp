@@ -103,12 +103,11 @@ int roundedindex(const value& v, const char* tablename, int last) {
 void resetworld() {
     std::fill(linecount + 1, std::end(linecount), value(0));
     std::fill(ptcount + 1, std::end(ptcount), value(0));
-    const auto clear = [](auto& t) { plainway ? t.clearplainly() : t.clear(); };
-    for (auto* t : {&ptx, &pty, &ptz, &basex, &basey, &basez}) clear(*t);
+    for (auto* t : {&ptx, &pty, &ptz, &basex, &basey, &basez}) t->clear();
     for (auto* t : {&quad1, &quad2, &quad3, &quad4, &framing1, &framing2, &quadface, &quadgrade, &quadcolour})
-        clear(*t);
-    clear(cubegrade);
-    clear(cubecolour);
+        t->clear();
+    cubegrade.clear();
+    cubecolour.clear();
 }
 
 void forgetworld() {

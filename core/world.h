@@ -173,10 +173,6 @@ std::span<const scalar> scalars();
 // coordinates, quads, framing, colours and grades, and indexes 1..700 of cubecolour. Everything else stays.
 void resetworld();
 
-// true: every shortcut gives way to the plain way that it stands for. Tests and benchmarks compare the two; the program
-// never sets it.
-extern bool plainway;
-
 // Puts every table and scalar of this header back to its state before the program started.
 void forgetworld();
 

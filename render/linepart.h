@@ -1,11 +1,11 @@
 // The part of a line that an image shows, in whole pixels: exact, whichever end comes first and however far the ends
-// lie outside. The longer axis is walked pixel by pixel; the other coordinate is the nearest pixel, halves up.
+// lie outside, up to nearline. The longer axis is walked pixel by pixel; the other coordinate is the nearest pixel,
+// halves up.
 #pragma once
 
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
-#include <functional>
 #include <utility>
 
 namespace tessaly {
@@ -33,8 +33,16 @@ inline int nearestpixel(float coordinate) {
     return cut - (shifted < cut ? 1 : 0);
 }
 
-inline bool withinnearline(float x1, float y1, float x2, float y2) {
-    return std::abs(x1) <= nearline && std::abs(y1) <= nearline && std::abs(x2) <= nearline && std::abs(y2) <= nearline;
+// The same for a line with an end beyond nearline, cut to its reach.
+bool cutpixels(double x1, double y1, double x2, double y2, pixelline& l);
+
+// A line's ends as whole pixels; false where nothing of it can be drawn: an end that is no number, or all of it beyond
+// every picture.
+inline bool wholepixels(float x1, float y1, float x2, float y2, pixelline& l) {
+    if (!(std::abs(x1) <= nearline && std::abs(y1) <= nearline && std::abs(x2) <= nearline && std::abs(y2) <= nearline))
+        return cutpixels(x1, y1, x2, y2, l);
+    l = {nearestpixel(x1), nearestpixel(y1), nearestpixel(x2), nearestpixel(y2)};
+    return true;
 }
 
 inline std::int64_t floordivided(std::int64_t dividend, std::int64_t divisor) {
@@ -86,10 +94,5 @@ inline bool visiblepart(const pixelline& l, int wide, int high, linepart& part) 
     }
     return true;
 }
-
-// The same for a line with an end beyond nearline, in integers of any width that single precision needs: light gets
-// each pixel. The ends are finite.
-void walkhugeline(float x1, float y1, float x2, float y2, int wide, int high,
-                  const std::function<void(int x, int y)>& light);
 
 }  // namespace tessaly

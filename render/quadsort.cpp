@@ -1,4 +1,4 @@
-// Measuring and sorting of the quads, in the plain way and in the quick one.
+// Measuring and sorting of the quads, over the pages of the tables that were written.
 
 #include "render/quadsort.h"
 
@@ -6,7 +6,6 @@
 #include "core/world.h"
 #include "render/places.h"
 
-#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -42,54 +41,28 @@ void measurequad(int i) {
     tellmisses([i] { return placeofcorner(i); }, [i] { measurecorners(i); });
 }
 
-// Runs visit(i) for every slot that may hold a quad, ascending.
-template <class procedure>
-void overwrittenslots(procedure visit) {
+// The slots that a sort has to look at, ascending.
+std::vector<int> writtenslots() {
     writtenpages pages = quad1.written();
     for (const auto* corner : {&quad2, &quad3, &quad4}) pages |= corner->written();
-    pages.over(lastsorted, [&visit](int first, int last) {
-        for (int i = first; i <= last; ++i) visit(i);
+    if (quad4[0] != 0) pages.markall();  // then no slot counts as empty when the quads are measured
+    std::vector<int> slots;
+    pages.over(lastsorted, [&slots](int first, int last) {
+        for (int i = first; i <= last; ++i) slots.push_back(i);
     });
-}
-
-struct candidate {
-    double key;
-    int slot;
-    bool operator<(const candidate& o) const { return key < o.key || (key == o.key && slot < o.slot); }
-};
-
-// Gives the filled slots, as positions, the quads that can be chosen, nearest first.
-void sortquads(const std::vector<int>& slots) {
-    static std::vector<candidate> chosen;
-    chosen.clear();
-    for (const int i : slots)
-        if (quaddist[i] < farthest) chosen.push_back({quaddist[i], i});
-    std::sort(chosen.begin(), chosen.end());
-    for (std::size_t k = 0; k < slots.size(); ++k) {
-        if (k < chosen.size()) quadorder.set(slots[k], chosen[k].slot);
-        quaddist.set(quadorder[slots[k]], takenout);
-    }
+    return slots;
 }
 
 }  // namespace
 
 void orderquads() {
-    if (plainway || quad4[0] != 0) return orderquadsplainly();  // with slot 0 filled no quad counts as empty
-    static std::vector<int> slots;
-    slots.clear();
-    overwrittenslots(measurequad);
-    overwrittenslots([](int i) {
-        if (!emptyquad(i)) slots.push_back(i);
-    });
-    sortquads(slots);
-}
-
-void orderquadsplainly() {
-    for (int i = 1; i <= lastsorted; ++i) measurequad(i);
-    for (int i = 1; i <= lastsorted; ++i) {
+    std::vector<int> slots = writtenslots();
+    for (const int i : slots) measurequad(i);
+    if (!plainway) std::erase_if(slots, emptyquad);
+    for (const int i : slots) {
         if (emptyquad(i)) continue;
         double best = farthest;
-        for (int j = 1; j <= lastsorted; ++j) {
+        for (const int j : slots) {
             if (emptyquad(j) || !(quaddist[j] < best)) continue;
             best = quaddist[j];
             quadorder.set(i, j);

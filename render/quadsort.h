@@ -9,9 +9,6 @@ namespace tessaly {
 // fails: subscript, type mismatch.
 void orderquads();
 
-// The plain way, 7000 comparisons a quad; the same outcome and the same failures.
-void orderquadsplainly();
-
 // Whether a slot of the quad tables holds no quad.
 bool emptyquad(int slot);
 

@@ -2,14 +2,15 @@
 
 #include "render/raster.h"
 
+#include "core/table.h"
 #include "render/bitmap.h"
-#include "render/facefill.h"
 #include "render/linepart.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <cstring>
 #include <iterator>
+#include <span>
 
 namespace tessaly {
 
@@ -23,15 +24,60 @@ std::uint32_t pixelof(colour c) {
     return opaque | static_cast<std::uint32_t>(c.red) << 16 | static_cast<std::uint32_t>(c.green) << 8 | c.blue;
 }
 
-// Four pixels at a time; the last ones may be stored twice.
-void fillpixels(std::uint32_t* at, int count, std::uint32_t pixel) {
-    const std::uint32_t four[4] = {pixel, pixel, pixel, pixel};
-    if (count < 4) {
-        for (int i = 0; i < count; ++i) at[i] = pixel;
-        return;
+// The lines of a sweep are rounded a block at a time, coordinate by coordinate, so that the compiler works on several
+// at once; in front of a block stands the last line of the one before.
+constexpr std::size_t block = 8;
+constexpr int mostdivisions = 4096;     // lines of a sweep
+constexpr double mostpixels = 1 << 26;  // of its corners
+using pixelblock = std::array<int, block + 1>;
+
+// t / n for t = 0..n, and on to the end of the last block.
+const double* sharesof(int n) {
+    static std::vector<double> shares;
+    static int sharesn = 0;
+    if (n != sharesn) {
+        shares.clear();
+        for (int t = 0; t < n + static_cast<int>(block); ++t) shares.push_back(static_cast<double>(t) / n);
+        sharesn = n;
     }
-    for (int i = 0; i <= count - 4; i += 4) std::memcpy(at + i, four, sizeof four);
-    std::memcpy(at + count - 4, four, sizeof four);
+    return shares.data();
+}
+
+// Ends at their shares of an edge, as nearestpixel would give them. The bias makes every sum positive, so that cutting
+// it rounds down; up to mostpixels the sum is exact wherever the half matters.
+void roundends(double from, double to, const double* shares, pixelblock& pixels) {
+    constexpr double bias = 2 * mostpixels;
+    const double across = to - from;
+    pixels[0] = pixels[block];
+    for (std::size_t i = 0; i < block; ++i) {
+        const auto narrowed = static_cast<float>(from + shares[i] * across);
+        pixels[i + 1] = static_cast<int>(static_cast<double>(narrowed) + (bias + 0.5)) - static_cast<int>(bias);
+    }
+}
+
+// The lines of a sweep in whole pixels; one that repeats the one before is left out. The next call overwrites them.
+std::span<const pixelline> distinctlines(const facecorners& f, int n) {
+    static std::array<pixelline, mostdivisions + 2 * block> lines;
+    const double* const shares = sharesof(n);
+    pixelblock x1{}, y1{}, x2{}, y2{};
+    std::size_t found = 0;
+    const auto count = static_cast<std::size_t>(n) + 1;
+    for (std::size_t t = 0; t < count; t += block) {
+        roundends(f.x1, f.x2, shares + t, x1);
+        roundends(f.y1, f.y2, shares + t, y1);
+        roundends(f.x3, f.x4, shares + t, x2);
+        roundends(f.y3, f.y4, shares + t, y2);
+        std::array<int, block> differs;
+        for (std::size_t i = 0; i < block; ++i)
+            differs[i] = (x1[i] ^ x1[i + 1]) | (y1[i] ^ y1[i + 1]) | (x2[i] ^ x2[i + 1]) | (y2[i] ^ y2[i + 1]);
+        if (t == 0) differs[0] = 1;
+        // Each line is stored, and the place is taken where it differs: no branch to guess.
+        for (std::size_t i = 0; i < std::min(block, count - t); ++i) {
+            lines[found] = {x1[i + 1], y1[i + 1], x2[i + 1], y2[i + 1]};
+            found += differs[i] != 0;
+        }
+    }
+    return {lines.data(), found};
 }
 
 void paintpart(const linepart& part, std::uint32_t* image, int wide, std::uint32_t pixel) {
@@ -56,57 +102,22 @@ raster::raster(int width, int height)
     : wide(width), high(height), image(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), white) {}
 
 void raster::line(float x1, float y1, float x2, float y2, colour c) {
-    if (withinnearline(x1, y1, x2, y2)) {
-        linepart part;
-        const pixelline whole{nearestpixel(x1), nearestpixel(y1), nearestpixel(x2), nearestpixel(y2)};
-        if (visiblepart(whole, wide, high, part)) paintpart(part, image.data(), wide, pixelof(c));
-    } else if (std::isfinite(x1) && std::isfinite(y1) && std::isfinite(x2) && std::isfinite(y2)) {
-        walkhugeline(x1, y1, x2, y2, wide, high, [&](int x, int y) {
-            image[static_cast<std::size_t>(y) * static_cast<std::size_t>(wide) + static_cast<std::size_t>(x)] =
-                pixelof(c);
-        });
-    }
+    pixelline l;
+    linepart part;
+    if (wholepixels(x1, y1, x2, y2, l) && visiblepart(l, wide, high, part))
+        paintpart(part, image.data(), wide, pixelof(c));
 }
 
-void raster::fillrow(int y, int x1, int x2, std::uint32_t pixel) {
-    const int from = std::max(x1, 0), to = std::min(x2, wide - 1);
-    if (y < 0 || y >= high || from > to) return;
-    fillpixels(image.data() + static_cast<std::ptrdiff_t>(y) * wide + from, to - from + 1, pixel);
-}
-
-void raster::wash(int x1, int x2, int y1, int y2, colour c) {
-    for (int y = std::max(y1, 0); y <= std::min(y2, high - 1); ++y)
-        fillrow(y, std::min(x1, x2), std::max(x1, x2), pixelof(c));
-}
-
-void raster::web(const facecorners& f, int n, colour c) {
-    const auto [left, right] = std::minmax({f.x1, f.x2, f.x3, f.x4});
-    const auto [top, bottom] = std::minmax({f.y1, f.y2, f.y3, f.y4});
+void raster::sweep(const facecorners& f, int n, colour c) {
     const double corners[] = {f.x1, f.y1, f.x2, f.y2, f.x3, f.y3, f.x4, f.y4};
     // A corner that is no number is not near either.
     const auto isnear = [](double at) { return std::abs(at) <= mostpixels; };
-    const bool near = std::all_of(std::begin(corners), std::end(corners), isnear);
-    if (!near || n < 1 || n > mostdivisions) return surface::web(f, n, c);
-    // The last of the ends may stand a rounding beyond its corner.
-    const int x1 = nearestpixel(static_cast<float>(left)) - 1, x2 = nearestpixel(static_cast<float>(right)) + 1;
-    const int y1 = nearestpixel(static_cast<float>(top)) - 1, y2 = nearestpixel(static_cast<float>(bottom)) + 1;
-    if (x2 < 0 || x1 >= wide || y2 < 0 || y1 >= high) return;
-
-    const rails sets[] = {{f.x1, f.y1, f.x2, f.y2, f.x3, f.y3, f.x4, f.y4},
-                          {f.x1, f.y1, f.x3, f.y3, f.x2, f.y2, f.x4, f.y4}};
+    if (plainway || n > mostdivisions || !std::all_of(std::begin(corners), std::end(corners), isnear))
+        return surface::sweep(f, n, c);
     const std::uint32_t pixel = pixelof(c);
-    if (x2 - x1 >= pixelmask::mostsize || y2 - y1 >= pixelmask::mostsize) {
-        linepart part;
-        for (const rails& set : sets)
-            for (const pixelline& l : distinctlines(set, n))
-                if (visiblepart(l, wide, high, part)) paintpart(part, image.data(), wide, pixel);
-        return;
-    }
-    static pixelmask mask;
-    mask.cover(x1, y1, x2, y2);
-    for (const rails& set : sets)
-        for (const pixelline& l : distinctlines(set, n)) mask.addline(l);
-    mask.overruns([&](int y, int from, int to) { fillrow(y, from, to, pixel); });
+    linepart part;
+    for (const pixelline& l : distinctlines(f, n))
+        if (visiblepart(l, wide, high, part)) paintpart(part, image.data(), wide, pixel);
 }
 
 void raster::save(const std::string& path) { writebitmap(*this, path); }

@@ -16,8 +16,7 @@ class raster : public surface {
     raster(int width, int height);  // white
 
     void line(float x1, float y1, float x2, float y2, colour c) override;
-    void wash(int x1, int x2, int y1, int y2, colour c) override;
-    void web(const facecorners& f, int n, colour c) override;  // the same pixels as line by line, each painted once
+    void sweep(const facecorners& f, int n, colour c) override;  // no line twice in a row
     void save(const std::string& path) override;
     void setpicture(const std::string& path) override;
 
@@ -29,8 +28,6 @@ class raster : public surface {
     void clear();  // white again
 
   private:
-    void fillrow(int y, int x1, int x2, std::uint32_t pixel);  // x1 <= x2; what falls outside is discarded
-
     int wide, high;
     std::vector<std::uint32_t> image;
 };

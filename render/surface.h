@@ -20,12 +20,8 @@ class surface {
     // One straight line, 1 pixel wide, opaque, both ends included.
     virtual void line(float x1, float y1, float x2, float y2, colour c) = 0;
 
-    // Horizontal lines from x1 to x2, one for each y from y1 to y2 ascending.
-    virtual void wash(int x1, int x2, int y1, int y2, colour c);
-
-    // The fill of a face: the lines between edges 1-2 and 3-4 at t/n for t = 0..n, then those between edges 1-3 and
-    // 2-4.
-    virtual void web(const facecorners& f, int n, colour c);
+    // The lines between edge 1-2 and edge 3-4 at t/n for t = 0..n.
+    virtual void sweep(const facecorners& f, int n, colour c);
 
     // Saves the image as an uncompressed bitmap file; path as users write it. Fails with file access error.
     virtual void save(const std::string& path) = 0;
@@ -36,6 +32,12 @@ class surface {
 
     // Brings what was drawn to the screen at once, in the middle of an event.
     virtual void flush() {}
+
+    // Horizontal lines from x1 to x2, one for each y from y1 to y2 ascending.
+    void wash(int x1, int x2, int y1, int y2, colour c);
+
+    // The fill of a face: a sweep between edges 1-2 and 3-4, then one between edges 1-3 and 2-4.
+    void web(const facecorners& f, int n, colour c);
 };
 
 // The building's surface and the progress strip of the solid replays, in pixels. Set by the program.
@@ -43,9 +45,5 @@ constexpr int viewportwidth = 897, viewportheight = 581;
 constexpr int progresswidth = 17, progressheight = 705;
 extern surface* viewportsurface;
 extern surface* progresssurface;
-
-// Lines t = 0..n between edge (ax, ay)-(bx, by) and edge (cx, cy)-(dx, dy), drawn one by one.
-void sweep(surface& on, double ax, double ay, double bx, double by, double cx, double cy, double dx, double dy, int n,
-           colour c);
 
 }  // namespace tessaly

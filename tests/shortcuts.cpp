@@ -13,13 +13,6 @@ using namespace tessaly;
 
 namespace {
 
-// The image with every compound operation line by line.
-struct plainimage : raster {
-    using raster::raster;
-    void wash(int x1, int x2, int y1, int y2, colour c) override { surface::wash(x1, x2, y1, y2, c); }
-    void web(const facecorners& f, int n, colour c) override { surface::web(f, n, c); }
-};
-
 class digest {
   public:
     void add(std::uint64_t bits) { sum = (sum ^ bits) * 1099511628211U; }
@@ -58,9 +51,7 @@ moment thismoment(const raster& image, const std::string& report) {
 template <class procedure>
 std::vector<moment> play(bool plainly, const filesbypath& files, int steps, procedure step) {
     session s(files);
-    raster quick(300, 200);
-    plainimage plain(300, 200);
-    raster& image = plainly ? plain : quick;
+    raster image(300, 200);
     viewportsurface = &image;
     plainway = plainly;
     std::vector<moment> seen;

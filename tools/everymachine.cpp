@@ -62,14 +62,10 @@ struct measuredsurface : surface {
         image.line(x1, y1, x2, y2, c);
         summed.line(x1, y1, x2, y2, c);
     }
-    void wash(int x1, int x2, int y1, int y2, colour c) override {
-        image.wash(x1, x2, y1, y2, c);
-        summed.wash(x1, x2, y1, y2, c);
-    }
-    void web(const facecorners& f, int n, colour c) override {
-        image.web(f, n, c);
+    void sweep(const facecorners& f, int n, colour c) override {
+        image.sweep(f, n, c);
         add(figures, "face", {f.x1, f.y1, f.x2, f.y2, f.x3, f.y3, f.x4, f.y4});
-        summed.web(f, n, c);
+        summed.sweep(f, n, c);
     }
     void save(const std::string& path) override { image.save(path); }
     void setpicture(const std::string& path) override { image.setpicture(path); }

@@ -1,5 +1,5 @@
-// While lines are logged or counted the compound operations are drawn line by line, so that none of them is missing
-// from the log; the image comes out the same.
+// While lines are logged or counted a sweep is drawn line by line, so that none of them is missing from the log; the
+// image comes out the same.
 
 #include "tools/play_surface.h"
 
@@ -44,18 +44,11 @@ void loggedsurface::line(float x1, float y1, float x2, float y2, colour c) {
     std::fwrite(row, 1, static_cast<std::size_t>(at - row), log.get());
 }
 
-void loggedsurface::wash(int x1, int x2, int y1, int y2, colour c) {
+void loggedsurface::sweep(const facecorners& f, int n, colour c) {
     if (listening())
-        surface::wash(x1, x2, y1, y2, c);
+        surface::sweep(f, n, c);
     else
-        image.wash(x1, x2, y1, y2, c);
-}
-
-void loggedsurface::web(const facecorners& f, int n, colour c) {
-    if (listening())
-        surface::web(f, n, c);
-    else
-        image.web(f, n, c);
+        image.sweep(f, n, c);
 }
 
 void loggedsurface::setpicture(const std::string& path) {

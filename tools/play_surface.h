@@ -32,8 +32,7 @@ class loggedsurface : public surface {
     linetally taketally() { return std::exchange(*tally, {}); }
 
     void line(float x1, float y1, float x2, float y2, colour c) override;
-    void wash(int x1, int x2, int y1, int y2, colour c) override;
-    void web(const facecorners& f, int n, colour c) override;
+    void sweep(const facecorners& f, int n, colour c) override;
     void save(const std::string& path) override { image.save(path); }
     void setpicture(const std::string& path) override;
 
