@@ -1,4 +1,4 @@
-// The words of failures, and the checked division.
+// The words of failures.
 
 #include "core/failure.h"
 
@@ -26,11 +26,6 @@ failure::failure(failurekind failed, std::string why, std::string where)
 
 void failure::tellplace(const std::string& where) {
     if (place.empty()) place = where;
-}
-
-double quotient(double dividend, double divisor, const char* what) {
-    if (divisor == 0) throw failure(failurekind::divisionbyzero, what);
-    return dividend / divisor;
 }
 
 }  // namespace tessaly

@@ -41,9 +41,6 @@ struct failure : std::exception {
     std::string place;   // where to mend it: file, line and field, or text box; empty where it is no place's fault
 };
 
-// dividend / divisor; fails with division by zero naming what was being computed.
-double quotient(double dividend, double divisor, const char* what);
-
 // Runs step. An index outside a table was named by a figure of a data file, at place().
 template <class placing, class procedure>
 void tellmisses(placing place, procedure step) {

@@ -169,6 +169,13 @@ struct scalar {
 // All scalars that are values, the reported ones first and in the order in which they are written.
 std::span<const scalar> scalars();
 
+// Sets a point's working coordinates.
+inline void setpoint(int i, const value& x, const value& y, const value& z) {
+    ptx.set(i, x);
+    pty.set(i, y);
+    ptz.set(i, z);
+}
+
 // Clears the tables for the next element: the counts of lines and points, indexes 1..7000 of working and base
 // coordinates, quads, framing, colours and grades, and indexes 1..700 of cubecolour. Everything else stays.
 void resetworld();

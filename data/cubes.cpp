@@ -15,28 +15,15 @@ namespace tessaly {
 
 namespace {
 
-enum axis { alongx, alongy, alongz };
+enum axis : std::size_t { alongx, alongy, alongz };
 
-// A section of one cube row: the number of its first cube, its first point and quad.
-struct section {
-    const char* key;
-    int base, first;
-};
-constexpr section rows[] = {
-    // clang-format off
-    {"AUTOCUBE000:",   0,    1},
-    {"AUTOCUBE100:", 100, 1001},
-    {"AUTOCUBE200:", 200, 2001},
-    {"AUTOCUBE300:", 300, 3001},
-    {"AUTOCUBE400:", 400, 4001},
-    {"AUTOCUBE500:", 500, 5001},
-    // clang-format on
-};
+// The sections of one cube row each. Their cubes are numbered in hundreds, and each cube has ten points and quads.
+constexpr const char* rows[] = {
+    "AUTOCUBE000:", "AUTOCUBE100:", "AUTOCUBE200:", "AUTOCUBE300:", "AUTOCUBE400:", "AUTOCUBE500:"};
 constexpr int singlesfirst = 600, mostsingles = 100, singlespoint = 6001;
 
 void readcuberow(axis stepped, int base, cubeslots& next) {
-    value corner[6];
-    for (value& v : corner) v = readvalue(1, "a corner coordinate of a cube row");
+    cubecorners corner = readcorners();
     const value step = readvalue(1, "the step of a cube row");
     const value last = readvalue(1, "the last cube's number of a cube row");
     rowgrade = readvalue(1, "the grade of a cube row");
@@ -48,7 +35,7 @@ void readcuberow(axis stepped, int base, cubeslots& next) {
     for (int c = base; c <= last; ++c) {
         first = first + step;
         second = second + step;
-        expandcube(next, corner[0], corner[1], corner[2], corner[3], corner[4], corner[5], rowgrade, rowcolour);
+        expandcube(next, corner, rowgrade, rowcolour);
     }
 }
 
@@ -85,12 +72,14 @@ void readcubesections() {
         ptcount[block] = next.point - 1 - (block - 1) * 2000;
         pairstart = next.line;
     };
-    for (const section& s : rows) {
-        findkey(1, s.key);
-        if (s.base == 200) closepair(6, 1);
-        if (s.base == 400) closepair(7, 2);
-        next.point = next.quad = s.first;
-        readcuberow(stepped, s.base, next);
+    int base = 0;
+    for (const char* key : rows) {
+        findkey(1, key);
+        if (base == 200) closepair(6, 1);
+        if (base == 400) closepair(7, 2);
+        next.point = next.quad = 10 * base + 1;
+        readcuberow(stepped, base, next);
+        base += 100;
     }
     findkey(1, "AUTOCUBE600:");
     closepair(8, 3);

@@ -169,25 +169,22 @@ void showscene() {
     plotstate = 2;
 }
 
-void expandcube(cubeslots& next, const value& x1, const value& y1, const value& z1, const value& x2, const value& y2,
-                const value& z2, const value& grade, const value& colour) {
+cubecorners readcorners() {
+    cubecorners corners;
+    for (value& coordinate : corners) coordinate = readvalue(1, "a corner coordinate of a cube row");
+    return corners;
+}
+
+void expandcube(cubeslots& next, const cubecorners& opposite, const value& grade, const value& colour) {
+    const auto& [x1, y1, z1, x2, y2, z2] = opposite;
     const double dx = x2 - x1, dy = y2 - y1, dz = z2 - z1;
     const int p = next.point;
     const value corners[8][3] = {
         {x1, y1, z1},           {x1, y1, z1 + dz}, {x1, y1 + dy, z1}, {x1, y1 + dy, z1 + dz},
         {x1 + dx, y1 + dy, z1}, {x2, y2, z2},      {x1 + dx, y1, z1}, {x1 + dx, y1, z1 + dz},
     };
-    for (int i = 0; i < 8; ++i) {
-        ptx.set(p + i, corners[i][0]);
-        pty.set(p + i, corners[i][1]);
-        ptz.set(p + i, corners[i][2]);
-        copytobase(p + i);
-    }
-    for (int spare = p + 8; spare <= p + 9; ++spare) {
-        ptx.set(spare, 0);
-        pty.set(spare, 0);
-        ptz.set(spare, 0);
-    }
+    for (int i = 0; i < 8; ++i) placepoint(p + i, corners[i][0], corners[i][1], corners[i][2]);
+    for (int spare = p + 8; spare <= p + 9; ++spare) setpoint(spare, 0, 0, 0);
     static constexpr int edges[12][2] = {{0, 1}, {2, 3}, {4, 5}, {6, 7}, {0, 2}, {2, 4},
                                          {4, 6}, {6, 0}, {1, 3}, {3, 5}, {5, 7}, {7, 1}};
     for (const auto& edge : edges) {
@@ -215,12 +212,11 @@ void expandcube(cubeslots& next, const value& x1, const value& y1, const value& 
 void readcuberows(int firstcube, int mostrows, cubeslots& next) {
     for (int c = firstcube; c < firstcube + mostrows; ++c) {
         const int label = readlabel(1, "the label of a cube row");
-        value corner[6];
-        for (value& v : corner) v = readvalue(1, "a corner coordinate of a cube row");
+        const cubecorners corners = readcorners();
         cubegrade.set(c, readvalue(1, "the grade of a cube row"));
         cubecolour.set(c, readvalue(1, "the colour of a cube row"));
         if (label == sentinel) return;
-        expandcube(next, corner[0], corner[1], corner[2], corner[3], corner[4], corner[5], cubegrade[c], cubecolour[c]);
+        expandcube(next, corners, cubegrade[c], cubecolour[c]);
     }
 }
 

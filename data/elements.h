@@ -4,6 +4,8 @@
 
 #include "core/value.h"
 
+#include <array>
+
 namespace tessaly {
 
 // Reads "datah\" + datafile into the world, places it by placemode and plots it; with preopened 1 reads the file open
@@ -39,9 +41,12 @@ struct cubeslots {
     int point, quad, line;
 };
 
-// Expands a cube with corners (x1, y1, z1) and (x2, y2, z2) into eight points, twelve lines and six faces.
-void expandcube(cubeslots& next, const value& x1, const value& y1, const value& z1, const value& x2, const value& y2,
-                const value& z2, const value& grade, const value& colour);
+// Two opposite corners of a cube, x, y and z of each, as a row gives them.
+using cubecorners = std::array<value, 6>;
+cubecorners readcorners();
+
+// Expands a cube into eight points, twelve lines and six faces.
+void expandcube(cubeslots& next, const cubecorners& opposite, const value& grade, const value& colour);
 
 // Reads rows of one cube each, up to the end row or mostrows of them, and expands them into the slots from next on.
 // writes: cubegrade, cubecolour from firstcube on and what expandcube writes; fails: as readelements.

@@ -22,27 +22,16 @@ constexpr int mostfields = 6;
 
 // ---- one procedure a keyword; row holds its fields in file order ----
 
-void setx(const value* row) {
-    ptx.set(row[0], row[1]);
-    basex.set(row[0], row[1]);
-}
-
-void sety(const value* row) {
-    pty.set(row[0], row[1]);
-    basey.set(row[0], row[1]);
-}
-
-void setz(const value* row) {
-    ptz.set(row[0], row[1]);
-    basez.set(row[0], row[1]);
+template <auto& working, auto& base>
+void setone(const value* row) {
+    working.set(row[0], row[1]);
+    base.set(row[0], row[1]);
 }
 
 void resize(const value* row) {
     overpoints(row[0], row[1], 1, [row](int i) {
-        ptx.set(i, ptx[i] * row[2]);
-        pty.set(i, pty[i] * row[3]);
-        ptz.set(i, ptz[i] * row[4]);
-        copytobase(i);
+        const double x = ptx[i] * row[2], y = pty[i] * row[3], z = ptz[i] * row[4];
+        placepoint(i, x, y, z);
     });
 }
 
@@ -110,9 +99,9 @@ struct block {
 
 constexpr block blocks[] = {
     // clang-format off
-    {"XTRANSFORMATIONS:",  2, mostpairs, setx},
-    {"YTRANSFORMATIONS:",  2, mostpairs, sety},
-    {"ZTRANSFORMATIONS:",  2, mostpairs, setz},
+    {"XTRANSFORMATIONS:",  2, mostpairs, setone<ptx, basex>},
+    {"YTRANSFORMATIONS:",  2, mostpairs, setone<pty, basey>},
+    {"ZTRANSFORMATIONS:",  2, mostpairs, setone<ptz, basez>},
     {"RESIZE:",            5, mostrows,  resize},
     {"XROTATETRANSLATE:",  6, mostrows,  xrotatetranslate},
     {"YROTATETRANSLATE:",  6, mostrows,  yrotatetranslate},

@@ -13,28 +13,24 @@ void copytobase(int i) {
     basez.set(i, ptz[i]);
 }
 
+void placepoint(int i, const value& x, const value& y, const value& z) {
+    setpoint(i, x, y, z);
+    copytobase(i);
+}
+
 void turnx(int i, double c, double s, double dx, double dy, double dz) {
     const double x = basex[i], y = basey[i], z = basez[i];
-    ptx.set(i, x + dx);
-    pty.set(i, y * c - z * s + dy);
-    ptz.set(i, y * s + z * c + dz);
-    copytobase(i);
+    placepoint(i, x + dx, y * c - z * s + dy, y * s + z * c + dz);
 }
 
 void turny(int i, double c, double s, double dx, double dy, double dz) {
     const double x = basex[i], y = basey[i], z = basez[i];
-    ptx.set(i, z * s + x * c + dx);
-    pty.set(i, y + dy);
-    ptz.set(i, z * c - x * s + dz);
-    copytobase(i);
+    placepoint(i, z * s + x * c + dx, y + dy, z * c - x * s + dz);
 }
 
 void turnz(int i, double c, double s, double dx, double dy, double dz) {
     const double x = basex[i], y = basey[i], z = basez[i];
-    ptx.set(i, x * c - y * s + dx);
-    pty.set(i, x * s + y * c + dy);
-    ptz.set(i, z + dz);
-    copytobase(i);
+    placepoint(i, x * c - y * s + dx, x * s + y * c + dy, z + dz);
 }
 
 void turnpoints(double first, double last, double angle, turn about) {
@@ -44,10 +40,8 @@ void turnpoints(double first, double last, double angle, turn about) {
 
 void shiftpoints(double first, double last, int step) {
     overpoints(first, last, step, [](int i) {
-        ptx.set(i, basex[i] + placex);
-        pty.set(i, basey[i] + placey);
-        ptz.set(i, basez[i] + placez);
-        copytobase(i);
+        const double x = basex[i] + placex, y = basey[i] + placey, z = basez[i] + placez;
+        placepoint(i, x, y, z);
     });
 }
 

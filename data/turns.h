@@ -10,8 +10,9 @@ namespace tessaly {
 // Degrees to radians with the truncated pi that shows in the coordinates.
 constexpr double radians(double degrees) { return degrees * 3.14159 / 180; }
 
-// The base place of point i is where it stands now.
+// The base place of point i is where it stands now; is this one, where it stands from now on.
 void copytobase(int i);
+void placepoint(int i, const value& x, const value& y, const value& z);
 
 // Moves point i: its base place, turned about an axis by the angle whose cosine and sine are c and s, then shifted.
 // That is its base place from then on. fails: subscript, type mismatch.

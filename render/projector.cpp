@@ -79,9 +79,7 @@ void projectpoint(const sight& s, int p) {
 bool nearside(const sight& s, int p) { return (s.cx * ptx[p] + s.cy * pty[p]) + s.cz * ptz[p] > s.centresquared; }
 
 void restoreposition(const sight& s, int p) {
-    ptx.set(p, basex[p] - s.focusx);
-    pty.set(p, basey[p] - s.focusy);
-    ptz.set(p, basez[p] - s.focusz);
+    setpoint(p, basex[p] - s.focusx, basey[p] - s.focusy, basez[p] - s.focusz);
 }
 
 // Moves p along its line towards o, from the saved position, until it is on the plane's far side. False: given up, the
@@ -96,9 +94,8 @@ bool walktofarside(const sight& s, int p, int o) {
             return false;
         }
         const double share = static_cast<double>(walkcount) / fullwalk;
-        ptx.set(p, share * (savex[p] - ptx[o]) + ptx[o]);
-        pty.set(p, share * (savey[p] - pty[o]) + pty[o]);
-        ptz.set(p, share * (savez[p] - ptz[o]) + ptz[o]);
+        setpoint(p, share * (savex[p] - ptx[o]) + ptx[o], share * (savey[p] - pty[o]) + pty[o],
+                 share * (savez[p] - ptz[o]) + ptz[o]);
     }
     return true;
 }
@@ -194,16 +191,15 @@ int blocksinuse(pointblock (&blocks)[4]) {
 }
 
 void setplane() {
-    ptx.set(referencepoint, 0);
-    pty.set(referencepoint, 0);
-    ptz.set(referencepoint, 1);
+    setpoint(referencepoint, 0, 0, 1);
     const double ex = perpx, ey = perpy, ez = perpz;
     planeseedx = 0.94 * ex;
     planeseedy = 0.94 * ey;
     planeseedz = 0.95 * ez;  // not 0.94: the seed lies off the eye axis on purpose
     const double s = ((ex * planeseedx) + (ey * planeseedy)) + (ez * planeseedz);
     const double q = ((ex * ex) + (ey * ey)) + (ez * ez);
-    planecentrex = quotient(ex * s, q, "the eye stands at the focus");
+    if (q == 0) throw failure(failurekind::divisionbyzero, "the eye stands at the focus");
+    planecentrex = (ex * s) / q;
     planecentrey = (ey * s) / q;
     planecentrez = (ez * s) / q;
 }

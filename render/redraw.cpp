@@ -47,11 +47,7 @@ void settle() {
 }
 
 void restorepoints() {
-    overblocks([](int i) {
-        ptx.set(i, basex[i]);
-        pty.set(i, basey[i]);
-        ptz.set(i, basez[i]);
-    });
+    overblocks([](int i) { setpoint(i, basex[i], basey[i], basez[i]); });
 }
 
 }  // namespace tessaly
