@@ -12,12 +12,12 @@ namespace tessaly {
 // file access error, file not found (folder).
 void recordelement(const char* family, int number, int x, int y, const value& code);
 
+// The code of a panel's prefix and part ("full", "left", "righ", "both"); 0 for a pair that is not in the table.
+int panelcodefor(const std::string& prefix, const std::string& part);
+
 // Turns a record's kind and code back into placemode and datafile; a kind other than "girder", "panel" and "roof", or a
 // code outside the table, leaves what it cannot tell as it was.
 void elementfileforcode(const value& kind, const value& code);
-
-// The code of a panel's prefix and part ("full", "left", "righ", "both"); 0 for a pair that is not in the table.
-int panelcodefor(const std::string& prefix, const std::string& part);
 
 // Sets floornum, floorname and placez from a design file's name: the digit behind "girders", "panels" or "roofs".
 // Fails with type mismatch where the name tells no floor.

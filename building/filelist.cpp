@@ -17,15 +17,15 @@ void clickdisplayfilelistbtn() {
 
 void pickdesignfileslist() { show(killfilebtn); }
 
+void clickclosefilelistbtn() {
+    for (control* c : {&designfileslist, &killfilebtn, &closefilelistbtn}) hide(*c);
+}
+
 void clickkillfilebtn() {
     firstfilename = selectedtext(designfileslist);
     deletefile(designpath(firstfilename));
     refresh(designfileslist);
     clickclosefilelistbtn();
-}
-
-void clickclosefilelistbtn() {
-    for (control* c : {&designfileslist, &killfilebtn, &closefilelistbtn}) hide(*c);
 }
 
 void clickescapefilelistbtn() {

@@ -14,6 +14,14 @@ namespace tessaly {
 // The path as this system opens it, relative to the working folder.
 std::string systempath(std::string_view path);
 
+// The bytes of a file as they stand on disk now: nothing is kept from an earlier reading. Fails with file not found,
+// with file access error also where it is no regular file or has more than 64 MB.
+std::string filebytes(std::string_view path, const char* what);
+
+// The system's handle of a file, open for reading, which is the caller's to close. Fails with file not found, with file
+// access error also where it is no regular file: a pipe may never answer, a device never end.
+int openfile(std::string_view path, const char* what);
+
 // A file open for reading, held whole.
 struct textinput {
     std::string path;    // as users know it
@@ -52,13 +60,5 @@ void deletefile(std::string_view path);
 
 // The bare names of the visible files of a folder, sorted; fails with file not found where there is no such folder.
 std::vector<std::string> filesin(std::string_view folder);
-
-// The bytes of a file as they stand on disk now: nothing is kept from an earlier reading. Fails with file not found,
-// with file access error also where it is no regular file or has more than 64 MB.
-std::string filebytes(std::string_view path, const char* what);
-
-// The system's handle of a file, open for reading, which is the caller's to close. Fails with file not found, with file
-// access error also where it is no regular file: a pipe may never answer, a device never end.
-int openfile(std::string_view path, const char* what);
 
 }  // namespace tessaly
