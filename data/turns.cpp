@@ -34,8 +34,9 @@ void turnz(int i, double c, double s, double dx, double dy, double dz) {
 }
 
 void turnpoints(double first, double last, double angle, turn about) {
-    const double c = cosineof(angle), s = sineof(angle);
-    overpoints(first, last, 1, [=](int i) { about(i, c, s, placex, placey, placez); });
+    if (first > last) return;  // offsets that move nothing need not be numbers
+    const double c = cosineof(angle), s = sineof(angle), dx = placex, dy = placey, dz = placez;
+    overpoints(first, last, 1, [=](int i) { about(i, c, s, dx, dy, dz); });
 }
 
 void shiftpoints(double first, double last, int step) {
