@@ -32,7 +32,7 @@ void readpoints() {
         ptx.set(n, readvalue(1, "x of a STANDARD: row"));
         pty.set(n, readvalue(1, "y of a STANDARD: row"));
         ptz.set(n, readvalue(1, "z of a STANDARD: row"));
-        copytobase(n);
+        placepoint(n, ptx[n], pty[n], ptz[n]);
         if (label == sentinel) {
             ptcount1 = n - 1;
             return;

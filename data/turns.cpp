@@ -7,15 +7,11 @@
 
 namespace tessaly {
 
-void copytobase(int i) {
-    basex.set(i, ptx[i]);
-    basey.set(i, pty[i]);
-    basez.set(i, ptz[i]);
-}
-
 void placepoint(int i, const value& x, const value& y, const value& z) {
     setpoint(i, x, y, z);
-    copytobase(i);
+    basex.set(i, x);
+    basey.set(i, y);
+    basez.set(i, z);
 }
 
 void turnx(int i, double c, double s, double dx, double dy, double dz) {

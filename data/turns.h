@@ -10,8 +10,7 @@ namespace tessaly {
 // Degrees to radians with the truncated pi that shows in the coordinates.
 constexpr double radians(double degrees) { return degrees * 3.14159 / 180; }
 
-// The base place of point i is where it stands now; is this one, where it stands from now on.
-void copytobase(int i);
+// This is where point i stands from now on, and its base place.
 void placepoint(int i, const value& x, const value& y, const value& z);
 
 // Moves point i: its base place, turned about an axis by the angle whose cosine and sine are c and s, then shifted.
