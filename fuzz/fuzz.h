@@ -9,13 +9,13 @@
 #include "core/world.h"
 #include "render/palette.h"
 #include "render/raster.h"
+#include "tools/workingfolder.h"
 #include "windows/handlers.h"
 
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 #include <string>
-#include <unistd.h>
 
 void play(const std::string& input);
 
@@ -28,31 +28,17 @@ inline std::string bytesof(const std::string& path) {
     return (std::ostringstream() << in.rdbuf()).str();
 }
 
-// The process's own working folder, gone with it.
-class scratchfolder {
-  public:
-    scratchfolder() : folder(std::filesystem::temp_directory_path() / ("tessaly-fuzz-" + std::to_string(::getpid()))) {
-        namespace fs = std::filesystem;
-        fs::create_directories(folder);
-        fs::current_path(folder);
-        for (const char* shipped : {"datah", "pals"}) fs::copy(fs::path(TESSALY_SOURCE_DIR) / shipped, shipped);
-        for (const char* made : {"designs", "bmps", "nonuser"}) fs::create_directory(made);
-        // The start is to be short work.
+// The process's own working folder; the start in it is to be short work.
+struct scratchfolder : workingfolder {
+    scratchfolder() : workingfolder(TESSALY_SOURCE_DIR) {
         for (const char* large : {"datah/st-land.txt", "datah/st-grid.txt"}) write(large, bytesof("datah/st-axes.txt"));
     }
-    ~scratchfolder() {
-        std::error_code ignored;
-        std::filesystem::remove_all(folder, ignored);
-    }
-
-  private:
-    std::filesystem::path folder;
 };
 
 // The program as it is before the click on "S T A R T", with no file of the user's.
 inline void startanew() {
     static const scratchfolder folder;
-    static raster viewportimage(897, 581), progressimage(17, 705);
+    static raster viewportimage(viewportwidth, viewportheight), progressimage(progresswidth, progressheight);
     for (const char* users : {"designs", "bmps", "nonuser"})
         for (const auto& file : std::filesystem::directory_iterator(users)) std::filesystem::remove_all(file);
     viewportsurface = &viewportimage;
