@@ -43,7 +43,7 @@ inline void startanew() {
         for (const auto& file : std::filesystem::directory_iterator(users)) std::filesystem::remove_all(file);
     viewportsurface = &viewportimage;
     progresssurface = &progressimage;
-    readpicture = [](raster&, const std::string&) {};
+    readpicture = [](const std::string&) { return bitmap(); };
     startprogram();
 }
 

@@ -44,10 +44,8 @@ std::error_code errorofwriting(const std::filesystem::path& file, const std::str
     return out ? std::error_code() : std::error_code(errno, std::generic_category());
 }
 
-}  // namespace
-
-std::string bitmapof(const raster& image) {
-    const auto width = static_cast<std::uint32_t>(image.width()), height = static_cast<std::uint32_t>(image.height());
+std::string bytesof(const bitmap& picture) {
+    const auto width = static_cast<std::uint32_t>(picture.width), height = static_cast<std::uint32_t>(picture.height);
     const auto pixels = static_cast<std::uint32_t>(rowbytes(width)) * height;
     std::string bytes = "BM";
     for (const std::uint32_t figure : {headbytes + pixels, 0U, headbytes, infobytes, width, height})
@@ -56,15 +54,17 @@ std::string bitmapof(const raster& image) {
     addfigure(bytes, 8 * pixelbytes, 2);
     for (const std::uint32_t figure : {0U, pixels, dotsametre, dotsametre, 0U, 0U}) addfigure(bytes, figure, 4);
     bytes.reserve(headbytes + pixels);
-    for (int y = image.height() - 1; y >= 0; --y) {
-        const std::uint32_t* row = image.pixels() + static_cast<std::ptrdiff_t>(y) * image.width();
+    for (int y = picture.height - 1; y >= 0; --y) {
+        const std::uint32_t* row = picture.pixels.data() + static_cast<std::ptrdiff_t>(y) * picture.width;
         std::for_each(row, row + width, [&](std::uint32_t pixel) { addfigure(bytes, pixel, pixelbytes); });
         bytes.append(rowbytes(width) - width * pixelbytes, '\0');
     }
     return bytes;
 }
 
-void writebitmap(const raster& image, const std::string& path) {
+}  // namespace
+
+void writebitmap(const bitmap& picture, const std::string& path) {
     namespace fs = std::filesystem;
     std::error_code ignored;
     fs::path file = systempath(path);
@@ -74,14 +74,14 @@ void writebitmap(const raster& image, const std::string& path) {
 
     const fs::path unfinished = file.parent_path() / ("." + file.filename().string() + ".part");
     const bool aside = std::ofstream(unfinished).is_open();  // a folder may take no new name and yet this file
-    std::error_code failed = errorofwriting(aside ? unfinished : file, bitmapof(image));
+    std::error_code failed = errorofwriting(aside ? unfinished : file, bytesof(picture));
     if (aside && !failed) fs::rename(unfinished, file, failed);
     if (!failed) return;
     if (aside) fs::remove(unfinished, ignored);
     throw failure(failurekind::fileaccess, "the picture could not be written in whole: " + failed.message(), path);
 }
 
-void readbitmap(raster& image, const std::string& path) {
+bitmap readbitmap(const std::string& path) {
     const std::string bytes = filebytes(path, "picture");
     const auto figure = [&](std::size_t at, int count) { return figureat(bytes, at, count); };
     if (bytes.size() < headbytes || !bytes.starts_with("BM") || figure(infoat, 4) != infobytes ||
@@ -90,10 +90,12 @@ void readbitmap(raster& image, const std::string& path) {
     const std::size_t width = figure(widthat, 4), height = figure(heightat, 4), start = figure(startat, 4);
     if (std::max(width, height) > 65535 || bytes.size() < start + rowbytes(width) * height)
         throw failure(failurekind::invalidcall, "the file is not whole", path + " (picture)");
-    for (std::size_t y = 0; y < std::min(height, static_cast<std::size_t>(image.height())); ++y)
-        for (std::size_t x = 0; x < std::min(width, static_cast<std::size_t>(image.width())); ++x)
-            image.pixels()[y * static_cast<std::size_t>(image.width()) + x] =
+    bitmap picture{static_cast<int>(width), static_cast<int>(height), std::vector<std::uint32_t>(width * height)};
+    for (std::size_t y = 0; y < height; ++y)
+        for (std::size_t x = 0; x < width; ++x)
+            picture.pixels[y * width + x] =
                 0xff000000U | figure(start + rowbytes(width) * (height - 1 - y) + x * pixelbytes, pixelbytes);
+    return picture;
 }
 
 }  // namespace tessaly

@@ -2,21 +2,24 @@
 // file on every machine, whatever its screen says.
 #pragma once
 
-#include "render/raster.h"
-
+#include <cstdint>
 #include <string>
+#include <vector>
 
 namespace tessaly {
 
-// The bytes of the image's bitmap file.
-std::string bitmapof(const raster& image);
+// A picture in memory.
+struct bitmap {
+    int width = 0, height = 0;
+    std::vector<std::uint32_t> pixels;  // row after row from the top, 0xffRRGGBB
+};
 
-// Writes the image; the file takes its name only when it is whole, and the one that was there before stays until then.
-// Fails with file access error.
-void writebitmap(const raster& image, const std::string& path);
+// Writes the picture; the file takes its name only when it is whole, and the one that was there before stays until
+// then. Fails with file access error.
+void writebitmap(const bitmap& picture, const std::string& path);
 
-// Lays such a file over the image from the upper left. Fails with file not found or file access error, and with invalid
-// call for a file that is another kind of picture or none, or not whole.
-void readbitmap(raster& image, const std::string& path);
+// Reads such a file. Fails with file not found or file access error, and with invalid call for a file that is another
+// kind of picture or none, or not whole.
+bitmap readbitmap(const std::string& path);
 
 }  // namespace tessaly

@@ -3,7 +3,6 @@
 #include "render/raster.h"
 
 #include "core/table.h"
-#include "render/bitmap.h"
 #include "render/linepart.h"
 
 #include <algorithm>
@@ -14,7 +13,7 @@
 
 namespace tessaly {
 
-std::function<void(raster&, const std::string&)> readpicture = readbitmap;
+std::function<bitmap(const std::string&)> readpicture = readbitmap;
 
 namespace {
 
@@ -99,13 +98,13 @@ void paintpart(const linepart& part, std::uint32_t* image, int wide, std::uint32
 }  // namespace
 
 raster::raster(int width, int height)
-    : wide(width), high(height), image(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), white) {}
+    : image{width, height, std::vector(static_cast<std::size_t>(width) * static_cast<std::size_t>(height), white)} {}
 
 void raster::line(float x1, float y1, float x2, float y2, colour c) {
     pixelline l;
     linepart part;
-    if (wholepixels(x1, y1, x2, y2, l) && visiblepart(l, wide, high, part))
-        paintpart(part, image.data(), wide, pixelof(c));
+    if (wholepixels(x1, y1, x2, y2, l) && visiblepart(l, image.width, image.height, part))
+        paintpart(part, image.pixels.data(), image.width, pixelof(c));
 }
 
 void raster::sweep(const facecorners& f, int n, colour c) {
@@ -117,20 +116,26 @@ void raster::sweep(const facecorners& f, int n, colour c) {
     const std::uint32_t pixel = pixelof(c);
     linepart part;
     for (const pixelline& l : distinctlines(f, n))
-        if (visiblepart(l, wide, high, part)) paintpart(part, image.data(), wide, pixel);
+        if (visiblepart(l, image.width, image.height, part)) paintpart(part, image.pixels.data(), image.width, pixel);
 }
 
-void raster::save(const std::string& path) { writebitmap(*this, path); }
+void raster::save(const std::string& path) { writebitmap(image, path); }
 
-void raster::setpicture(const std::string& path) { readpicture(*this, path); }
+void raster::setpicture(const std::string& path) {
+    const bitmap picture = readpicture(path);
+    for (int y = 0; y < std::min(picture.height, image.height); ++y)
+        std::copy_n(picture.pixels.begin() + static_cast<std::ptrdiff_t>(y) * picture.width,
+                    std::min(picture.width, image.width),
+                    image.pixels.begin() + static_cast<std::ptrdiff_t>(y) * image.width);
+}
 
 colour raster::at(int x, int y) const {
-    const std::uint32_t pixel =
-        image.at(static_cast<std::size_t>(y) * static_cast<std::size_t>(wide) + static_cast<std::size_t>(x));
+    const std::uint32_t pixel = image.pixels.at(static_cast<std::size_t>(y) * static_cast<std::size_t>(image.width) +
+                                                static_cast<std::size_t>(x));
     return {static_cast<std::uint8_t>(pixel >> 16), static_cast<std::uint8_t>(pixel >> 8),
             static_cast<std::uint8_t>(pixel)};
 }
 
-void raster::clear() { std::fill(image.begin(), image.end(), white); }
+void raster::clear() { std::fill(image.pixels.begin(), image.pixels.end(), white); }
 
 }  // namespace tessaly

@@ -3,11 +3,11 @@
 // (halves up), whichever end comes first, and clipping never moves a pixel.
 #pragma once
 
+#include "render/bitmap.h"
 #include "render/surface.h"
 
 #include <cstdint>
 #include <functional>
-#include <vector>
 
 namespace tessaly {
 
@@ -20,20 +20,20 @@ class raster : public surface {
     void save(const std::string& path) override;
     void setpicture(const std::string& path) override;
 
-    int width() const { return wide; }
-    int height() const { return high; }
-    const std::uint32_t* pixels() const { return image.data(); }  // row after row, 0xffRRGGBB
-    std::uint32_t* pixels() { return image.data(); }
+    int width() const { return image.width; }
+    int height() const { return image.height; }
+    const std::uint32_t* pixels() const { return image.pixels.data(); }  // row after row, 0xffRRGGBB
+    std::uint32_t* pixels() { return image.pixels.data(); }
+    const bitmap& picture() const { return image; }
     colour at(int x, int y) const;
     void clear();  // white again
 
   private:
-    int wide, high;
-    std::vector<std::uint32_t> image;
+    bitmap image;
 };
 
-// Reads a picture file, as surface::setpicture does. By itself the engine reads bitmaps as it writes them; the program
-// lends it a library that knows more kinds.
-extern std::function<void(raster&, const std::string& path)> readpicture;
+// Reads a picture file; fails as surface::setpicture does. By itself the engine reads bitmaps as it writes them; the
+// program lends it a library that knows more kinds.
+extern std::function<bitmap(const std::string& path)> readpicture;
 
 }  // namespace tessaly

@@ -1,6 +1,6 @@
 // Captures: the record's exact bytes, what comes back, and what every failure leaves behind.
 #include "core/windows1252.h"
-#include "render/bitmap.h"
+#include "render/raster.h"
 #include "tests/viewlines.h"
 
 namespace tessaly {
@@ -179,21 +179,21 @@ TEST(bitmap, isOneFileAndComesBackWhole) {
     session s;
     raster made(3, 2), read(2, 3);
     for (std::uint32_t i = 0; i < 6; ++i) made.pixels()[i] = 0xff000000 | (0x010203 * (i + 1));
-    writebitmap(made, "bmps\\a.bmp");
+    made.save("bmps\\a.bmp");
     const std::string bytes = s.file("bmps/a.bmp");
     constexpr char expected[] =
         "BM\x4E\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\3\0\0\0\2\0\0\0\1\0\x18\0\0\0\0\0\x18\0\0\0\xC4\x0E\0\0\xC4\x0E\0\0"
         "\0\0\0\0\0\0\0\0\xC\x8\4\xF\xA\5\x12\xC\6\0\0\0\3\2\1\6\4\2\x9\6\3\0\0";
     EXPECT_EQ(bytes, std::string(expected, sizeof expected));
-    readbitmap(read, "bmps\\a.bmp");
+    read.setpicture("bmps\\a.bmp");
     EXPECT_TRUE(read.at(0, 1) == made.at(0, 1) && read.at(1, 0) == made.at(1, 0) &&
                 read.at(0, 2) == (colour{255, 255, 255}));
     for (const std::string& other : {bytes.substr(0, 77), bytes.substr(0, 20), replaced(bytes, "\x18", "\x20")}) {
         s.write("bmps/a.bmp", other);
-        expectfailure(failureof([&] { readbitmap(read, "bmps\\a.bmp"); }), failurekind::invalidcall, "bmps\\a.bmp");
+        expectfailure(failureof([] { readbitmap("bmps\\a.bmp"); }), failurekind::invalidcall, "bmps\\a.bmp");
     }
     std::filesystem::create_directory("bmps/b.bmp");
-    expectfailure(failureof([&] { writebitmap(made, "bmps\\b.bmp"); }), failurekind::fileaccess, "bmps\\b.bmp");
+    expectfailure(failureof([&] { made.save("bmps\\b.bmp"); }), failurekind::fileaccess, "bmps\\b.bmp");
 }
 
 TEST(windows1252, everyByteComesBack) {

@@ -5,7 +5,6 @@
 
 #include "core/channels.h"
 #include "core/failure.h"
-#include "render/bitmap.h"
 #include "windows/qt/picturefiles/rasterview.h"
 
 #include <QFile>
@@ -14,6 +13,7 @@
 #include <QtEndian>
 
 #include <algorithm>
+#include <iterator>
 
 namespace tessaly {
 
@@ -34,7 +34,7 @@ bool cutshort(QFile& file) {
     return head.startsWith("BM") && head.size() == 6 && qFromLittleEndian<quint32>(head.constData() + 2) > file.size();
 }
 
-void readintoimage(raster& image, const std::string& path) {
+bitmap readimage(const std::string& path) {
     QFile file;  // by its handle: the library would lose a name that is no UTF-8
     if (!file.open(openfile(path, "picture"), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
         throw failure(failurekind::fileaccess, file.errorString().toStdString(), path + " (picture)");
@@ -44,13 +44,13 @@ void readintoimage(raster& image, const std::string& path) {
     const QImage picture = reader.read().convertToFormat(QImage::Format_RGB32);
     if (picture.isNull())
         throw failure(failurekind::invalidcall, reader.errorString().toStdString(), path + " (picture)");
-    const int wide = std::min(picture.width(), image.width());
-    const int high = std::min(picture.height(), image.height());
-    for (int y = 0; y < high; ++y) {
+    bitmap read{picture.width(), picture.height(), {}};
+    for (int y = 0; y < read.height; ++y) {
         const auto* row = reinterpret_cast<const std::uint32_t*>(picture.constScanLine(y));
-        std::transform(row, row + wide, image.pixels() + static_cast<std::ptrdiff_t>(y) * image.width(),
+        std::transform(row, row + read.width, std::back_inserter(read.pixels),
                        [](std::uint32_t pixel) { return pixel | 0xff000000U; });
     }
+    return read;
 }
 
 bool endswithnocase(const std::string& path, const std::string& ending) {
@@ -60,11 +60,11 @@ bool endswithnocase(const std::string& path, const std::string& ending) {
 
 }  // namespace
 
-void usepicturefiles() { readpicture = readintoimage; }
+void usepicturefiles() { readpicture = readimage; }
 
 void savepicture(const raster& image, const std::string& path) {
     if (endswithnocase(path, ".png")) return writepng(image, path);
-    if (endswithnocase(path, ".bmp")) return writebitmap(image, path);
+    if (endswithnocase(path, ".bmp")) return writebitmap(image.picture(), path);
     throw failure(failurekind::fileaccess, "a name that ends in .png or .bmp was expected", path);
 }
 
