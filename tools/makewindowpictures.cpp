@@ -9,6 +9,7 @@
 #include "tools/workingfolder.h"
 #include "windows/qt/binding.h"
 #include "windows/qt/canvas.h"
+#include "windows/qt/dress.h"
 #include "windows/qt/look.h"
 #include "windows/qt/picturefiles/picturefile.h"
 
@@ -172,7 +173,7 @@ void looktower() {
 }
 
 void makeall(const fs::path& guide, const fs::path& help, const fs::path& documents) {
-    openwindows();
+    openwindows(dresswindow);
     click("startprogrambtn");
     keepwindow(vistaplan, documents, "main-window-start");
     makehelppictures(help);

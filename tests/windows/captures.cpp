@@ -6,7 +6,6 @@
 #include "windows/qt/canvas.h"
 #include "windows/qt/picturefiles/rasterview.h"
 
-#include <QImage>
 #include <QLineEdit>
 
 #include <csignal>

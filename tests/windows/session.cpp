@@ -141,7 +141,7 @@ TEST_F(windowsession, exitAndClosingTheMainWindowEndWithStatus0) {
     QTimer::singleShot(0, [] { click(exitbtn); });
     EXPECT_EQ(QApplication::exec(), 0);
     EXPECT_FALSE(faceof(vistaplan)->isVisible());
-    openwindows();
+    openwindows(dresswindow);
     start();
     QTimer::singleShot(0, [] { faceof(vistaplan)->close(); });
     EXPECT_EQ(QApplication::exec(), 0);

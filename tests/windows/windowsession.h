@@ -3,6 +3,7 @@
 
 #include "tools/workingfolder.h"
 #include "windows/qt/binding.h"
+#include "windows/qt/dress.h"
 #include "windows/qt/look.h"
 #include "windows/qt/picturefiles/picturefile.h"
 
@@ -37,7 +38,7 @@ class windowsession : public testing::Test {
     void SetUp() override {
         application();
         folder.emplace(TESSALY_SOURCE_DIR);
-        openwindows();
+        openwindows(dresswindow);
     }
 
     void TearDown() override {

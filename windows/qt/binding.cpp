@@ -10,7 +10,10 @@
 #include "windows/qt/spoken.h"
 
 #include <QApplication>
+#include <QComboBox>
+#include <QListWidget>
 #include <QMessageBox>
+#include <QPushButton>
 
 #include <algorithm>
 #include <cstdio>
@@ -39,24 +42,30 @@ std::map<const window*, boundwindow>& boundwindows() {
     return bound;
 }
 
+void (*dressing)(face&);  // of a window that was made
+
 bool running = false;  // an event is under way
 bool ending = false;   // the program is to end
 
 // ---- building ----------------------------------------------------------------------------------------------
 
-struct dresser {
-    const window* of;
-    void (*dress)(face&);
-};
-const dresser dressers[] = {
-    {&startform, dressstartform},       {&vistaplan, dressvistaplan},   {&layoutgirder, dresslayoutgirder},
-    {&layoutpanels, dresslayoutpanels}, {&layoutroof, dresslayoutroof}, {&easyviews, dresseasyviews},
-};
+// What the user does with the widget is an event of its control.
+void listento(QWidget* widget, control& c) {
+    const auto click = [&c] { runevent([&c] { clickcontrol(c); }); };
+    const auto pick = [&c](int item) { runevent([&c, item] { pickitem(c, item); }); };
+    if (auto* button = qobject_cast<QPushButton*>(widget)) QObject::connect(button, &QPushButton::clicked, click);
+    if (auto* box = qobject_cast<QComboBox*>(widget)) QObject::connect(box, &QComboBox::activated, pick);
+    if (auto* rows = qobject_cast<QListWidget*>(widget))
+        QObject::connect(rows, &QListWidget::clicked, [pick](const QModelIndex& row) { pick(row.row()); });
+}
 
 void buildwindow(window& w, boundwindow& bound) {
     bound.frame = std::make_unique<face>(w);
+    bound.frame->whenclosed = [&w] { runevent([&w] { closewindow(w); }); };
+    bound.frame->whenescaped = [&w] { runevent([&w] { pressescape(w, focusedcontrol(w)); }); };
     for (control* c : w.controls) {
         QWidget* widget = makewidget(*c, bound.frame->plan());
+        listento(widget, *c);
         bound.controls.push_back({c, widget, {}, {}});
     }
     // What the table lists later may lie under what it lists earlier: each kind has its layer.
@@ -64,8 +73,7 @@ void buildwindow(window& w, boundwindow& bound) {
     std::stable_sort(bylayer.begin(), bylayer.end(),
                      [](const boundcontrol& a, const boundcontrol& b) { return layerof(*a.of) < layerof(*b.of); });
     for (const boundcontrol& b : bylayer) b.widget->raise();
-    for (const dresser& d : dressers)
-        if (d.of == &w) d.dress(*bound.frame);
+    dressing(*bound.frame);
 }
 
 // ---- state to widgets --------------------------------------------------------------------------------------
@@ -163,7 +171,8 @@ void reportfailure(const failure& f) {
 
 }  // namespace
 
-void openwindows() {
+void openwindows(void (*dress)(face&)) {
+    dressing = dress;
     viewportimage().clear();
     progressimage().clear();
     viewportsurface = &viewportimage();

@@ -9,8 +9,9 @@
 
 namespace tessaly {
 
-// Sets the drawing surfaces and starts the program: its first window comes to the screen.
-void openwindows();
+// Sets the drawing surfaces and starts the program: its first window comes to the screen. dress is called for each
+// window that has been made, with its controls on the plan.
+void openwindows(void (*dress)(face&));
 
 // Takes all windows off the screen and forgets them.
 void dropwindows();

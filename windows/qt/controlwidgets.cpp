@@ -2,8 +2,6 @@
 
 #include "windows/qt/controlwidgets.h"
 
-#include "windows/handlers.h"
-#include "windows/qt/binding.h"
 #include "windows/qt/button.h"
 #include "windows/qt/canvas.h"
 #include "windows/qt/look.h"
@@ -30,15 +28,15 @@ constexpr int multiline = 60;   // pixels: a text box from this height on has se
 
 // ---- lists -------------------------------------------------------------------------------------------------
 
-// A click on a row is a pick, also on the row that is selected already; so is Enter on the current row.
+// A click on a row is a pick, also on the row that is selected already; so is Enter on the current row. Any pick is
+// told as a click.
 class list : public QListWidget {
   public:
-    list(control& itscontrol, QWidget* plan) : QListWidget(plan), of(itscontrol) {
+    list(const control& itscontrol, QWidget* plan) : QListWidget(plan), of(itscontrol) {
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setTextElideMode(Qt::ElideMiddle);
         setUniformItemSizes(true);
         setVerticalScrollMode(ScrollPerPixel);
-        connect(this, &QListWidget::clicked, this, [this](const QModelIndex& row) { pick(row.row()); });
         // A row that something else selects, as assistive technology does, is picked.
         connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this](const QItemSelection& rows) {
             if (!marking && !rows.isEmpty()) pick(rows.front().top());
@@ -92,20 +90,17 @@ class list : public QListWidget {
     }
 
   private:
-    void pick(int row) {
-        runevent([this, row] { pickitem(of, row); });
-    }
+    void pick(int row) { emit clicked(model()->index(row, 0)); }
 
-    control& of;
+    const control& of;
     bool marking = false;
 };
 
 // ---- the kinds ---------------------------------------------------------------------------------------------
 
-QWidget* makebutton(control& c, QWidget* plan) {
+QWidget* makebutton(const control& c, QWidget* plan) {
     auto* made = new button(c.back ? screencolour(*c.back) : buttonface, plan);
     if (c.kind == controlkind::picturebutton) made->setpicture(QString::fromStdString(c.name));
-    QObject::connect(made, &QPushButton::clicked, made, [&c] { runevent([&c] { clickcontrol(c); }); });
     return made;
 }
 
@@ -137,12 +132,11 @@ QWidget* makepage(QWidget* plan) {
     return page;
 }
 
-QWidget* makecombobox(control& c, QWidget* plan) {
+QWidget* makecombobox(QWidget* plan) {
     auto* box = new QComboBox(plan);
     box->setEditable(true);
     box->setCompleter(nullptr);  // what is typed stays as typed
     box->setInsertPolicy(QComboBox::NoInsert);
-    QObject::connect(box, &QComboBox::activated, box, [&c](int item) { runevent([&c, item] { pickitem(c, item); }); });
     return box;
 }
 
@@ -182,7 +176,7 @@ QWidget* makeframe(QWidget* plan) {
     return frame;
 }
 
-QWidget* makekind(control& c, QWidget* plan) {
+QWidget* makekind(const control& c, QWidget* plan) {
     switch (c.kind) {
     case controlkind::button:
     case controlkind::picturebutton: return makebutton(c, plan);
@@ -191,7 +185,7 @@ QWidget* makekind(control& c, QWidget* plan) {
     case controlkind::page: return makepage(plan);
     case controlkind::list:
     case controlkind::filelist: return new list(c, plan);
-    case controlkind::combobox: return makecombobox(c, plan);
+    case controlkind::combobox: return makecombobox(plan);
     case controlkind::picturebox: return makepicturebox(c, plan);
     case controlkind::frame: return makeframe(plan);
     }
@@ -200,7 +194,7 @@ QWidget* makekind(control& c, QWidget* plan) {
 
 }  // namespace
 
-QWidget* makewidget(control& c, QWidget* plan) {
+QWidget* makewidget(const control& c, QWidget* plan) {
     QWidget* widget = makekind(c, plan);
     if (c.kind == controlkind::picturebox) setrole(*widget, QAccessible::Graphic);
     if (c.kind == controlkind::frame) setrole(*widget, QAccessible::Grouping);

@@ -7,9 +7,9 @@
 
 namespace tessaly {
 
-// Makes the widget at its control's place, with name, tooltip, spoken name and the events that the user can cause.
-// It is hidden and empty until its control's state is carried to it.
-QWidget* makewidget(control& c, QWidget* plan);
+// Makes the widget at its control's place, with name, tooltip and spoken name. It is hidden and empty until its
+// control's state is carried to it. A list says clicked of each row that is picked.
+QWidget* makewidget(const control& c, QWidget* plan);
 
 // In front of each other stand, from the back: pictures and frames, labels, buttons, what is typed in or picked from,
 // the progress strip.

@@ -1,7 +1,7 @@
 // The quick views' diagram: the layout grid from above with the places around it, and the two scales of heights. The
 // lines are fixed; which buttons stand on them is the tables' matter. Coordinates are twips of the window.
 
-#include "windows/qt/binding.h"
+#include "windows/qt/dress.h"
 #include "windows/qt/look.h"
 
 #include <QPainter>

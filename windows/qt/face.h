@@ -10,16 +10,9 @@
 
 namespace tessaly {
 
-class face;
-
-// For the first showing, no larger than the screen: in its middle; or beside the main window, where the window hides
-// the least of what it is used with, and in front of it from then on, whichever of the two the user works in.
-void openincentre(face& f);
-void openbesidemain(face& f);
-
 class face : public QScrollArea {
   public:
-    explicit face(tessaly::window& itswindow);
+    explicit face(const tessaly::window& itswindow);
 
     QWidget* plan() const { return widget(); }
     QSize designedsize() const;
@@ -27,21 +20,16 @@ class face : public QScrollArea {
     // Paints behind the controls, in pixels of the plan.
     std::function<void(QPainter&)> decoration;
     // The first showing: where it stands and how large.
-    std::function<void(face&)> firstshowing = openbesidemain;
+    std::function<void(face&)> firstshowing;
 
-    tessaly::window& of;
+    // The user closes it, or presses Escape in it: whether it goes is the program's to say.
+    std::function<void()> whenclosed, whenescaped;
+
+    const tessaly::window& of;
 
   protected:
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
-
-// What each window has of its own, once its controls stand on the plan.
-void dressstartform(face& f);
-void dressvistaplan(face& f);
-void dresslayoutgirder(face& f);
-void dresslayoutpanels(face& f);
-void dresslayoutroof(face& f);
-void dresseasyviews(face& f);
 
 }  // namespace tessaly

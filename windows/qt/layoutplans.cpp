@@ -2,6 +2,7 @@
 // coordinates are twips of the window unless said otherwise; x of the plan runs down, y runs across.
 
 #include "windows/qt/binding.h"
+#include "windows/qt/dress.h"
 #include "windows/qt/look.h"
 
 #include <QPainter>

@@ -1,7 +1,9 @@
 // The opening window: large letters, and a steel frame drawn behind them.
 
 #include "windows/qt/binding.h"
+#include "windows/qt/dress.h"
 #include "windows/qt/look.h"
+#include "windows/qt/placement.h"
 
 #include <QLabel>
 #include <QPainter>

@@ -1,8 +1,8 @@
 // The main window: maximised at the start, with its keys.
 
 #include "core/viewfigures.h"
-#include "windows/handlers.h"
 #include "windows/qt/binding.h"
+#include "windows/qt/dress.h"
 #include "windows/qt/look.h"
 
 #include <QLabel>

@@ -1,6 +1,7 @@
 // The program with its windows.
 
 #include "windows/qt/binding.h"
+#include "windows/qt/dress.h"
 #include "windows/qt/look.h"
 #include "windows/qt/picturefiles/picturefile.h"
 
@@ -14,7 +15,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setDesktopFileName("tessaly");
     tessaly::setlook(app);
     tessaly::usepicturefiles();
-    tessaly::openwindows();
+    tessaly::openwindows(tessaly::dresswindow);
     const int status = QApplication::exec();
     tessaly::dropwindows();
     return status;
