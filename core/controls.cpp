@@ -121,13 +121,6 @@ void show(control& c) {
     if (c.kind == controlkind::list || c.kind == controlkind::filelist) wantedfocus = &c;
 }
 
-control* focusafter(const control& c) {
-    constexpr int longestchain = 8;  // controls that show each other in turn make a ring
-    control* back = c.openedby;
-    for (int step = 0; back != nullptr && !back->shown && step < longestchain; ++step) back = back->openedby;
-    return back != nullptr && back->shown ? back : nullptr;
-}
-
 void clickcontrol(control& c) {
     usedcontrol = &c;
     wantedfocus = nullptr;
@@ -153,6 +146,13 @@ void setfolder(control& filelist, std::string_view folder) {
 void refresh(control& filelist) {
     filelist.items = filesin(filelist.folder);
     filelist.selected = -1;
+}
+
+control* focusafter(const control& c) {
+    constexpr int longestchain = 8;  // controls that show each other in turn make a ring
+    control* back = c.openedby;
+    for (int step = 0; back != nullptr && !back->shown && step < longestchain; ++step) back = back->openedby;
+    return back != nullptr && back->shown ? back : nullptr;
 }
 
 }  // namespace tessaly

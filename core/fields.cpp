@@ -177,6 +177,10 @@ std::string_view readrecordtext(int channel, const char* what) {
     return text;
 }
 
+void findkey(int channel, const char* key) {
+    while (readtextfield(channel, key) != key) continue;
+}
+
 void skiptofigure(int channel) { scanner(channelinput(channel), "a figure").skiplineends(); }
 
 std::string figureplace(const std::string& path, const std::string& key, int skipped) {
@@ -192,10 +196,6 @@ std::string figureplace(const std::string& path, const std::string& key, int ski
     }
     closechannel(forreports);
     return place;
-}
-
-void findkey(int channel, const char* key) {
-    while (readtextfield(channel, key) != key) continue;
 }
 
 }  // namespace tessaly

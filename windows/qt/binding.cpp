@@ -205,19 +205,19 @@ void runevent(const std::function<void()>& procedure) {
     if (programended && !ending) endprogram(0);
 }
 
-QWidget* widgetof(const control& c) {
-    const auto found = boundwindows().find(c.in);
-    if (found == boundwindows().end()) return nullptr;
-    for (const boundcontrol& b : found->second.controls)
-        if (b.of == &c) return b.widget;
-    return nullptr;
-}
-
 const control* focusedcontrol(const window& w) {
     const auto found = boundwindows().find(&w);
     if (found == boundwindows().end()) return nullptr;
     for (const boundcontrol& b : found->second.controls)
         if (b.widget == found->second.frame->focusWidget()) return b.of;
+    return nullptr;
+}
+
+QWidget* widgetof(const control& c) {
+    const auto found = boundwindows().find(c.in);
+    if (found == boundwindows().end()) return nullptr;
+    for (const boundcontrol& b : found->second.controls)
+        if (b.of == &c) return b.widget;
     return nullptr;
 }
 

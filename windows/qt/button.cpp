@@ -78,18 +78,6 @@ QPushButton* nearestbutton(const QWidget& plan, QPoint from, QPoint direction) {
 
 }  // namespace
 
-bool walkbyarrow(const QWidget& plan, QPoint from, int key) {
-    static const std::map<int, QPoint> arrows{
-        {Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}};
-    const auto arrow = arrows.find(key);
-    if (arrow == arrows.end()) return false;
-    QPushButton* const next = nearestbutton(plan, from, arrow->second);
-    if (!next) return true;
-    next->setFocus(Qt::TabFocusReason);
-    if (auto* frame = qobject_cast<QScrollArea*>(plan.window())) frame->ensureWidgetVisible(next);
-    return true;
-}
-
 captionlines wrapcaption(const QString& caption, QSize size, bool bold) {
     const QStringList words = caption.split(' ', Qt::SkipEmptyParts);
     const int width = size.width() - 2 * sideroom, height = size.height() - 2 * edgeroom;
@@ -102,6 +90,18 @@ captionlines wrapcaption(const QString& caption, QSize size, bool bold) {
         if (best.whole) break;
     }
     return best;
+}
+
+bool walkbyarrow(const QWidget& plan, QPoint from, int key) {
+    static const std::map<int, QPoint> arrows{
+        {Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}};
+    const auto arrow = arrows.find(key);
+    if (arrow == arrows.end()) return false;
+    QPushButton* const next = nearestbutton(plan, from, arrow->second);
+    if (!next) return true;
+    next->setFocus(Qt::TabFocusReason);
+    if (auto* frame = qobject_cast<QScrollArea*>(plan.window())) frame->ensureWidgetVisible(next);
+    return true;
 }
 
 picture::picture(const QString& name) {
