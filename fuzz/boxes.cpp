@@ -2,6 +2,7 @@
 // button, or a pick from a list, that is in reach.
 #include "fuzz/fuzz.h"
 
+#include <sstream>
 #include <vector>
 
 using namespace tessaly;

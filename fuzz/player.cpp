@@ -2,6 +2,8 @@
 #include "fuzz/fuzz.h"
 #include "tools/play_commands.h"
 
+#include <sstream>
+
 using namespace tessaly;
 
 void play(const std::string& input) {

@@ -5,7 +5,7 @@
 using namespace tessaly;
 
 void play(const std::string& input) {
-    const std::string scene = bytesof("datah/st-axes.txt");
+    const std::string scene = filebytes("datah\\st-axes.txt", "scene");
     write("datah/fuzzed.txt", scene.substr(0, scene.rfind("TRAN")) + input);
     usualview();
     datafile = "fuzzed.txt";
