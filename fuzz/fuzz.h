@@ -76,8 +76,8 @@ void untilitfails(procedure run) {
 }  // namespace tessaly
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
-    constexpr std::clock_t mostwork =
-        2 * CLOCKS_PER_SEC;  // not by the clock on the wall, which a busy machine lets run on
+    // Work, not time by the clock on the wall, which a busy machine lets run on.
+    constexpr std::clock_t mostwork = 2 * CLOCKS_PER_SEC;
     const std::clock_t before = std::clock();
     tessaly::startanew();
     tessaly::untilitfails([&] { play(std::string(bytes, bytes + size)); });
