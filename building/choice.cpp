@@ -16,10 +16,20 @@ void openlayout(window& layout) {
     showwindow(layout);
 }
 
-void openpanels(const char* prefix) {
-    panelprefix = prefix;
-    openlayout(layoutpanels);
-}
+// A button and the text that it chooses.
+struct textchoice {
+    control& button;
+    const char* text;
+};
+const textchoice panels[] = {
+    // clang-format off
+    {orange1btn, "st-panels-1or-"},   {orange2btn, "st-panels-2or-"},  {orange3btn, "st-panels-3or-"},
+    {yellow1btn, "st-panels-1yel-"},  {yellow2btn, "st-panels-2yel-"}, {yellow3btn, "st-panels-3yel-"},
+    {door2btn,   "st-panels-2door-"}, {door4btn,   "st-panels-4door-"},
+    // clang-format on
+};
+const textchoice snips[] = {
+    {snipleftbtn, "snip left side"}, {sniprighbtn, "snip right side"}, {snipbothbtn, "snip both sides"}};
 
 // Turns one of two texts into the other; any third text is left alone.
 void toggle(control& box, const char* one, const char* other) {
@@ -50,16 +60,16 @@ void setfloor(const value& level) {
     }
 }
 
-void clickorange1btn() { openpanels("st-panels-1or-"); }
-void clickorange2btn() { openpanels("st-panels-2or-"); }
-void clickorange3btn() { openpanels("st-panels-3or-"); }
-void clickyellow1btn() { openpanels("st-panels-1yel-"); }
-void clickyellow2btn() { openpanels("st-panels-2yel-"); }
-void clickyellow3btn() { openpanels("st-panels-3yel-"); }
-void clickdoor2btn() { openpanels("st-panels-2door-"); }
-void clickdoor4btn() { openpanels("st-panels-4door-"); }
-void clickpostbeambtn() { openlayout(layoutgirder); }
-void clickroofbtn() { openlayout(layoutroof); }
+void definechoice() {
+    for (const textchoice& c : panels)
+        c.button.run = [&c] {
+            panelprefix = c.text;
+            openlayout(layoutpanels);
+        };
+    postbeambtn.run = [] { openlayout(layoutgirder); };
+    roofbtn.run = [] { openlayout(layoutroof); };
+    for (const textchoice& c : snips) c.button.run = [&c] { panelsnipper.text = c.text; };
+}
 
 void clickfloorbtn() { show(floorlist); }
 
@@ -70,9 +80,5 @@ void pickfloorlist() {
 
 void clickwiresolidbtn() { toggle(wiresolid, "solid", "wireframe"); }
 void clickwritefilebtn() { toggle(writefilebox, "on", "off"); }
-
-void clicksnipleftbtn() { panelsnipper.text = "snip left side"; }
-void clicksniprighbtn() { panelsnipper.text = "snip right side"; }
-void clicksnipbothbtn() { panelsnipper.text = "snip both sides"; }
 
 }  // namespace tessaly

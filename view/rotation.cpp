@@ -128,7 +128,4 @@ void clickreactivateleftbtn() {
     showleftarrow();
 }
 
-void clickrotincbtn() { show(rotincbox); }
-void pickrotincbox() { hide(rotincbox); }
-
 }  // namespace tessaly

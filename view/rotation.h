@@ -20,8 +20,4 @@ void clickrotrightbtn();
 void clickactivaterightbtn();
 void clickreactivateleftbtn();
 
-// Show the list of steps; hide it again with the pick in force.
-void clickrotincbtn();
-void pickrotincbox();
-
 }  // namespace tessaly

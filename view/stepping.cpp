@@ -14,7 +14,8 @@ constexpr double usualmagstep = 0.001;                      // units of magtxt
 constexpr double usualshiftstep = 50;                       // viewport pixels
 constexpr double magscale = 10;                             // mag while displaying over its figure in magtxt
 
-// The eye is kept relative to the focus: it moves against it and so stays in its place.
+// The point looked at, down or up. The eye is kept relative to the focus: it moves against it and so stays in its
+// place. reads: incrementlist; writes: focusz, perpz, perprelz, the boxes of eye, focus and magnification, efocuszbox.
 void stepfocus(int sign) {
     focusinc = pickedstep(incrementlist, usualfocusstep);
     focusz = focusz + sign * focusinc;
@@ -28,6 +29,7 @@ void stepfocus(int sign) {
     copytoeasyviews(focusfigures[2]);
 }
 
+// The eye, down or up. reads: incrementlist; writes: perpz, perprelz, the same boxes, eperpzbox.
 void stepperp(int sign) {
     focusstep = pickedstep(incrementlist, usualperpstep);
     perpz = perpz + sign * focusstep;
@@ -38,6 +40,7 @@ void stepperp(int sign) {
     copytoeasyviews(eyefigures[2]);
 }
 
+// By steps of its box. reads: magincbox; writes: mag, magshown, magtxt.
 void stepmag(int sign) {
     maginc = pickedstep(magincbox, usualmagstep);
     mag = mag + sign * (magscale * maginc);
@@ -56,6 +59,7 @@ double frontof(const value& shift) {
     return Val(front);
 }
 
+// reads: incrementlist; writes: the shift and its box; fails: type mismatch where the shift is no number.
 void stepshift(int sign, value& shift, control& box) {
     shiftinc = pickedstep(incrementlist, usualshiftstep);
     shift = frontof(shift) + sign * shiftinc;
@@ -64,22 +68,34 @@ void stepshift(int sign, value& shift, control& box) {
     box.text = boxtext(shift, 5);
 }
 
+struct steppair {
+    control &down, &up;
+    void (*step)(int sign);
+};
+const steppair pairs[] = {
+    {vertfocusminusbtn, vertfocusplusbtn, stepfocus},
+    {vertperpminusbtn, vertperpplusbtn, stepperp},
+    {magminusbtn, magplusbtn, stepmag},
+    {vertdec, vertinc, [](int sign) { stepshift(sign, vertshift, verttxt); }},
+    {horizdec, horizinc, [](int sign) { stepshift(sign, horizshift, horiztxt); }},
+};
+
+struct steplist {
+    control &button, &list;
+};
+const steplist lists[] = {{incrementbtn, incrementlist}, {magincbtn, magincbox}, {rotincbtn, rotincbox}};
+
 }  // namespace
 
-void clickvertfocusminusbtn() { stepfocus(-1); }
-void clickvertfocusplusbtn() { stepfocus(1); }
-void clickvertperpminusbtn() { stepperp(-1); }
-void clickvertperpplusbtn() { stepperp(1); }
-void clickmagminusbtn() { stepmag(-1); }
-void clickmagplusbtn() { stepmag(1); }
-void clickvertinc() { stepshift(1, vertshift, verttxt); }
-void clickvertdec() { stepshift(-1, vertshift, verttxt); }
-void clickhorizinc() { stepshift(1, horizshift, horiztxt); }
-void clickhorizdec() { stepshift(-1, horizshift, horiztxt); }
-
-void clickincrementbtn() { show(incrementlist); }
-void pickincrementlist() { hide(incrementlist); }
-void clickmagincbtn() { show(magincbox); }
-void pickmagincbox() { hide(magincbox); }
+void definesteps() {
+    for (const steppair& p : pairs) {
+        p.down.run = [&p] { p.step(-1); };
+        p.up.run = [&p] { p.step(1); };
+    }
+    for (const steplist& l : lists) {
+        l.button.run = [&l] { show(l.list); };
+        l.list.run = [&l] { hide(l.list); };
+    }
+}
 
 }  // namespace tessaly

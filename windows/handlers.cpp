@@ -1,6 +1,6 @@
 // The one table of the named controls' procedures, the start and the end of the program, and the two plain actions of
-// the main window. The families (layouts, quick views, the help's regions) give their buttons their procedures
-// themselves.
+// the main window. The families (layouts, element choice, steps, quick views, the help's regions) give their buttons
+// their procedures themselves.
 
 #include "windows/handlers.h"
 
@@ -77,24 +77,11 @@ const handler handlers[] = {
     CLICK(groupbtn),
     CLICK(displaycubebtn),
     CLICK(exitbtn),
-    // element choice
-    CLICK(orange1btn),
-    CLICK(orange2btn),
-    CLICK(orange3btn),
-    CLICK(yellow1btn),
-    CLICK(yellow2btn),
-    CLICK(yellow3btn),
-    CLICK(door2btn),
-    CLICK(door4btn),
-    CLICK(postbeambtn),
-    CLICK(roofbtn),
+    // state of building
     CLICK(floorbtn),
     PICK(floorlist),
     CLICK(wiresolidbtn),
     CLICK(writefilebtn),
-    CLICK(snipleftbtn),
-    CLICK(sniprighbtn),
-    CLICK(snipbothbtn),
     // replay of design files
     CLICK(autowiresingle),
     CLICK(autosolidsingle),
@@ -118,23 +105,6 @@ const handler handlers[] = {
     CLICK(rotrightbtn),
     CLICK(activaterightbtn),
     CLICK(reactivateleftbtn),
-    CLICK(rotincbtn),
-    PICK(rotincbox),
-    // steps of the view
-    CLICK(vertfocusminusbtn),
-    CLICK(vertfocusplusbtn),
-    CLICK(vertperpminusbtn),
-    CLICK(vertperpplusbtn),
-    CLICK(magminusbtn),
-    CLICK(magplusbtn),
-    CLICK(vertinc),
-    CLICK(vertdec),
-    CLICK(horizinc),
-    CLICK(horizdec),
-    CLICK(incrementbtn),
-    PICK(incrementlist),
-    CLICK(magincbtn),
-    PICK(magincbox),
     // manual view and quick views
     CLICK(cventerbtn),
     CLICK(defaultviewbtn),
@@ -189,6 +159,8 @@ void startprogram() {
     forgetworld();
     forgetcontrols();
     definelayouts();
+    definechoice();
+    definesteps();
     definequickviews();
     definehelp();
     for (const handler& h : handlers) h.of->run = h.run;
