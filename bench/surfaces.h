@@ -1,5 +1,4 @@
-// The surfaces that a benchmark draws on beside the program's own: the same lines through QPainter, none at all, and
-// what the limit is made of.
+// The surfaces that a benchmark draws on beside the program's own: the same lines through QPainter, and none at all.
 #pragma once
 
 #include "render/raster.h"
