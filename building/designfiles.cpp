@@ -96,8 +96,8 @@ void floorfromname(const std::string& name) {
     const char digit = stem.empty() ? ' ' : stem.back();
     if (digit < '0' || digit > '9')
         throw failure(failurekind::typemismatch,
-                      "the name tells no floor; a name girders, panels or roofs (or with their first four letters, as "
-                      "long) and the floor's digit was expected",
+                      "no reader knows this name; girders1.txt, panels1.txt and roofs1.txt would do, or names as long "
+                      "with the same first four letters and the floor's digit in the place of the 1",
                       designpath(name));
     floornum = digit - '0';
     setfloor(floornum == 0 ? value(10) : floornum);

@@ -104,7 +104,8 @@ double value::converted() const {
         beyond.tellplace(held.origin);
         throw;
     }
-    throw failure(failurekind::typemismatch, "\"" + excerpt(held.text) + "\" where a number was expected", held.origin);
+    const std::string found = held.text.empty() ? "nothing" : '"' + excerpt(held.text) + '"';
+    throw failure(failurekind::typemismatch, found + " where a number was expected", held.origin);
 }
 
 std::optional<double> strictnumber(std::string_view text) {

@@ -178,7 +178,7 @@ TEST(startdisplay, foldersMustExist) {
     for (const char* folder : {"designs", "bmps"}) {
         session s(startfolder());
         std::filesystem::remove(folder);
-        EXPECT_EQ(failureof([&] { s.start(); })->kind, failurekind::filenotfound);
+        expectfailure(failureof([&] { s.start(); }), failurekind::filenotfound, "is no working folder: ./run.sh");
         EXPECT_TRUE(s.lines().empty());
     }
     session s(startfolder());

@@ -2,9 +2,16 @@
 
 #include "view/viewboxes.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace tessaly {
 
-value boxvalue(const control& box) { return value(box.text, "text box " + box.name); }
+value boxvalue(const control& box) {
+    const auto shown = std::find_if(std::begin(viewfigures), std::end(viewfigures),
+                                    [&box](const viewfigure& f) { return &f.box == &box; });
+    return value(box.text, std::string("the box \"") + (shown->tag ? shown->tag : shown->word) + '"');
+}
 
 double pickedstep(const control& list, double usual) {
     const double step = Val(selectedtext(list));

@@ -12,6 +12,7 @@
 #include "captures/capture.h"
 #include "captures/retrieval.h"
 #include "core/channels.h"
+#include "core/failure.h"
 #include "core/world.h"
 #include "data/cubes.h"
 #include "data/startdisplay.h"
@@ -23,6 +24,7 @@
 #include "windows/helpwindow.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <iterator>
 
 namespace tessaly {
@@ -36,15 +38,33 @@ void filllists() {
     floorlist.items = {"9", "8", "7", "6", "5", "4", "3", "2", "1"};
 }
 
-// Load of the main window, which is visible only once this has returned.
-void loadvistaplan() {
-    vistaplan.created = true;
-    filllists();
+void readfolders() {
     setfolder(designfileslist, "designs\\");
     setfolder(bmplistbox, "bmps\\");
     for (control* list : {&autofile, &autofile1, &autofile2, &autofile3, &autofile4, &autofile5})
         setfolder(*list, "designs\\");
     startdisplay();
+}
+
+bool inworkingfolder() {
+    for (const char* folder : {"designs", "bmps", "datah"})
+        if (!std::filesystem::is_directory(folder)) return false;
+    return true;
+}
+
+// Load of the main window, which is visible only once this has returned.
+void loadvistaplan() {
+    vistaplan.created = true;
+    filllists();
+    try {
+        readfolders();
+    } catch (failure& f) {
+        if (!inworkingfolder())
+            f.detail += "; " + std::filesystem::current_path().string() +
+                        " is no working folder: ./run.sh where the sources are, or the installed command tessaly, "
+                        "starts the program in one";
+        throw;
+    }
 }
 
 void clickstartprogrambtn() {
