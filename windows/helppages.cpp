@@ -240,7 +240,7 @@ const char* const viewcontrols = R"page(
     other arrow. Other view changes can confuse the arrows: go on clicking, and they recover by themselves.
 
  2. FIGURES, THEN SET: "show perp foc mag" shows the boxes of the eye (upper three), of the focus (middle three) and of the
-    magnification; the two of the shift are always there. Type what you want, then press SET. Type numbers only: an empty box
+    magnification; the two of the shift are always there. Type, then press SET, or F5 in any window. Numbers only: an empty box
     or any other text ends the program. A 0 of eye or focus becomes 0.1. A box keeps only four or five characters after SET, and
     what it shows is what the next SET takes.
 
@@ -249,7 +249,7 @@ const char* const viewcontrols = R"page(
       light green   the eye, X and Y              pink   the eye, Z
       blue          the focus, X and Y            red    the focus, Z
 
-    A click only writes the figures into the boxes. Nothing moves until you press SET. For "Default view" see the display buttons.)page";
+    A click only writes the figures into the boxes. Nothing moves until SET, or F5. For "Default view" see the display buttons.)page";
 
 const char* const captures = R"page(
  KEEPING PICTURES: CAPTURE AND RETRIEVE BMP IMAGES
@@ -260,7 +260,7 @@ const char* const captures = R"page(
  1. Press "Capture screen bmp". A box for the file name appears.
  2. Type a name that ends in .bmp, for example  house1.bmp
     You must include the .bmp file extension when naming a capture.
- 3. Press "Enter". "escape" leaves without a capture.
+ 3. Press "Enter", or the key Return. "escape", or the key Escape, leaves without a capture.
 
  Two files are written to the folder "bmps", beside the folder "designs":
 
