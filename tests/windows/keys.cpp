@@ -1,5 +1,6 @@
 // The keyboard in the real windows: where the focus goes, and what Return, Escape, Tab, the arrows and F5 do.
 
+#include "core/world.h"
 #include "tests/windows/windowsession.h"
 #include "windows/handlers.h"
 
@@ -171,6 +172,64 @@ TEST_F(windowkeys, f5IsSetFromEveryWindow) {
     QTest::keyClick(widgetof(*findcontrol("perpx0y1800")), Qt::Key_F5);
     EXPECT_EQ(perptxtx.text + " " + perptxty.text, "0.1 1800");
     EXPECT_TRUE(easyviews.shown);
+}
+
+TEST_F(windowkeys, aBuildingByTheKeyboardAlone) {
+    const window* has = &vistaplan;  // the keyboard, as the desktop gives it
+    const auto at = [&](const window& w) {
+        has = &w;
+        faceof(w)->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(faceof(w)));
+    };
+    const auto keys = [&](std::initializer_list<Qt::Key> pressed) {
+        for (const auto key : pressed) QTest::keyClick(faceof(*has)->focusWidget(), key);
+    };
+    const auto go = [&](const control& to) {  // by Tab
+        for (int tabs = 0; tabs < 100 && focusedcontrol(*to.in) != &to; ++tabs) keys({Qt::Key_Tab});
+        ASSERT_EQ(focused(*to.in), to.name);
+    };
+    at(vistaplan);
+    go(postbeambtn);
+    keys({Qt::Key_Return});
+    at(layoutgirder);
+    keys({Qt::Key_Right, Qt::Key_Down, Qt::Key_Down, Qt::Key_Return, Qt::Key_Escape});
+    at(vistaplan);
+    go(orange1btn);
+    keys({Qt::Key_Space});
+    at(layoutpanels);
+    go(panelsnipper);
+    keys({Qt::Key_Down});
+    go(*findcontrol("pan270x0y208"));
+    keys({Qt::Key_Return, Qt::Key_Escape});
+    at(vistaplan);
+    go(autosolidbtn);
+    keys({Qt::Key_Return, Qt::Key_Return, Qt::Key_Down, Qt::Key_Return});
+    EXPECT_EQ(combinedcount, 3);
+    go(shopfm);
+    keys({Qt::Key_Return, Qt::Key_Tab});
+    EXPECT_EQ(focused(), "hidpfm");  // from where the hidden button stood
+    go(perptxtx);
+    QTest::keyClicks(faceof(*has)->focusWidget(), "1700");
+    keys({Qt::Key_F5});
+    EXPECT_EQ(perpabsx, 1700);
+    go(screencapbtn);
+    keys({Qt::Key_Return});
+    QTest::keyClicks(faceof(*has)->focusWidget(), "keys.bmp");
+    keys({Qt::Key_Return});
+    go(vertperpplusbtn);
+    keys({Qt::Key_Return});
+    EXPECT_EQ(perptxtz.text, "930");
+    go(retrieveimagetbtn);
+    keys({Qt::Key_Return, Qt::Key_Down, Qt::Key_Return});
+    go(displayimagebtn);
+    keys({Qt::Key_Return});
+    EXPECT_EQ(perptxtx.text + " " + perptxtz.text, "1700 830");
+    go(exitbtn);
+    keys({Qt::Key_Return});
+    EXPECT_TRUE(programended);
+    EXPECT_EQ(file("designs/girders1.txt"),
+              "\"girder\",1,8,8,41,90,0,0,16,4,64\r\n\"girder\",9,200,8,41,90,0,192,16,4,64\r\n");
+    EXPECT_EQ(file("designs/panels1.txt"), "\"panel\",1,0,104,2,0,270,0,208,2,64\r\n");
 }
 
 // The row that its list opens at is the one in force.

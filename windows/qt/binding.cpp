@@ -93,6 +93,7 @@ void takefocusback(const window& w, const boundwindow& bound) {
     if (!focused || focused->shown) return;
     const control* const back = focusafter(*focused);
     QWidget* const to = back ? widgetof(*back) : bound.frame->plan();
+    bound.frame->tabfrom = back ? nullptr : widgetof(*focused);
     to->show();
     to->setFocus();
 }

@@ -238,11 +238,10 @@ void settext(QWidget& widget, const std::string& text) {
     if (auto* line = qobject_cast<QLineEdit*>(&widget)) {
         line->setText(shown);
         line->setCursorPosition(0);
-    } else if (auto* box = qobject_cast<QComboBox*>(&widget)) {
-        box->setCurrentIndex(box->findText(shown, Qt::MatchExactly));  // the row that its list opens at
-        box->setEditText(shown);
     } else if (auto* page = qobject_cast<QPlainTextEdit*>(&widget))
         page->setPlainText(shown);
+    else if (auto* box = qobject_cast<QComboBox*>(&widget))
+        box->setEditText(shown);
     else if (auto* label = qobject_cast<QLabel*>(&widget))
         label->setText(shown);
     else if (auto* push = qobject_cast<QPushButton*>(&widget))
@@ -270,6 +269,13 @@ void setitems(QWidget& widget, const std::vector<std::string>& items) {
 void setselection(const control& c, QWidget& widget) {
     if (auto* rows = dynamic_cast<list*>(&widget)) rows->mark(c.selected);
     if (auto* push = dynamic_cast<button*>(&widget)) push->setchosen(&c == chosenelement);
+    if (auto* box = qobject_cast<QComboBox*>(&widget)) {
+        const QString text = box->currentText();
+        const int row = box->findText(text, Qt::MatchExactly);  // its list opens at this one
+        if (row == box->currentIndex()) return;
+        box->setCurrentIndex(row);
+        box->setEditText(text);
+    }
 }
 
 }  // namespace tessaly

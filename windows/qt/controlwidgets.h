@@ -26,7 +26,8 @@ std::string typedtext(const QWidget& widget);
 void settext(QWidget& widget, const std::string& text);
 
 void setitems(QWidget& widget, const std::vector<std::string>& items);
-// What is marked: the picked row of a list, the element button chosen last.
+// What is marked: the picked row of a list, the row of a combination box that is its text, the element button chosen
+// last.
 void setselection(const control& c, QWidget& widget);
 
 }  // namespace tessaly

@@ -25,6 +25,17 @@ class planwidget : public QWidget {
         of.decoration(painter);
     }
 
+    bool focusNextPrevChild(bool next) override {
+        QWidget* const from = hasFocus() ? of.tabfrom : nullptr;
+        if (!from) return QWidget::focusNextPrevChild(next);
+        QWidget* to = from;
+        do to = next ? to->nextInFocusChain() : to->previousInFocusChain();
+        while (to != from && !(isAncestorOf(to) && to->isVisible() && (to->focusPolicy() & Qt::TabFocus)));
+        of.tabfrom = nullptr;
+        to->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+        return true;
+    }
+
     void keyPressEvent(QKeyEvent* event) override {
         if (!walkbyarrow(*this, {0, 0}, event->key())) QWidget::keyPressEvent(event);
     }

@@ -17,6 +17,9 @@ class face : public QScrollArea {
     QWidget* plan() const { return widget(); }
     QSize designedsize() const;
 
+    // The control that lost the focus to the plan when it was hidden: Tab goes on from there.
+    QWidget* tabfrom = nullptr;
+
     // Paints behind the controls, in pixels of the plan.
     std::function<void(QPainter&)> decoration;
     // The first showing: where it stands and how large.
