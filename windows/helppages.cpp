@@ -234,10 +234,10 @@ const char* const viewcontrols = R"page(
       SHIFT  H         + --    the picture, right and left   50            "Increment"
       the two arrows           the eye, around the building  100           "rotation increment"
 
-    The blank entry of a list is the usual step. An arrow comes with "Activate rotation controls", which first
-    resets the view: eye and focus of the start, but for the focus Z, 180, and the eye, 180 higher than its box showed. The eye
-    walks along the four sides of a square. With the first press of the arrow comes the small button "right", which brings the
-    other arrow. Other view changes can confuse the arrows: go on clicking, and they recover by themselves.
+    The blank entry of a list is the usual step. An arrow comes with "Activate rotation controls", which first resets the view:
+    eye and focus of the start, but for the focus Z, 180, and the eye, 180 higher than its box showed. The eye walks along the
+    four sides of a square. With the first press of the arrow comes the small button "right", which brings the other arrow.
+    Other view changes can confuse the arrows: go on clicking, and they recover by themselves.
 
  2. FIGURES, THEN SET: "show perp foc mag" shows the boxes of the eye (upper three), of the focus (middle three) and of the
     magnification; the two of the shift are always there. Type, then press SET, or F5 in any window. Numbers only: an empty box
