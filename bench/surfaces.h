@@ -1,4 +1,5 @@
-// The surfaces that a benchmark draws on beside the program's own: the same lines through QPainter, and none at all.
+// The surfaces that a benchmark draws on beside the program's own: the same lines through QPainter, none at all, and
+// what the limit is made of.
 #pragma once
 
 #include "render/raster.h"
