@@ -32,17 +32,17 @@ play() {
         >"$folder/log" && cmake --build "$folder" --target everymachine >>"$folder/log" && run "$1" >"$folder/checksums"
 }
 
-# firstdifference FILE FILE: the first line of the second that is not the first's.
-firstdifference() { diff "$1" "$2" | sed -n '/^>/ { s/^> //p; q }'; }
-
-# differs BUILD: says where the build first goes another way, down to the figure where one that agrees is there to ask.
+# differs BUILD: says which step is the first to go another way, and, where a build that agrees is there to ask, which
+# line or figure of it.
 differs() {
     local row number
-    row=$(firstdifference "$kept" "$(folderof "$1")/checksums")
+    row=$(diff "$kept" "$(folderof "$1")/checksums" | sed -n '/^>/ { s/^> //p; q }')
     echo "$1 differs: ${row:-steps are missing}"
     number=$(sed -n 's/.* step \([0-9]*\): .*/\1/p' <<<"$row")
     [ -n "$number" ] && [ -n "$agreeing" ] || return 0
-    firstdifference <(run "$agreeing" "$number") <(run "$1" "$number") | sed "s/^/    its first other line, none of $agreeing: /"
+    diff <(run "$agreeing" "$number") <(run "$1" "$number") |
+        awk -v agreeing="$agreeing" '/^</ && !right { right = substr($0, 3) } /^>/ && !wrong { wrong = substr($0, 3) }
+            END { print "    " right "   by " agreeing "\n    " wrong "   by it" }'
 }
 
 if [ "${1:-}" = --play ]; then
