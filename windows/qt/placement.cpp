@@ -64,15 +64,15 @@ qint64 hidden(const QRect& place, const std::vector<obstacle>& obstacles) {
     return sum;
 }
 
-// Of the places where it hides the least, the one nearest to the upper left.
+// Of the places where it hides the least, the uppermost, and of these the one farthest to the left.
 QRect freestplace(const face& f) {
     constexpr int step = 8;
     const QRect room = roomfor(f);
     const std::vector<obstacle> obstacles = obstaclesto(f);
     QRect best(room.topLeft(), firstsize(f));
     qint64 least = -1;
-    for (int left = room.right() + 1 - best.width(); left >= room.left(); left -= step)
-        for (int top = room.bottom() + 1 - best.height(); top >= room.top(); top -= step) {
+    for (int top = room.bottom() + 1 - best.height(); top >= room.top(); top -= step)
+        for (int left = room.right() + 1 - best.width(); left >= room.left(); left -= step) {
             const QRect place({left, top}, best.size());
             const qint64 cost = hidden(place.adjusted(-edge, -titlebar, edge, edge), obstacles);
             if (least >= 0 && cost > least) continue;
