@@ -30,6 +30,6 @@ for seed in "${shipped[@]}" fuzz/seeds/"$target"/*; do
     [ ! -e "$seed" ] || cp "$seed" "$TMPDIR/seeds/"
 done
 # What was freed is kept from being given out again for 10 MB only, so that an input that takes 512 MB shows.
-ASAN_OPTIONS=quarantine_size_mb=10 "$PWD/build-fuzz/fuzz-$target" -max_total_time="$seconds" -timeout=25 \
+ASAN_OPTIONS=quarantine_size_mb=10 "$PWD/build-fuzz/fuzz-$target" -max_total_time="$seconds" -timeout=60 \
     -rss_limit_mb=512 -malloc_limit_mb=512 -dict="$PWD/fuzz/keywords.txt" -artifact_prefix="$PWD/build-fuzz/" \
     -close_fd_mask=1 -print_final_stats=1 "${@:3}" "$gathered" "$TMPDIR/seeds"
