@@ -5,7 +5,7 @@
 runpackages=(cmake ninja-build g++ qt6-base-dev 'qt6-svg-dev|libqt6svg6-dev' qt6-wayland fonts-dejavu-core fonts-liberation)
 testpackages=(libgtest-dev libgmock-dev)
 benchpackages=(libbenchmark-dev)
-fuzzpackages=(cmake ninja-build clang)
+fuzzpackages=(cmake ninja-build clang libclang-rt-dev)
 machinepackages=(cmake ninja-build g++ clang g++-aarch64-linux-gnu qemu-user)
 checkpackages=(git clang clang-format xvfb xdotool x11-utils imagemagick
     locales dpkg-dev file appstream desktop-file-utils lintian
