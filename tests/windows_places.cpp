@@ -1,6 +1,6 @@
 // Every window as it is built: places as in the tables, captions whole, nothing over anything else.
 
-#include "tests/windows/windowsession.h"
+#include "tests/windowsession.h"
 #include "windows/helppages.h"
 #include "windows/qt/button.h"
 

@@ -4,7 +4,7 @@
 // TESSALY_ACTIONS: how many actions in all; TESSALY_SEED: of the first session, which the others follow.
 
 #include "render/raster.h"
-#include "tests/windows/windowsession.h"
+#include "tests/windowsession.h"
 #include "windows/handlers.h"
 #include "windows/qt/canvas.h"
 #include "windows/qt/controlwidgets.h"

@@ -2,7 +2,7 @@
 
 #include "core/failure.h"
 #include "core/viewfigures.h"
-#include "tests/windows/windowsession.h"
+#include "tests/windowsession.h"
 #include "windows/qt/canvas.h"
 #include "windows/qt/picturefiles/rasterview.h"
 

@@ -2,7 +2,7 @@
 
 #include "core/failure.h"
 #include "render/surface.h"
-#include "tests/windows/windowsession.h"
+#include "tests/windowsession.h"
 #include "windows/qt/canvas.h"
 
 #include <QComboBox>

@@ -1,7 +1,7 @@
 // The keyboard in the real windows: where the focus goes, and what Return, Escape, Tab, the arrows and F5 do.
 
 #include "core/world.h"
-#include "tests/windows/windowsession.h"
+#include "tests/windowsession.h"
 #include "windows/handlers.h"
 
 #include <QComboBox>
