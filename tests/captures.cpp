@@ -1,6 +1,4 @@
 // Captures: the record's exact bytes, what comes back, and what every failure leaves behind.
-#include "core/windows1252.h"
-#include "render/raster.h"
 #include "tests/viewlines.h"
 
 namespace tessaly {
@@ -172,35 +170,6 @@ TEST(retrieval, deletesOneFileAndLeavesItsNameInTheList) {
     for (int twice = 0; twice < 2; ++twice) s.click("delbmpbtn");
     EXPECT_EQ(bmplistbox.items, (std::vector<std::string>{"view1.bmp", "view1.txt"}));
     EXPECT_EQ(s.file("bmps/view1.bmp") + s.file("bmps/view1.txt"), "(none)" + defaultrecord);
-}
-
-// The bytes of a file that other programs read, its 3780 dots a metre among them; what is read for another's.
-TEST(bitmap, isOneFileAndComesBackWhole) {
-    session s;
-    raster made(3, 2), read(2, 3);
-    for (std::uint32_t i = 0; i < 6; ++i) made.pixels()[i] = 0xff000000 | (0x010203 * (i + 1));
-    made.save("bmps\\a.bmp");
-    const std::string bytes = s.file("bmps/a.bmp");
-    constexpr char expected[] =
-        "BM\x4E\0\0\0\0\0\0\0\x36\0\0\0\x28\0\0\0\3\0\0\0\2\0\0\0\1\0\x18\0\0\0\0\0\x18\0\0\0\xC4\x0E\0\0\xC4\x0E\0\0"
-        "\0\0\0\0\0\0\0\0\xC\x8\4\xF\xA\5\x12\xC\6\0\0\0\3\2\1\6\4\2\x9\6\3\0\0";
-    EXPECT_EQ(bytes, std::string(expected, sizeof expected));
-    read.setpicture("bmps\\a.bmp");
-    EXPECT_TRUE(read.at(0, 1) == made.at(0, 1) && read.at(1, 0) == made.at(1, 0) &&
-                read.at(0, 2) == (colour{255, 255, 255}));
-    for (const std::string& other : {bytes.substr(0, 77), bytes.substr(0, 20), replaced(bytes, "\x18", "\x20")}) {
-        s.write("bmps/a.bmp", other);
-        expectfailure(failureof([] { readbitmap("bmps\\a.bmp"); }), failurekind::invalidcall, "bmps\\a.bmp");
-    }
-    std::filesystem::create_directory("bmps/b.bmp");
-    expectfailure(failureof([&] { made.save("bmps\\b.bmp"); }), failurekind::fileaccess, "bmps\\b.bmp");
-}
-
-TEST(windows1252, everyByteComesBack) {
-    std::string all;
-    for (int byte = 0; byte < 256; ++byte) all += static_cast<char>(byte);
-    EXPECT_EQ(towindows1252(fromwindows1252(all)), all);
-    EXPECT_EQ(towindows1252("\xF0\x9F\x8F\xA0 \xFFx\xE2\x82"), "? ?x?");  // outside the set; no UTF-8; cut off
 }
 
 }  // namespace
