@@ -1,4 +1,4 @@
-// What is made and committed is what its maker makes: panels, palette, pictures.
+// What is made and committed is what its maker makes: panels, palette, maps, samples, pictures.
 
 #include "tools/workingfolder.h"
 
@@ -17,7 +17,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-const fs::path source = TESSALY_SOURCE_DIR, pictures = source / "windows/qt/pictures";
+const fs::path source = TESSALY_SOURCE_DIR;
+const fs::path pictures = source / "windows/qt/pictures", documents = source / "docs/pictures";
 
 std::string bytesof(const fs::path& path) {
     std::ifstream in(path, std::ios::binary);
@@ -54,13 +55,12 @@ void expectsame(const fs::path& made, const fs::path& kept) {
     EXPECT_TRUE(wordsof(now).empty() ? now == before : looksalike(now, before));
 }
 
-// Runs a maker of build/tools in a working folder and compares each file that it writes with the one kept in one of
-// these folders.
+// Runs a maker in a working folder and compares each file that it writes with the one kept in one of these folders.
 void expectkept(std::string maker, const std::vector<fs::path>& kept, int files) {
     const tessaly::workingfolder scratch(source);
     fs::create_directory("made");
     for (std::size_t n = 0; n < kept.size(); ++n) maker += " made";
-    EXPECT_EQ(std::system((fs::path(TESSALY_PLAY).parent_path() / maker).c_str()), 0);
+    EXPECT_EQ(std::system(maker.c_str()), 0);
     for (const auto& file : fs::directory_iterator("made")) {
         const fs::path name = file.path().filename();
         expectsame(file.path(), (fs::exists(kept.front() / name) ? kept.front() : kept.back()) / name);
@@ -69,22 +69,31 @@ void expectkept(std::string maker, const std::vector<fs::path>& kept, int files)
     EXPECT_EQ(files, 0) << maker;
 }
 
+const std::string makers = fs::path(TESSALY_PLAY).parent_path() / "make", scripts = source / "tools/make-";
+
 // Catches a panel changed by hand, or in its description with the files left as they were: the four ends of a type and
 // the types among themselves would no longer agree.
-TEST(makers, panelsarekept) { expectkept("makepanels", {source / "datah"}, 32); }
+TEST(makers, panelsarekept) { expectkept(makers + "panels", {source / "datah"}, 32); }
 
 // Catches a colour changed in the list alone or in the palette alone.
-TEST(makers, paletteiskept) { expectkept("makepalette pals/tessaly.txt", {source / "pals"}, 1); }
+TEST(makers, paletteiskept) { expectkept(makers + "palette pals/tessaly.txt", {source / "pals"}, 1); }
 
 // Catches a layout changed with the maps of el-numbers left as they were.
-TEST(makers, mapsarekept) { expectkept("makemaps", {source / "el-numbers"}, 3); }
+TEST(makers, mapsarekept) { expectkept(makers + "maps", {source / "el-numbers"}, 3); }
 
 // Catches an element changed with its button's picture left as it was.
-TEST(makers, buttonpicturesarekept) { expectkept("makebuttons .", {pictures}, 26); }
+TEST(makers, buttonpicturesarekept) { expectkept(makers + "buttons .", {pictures}, 26); }
 
 // Catches a control moved, added or renamed, or an element changed, with the pictures of it left as they were.
 TEST(makers, windowpicturesarekept) {
-    expectkept("makewindowpictures " + source.string(), {pictures, source / "docs/pictures"}, 12);
+    expectkept(makers + "windowpictures " + source.string(), {pictures, documents}, 12);
 }
+
+// Catches a layout, a record or the script changed with the sample buildings left as they were.
+TEST(makers, samplesarekept) { expectkept(scripts + "samples.sh " TESSALY_PLAY, {source / "samples"}, 27); }
+
+// Catches a change of buttons, data, colours or drawing that the guide does not follow; a replay that loses, moves or
+// adds an element; a capture that does not bring its picture back.
+TEST(makers, buildingpicturesarekept) { expectkept(scripts + "pictures.sh " TESSALY_PLAY, {documents}, 7); }
 
 }  // namespace

@@ -4,6 +4,9 @@
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/tools/workingfolder.sh"
+TMPDIR=$(mktemp -d)
+export TMPDIR
+trap 'rm -r "$TMPDIR"' EXIT
 play=$(realpath "$1")
 folder=$(realpath "$2")
 
@@ -18,7 +21,6 @@ scene() {
     { echo "click startprogrambtn"; cat; echo "picture $1.png"; echo "click exitbtn"; } |
         (cd "$scratch" && "$play" -)
     mv "$scratch/$1.png" "$folder"
-    rm -r "$scratch"
 }
 
 # replay FILE...: the files through the single file reader, solid.
@@ -52,6 +54,6 @@ panels | scene panels "2200, 500, 560, 104, -96, 150, 0.1, 200, -270"
 scratch=$(mktemp -d)
 workingfolder "$scratch"
 (cd "$scratch" && "$play" "$root/docs/guide.play")
-rm "$scratch/guide-retrieved.png" # the same as guide-house.png
+cmp "$scratch/guide-retrieved.png" "$scratch/guide-house.png" # the capture brings its picture back
+rm "$scratch/guide-retrieved.png"
 mv "$scratch"/guide-*.png "$folder"
-rm -r "$scratch"

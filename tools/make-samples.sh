@@ -1,10 +1,12 @@
 #!/usr/bin/env bash
 # tools/make-samples.sh PLAY FOLDER: builds the sample designs by clicks, as a user would, with the player PLAY in a
 # working folder of its own, and leaves their design files in FOLDER under names that keep clear of a user's own.
-# tools/make-samples.sh clicks house|tower: only writes the clicks.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/tools/workingfolder.sh"
+TMPDIR=$(mktemp -d)
+export TMPDIR
+trap 'rm -r "$TMPDIR"' EXIT
 
 # Plan coordinates are bays: bay I J has its posts at columns I and I+1, rows J and J+1. One bay is 192 layout units.
 post() { echo "click postx$((192 * $1))y$((192 * $2 + 16))"; }
@@ -122,13 +124,8 @@ samples() {
         roofs*) mv "$file" "$folder/roof${name:0:1}${floor: -1}.txt" ;;
         esac
     done
-    rm -r "$scratch"
 }
 
-if [ "$1" = clicks ]; then
-    "$2"
-    exit
-fi
 play=$(realpath "$1")
 folder=$(realpath "$2")
 samples house

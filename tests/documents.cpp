@@ -1,0 +1,57 @@
+// The documents: no link leads nowhere, no picture is left out, and the pages of the help fit their window.
+#include "windows/helppages.h"
+
+#include "tests/session.h"
+
+#include <cctype>
+#include <regex>
+
+using namespace tessaly;
+namespace fs = std::filesystem;
+
+namespace {
+
+std::string document(const fs::path& path) { return session::file(fs::path(TESSALY_SOURCE_DIR) / path); }
+
+// A page with each heading as its anchor behind "#-", such as "#-taking-back-a-click".
+std::string withanchors(const std::string& page) {
+    std::string made = std::regex_replace(page, std::regex("[^[:alnum:]# \n-]"), "");
+    for (char& c : made) c = c == ' ' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return made;
+}
+
+}  // namespace
+
+TEST(documents, noLinkLeadsNowhereAndNoPictureIsLeftOut) {
+    const std::string pages = document("docs/guide.md") + document("README.md");
+    for (const auto& picture : fs::directory_iterator(TESSALY_SOURCE_DIR "/docs/pictures"))
+        EXPECT_NE(pages.find("pictures/" + picture.path().filename().string() + ")"), std::string::npos) << picture;
+    const std::regex link(R"(\]\(([^)#:]*)(?:#([^)]*))?\))");
+    for (const fs::path page : {"README.md", "NOT-BUGS.md", "ARCHITECTURE.md", "docs/guide.md"}) {
+        const std::string text = document(page);
+        for (std::sregex_iterator found(text.begin(), text.end(), link), end; found != end; ++found) {
+            const std::string file = (*found)[1], anchor = (*found)[2];
+            const std::string target = file.empty() ? text : document(page.parent_path() / file);
+            EXPECT_NE(target, "(none)") << page << ": " << file;
+            EXPECT_TRUE(anchor.empty() || withanchors(target).find("#-" + anchor + '\n') != std::string::npos)
+                << page << ": " << file << '#' << anchor;
+        }
+    }
+}
+
+// A line too long is cut or wrapped on the screen, and the tables drawn with blanks fall apart.
+TEST(documents, everyPageOfTheHelpFitsItsControl) {
+    constexpr int cellwidth = 8, cellheight = 16, rim = 16;  // pixels of a fixed-pitch character, and around the page
+    for (const helppage& page : helppages) {
+        SCOPED_TRACE(page.on->name);
+        EXPECT_LE(page.columns * cellwidth, page.on->place.width / twipsperpixel - rim);
+        EXPECT_LE(helplines * cellheight, page.on->place.height / twipsperpixel - rim);
+        std::istringstream text(page.text);
+        int lines = 0;
+        for (std::string line; std::getline(text, line); ++lines) {
+            EXPECT_LE(static_cast<int>(line.size()), page.columns) << line;
+            for (const char c : line) EXPECT_TRUE(c >= ' ' && c <= '~') << line;
+        }
+        EXPECT_TRUE(lines > 10 && lines <= helplines) << lines;
+    }
+}
