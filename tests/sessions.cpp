@@ -19,10 +19,6 @@ class playedsession : public testing::Test {
     void TestBody() override {
         session s;
         if (fs::exists(kept / name)) {
-            for (const char* data : {"datah", "pals"}) {
-                fs::remove(data);
-                fs::copy(fs::path(TESSALY_SOURCE_DIR) / data, data);
-            }
             fs::copy(kept / name, ".", fs::copy_options::recursive | fs::copy_options::overwrite_existing);
         }
         usepicturefiles();

@@ -11,7 +11,11 @@
 #include "windows/qt/picturefiles/picturefile.h"
 
 #include <algorithm>
+#include <charconv>
 #include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
 
 namespace tessaly {
 
@@ -93,6 +97,68 @@ void picture(scriptline& line) {
     }
 }
 
+// A file that a user may take in hand: below the working folder.
+std::filesystem::path ownfile(const std::string& name) {
+    const std::filesystem::path path = std::filesystem::path(name).lexically_normal();
+    if (path.empty() || path.is_absolute() || *path.begin() == "..")
+        throw scripterror(name + " is not in the working folder");
+    return path;
+}
+
+// As in an editor: the first place of a text is put otherwise; the whole file where the text is empty.
+void edit(scriptline& line) {
+    const auto path = ownfile(nameof(line));
+    const std::string taken = line.quoted(), put = line.quoted();
+    line.expectend();
+    std::string bytes;
+    if (!taken.empty()) {
+        std::ifstream in(path, std::ios::binary);
+        bytes.assign(std::istreambuf_iterator(in), {});
+        if (bytes.find(taken) == std::string::npos) throw scripterror(path.string() + " has no " + inquotes(taken));
+        bytes.replace(bytes.find(taken), taken.size(), put);
+    }
+    std::ofstream(path, std::ios::binary) << (taken.empty() ? put : bytes);
+}
+
+void deletefile(scriptline& line) {
+    const auto path = ownfile(line.filename());
+    std::error_code failed;
+    if (!std::filesystem::remove(path, failed)) throw scripterror(path.string() + " cannot be deleted");
+}
+
+// A line at which the program is to fail: told in the record, and the program is started anew as by a user.
+void fails(scriptline& line) {
+    const std::string_view tried = line.rest();
+    if (scriptline(tried).word() == "fails") throw scripterror("once is enough");
+    try {
+        obeyline(tried);
+    } catch (const failure&) {
+        playedsurface.image.clear();
+        return startprogram();
+    }
+    throw scripterror("the program did not fail");
+}
+
+std::size_t indexin(std::string_view word) {
+    std::size_t index = 0;
+    const auto read = std::from_chars(word.data(), word.data() + word.size(), index);
+    if (word.empty() || read.ptr != word.data() + word.size() || read.ec != std::errc())
+        throw scripterror("an index was expected");
+    return index;
+}
+
+// A part of a table, into the record as well: what can only be seen by its checksum otherwise.
+void table(scriptline& line) {
+    const std::string name = nameof(line);
+    const std::size_t from = indexin(line.word()), to = indexin(line.word());
+    line.expectend();
+    const auto text = tabletext(name, from, to);
+    if (!text) throw scripterror("there is no table " + name + " that goes so far");
+    const std::string told = name + ' ' + std::to_string(from) + ".." + std::to_string(to) + ':' + *text;
+    writeline(told);
+    recordnote(told);
+}
+
 void record(scriptline& line) {
     const std::string path = line.filename();
     if (!startrecord(path)) throw scripterror("the file " + path + " cannot be written");
@@ -111,7 +177,11 @@ constexpr command commands[] = {
     {"pick",    pick,      true},
     {"type",    type,      true},
     {"close",   close,     true},
+    {"edit",    edit,      true},
+    {"delete",  deletefile, true},
+    {"fails",   fails,     false},
     {"show",    showstate, false},
+    {"table",   table,     false},
     {"lines",   lines,     false},
     {"picture", picture,   false},
     {"record",  record,    false},

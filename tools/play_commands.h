@@ -1,4 +1,9 @@
 // What the lines of a script do: the same clicks, picks and texts as a user's, over the same controls and procedures.
+//   click BUTTON, pick LIST "ENTRY", type BOX "TEXT", close WINDOW      as by mouse and keyboard
+//   edit FILE "TEXT" "OTHER", delete FILE    in an editor or a file manager; the empty TEXT is the whole file
+//   fails LINE                               a line that ends the program with a report; it is started anew then
+//   show, table NAME FROM TO, say TEXT       windows, controls and figures; a part of a table; a text
+//   lines FILE, picture FILE, record FILE    each line drawn from here on; the picture; what each step changes
 #pragma once
 
 #include "tools/play_line.h"

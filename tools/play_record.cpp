@@ -23,6 +23,7 @@ using filesbypath = std::map<std::string, std::string>;
 
 struct moment {
     std::vector<stateline> state;
+    std::vector<tablesum> tables;
     filesbypath files;
     const control* focus;
 };
@@ -42,7 +43,7 @@ filesbypath filesofsession() {
     return files;
 }
 
-moment takemoment() { return {programstate(), filesofsession(), wantedfocus}; }
+moment takemoment() { return {programstate(), tablesums(), filesofsession(), wantedfocus}; }
 
 std::string told(std::string_view bytes) {
     if (bytes.size() <= mostquoted) return inquotes(bytes);
@@ -61,6 +62,17 @@ void writechangedstate(const moment& after) {
         const bool text = old == nullptr || old->text != is.text;
         if (shown || text) record << "  " << is.name << (shown ? is.visibility : "") << (text ? is.text : "") << '\n';
     }
+}
+
+void writechangedtables(const moment& after) {
+    if (after.tables == before.tables) return;
+    checksum all;
+    std::string names;
+    for (std::size_t i = 0; i < after.tables.size(); ++i) {
+        all.add(after.tables[i].sum.text());
+        if (after.tables[i] != before.tables[i]) names += ' ' + std::string(after.tables[i].name);
+    }
+    record << "  tables " << all.text() << names << '\n';
 }
 
 void writechangedfiles(const moment& after) {
@@ -93,11 +105,16 @@ bool startrecord(const std::string& path) {
     return record.is_open();
 }
 
+void recordnote(std::string_view line) {
+    if (record.is_open()) record << "  " << line << '\n';
+}
+
 bool recordstep(std::string_view step, std::string_view report) {
     if (!record.is_open()) return true;
     moment after = takemoment();
     record << step << '\n';
     writechangedstate(after);
+    writechangedtables(after);
     if (after.focus != nullptr && after.focus != before.focus) record << "  focus " << after.focus->name << '\n';
     writelines("viewport", playedsurface);
     writelines("strip", playedstrip);

@@ -3,6 +3,7 @@
 //   click postx0y16
 //     control capbox shown                       a window that was opened, a control that came into view
 //     control perptxtx "1849.9"                  a text, an item or a figure that is another than before
+//     tables 5d1f3c0e7a9b2846 basex basey        those that changed, and the checksum of all tables
 //     focus capbox                               where the keyboard is wanted
 //     lines viewport 24 8d3e0c5b9a1f2e47         how many were drawn, and their checksum
 //     file designs/girders1.txt gained "..."     what a file of the working folder became
@@ -16,6 +17,9 @@ namespace tessaly {
 
 // From here on each step is recorded in this file; false where it cannot be written.
 bool startrecord(const std::string& path);
+
+// Writes a line under the step that was played last, as it is given; nothing where no record was begun.
+void recordnote(std::string_view line);
 
 // Writes what the step just played changed; nothing where no record was begun. report: of the failure that ended it, or
 // "". false where the disk does not take it.

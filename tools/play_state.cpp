@@ -1,10 +1,12 @@
-// A line each for windows, controls and scalars.
+// A line each for windows, controls and scalars; tables by their checksums, or a part of one.
 
 #include "tools/play_state.h"
 
 #include "core/controls.h"
 #include "core/world.h"
 #include "tools/play_line.h"
+
+#include <algorithm>
 
 namespace tessaly {
 
@@ -15,6 +17,17 @@ std::string visibility(bool shown) { return shown ? " shown" : " hidden"; }
 std::string statetext(const value& v) {
     if (v.empty()) return "empty";
     return v.isnumber() ? shortesttext(v) : inquotes(v.text());
+}
+
+checksum sumof(const tablebase& t) {
+    checksum sum;
+    for (const value& v : t.elements()) {
+        if (v.isnumber())
+            sum.addword(std::bit_cast<std::uint64_t>(v + 0.0));
+        else
+            sum.add(inquotes(v.text()));
+    }
+    return sum;
 }
 
 }  // namespace
@@ -29,6 +42,24 @@ std::vector<stateline> programstate() {
     for (const scalar& s : scalars())
         if (s.reported) state.push_back({"value " + s.name, "", ' ' + statetext(*s.held)});
     return state;
+}
+
+std::vector<tablesum> tablesums() {
+    std::vector<tablesum> sums;
+    for (const tablebase* t = tablebase::first; t != nullptr; t = t->next) sums.push_back({t->name, sumof(*t)});
+    std::sort(sums.begin(), sums.end(), [](const tablesum& a, const tablesum& b) { return a.name < b.name; });
+    return sums;
+}
+
+std::optional<std::string> tabletext(std::string_view name, std::size_t from, std::size_t to) {
+    const tablebase* t = tablebase::first;
+    while (t != nullptr && t->name != name) t = t->next;
+    if (t == nullptr) return std::nullopt;
+    const auto elements = t->elements();
+    if (to >= elements.size()) return std::nullopt;
+    std::string text;
+    for (std::size_t i = from; i <= to; ++i) text += ' ' + statetext(elements[i]);
+    return text;
 }
 
 }  // namespace tessaly

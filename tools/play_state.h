@@ -1,8 +1,12 @@
 // The state of the program as lines of text: its windows, controls and figures, as "show" writes them and as a
-// session's record compares them from step to step.
+// session's record compares them from step to step, and its tables.
 #pragma once
 
+#include "tools/checksum.h"
+
+#include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tessaly {
@@ -15,5 +19,16 @@ struct stateline {
 
 // Windows, controls and reported scalars, each in the order of its table.
 std::vector<stateline> programstate();
+
+// A table of the world, and the checksum of its elements, in which 0 and -0 count as one.
+struct tablesum {
+    std::string_view name;
+    checksum sum;
+    bool operator==(const tablesum&) const = default;
+};
+std::vector<tablesum> tablesums();
+
+// The elements from..to of a table, each behind a blank; nothing where there is no such table or part of one.
+std::optional<std::string> tabletext(std::string_view name, std::size_t from, std::size_t to);
 
 }  // namespace tessaly
