@@ -76,6 +76,12 @@ void writeline(const std::string& text) {
     std::putchar('\n');
 }
 
+// On standard output, and under the step played last in the session's record.
+void tell(const std::string& text) {
+    writeline(text);
+    recordnote(text);
+}
+
 void showstate(scriptline& line) {
     line.expectend();
     for (const stateline& state : programstate()) writeline(state.name + state.visibility + state.text);
@@ -117,7 +123,8 @@ void edit(scriptline& line) {
         if (bytes.find(taken) == std::string::npos) throw scripterror(path.string() + " has no " + inquotes(taken));
         bytes.replace(bytes.find(taken), taken.size(), put);
     }
-    std::ofstream(path, std::ios::binary) << (taken.empty() ? put : bytes);
+    if (!(std::ofstream(path, std::ios::binary) << (taken.empty() ? put : bytes)).flush())
+        throw scripterror(path.string() + " cannot be written");
 }
 
 void deletefile(scriptline& line) {
@@ -155,8 +162,13 @@ void table(scriptline& line) {
     const auto text = tabletext(name, from, to);
     if (!text) throw scripterror("there is no table " + name + " that goes so far");
     const std::string told = name + ' ' + std::to_string(from) + ".." + std::to_string(to) + ':' + *text;
-    writeline(told);
-    recordnote(told);
+    tell(told);
+}
+
+// How windows and controls are laid out: a line each, into the record as well.
+void layout(scriptline& line) {
+    line.expectend();
+    for (const std::string& told : programlayout()) tell(told);
 }
 
 void record(scriptline& line) {
@@ -182,6 +194,7 @@ constexpr command commands[] = {
     {"fails",   fails,     false},
     {"show",    showstate, false},
     {"table",   table,     false},
+    {"layout",  layout,    false},
     {"lines",   lines,     false},
     {"picture", picture,   false},
     {"record",  record,    false},

@@ -2,7 +2,8 @@
 //   click BUTTON, pick LIST "ENTRY", type BOX "TEXT", close WINDOW      as by mouse and keyboard
 //   edit FILE "TEXT" "OTHER", delete FILE    in an editor or a file manager; the empty TEXT is the whole file
 //   fails LINE                               a line that ends the program with a report; it is started anew then
-//   show, table NAME FROM TO, say TEXT       windows, controls and figures; a part of a table; a text
+//   show, layout, table NAME FROM TO         windows, controls and figures; how they are laid out; a part of a table
+//   say TEXT                                 a line of text
 //   lines FILE, picture FILE, record FILE    each line drawn from here on; the picture; what each step changes
 #pragma once
 

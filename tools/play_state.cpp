@@ -19,6 +19,21 @@ std::string statetext(const value& v) {
     return v.isnumber() ? shortesttext(v) : inquotes(v.text());
 }
 
+std::string colourtext(colour c) {
+    return " colour " + std::to_string(c.red) + ',' + std::to_string(c.green) + ',' + std::to_string(c.blue);
+}
+
+std::string layoutof(const control& c) {
+    std::string told = "  " + c.name + ' ' + std::to_string(c.place.left) + ',' + std::to_string(c.place.top) + ' ' +
+                       std::to_string(c.place.width) + 'x' + std::to_string(c.place.height);
+    if (c.back) told += colourtext(*c.back);
+    if (c.elementnumber > 0) told += " number " + std::to_string(c.elementnumber);
+    if (!c.tooltip.empty()) told += " tip " + inquotes(c.tooltip);
+    if (!c.spoken.empty()) told += " spoken " + inquotes(c.spoken);
+    for (const std::string& item : c.items) told += ' ' + inquotes(item);
+    return told;
+}
+
 checksum sumof(const tablebase& t) {
     checksum sum;
     for (const value& v : t.elements()) {
@@ -42,6 +57,16 @@ std::vector<stateline> programstate() {
     for (const scalar& s : scalars())
         if (s.reported) state.push_back({"value " + s.name, "", ' ' + statetext(*s.held)});
     return state;
+}
+
+std::vector<std::string> programlayout() {
+    std::vector<std::string> layout;
+    for (const window* w : allwindows()) {
+        layout.push_back(std::string(w->name) + ' ' + inquotes(w->title) + ' ' + std::to_string(w->widthtwips) + 'x' +
+                         std::to_string(w->heighttwips) + colourtext(w->back));
+        for (const control* c : w->controls) layout.push_back(layoutof(*c));
+    }
+    return layout;
 }
 
 std::vector<tablesum> tablesums() {

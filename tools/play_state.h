@@ -20,6 +20,9 @@ struct stateline {
 // Windows, controls and reported scalars, each in the order of its table.
 std::vector<stateline> programstate();
 
+// The windows' titles, sizes and colours; of each control its place in twips, colour, element, tooltip and spoken name.
+std::vector<std::string> programlayout();
+
 // A table of the world, and the checksum of its elements, in which 0 and -0 count as one.
 struct tablesum {
     std::string_view name;
