@@ -141,7 +141,8 @@ void fails(scriptline& line) {
         obeyline(tried);
     } catch (const failure&) {
         playedsurface.image.clear();
-        return startprogram();
+        startprogram();
+        return recordrestart();
     }
     throw scripterror("the program did not fail");
 }
@@ -202,8 +203,8 @@ constexpr command commands[] = {
     // clang-format on
 };
 
-void keepstep(std::string_view step, const std::string& report) {
-    if (!recordstep(step, report)) throw scripterror("the record of the session cannot be written");
+void expectwritten(bool kept) {
+    if (!kept) throw scripterror("the record of the session cannot be written");
 }
 
 }  // namespace
@@ -218,10 +219,10 @@ void obeyline(std::string_view text) {
     try {
         known->obey(line);
     } catch (const failure& f) {
-        keepstep(text, f.report());
+        expectwritten(recordfailure(text, f.report()));
         throw;
     }
-    if (known->acts) keepstep(text, "");
+    if (known->acts) expectwritten(recordstep(text));
 }
 
 }  // namespace tessaly

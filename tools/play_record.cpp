@@ -75,8 +75,8 @@ void writechangedtables(const moment& after) {
     record << "  tables " << all.text() << names << '\n';
 }
 
-void writechangedfiles(const moment& after) {
-    for (const auto& [path, bytes] : after.files) {
+void writechangedfiles(const filesbypath& after) {
+    for (const auto& [path, bytes] : after) {
         const auto old = before.files.find(path);
         if (old == before.files.end())
             record << "  file " << path << " new " << told(bytes) << '\n';
@@ -87,7 +87,7 @@ void writechangedfiles(const moment& after) {
             record << "  file " << path << " is now " << told(bytes) << '\n';
     }
     for (const auto& [path, bytes] : before.files)
-        if (!after.files.contains(path)) record << "  file " << path << " gone\n";
+        if (!after.contains(path)) record << "  file " << path << " gone\n";
 }
 
 void writelines(const char* name, loggedsurface& drawnon) {
@@ -109,7 +109,7 @@ void recordnote(std::string_view line) {
     if (record.is_open()) record << "  " << line << '\n';
 }
 
-bool recordstep(std::string_view step, std::string_view report) {
+bool recordstep(std::string_view step) {
     if (!record.is_open()) return true;
     moment after = takemoment();
     record << step << '\n';
@@ -118,10 +118,25 @@ bool recordstep(std::string_view step, std::string_view report) {
     if (after.focus != nullptr && after.focus != before.focus) record << "  focus " << after.focus->name << '\n';
     writelines("viewport", playedsurface);
     writelines("strip", playedstrip);
-    writechangedfiles(after);
-    if (!report.empty()) record << "  failure " << report << '\n';
+    writechangedfiles(after.files);
     before = std::move(after);
     return static_cast<bool>(record.flush());
+}
+
+bool recordfailure(std::string_view step, std::string_view report) {
+    if (!record.is_open()) return true;
+    filesbypath files = filesofsession();
+    record << step << '\n';
+    writelines("viewport", playedsurface);
+    writelines("strip", playedstrip);
+    writechangedfiles(files);
+    record << "  failure " << report << '\n';
+    before.files = std::move(files);
+    return static_cast<bool>(record.flush());
+}
+
+void recordrestart() {
+    if (record.is_open()) before = takemoment();
 }
 
 }  // namespace tessaly

@@ -7,7 +7,8 @@
 //     focus capbox                               where the keyboard is wanted
 //     lines viewport 24 8d3e0c5b9a1f2e47         how many were drawn, and their checksum
 //     file designs/girders1.txt gained "..."     what a file of the working folder became
-//     failure ...                                the report of a step that ended the program
+//     failure ...                                the report of a step that ended the program; what it left in the
+//                                                tables and windows is gone with it, and not told
 #pragma once
 
 #include <string>
@@ -21,8 +22,12 @@ bool startrecord(const std::string& path);
 // Writes a line under the step that was played last, as it is given; nothing where no record was begun.
 void recordnote(std::string_view line);
 
-// Writes what the step just played changed; nothing where no record was begun. report: of the failure that ended it, or
-// "". false where the disk does not take it.
-bool recordstep(std::string_view step, std::string_view report);
+// Writes what the step just played changed, or the report of the failure that ended it; nothing where no record was
+// begun. false where the disk does not take it.
+bool recordstep(std::string_view step);
+bool recordfailure(std::string_view step, std::string_view report);
+
+// The program was started anew: what changes from here on is told against that.
+void recordrestart();
 
 }  // namespace tessaly
