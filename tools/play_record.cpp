@@ -106,7 +106,7 @@ bool startrecord(const std::string& path) {
 }
 
 void recordnote(std::string_view line) {
-    if (record.is_open()) record << "  " << line << '\n';
+    if (record.is_open()) record << "  " << line << std::endl;
 }
 
 bool recordstep(std::string_view step) {
