@@ -1,202 +1,135 @@
-// The solid painter: which faces are painted in which order, the density and colour of their webs, and framing lines.
+// The solid painter: random faces against their geometry, line for line, and faces that the sort treats on its own.
 #include "render/painter.h"
 
-#include "data/elements.h"
+#include "data/turns.h"
+#include "render/projector.h"
 #include "tests/geometry.h"
 #include "tests/session.h"
+
+#include <algorithm>
 
 using namespace tessaly;
 
 namespace {
 
-const vec eye{1850, -1850, 550};
-lens lensofview() { return {eye, 0.56 * 15.2, 0, 0}; }
-
-// A face across X: corners 1, 2 at the bottom, 3, 4 at the top.
 struct face {
-    double x;
-    int colour;
-    int framing1 = 0, framing2 = 0;
-    std::array<vec, 4> corners() const { return {{{x, 10, 10}, {x, 90, 10}, {x, 10, 70}, {x, 90, 70}}}; }
+    std::array<vec, 4> corners;
+    int colour, framing1, framing2;
 };
 
-// Reads an element of these faces, each with four points of its own.
-void readfaces(const std::vector<face>& faces) {
-    elementtext e;
-    int p = 0, q = 0;
-    const auto row = [](std::initializer_list<double> fields) {
-        std::string text;
-        for (const double f : fields) text += shortesttext(f) + ",";
-        text.back() = '\n';
-        return text;
-    };
-    for (const face& f : faces) {
-        for (const vec& c : f.corners()) e.points += row({1, c[0], c[1], c[2]});
-        e.lines[0] += row({p + 1.0, p + 2.0}) + row({p + 3.0, p + 4.0});
-        e.planes += row({1, p + 1.0, p + 3.0, p + 2.0, p + 4.0, 1, double(f.colour)});
-        ++q;
-        e.framing1 += row({double(q), double(f.framing1)});
-        e.framing2 += row({double(q), double(f.framing2)});
-        p += 4;
+using faces = std::map<int, face>;  // by slot
+
+// Each face gets four points of its own and two lines between them, which bring its corners to the screen.
+void setfaces(const faces& all) {
+    resetworld();
+    int p = 0;
+    for (const auto& [q, f] : all) {
+        for (const vec& at : f.corners) {
+            placepoint(++p, at[0], at[1], at[2]);
+            (p % 2 ? lineend1 : lineend2).set((p + 1) / 2, p);
+        }
+        int corner = p - 4;
+        for (auto* point : {&quad1, &quad2, &quad3, &quad4}) point->set(q, ++corner);
+        quadcolour.set(q, f.colour);
+        framing1.set(q, f.framing1);
+        framing2.set(q, f.framing2);
     }
-    session::write("datah/st-faces.txt", e);
-    setview(eye[0], eye[1], eye[2]);
-    datafile = "st-faces.txt";
-    placemode = 0;
-    readelements();
+    ptcount1 = p;
+    linecount1 = p / 2;
+    plotgroups();
 }
 
-// The drawn lines as runs of one colour: palette index and count.
-using runs = std::vector<std::pair<int, int>>;
-runs runsof(const std::vector<drawnline>& lines) {
-    runs result;
-    const drawnline* before = nullptr;
-    for (const drawnline& l : lines) {
-        if (before && before->c == l.c)
-            ++result.back().second;
-        else
-            result.push_back({l.c.red, 1});
-        before = &l;
+faces randomfaces(dice& d) {
+    faces all;
+    for (int k = d.once(3) ? 130 : d.whole(1, 8); k > 0; --k) {
+        face f{{}, d.whole(1, 100), d.whole(-1, 3), d.whole(-1, 3)};
+        for (vec& at : f.corners) at = randompoint(d, 300);
+        if (!all.empty() && d.once(9)) f.corners = all.begin()->second.corners;  // equally far
+        all[d.once(3) ? 4000 + k : k] = f;
     }
-    return result;
+    return all;
 }
 
-runs paint(session& s) {
-    s.takelines();
-    paintsolids();
-    return runsof(s.lines());
+struct webline {
+    vec from, to;  // viewport pixels
+    int colour;
+};
+
+// A face's web joins edge 1-2 with 3-4, then 1-3 with 2-4, straight on the screen. Framing lines stand at even parts of
+// the rails in the model, so that they keep their perspective; the closing edge comes before them.
+void addface(std::vector<webline>& lines, const face& f, int web, int colour) {
+    const lens l;
+    const auto at = [&](const vec& p) { return l.at(p - vec{focusx, focusy, focusz}); };
+    const auto part = [](const vec& from, const vec& to, double share) { return from + share * (to - from); };
+    const auto& [a, b, c, d] = f.corners;
+    const vec seena = at(a), seend = at(d);
+    for (const auto& [rail, other] : {std::pair(at(b), at(c)), std::pair(at(c), at(b))})
+        for (double t = 0; t <= web; ++t)
+            lines.push_back({part(seena, rail, t / web), part(other, seend, t / web), colour});
+    for (const auto& [count, rail, other] : {std::tuple(f.framing1, b, c), std::tuple(f.framing2, c, b)}) {
+        if (count > 0) lines.push_back({seend, at(rail), colour + 1});
+        for (double t = 0; t < count; ++t)
+            lines.push_back({at(part(a, rail, t / count)), at(part(other, d, t / count)), colour + 1});
+    }
 }
 
-void expectseen(float x, float y, const vec& at) {
-    EXPECT_NEAR(x, lensofview().at(at).x, 1e-2);
-    EXPECT_NEAR(y, lensofview().at(at).y, 1e-2);
+// Positions are those of slots 1 to 100, and as many of the nearest faces are painted: the farthest one first, and of
+// equally far ones the lower slot on top.
+std::vector<webline> expectedlines(const faces& all, int web, int shift) {
+    const vec eye = vec{perpx, perpy, perpz} + vec{focusx, focusy, focusz};
+    std::vector<std::pair<double, const face*>> order;
+    for (const auto& [q, f] : all) {
+        order.push_back({1e9, &f});
+        for (const vec& at : f.corners) order.back().first = std::min(order.back().first, length(at - eye));
+    }
+    std::stable_sort(order.begin(), order.end(), [](auto& one, auto& two) { return one.first < two.first; });
+    order.resize(static_cast<std::size_t>(std::distance(all.begin(), all.upper_bound(100))));
+    std::vector<webline> lines;
+    for (auto f = order.rbegin(); f != order.rend(); ++f) addface(lines, *f->second, web, f->second->colour + shift);
+    return lines;
 }
+
+face across(double x, int colour) { return {{{{x, 10, 10}, {x, 90, 10}, {x, 10, 70}, {x, 90, 70}}}, colour, 0, 0}; }
 
 }  // namespace
 
-// The eye is at the side of greater X: faces of small X first. Equal keys: the lower slot comes later, on top.
-TEST(painter, paintsFarthestFirst) {
-    session s(ownfolder);
-    readfaces({{50, 12}, {200, 14}, {-100, 11}, {50, 13}, {300, 15}});
-    EXPECT_EQ(paint(s), (runs{{11, 402}, {13, 402}, {12, 402}, {14, 402}, {15, 402}}));
-    EXPECT_TRUE(quadorder[1] == 5 && quadorder[2] == 2 && quadorder[5] == 3 && quaddist[3] == 2000000);
-}
-
-TEST(painter, paintsTheHundredNearest) {
-    session s(ownfolder);
-    std::vector<face> faces;
-    for (int i = 1; i <= 120; ++i) faces.push_back({2.0 * i, i});
-    readfaces(faces);
-    runs expected;
-    for (int i = 21; i <= 120; ++i) expected.push_back({i, 402});
-    EXPECT_EQ(paint(s), expected);
-}
-
-// Positions are those of slots 1 to 100: what stands in the cubes' slots only is sorted and never painted.
-TEST(painter, paintsNoElementOfCubesAlone) {
-    session s(ownfolder);
-    session::write("datah/st-cubes.txt", elementtext{.cubes400 = "1,10,10,10,50,50,50,0,20\n"});
-    setview(eye[0], eye[1], eye[2]);
-    datafile = "st-cubes.txt";
-    placemode = 0;
-    readelements();
-    EXPECT_EQ(paint(s), runs{});
-    EXPECT_NE(quadorder[4001], 0);
-    // Beside faces they take their positions away: the far face is not among those painted.
-    session::write("datah/st-cubes.txt", elementtext{.points = "1,-90,1,1\n2,-90,50,1\n3,-90,1,50\n4,-90,50,50\n",
-                                                     .cubes400 = "1,10,10,10,50,50,50,0,20\n",
-                                                     .planes = "1,1,3,2,4,1,30\n"});
-    readelements();
-    EXPECT_EQ(paint(s), (runs{{20, 402}}));
-}
-
-TEST(painter, turnedElementsShiftTheirColours) {
-    struct {
-        double rotz;
-        int shift;
-    } const cases[] = {{0, 0}, {90, 1}, {180, 0}, {270, 1}, {90.5, 0}};
-    for (const auto& c : cases) {
-        session s(ownfolder);
-        readfaces({{50, 20, 1, 0}});
-        rotz = c.rotz;
-        EXPECT_EQ(paint(s), (runs{{20 + c.shift, 402}, {21 + c.shift, 2}})) << c.rotz;
-        EXPECT_EQ(quadcolour[1], 20 + c.shift);  // it stays in the table: painting again shifts again
-        EXPECT_EQ(paint(s).back().first, 21 + 2 * c.shift);
-    }
-}
-
-TEST(painter, densityOfTheWeb) {
+// A face too many or in the wrong place of the order, a web of the wrong density, a line that does not stand where its
+// rail is, a colour that does not turn with its element.
+TEST(painter, paintsWhatTheGeometrySays) {
     struct {
         value code, first, second, kind;
-        int lines;
+        int web;
     } const cases[] = {
-        {{}, {}, {}, {}, 402},
-        {19, {}, {}, "girder", 802},
-        {21, "roofs1.txt", {}, "roof", 802},
-        {22, {}, {}, "panel", 402},
-        {18, "girders1.txt", "roofs1.txt", "girder", 3002},
-        {{}, "roof", {}, {}, 3002},
-        {{}, "Roofs1.txt", "aroof.txt", "roofs", 402},
-        {1, {}, {}, "roof", 3002},
+        {{}, {}, {}, {}, 200},       {19, {}, {}, "girder", 400},
+        {20, {}, {}, "girder", 400}, {21, "roofs1.txt", {}, "roof", 400},
+        {22, {}, {}, "panel", 200},  {18, "girders1.txt", "roofs1.txt", "girder", 1500},
+        {{}, "roof", {}, {}, 1500},  {{}, "Roofs1.txt", "aroof.txt", "roofs", 200},
+        {1, {}, {}, "roof", 1500},
     };
-    for (const auto& c : cases) {
-        session s(ownfolder);
-        readfaces({{50, 20}});
-        panelcode = c.code;
-        firstfilename = c.first;
-        secondfilename = c.second;
-        elementkind = c.kind;
-        EXPECT_EQ(paint(s), (runs{{20, c.lines}})) << c.code.text() << c.kind.text();
-    }
-}
-
-// The web joins edge 1-2 with edge 3-4, then edge 1-3 with edge 2-4; what lies between is straight on the screen.
-TEST(painter, theWebJoinsOppositeEdges) {
     session s(ownfolder);
-    readfaces({{50, 20}});
-    paint(s);
-    const auto& l = s.lines();
-    const auto [c1, c2, c3, c4] = face{50, 20}.corners();
-    expectseen(l[0].x1, l[0].y1, c1);
-    expectseen(l[0].x2, l[0].y2, c3);
-    expectseen(l[200].x1, l[200].y1, c2);
-    expectseen(l[200].x2, l[200].y2, c4);
-    expectseen(l[201].x2, l[201].y2, c2);
-    expectseen(l[401].x1, l[401].y1, c3);
-    EXPECT_NEAR(l[50].x1, l[0].x1 + (l[200].x1 - l[0].x1) / 4, 1e-3);
-    EXPECT_NEAR(l[50].y2, l[0].y2 + (l[200].y2 - l[0].y2) / 4, 1e-3);
-}
-
-// Framing lines stand at even parts of the rails in the model, the closing edge comes before them.
-TEST(painter, framingLinesKeepTheirPerspective) {
-    struct {
-        int along1, along2;
-    } const cases[] = {{3, 0}, {0, 4}, {3, 4}, {-1, 2}};
-    for (const auto& c : cases) {
-        session s(ownfolder);
-        readfaces({{50, 20, c.along1, c.along2}});
-        const int first = std::max(c.along1, 0);
-        const int framing = (first ? 1 + first : 0) + (c.along2 ? 1 + c.along2 : 0);
-        ASSERT_EQ(paint(s), (runs{{20, 402}, {21, framing}}));
-        const auto [c1, c2, c3, c4] = face{50, 20}.corners();
-        const drawnline* l = &s.lines()[402];
-        const auto direction = [&](int count, const vec& a, const vec& b, const vec& from, const vec& to) {
-            if (count <= 0) return;
-            expectseen(l->x1, l->y1, to);
-            expectseen(l->x2, l->y2, b);
-            ++l;
-            for (int i = 0; i < count; ++i, ++l) {
-                expectseen(l->x1, l->y1, a + double(i) / count * (b - a));
-                expectseen(l->x2, l->y2, from + double(i) / count * (to - from));
+    dice d;
+    for (const double turned : {0.0, 90.0, 180.0, 270.0, 90.5})
+        for (const auto& c : cases) {
+            setview(d.figure(900, 2000), d.figure(-2000, -900), d.within(1000));
+            std::tie(panelcode, firstfilename, secondfilename, elementkind) =
+                std::tie(c.code, c.first, c.second, c.kind);
+            std::tie(focusx, focusy, focusz) = std::tuple(d.within(90), d.within(90), d.within(90));
+            rotz = turned;
+            const faces all = randomfaces(d);
+            setfaces(all);
+            for (const int times : {1, 2}) {  // the colours stay shifted in the table: painting again shifts again
+                s.takelines();
+                paintsolids();
+                const auto expected = expectedlines(all, c.web, turned == 90 || turned == 270 ? times : 0);
+                ASSERT_EQ(s.lines().size(), expected.size());
+                for (std::size_t i = 0; i < expected.size(); ++i) {
+                    const drawnline& l = s.lines()[i];
+                    ASSERT_TRUE(isat(expected[i].from, l.x1, l.y1) && isat(expected[i].to, l.x2, l.y2))
+                        << i << ' ' << l;
+                    ASSERT_EQ(l.c, testcolour(expected[i].colour)) << i;
+                }
             }
-        };
-        direction(c.along1, c1, c2, c3, c4);
-        direction(c.along2, c1, c3, c2, c4);
-        EXPECT_EQ(ptx[7001], 0);  // scratch is restored from what the base tables hold there
-    }
-    session s(ownfolder);
-    readfaces({{50, 20, 2000, 0}});
-    EXPECT_EQ(failureof(paintsolids)->kind, failurekind::subscript);
+        }
 }
 
 // A face of its fourth corner alone is not measured: its key stays 0 and it comes out as the nearest. The test for that
@@ -204,19 +137,23 @@ TEST(painter, framingLinesKeepTheirPerspective) {
 TEST(painter, emptinessIsToldByThreeCorners) {
     for (const int slotzero : {0, 1}) {
         session s(ownfolder);
-        readfaces({{50, 20}, {-500, 30}});
+        setview(1850, -1850, 550);
+        setfaces({{1, across(50, 20)}, {2, across(-500, 30)}});
         for (auto* corner : {&quad1, &quad2, &quad3}) corner->set(2, 0);
         quad4.set(0, slotzero);
-        const runs order = paint(s);
-        ASSERT_EQ(order.size(), 2U);
-        EXPECT_EQ(order[1].first, slotzero ? 20 : 30);
+        paintsolids();
+        EXPECT_EQ(s.lines().back().c, testcolour(slotzero ? 20 : 30));
     }
 }
 
 // A face a million units away is not chosen: its position paints again what it held before.
 TEST(painter, theFarthestFacesAreNeverChosen) {
     session s(ownfolder);
-    readfaces({{50, 20}, {-1e6, 30}});
+    setview(1850, -1850, 550);
+    setfaces({{1, across(50, 20)}, {2, across(-1e6, 30)}});
     quadorder.set(2, 1);
-    EXPECT_EQ(paint(s), (runs{{20, 804}}));
+    s.takelines();
+    paintsolids();
+    EXPECT_EQ(s.lines().size(), 804U);
+    EXPECT_TRUE(s.lines().front().c == testcolour(20) && quaddist[1] == 2000000);
 }

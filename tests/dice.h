@@ -1,0 +1,25 @@
+// Random figures for tests, the same ones at every run.
+#pragma once
+
+#include <cmath>
+#include <random>
+
+namespace tessaly {
+
+class dice {
+  public:
+    explicit dice(unsigned seed = 7) : engine(seed) {}
+    int whole(int from, int to) { return std::uniform_int_distribution(from, to)(engine); }
+    double figure(double from, double to) { return std::uniform_real_distribution(from, to)(engine); }
+    double within(double reach) { return figure(-reach, reach); }
+    bool once(int in) { return whole(1, in) == 1; }
+    template <class list>
+    auto& of(list& all) {
+        return all[static_cast<std::size_t>(whole(0, static_cast<int>(std::size(all)) - 1))];
+    }
+
+  private:
+    std::mt19937 engine;
+};
+
+}  // namespace tessaly
