@@ -3,7 +3,7 @@
 # Then once more, with a shipped file changed and one gone; and removed. Nothing of the machine is touched: the package
 # manager works on a copy of its list of packages, so that dependencies are those of the machine.
 set -euo pipefail
-. "$(dirname "${BASH_SOURCE[0]}")/mouse.sh"
+. "$(dirname "${BASH_SOURCE[0]}")/shared.sh"
 
 rm -f "$build"/*.deb
 cmake --build "$build" --target deb -j2 >"$scratch/deb.log" 2>&1 || { cat "$scratch/deb.log" >&2; fail "the package"; }
@@ -58,48 +58,38 @@ unset TESSALY_HOME XDG_CONFIG_HOME
 mkdir "$HOME"
 work=$HOME/Tessaly
 
-# startlauncher: the installed program, up to its main window, whose id is left in $window.
-startlauncher() {
-    (cd / && QT_QPA_PLATFORM=xcb exec "$installed/bin/tessaly") >"$scratch/program.log" 2>&1 &
-    programpid=$!
-    waitfor "the start window" shown "Tessaly Girder and Panel" 800
-    clickcontrol "$window" startprogrambtn
-    waitfor "the main window" shown "Tessaly Girder and Panel" 1000
-}
-
-startlauncher
+# The first start, and a click that is recorded.
+startprogram / "$installed/bin/tessaly"
+playbymouse <<'SCRIPT'
+click startprogrambtn   # opens 1000 Tessaly Girder and Panel
+click postbeambtn       # opens 600 Layout Girders
+click postx0y16         # 40 40
+click exitbtn
+SCRIPT
+programended 0
 for folder in datah pals el-numbers samples; do
     diff -r "$root/$folder" "$work/$folder" || fail "$folder/ is not as shipped"
 done
 [ "$(cd "$work" && echo *)" = "bmps datah designs el-numbers nonuser pals samples" ] || fail "the working folder: $(ls "$work")"
-[ -z "$(ls "$work/designs" "$work/bmps" | grep txt)" ] || fail "a design before the first click"
-
-# A click is recorded there.
-main=$window
-clickcontrol "$main" postbeambtn
-waitfor "the girder layout" shown "Layout Girders" 600
-xdotool windowmove "$window" 100 100
-clickat "$window" 40 40 # postx0y16
-waitfor "the post's record" test -s "$work/designs/girders1.txt"
-xdotool windowraise "$main"
-clickcontrol "$main" exitbtn
-programended 0
+[ "$(cd "$work" && find designs bmps -name '*.txt')" = designs/girders1.txt ] || fail "the records: $(find "$work" -name '*.txt')"
 
 # The second start adds and overwrites nothing else.
 echo changed >"$work/datah/st-post.txt"
 rm "$work/datah/st-roof.txt"
 cp -r "$work" "$scratch/before"
 cp "$root/datah/st-roof.txt" "$scratch/before/datah"
-startlauncher
-clickcontrol "$window" exitbtn
+startprogram / "$installed/bin/tessaly"
+playbymouse <<'SCRIPT'
+click startprogrambtn   # opens 1000 Tessaly Girder and Panel
+click exitbtn
+SCRIPT
 programended 0
 diff -r "$scratch/before" "$work" || fail "the second start changed the working folder"
 
 # What keeps it from starting is said in a window.
 echo "in the way" >"$scratch/file"
-(cd / && TESSALY_HOME=$scratch/file QT_QPA_PLATFORM=xcb exec "$installed/bin/tessaly") >"$scratch/program.log" 2>&1 &
-programpid=$!
-waitfor "the launcher's report" shown Tessaly 200
+startprogram / env TESSALY_HOME="$scratch/file" "$installed/bin/tessaly"
+waitfor "the launcher's report" shown 200 Tessaly
 xdotool windowfocus "$window" key Return
 programended 1
 

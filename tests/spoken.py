@@ -1,17 +1,20 @@
 #!/usr/bin/python3 -Wignore
-"""The running program by its accessibility interface alone: every window's tree is dumped and looked through, and a small
-building is stood up, replayed, captured and brought back. Usage: spoken.py FILE-FOR-THE-DUMP"""
+"""Plays a script in the running program by its accessibility interface alone, and looks through every window that opens.
+Usage: spoken.py SCRIPT FILE-FOR-THE-DUMP"""
+import re
 import sys
 import time
+from pathlib import Path
 
 import gi
 
 gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
-controls = {"push button", "text", "list", "list item", "combo box", "image", "label", "panel", "scroll bar"}
+table = Path(__file__).parent.parent / "core/controls.def"
+roles = {"push button", "text", "list", "list item", "combo box", "image", "label", "panel", "scroll bar"}
 acting = {"push button", "list item", "combo box", "text"}
-dump = open(sys.argv[1], "w", encoding="utf-8")
+dump = open(sys.argv[2], "w", encoding="utf-8")
 
 
 def has(control, state):
@@ -42,80 +45,68 @@ def waitfor(what, look):
     sys.exit(f"waited in vain for {what}")
 
 
-def shown(role, name):
-    return next((c for c in below(program()) if c.get_role_name() == role and c.get_name() == name
-                 and has(c, Atspi.StateType.SHOWING)), None)
-
-
 def find(role, name):
-    return waitfor(f"the {role} {name!r}", lambda: shown(role, name))
+    def shown():
+        return next((c for c in below(program()) if c.get_role_name() == role and c.get_name() == name
+                     and has(c, Atspi.StateType.SHOWING)), None)
+    return waitfor(f"the {role} {name!r}", shown)
 
 
-def press(*names):
-    for name in names:
-        find("push button", name).do_action(0)
-
-
-def pick(listname, item):
-    rows = below(find("list", listname))
-    next(row for row in rows if row.get_name() == item).do_action(0)
-    waitfor(f"the end of {listname}", lambda: not shown("list", listname))
-
-
-def enter(name, text):
-    Atspi.EditableText.set_text_contents(find("text", name), text)
-
-
-def fault(control, window):
-    role, name = control.get_role_name(), control.get_name()
-    if control == window:
-        return None if role in ("frame", "dialog") and name else "is neither frame nor dialog with a name"
-    if role == "filler":  # what only holds others
-        return None
-    readonly = has(control, Atspi.StateType.READ_ONLY)
-    if role not in controls:
+def fault(control, role, name):
+    if role not in roles:
         return "has a role that no control has"
     if not name:
         return "has no name"
     if name.lower() in control.get_description().lower():
         return f"has a description that repeats its name: {control.get_description()}"
+    readonly = has(control, Atspi.StateType.READ_ONLY)
+    if name.startswith("Prompt") and not readonly:
+        return "can be typed into"
     if role in acting and not readonly and not control.get_n_actions():
         return "has no action"
     return None
 
 
-def lookthrough(title):
-    """Dumps a window and ends with what is wrong with its controls."""
-    window = next(w for w in below(program()) if w.get_name() == title and has(w, Atspi.StateType.SHOWING))
-    for control in [window, *below(window)]:
+def lookthrough(window):
+    title = window.get_name()
+    if window.get_role_name() not in ("frame", "dialog") or not title:
+        sys.exit(f"the window {title!r} is neither frame nor dialog with a name")
+    for control in below(window):
         role, name = control.get_role_name(), control.get_name()
-        if not has(control, Atspi.StateType.SHOWING) and role == "scroll bar":
-            continue
+        if role == "filler" or role == "scroll bar" and not has(control, Atspi.StateType.SHOWING):
+            continue  # a filler only holds others
         actions = [Atspi.Action.get_action_name(control, i) for i in range(control.get_n_actions())]
         print(f"{title}: {role} {name!r} {actions} {control.get_description()!r}", file=dump)
-        wrong = fault(control, window)
+        wrong = fault(control, role, name)
         if wrong:
             sys.exit(f"{title}: the {role} {name!r} {wrong}")
 
 
+def namesofcontrols():
+    """What each control is called, by the table; behind the lines of the script stand the names of places."""
+    for row in re.finditer(r'^CONTROL\(\w+, *\w+, *(\w+),.*?"(.*?)",.*"(.*)"\)$', table.read_text(), re.M):
+        yield row[1], row[3] or " ".join(row[2].split())
+
+
 waitfor("the program", program)
-lookthrough("Tessaly Girder and Panel")
-press("Start")
-find("image", "The building")
-lookthrough("Tessaly Girder and Panel")
-press("Posts and beams", "Post at X 0, Y 16, element 1", "Beam along Y at X 0, Y 16, element 49", "Orange panel type 1",
-      "Snip left side", "Panel along X at X 0, Y 0, element 85", "Roofs", "Quick view change", "Instructions")
-for title in ("Layout Girders", "Panels Layout", "Roof Layout", "Easy views", "Tessaly Panel and Girder"):
-    lookthrough(title)
-press("Help on captures", "Return to main window", "Eye at X 1800, Y 0", "Set view", "Change floor")
-pick("Floors", "2")
-press("Post at X 0, Y 16, element 1", "Girder and panel file reader: solid auto")
-if not has(find("text", "Prompt for the first file"), Atspi.StateType.READ_ONLY):
-    sys.exit("the prompt can be typed into")
-pick("First design file, solid replay", "girders1.txt")
-pick("Second design file, solid replay", "panels1.txt")
-press("Capture screen")
-enter("Picture file name", "spoken.bmp")
-press("Save capture", "Clear screen", "Display or retrieve image files")
-next(row for row in below(find("list", "Image files")) if row.get_name() == "spoken.txt").do_action(0)
-press("Display image", "Exit")
+names = dict(namesofcontrols())
+lookedthrough, pressed = [], None
+for line in open(sys.argv[1], encoding="utf-8"):
+    played = re.match(r'(click|pick|type) (\w+)(?: "(.*)")? *(?:# \d+ \d+ ?(.*))?', line)
+    if not played:
+        continue
+    command, control, text, place = played.groups()
+    found = find({"click": "push button", "pick": "list", "type": "text"}[command], names.get(control, place))
+    for i in range(program().get_child_count()):
+        window = program().get_child_at_index(i)
+        if has(window, Atspi.StateType.SHOWING) and window not in lookedthrough:
+            lookedthrough.append(window)
+            lookthrough(window)
+    waitfor("the last button's release", lambda: not pressed or not has(pressed, Atspi.StateType.PRESSED))
+    if command == "click":
+        pressed = found
+        found.do_action(0)
+    elif command == "type":
+        Atspi.EditableText.set_text_contents(found, text)
+    else:
+        next(row for row in below(found) if row.get_name() == text).do_action(0)
