@@ -27,16 +27,13 @@ bool livesthrough(double seconds) {
     return status < 128;
 }
 
-// No file may grow beyond this many bytes for as long as it lives.
-struct sizelimit {
-    rlimit before;
-    explicit sizelimit(rlim_t bytes) {
-        ::getrlimit(RLIMIT_FSIZE, &before);
-        const rlimit limited{bytes, before.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &limited);
-    }
-    ~sizelimit() { ::setrlimit(RLIMIT_FSIZE, &before); }
-};
+// From here on no file may grow beyond this many bytes.
+void limitfiles(rlim_t bytes) {
+    rlimit limit;
+    ::getrlimit(RLIMIT_FSIZE, &limit);
+    limit.rlim_cur = std::min(bytes, limit.rlim_max);
+    ::setrlimit(RLIMIT_FSIZE, &limit);
+}
 
 // A click that cannot be recorded says so, draws nothing and leaves the design as it was.
 void expectclickfails(session& s) {
@@ -103,10 +100,9 @@ TEST(interrupted, whatCannotBeWrittenStaysAsItWas) {
     const bool root = ::geteuid() == 0;
     fs::permissions(".", fs::perms(0755));
     for (const bool recorded : {false, true}) {
-        {
-            const sizelimit full((recorded ? fs::file_size(girders) : 0) + 10);
-            expectclickfails(s);
-        }
+        limitfiles((recorded ? fs::file_size(girders) : 0) + 10);
+        expectclickfails(s);
+        limitfiles(RLIM_INFINITY);
         const char* const guarded = recorded ? girders : "designs";
         const fs::perms before = fs::status(guarded).permissions();
         fs::permissions(guarded, fs::perms(0555));

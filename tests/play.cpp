@@ -91,7 +91,7 @@ TEST(play, logsEveryLine) {
     ASSERT_EQ(play(start + "click postbeambtn\nlines post.txt\nclick postx0y16\nlines clear.txt\nclick fillscreen\n"
                            "lines\nclick postx0y16\npicture a.bmp\n"),
               0);
-    ASSERT_EQ(play(post + "click fillscreen\nclick postx0y16\npicture b.bmp\npicture \"the post.PNG\"\n"), 0);
+    ASSERT_EQ(play(post + "click fillscreen\nclick postx0y16\npicture \"its copy.BMP\"\n"), 0);
     s.start();
     s.click("postbeambtn");
     s.takelines();
@@ -100,9 +100,8 @@ TEST(play, logsEveryLine) {
     s.click("fillscreen");
     EXPECT_TRUE(session::file("clear.txt") == logof(s.takelines()));
     const std::string picture = session::file("a.bmp");
-    EXPECT_TRUE(picture == session::file("b.bmp") && picture.starts_with("BM"));
+    EXPECT_TRUE(picture == session::file("its copy.BMP") && picture.starts_with("BM"));
     EXPECT_EQ(picture.size(), 54U + 581 * (897 * 3 + 1));  // 24 bits, rows in fours, no compression
-    EXPECT_TRUE(session::file("the post.PNG").starts_with("\x89PNG"));
 }
 
 // Another program can hold a talk with it: each line's output is there before the next line is sent.
