@@ -60,7 +60,7 @@ void expectkept(std::string maker, const std::vector<fs::path>& kept, int files)
     const tessaly::workingfolder scratch(source);
     fs::create_directory("made");
     for (std::size_t n = 0; n < kept.size(); ++n) maker += " made";
-    EXPECT_EQ(std::system(maker.c_str()), 0);
+    EXPECT_EQ(std::system(("timeout 60 " + maker).c_str()), 0);  // a window that tells a failure waits
     for (const auto& file : fs::directory_iterator("made")) {
         const fs::path name = file.path().filename();
         expectsame(file.path(), (fs::exists(kept.front() / name) ? kept.front() : kept.back()) / name);
