@@ -182,24 +182,24 @@ void say(scriptline& line) { writeline(std::string(line.rest())); }
 struct command {
     std::string_view name;
     void (*obey)(scriptline&);
-    bool acts;  // as a user: it stands in the session's record
+    bool (*keep)(std::string_view);  // of what a user does: writes it into the session's record
 };
 constexpr command commands[] = {
     // clang-format off
-    {"click",   click,     true},
-    {"pick",    pick,      true},
-    {"type",    type,      true},
-    {"close",   close,     true},
-    {"edit",    edit,      true},
-    {"delete",  deletefile, true},
-    {"fails",   fails,     false},
-    {"show",    showstate, false},
-    {"table",   table,     false},
-    {"layout",  layout,    false},
-    {"lines",   lines,     false},
-    {"picture", picture,   false},
-    {"record",  record,    false},
-    {"say",     say,       false},
+    {"click",   click,     recordstep},
+    {"pick",    pick,      recordstep},
+    {"type",    type,      recordstep},
+    {"close",   close,     recordstep},
+    {"edit",    edit,      recordoutside},
+    {"delete",  deletefile, recordoutside},
+    {"fails",   fails,     nullptr},
+    {"show",    showstate, nullptr},
+    {"table",   table,     nullptr},
+    {"layout",  layout,    nullptr},
+    {"lines",   lines,     nullptr},
+    {"picture", picture,   nullptr},
+    {"record",  record,    nullptr},
+    {"say",     say,       nullptr},
     // clang-format on
 };
 
@@ -222,7 +222,7 @@ void obeyline(std::string_view text) {
         expectwritten(recordfailure(text, f.report()));
         throw;
     }
-    if (known->acts) expectwritten(recordstep(text));
+    if (known->keep != nullptr) expectwritten(known->keep(text));
 }
 
 }  // namespace tessaly

@@ -123,16 +123,21 @@ bool recordstep(std::string_view step) {
     return static_cast<bool>(record.flush());
 }
 
-bool recordfailure(std::string_view step, std::string_view report) {
+bool recordoutside(std::string_view step) {
     if (!record.is_open()) return true;
     filesbypath files = filesofsession();
     record << step << '\n';
     writelines("viewport", playedsurface);
     writelines("strip", playedstrip);
     writechangedfiles(files);
-    record << "  failure " << report << '\n';
     before.files = std::move(files);
     return static_cast<bool>(record.flush());
+}
+
+bool recordfailure(std::string_view step, std::string_view report) {
+    const bool written = recordoutside(step);
+    recordnote("failure " + std::string(report));
+    return written;
 }
 
 void recordrestart() {

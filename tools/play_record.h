@@ -22,9 +22,10 @@ bool startrecord(const std::string& path);
 // Writes a line under the step that was played last, as it is given; nothing where no record was begun.
 void recordnote(std::string_view line);
 
-// Writes what the step just played changed, or the report of the failure that ended it; nothing where no record was
-// begun. false where the disk does not take it.
+// Writes what a step just played changed: one of the program; one outside of it, in an editor; one that ended it, of
+// which lines, files and the report are left. Nothing where no record was begun; false where the disk does not take it.
 bool recordstep(std::string_view step);
+bool recordoutside(std::string_view step);
 bool recordfailure(std::string_view step, std::string_view report);
 
 // The program was started anew: what changes from here on is told against that.
