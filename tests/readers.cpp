@@ -1,0 +1,87 @@
+// What no press reaches of the readers of data files: sections at their limits, element and cube files that are read by
+// no place's rule, and the report of a start somewhere else, which tells where.
+#include "data/cubes.h"
+#include "data/elements.h"
+#include "render/painter.h"
+#include "tests/session.h"
+
+using namespace tessaly;
+
+namespace {
+
+void readfile(const elementtext& e, int mode) {
+    session::write("datah/st-test.txt", e);
+    datafile = "st-test.txt";
+    placemode = mode;
+    readelements();
+}
+
+std::string rows(int count, const std::string& row) {
+    std::string all;
+    for (; count > 0; --count) all += row;
+    return all;
+}
+
+}  // namespace
+
+// The row after the last one that there is room for is free text like the end row behind it.
+TEST(readers, sectionsWithoutAnEndRowStopAtTheirLimit) {
+    session s(ownfolder);
+    setview(1850, -1850, 550);
+    const std::string cubes = rows(201, "1,10,20,30,11,21,31,0,5\n");
+    readfile(elementtext{.cubes400 = cubes, .cubes600 = cubes, .planes = rows(7001, "1,1,1,1,1,1,5\n")}, 3);
+    EXPECT_TRUE(ptcount3 == 2000 && linecount6 == 2400 && ptcount4 == 2000 && linecount7 == 2400);
+    EXPECT_TRUE(quad1[7000] == 1 && quad1[7001] == 7001);
+    readfile(elementtext{.points = rows(10001, "1,0,0,0\n"), .lines = {rows(20001, "1,2\n")}}, 3);
+    EXPECT_TRUE(ptcount1 == 0 && linecount1 == 0 && drawset == 1);
+}
+
+// A placement that nobody knows leaves the file open: the element after it fails.
+TEST(readers, placementsThatNoPressAsksFor) {
+    session s(ownfolder);
+    setview(1850, -1850, 550);
+    const elementtext e{.points = "1,1,2,3\n2,50,60,70\n",
+                        .lines = {"1,2\n"},
+                        .script = "TRAN\nTRANSLATE:\n1,1,10,0,0\n9999,0,0,0,0\nTRAN\nSTOP\n"};
+    readfile(e, 0);
+    EXPECT_TRUE(basex[1] == 11 && s.takelines().size() == 1);
+    readfile(e, 6);
+    EXPECT_TRUE(s.lines().empty());
+    EXPECT_EQ(failureof([&] { readfile(e, 3); })->kind, failurekind::filealreadyopen);
+}
+
+// A cube file by itself: its script runs, and all four blocks are drawn. Were its faces painted, a report would name
+// the row of the section that gave a face its colour or its framing.
+TEST(readers, cubesThatNoGroupShows) {
+    std::string text = "WIRECOLORS:\n6,7,8,9\n";
+    for (const char* key : {"000:", "100:", "200:", "300:", "400:", "500:"})
+        text += std::string("AUTOCUBE") + key + "\n1,2,3,5,7,9,10," + key[0] + "00,4,60\n";
+    text +=
+        "AUTOCUBE600:\n9999,0,0,0,0,0,0,0,0\nAUTOFRAMING1:\n2,2,3\n1,21,4\n3,3,5\n0,0,9999\nAUTOFRAMING2:\n0,0,9999\n"
+        "TRAN\nTRANSLATE:\n1,1,10,0,0\n9999,0,0,0,0\nTRAN\nSTOP\n";
+    const auto paint = [](const std::string& cubes) {
+        session::write("datah/az-test.txt", cubes);
+        datafile = "az-test.txt";
+        readcubez();
+        paintsolids();
+    };
+    session s(ownfolder);
+    setview(1850, -1850, 550);
+    focusx = focusy = focusz = 0.5;
+    paint(text);
+    EXPECT_TRUE(basex[1] == 11 && drawset == 2 && ptz[2009] == -0.5);
+    expectfailure(failureof([&] { paint(replaced(text, "100,4,60", "100,4,300")); }), failurekind::subscript,
+                  "line 6, field 10 (AUTOCUBE100:): palette");
+    expectfailure(failureof([&] { paint(replaced(text, "1,21,4", "1,21,1501")); }), failurekind::subscript,
+                  "line 19, field 3 (AUTOFRAMING1:)");
+}
+
+// No folder of designs or bitmaps: the load of the main window fails before anything is drawn.
+TEST(readers, foldersMustExist) {
+    for (const char* folder : {"designs", "bmps"}) {
+        session s;
+        std::filesystem::remove(folder);
+        expectfailure(failureof([&] { s.start(); }), failurekind::filenotfound, "is no working folder: ./run.sh");
+        EXPECT_TRUE(s.lines().empty());
+    }
+}
