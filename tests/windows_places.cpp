@@ -5,7 +5,6 @@
 #include "windows/qt/button.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QScrollBar>
 
@@ -15,31 +14,10 @@ namespace {
 
 constexpr int leastpixels = 10;  // of letters that can be read
 
-class windowplaces : public windowsession {
-  protected:
-    void SetUp() override {
-        windowsession::SetUp();
-        start();
-        runevent([] {
-            for (window* w : allwindows()) showwindow(*w);
-        });
-    }
-
-    static void foreachcontrol(void (*look)(const control&, const QWidget&)) {
-        int seen = 0;
-        for (const window* w : allwindows())
-            for (const control* c : w->controls) {
-                ASSERT_TRUE(widgetof(*c)) << c->name;
-                look(*c, *widgetof(*c));
-                ++seen;
-            }
-        EXPECT_GT(seen, 450);
-    }
-};
-
-QRect designplace(const control& c) {
-    return {c.place.left / twipsperpixel, c.place.top / twipsperpixel, c.place.width / twipsperpixel,
-            c.place.height / twipsperpixel};
+bool standsatitsplace(const control& c, const QRect& seen) {
+    const QRect place(c.place.left / twipsperpixel, c.place.top / twipsperpixel, c.place.width / twipsperpixel,
+                      c.place.height / twipsperpixel);
+    return place.adjusted(-1, -1, 1, 1).contains(seen) && seen.adjusted(-1, -1, 1, 1).contains(place);
 }
 
 bool captionfits(const control& c, const QWidget& widget) {
@@ -51,61 +29,43 @@ bool captionfits(const control& c, const QWidget& widget) {
 }
 
 // Positions that meet, as a beam and its posts or the panels around a corner, share their rims by design.
-bool meet(const control& a, const control& b, const QRect& shared) {
-    return a.elementnumber && b.elementnumber && std::min(shared.width(), shared.height()) <= 5;
+bool liesover(const control& a, const control& b) {
+    if (!a.shown || !b.shown || b.kind == controlkind::frame) return false;
+    const QRect shared = widgetof(a)->geometry() & widgetof(b)->geometry();
+    return std::min(shared.width(), shared.height()) > (a.elementnumber && b.elementnumber ? 5 : 0);
 }
 
 }  // namespace
 
-TEST_F(windowplaces, areThoseOfTheTables) {
-    foreachcontrol([](const control& c, const QWidget& widget) {
-        const QRect off(widget.geometry().topLeft() - designplace(c).topLeft(),
-                        widget.geometry().bottomRight() - designplace(c).bottomRight());
-        EXPECT_TRUE(QRect(-1, -1, 3, 3).contains(off.topLeft()) && off.width() <= 2 && off.height() <= 2) << c.name;
-        EXPECT_EQ(widget.objectName().toStdString(), c.name);
-        EXPECT_EQ(widget.isHidden(), !c.shown) << c.name;
+TEST_F(windowsession, controlsStandAtTheirPlacesAndAreSeenWhole) {
+    runevent([] {
+        for (window* w : allwindows()) showwindow(*w);
     });
+    for (const window* w : allwindows())
+        for (const control* c : w->controls) {
+            SCOPED_TRACE(c->name + ": " + c->text);
+            ASSERT_TRUE(widgetof(*c));
+            const QWidget& widget = *widgetof(*c);
+            EXPECT_TRUE(standsatitsplace(*c, widget.geometry()));
+            EXPECT_EQ(widget.objectName().toStdString(), c->name);
+            EXPECT_EQ(widget.isHidden(), !c->shown);
+            EXPECT_TRUE(captionfits(*c, widget));
+            EXPECT_EQ(widget.toolTip().toStdString(), c->tooltip);
+            if (c->kind == controlkind::frame) continue;
+            EXPECT_FALSE(widget.accessibleName().isEmpty());  // what a screen reader says
+            EXPECT_TRUE(c->spoken.empty() || widget.accessibleName().toStdString() == c->spoken);
+            for (const control* other : w->controls) EXPECT_FALSE(other != c && liesover(*c, *other)) << other->name;
+        }
     EXPECT_EQ(widgetof(viewport)->geometry(), QRect(120, 0, 897, 581));
     EXPECT_EQ(widgetof(*findcontrol("beamx192y400"))->geometry(), QRect(208, 112, 65, 17));
-}
 
-TEST_F(windowplaces, captionsAreWhole) {
-    foreachcontrol([](const control& c, const QWidget& widget) {
-        EXPECT_TRUE(captionfits(c, widget)) << c.name << ": " << c.text;
+    runevent([] {
+        for (const helppage& page : helppages) show(*page.on);
     });
-}
-
-// What a screen reader says and what the mouse is told: a control without a caption has both.
-TEST_F(windowplaces, controlsSayWhatTheyAre) {
-    foreachcontrol([](const control& c, const QWidget& widget) {
-        if (c.kind == controlkind::frame) return;
-        EXPECT_FALSE(widget.accessibleName().isEmpty()) << c.name;
-        const bool captionless = c.kind == controlkind::picturebutton || c.elementnumber;
-        EXPECT_FALSE(captionless && widget.toolTip().isEmpty()) << c.name;
-    });
-    EXPECT_EQ(widgetof(*findcontrol("beamx192y400"))->toolTip().toStdString(), "beamx192y400, element 58");
-}
-
-// A page that is longer than its control has a bar to scroll by, over its right edge.
-TEST_F(windowplaces, helpPagesAreSeenWhole) {
-    for (const helppage& page : helppages) {
-        control& c = *page.on;
-        runevent([&c] { show(c); });
-        const auto* text = qobject_cast<const QPlainTextEdit*>(widgetof(c));
-        EXPECT_EQ(text->verticalScrollBar()->maximum() + text->horizontalScrollBar()->maximum(), 0) << c.name;
+    for (const helppage& page : helppages) {  // a bar to scroll by would lie over the page's right edge
+        const auto* text = qobject_cast<const QPlainTextEdit*>(widgetof(*page.on));
+        EXPECT_EQ(text->verticalScrollBar()->maximum() + text->horizontalScrollBar()->maximum(), 0) << page.on->name;
     }
-}
-
-TEST_F(windowplaces, nothingLiesOverAnotherControl) {
-    for (const window* w : allwindows())
-        for (const control* a : w->controls)
-            for (const control* b : w->controls) {
-                if (a == b) break;
-                if (!a->shown || !b->shown) continue;
-                if (a->kind == controlkind::frame || b->kind == controlkind::frame) continue;
-                const QRect shared = widgetof(*a)->geometry() & widgetof(*b)->geometry();
-                EXPECT_TRUE(shared.isEmpty() || meet(*a, *b, shared)) << a->name << " and " << b->name;
-            }
 }
 
 }  // namespace tessaly

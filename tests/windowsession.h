@@ -1,44 +1,54 @@
 // The real windows on a screen that nobody sees, over a scratch working folder, used by mouse and keyboard.
 #pragma once
 
-#include "tools/workingfolder.h"
+#include "tests/session.h"
 #include "windows/qt/binding.h"
 #include "windows/qt/dress.h"
 #include "windows/qt/look.h"
 #include "windows/qt/picturefiles/picturefile.h"
 
 #include <QApplication>
+#include <QKeySequence>
+#include <QLineEdit>
 #include <QListWidget>
+#include <QMessageBox>
 #include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <optional>
 #include <sstream>
 
 namespace tessaly {
 
-inline QApplication& application() {
+inline void startapplication() {
     static int argc = 1;
     static char name[] = "windowtests", *argv[] = {name, nullptr};
-    static auto* app = [] {
-        QApplication::setDesktopSettingsAware(false);
-        auto* made = new QApplication(argc, argv);
-        setlook(*made);
-        usepicturefiles();
-        return made;
-    }();
-    return *app;
+    if (qApp) return;
+    QApplication::setDesktopSettingsAware(false);
+    setlook(*new QApplication(argc, argv));
+    usepicturefiles();
 }
 
 class windowsession : public testing::Test {
   protected:
+    windowsession() {
+        startapplication();
+        reader.callOnTimeout([this] {
+            auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+            if (!box) return;
+            report = box->text().toStdString();
+            EXPECT_FALSE(box->windowIcon().isNull());
+            runevent([] { ADD_FAILURE() << "an event behind the message"; });
+            box->accept();
+        });
+        reader.start(5);
+    }
+
     void SetUp() override {
-        application();
         folder.emplace(TESSALY_SOURCE_DIR);
-        openwindows(dresswindow);
+        start();
     }
 
     void TearDown() override {
@@ -50,34 +60,58 @@ class windowsession : public testing::Test {
         ASSERT_TRUE(widgetof(c) && widgetof(c)->isVisible()) << c.name;
         QTest::mouseClick(widgetof(c), Qt::LeftButton);
     }
-    static void click(const char* name) {
-        ASSERT_TRUE(findcontrol(name)) << name;
-        click(*findcontrol(name));
-    }
-    static void start() { click(startprogrambtn); }
-
-    // A click of the mouse on a row of a list.
-    static void pick(const control& c, int row) {
-        auto* rows = qobject_cast<QListWidget*>(widgetof(c));
-        ASSERT_TRUE(rows && rows->isVisible() && row < rows->count()) << c.name;
-        QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, rows->visualItemRect(rows->item(row)).center());
+    static void start() {
+        openwindows(dresswindow);
+        click(startprogrambtn);
     }
 
-    static void type(const control& c, const char* text) {
-        widgetof(c)->window()->activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(widgetof(c)->window()));
-        widgetof(c)->clearFocus();
-        widgetof(c)->setFocus(Qt::TabFocusReason);  // which selects what stands in it
-        QTest::keyClicks(widgetof(c), text);
-    }
-
-    static std::string file(const char* path) {
-        std::ostringstream bytes;
-        bytes << std::ifstream(path, std::ios::binary).rdbuf();
-        return bytes.str();
+    // What a user does by the keyboard alone, word by word:
+    //   Return   presses a key where the focus is
+    //   "kept"   types
+    //   floor    goes to a control, by Tab
+    //   =floor   expects the focus on a control, or on none of a window's
+    //   -floor   expects a control or a window to be hidden
+    void keys(const std::string& words) {
+        std::istringstream all(words);
+        for (std::string word; all >> word && !HasFatalFailure();) {
+            SCOPED_TRACE(word);
+            if (const auto key = QKeySequence(word.c_str())[0].key(); key != Qt::Key_unknown)
+                press(key);
+            else if (word.front() == '"')
+                QTest::keyClicks(faceof(*has)->focusWidget(), word.substr(1, word.size() - 2).c_str());
+            else
+                look(word.front(), word.find_first_of("=-") == 0 ? word.substr(1) : word);
+        }
     }
 
     std::optional<workingfolder> folder;
+    std::string report;  // of a failure, read on the screen and closed
+
+  private:
+    void press(Qt::Key key) {
+        QTest::keyClick(faceof(*has)->focusWidget(), key);
+        const auto* line = qobject_cast<QLineEdit*>(faceof(*has)->focusWidget());
+        EXPECT_TRUE(key != Qt::Key_Tab || !line || line->selectedText() == line->text());  // to be typed over
+    }
+
+    void look(char mark, const std::string& name) {
+        const control* const c = findcontrol(name);
+        const window* const w = c ? c->in : findwindow(name);
+        ASSERT_TRUE(w) << "no control and no window";
+        if (mark == '-') {
+            EXPECT_FALSE(c ? widgetof(*c)->isVisible() : faceof(*w)->isVisible());
+            return;
+        }
+        has = w;
+        faceof(*w)->activateWindow();
+        ASSERT_TRUE(QTest::qWaitFor([w] { return QApplication::activeWindow() == faceof(*w); }));
+        for (int tabs = 0; mark != '=' && focusedcontrol(*w) != c && tabs < 400; ++tabs) press(Qt::Key_Tab);
+        const QWidget* const focused = faceof(*w)->focusWidget();
+        EXPECT_EQ(focused, c ? widgetof(*c) : faceof(*w)->plan()) << (focused ? qPrintable(focused->objectName()) : "");
+    }
+
+    const window* has = &vistaplan;  // the keyboard, as the desktop gives it
+    QTimer reader;
 };
 
 }  // namespace tessaly
