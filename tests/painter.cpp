@@ -89,8 +89,6 @@ std::vector<webline> expectedlines(const faces& all, int web, int shift) {
     return lines;
 }
 
-face across(double x, int colour) { return {{{{x, 10, 10}, {x, 90, 10}, {x, 10, 70}, {x, 90, 70}}}, colour, 0, 0}; }
-
 }  // namespace
 
 // A face too many or in the wrong place of the order, a web of the wrong density, a line that does not stand where its
@@ -132,28 +130,26 @@ TEST(painter, paintsWhatTheGeometrySays) {
         }
 }
 
-// A face of its fourth corner alone is not measured: its key stays 0 and it comes out as the nearest. The test for that
-// looks at slot 0's fourth corner.
-TEST(painter, emptinessIsToldByThreeCorners) {
+// Slot 2, a face of its fourth corner alone, is not measured: its key stays 0 and it comes out as the nearest. The test
+// for that looks at slot 0's fourth corner. Slot 3, a million units away, is not chosen: its position paints again what
+// it held before.
+TEST(painter, facesThatTheSortPassesOver) {
+    const auto across = [](double x, int colour) {
+        return face{{{{x, 10, 10}, {x, 90, 10}, {x, 10, 70}, {x, 90, 70}}}, colour, 0, 0};
+    };
     for (const int slotzero : {0, 1}) {
         session s(ownfolder);
         setview(1850, -1850, 550);
-        setfaces({{1, across(50, 20)}, {2, across(-500, 30)}});
+        setfaces({{1, across(50, 20)}, {2, across(-500, 30)}, {3, across(-1e6, 40)}});
         for (auto* corner : {&quad1, &quad2, &quad3}) corner->set(2, 0);
         quad4.set(0, slotzero);
+        quadorder.set(3, 1);
+        s.takelines();
         paintsolids();
-        EXPECT_EQ(s.lines().back().c, testcolour(slotzero ? 20 : 30));
+        ASSERT_EQ(s.lines().size(), 3 * 402U);
+        EXPECT_EQ(s.lines()[0].c, testcolour(20));
+        EXPECT_EQ(s.lines()[402].c, testcolour(slotzero ? 30 : 20));
+        EXPECT_EQ(s.lines()[804].c, testcolour(slotzero ? 20 : 30));
+        EXPECT_EQ(quaddist[1], 2000000);
     }
-}
-
-// A face a million units away is not chosen: its position paints again what it held before.
-TEST(painter, theFarthestFacesAreNeverChosen) {
-    session s(ownfolder);
-    setview(1850, -1850, 550);
-    setfaces({{1, across(50, 20)}, {2, across(-1e6, 30)}});
-    quadorder.set(2, 1);
-    s.takelines();
-    paintsolids();
-    EXPECT_EQ(s.lines().size(), 804U);
-    EXPECT_TRUE(s.lines().front().c == testcolour(20) && quaddist[1] == 2000000);
 }

@@ -26,7 +26,8 @@ TEST(value, textsAreNumbersAsAWholeOrByTheirLeadingDigits) {
     EXPECT_TRUE(std::isfinite(Val("1e999")) && std::isfinite(Val("-1e999")));
 }
 
-TEST(value, generalTextHasFifteenDigitsAndIsCutNotRounded) {
+// Fifteen digits, cut and not rounded by a box; whole numbers take the even half.
+TEST(value, numbersBecomeTextsAndWholes) {
     const std::pair<double, const char*> texts[] = {
         {0.1 + 0.2, "0.3"}, {-0.0, "0"},      {1.0 / 3, "0.333333333333333"},    {-1234.5678, "-1234.5678"},
         {1850, "1850"},     {0.056, "0.056"}, {99999999999999, "99999999999999"}};
@@ -34,6 +35,8 @@ TEST(value, generalTextHasFifteenDigitsAndIsCutNotRounded) {
     EXPECT_EQ(boxtext(-1234.5678, 5), "-1234");
     EXPECT_EQ(boxtext(value(), 5), "");
     EXPECT_EQ(shortesttext(0.1 + 0.2), "0.30000000000000004");
+    const double halves[][2] = {{0.5, 0}, {1.5, 2}, {2.5, 2}, {-0.5, 0}, {-1.5, -2}, {2.500001, 3}};
+    for (const auto& [number, whole] : halves) EXPECT_EQ(nearestwhole(number), whole);
 }
 
 // A text box's figure is kept as text and converted at its first use; the report names where it came from, and can be
@@ -52,11 +55,6 @@ TEST(value, textMeetsArithmetic) {
         EXPECT_EQ(failureof([&] { return value(text, origin) + 1; })->report(), report);
     EXPECT_EQ(excerpt("\xC3\xA9\xC3\xA9", 2) + excerpt("\xC3\xA9\xC3\xA9", 1),
               "\xC3\xA9\xC3\xA9\xC3\xA9... (2 characters)");
-}
-
-TEST(value, wholeNumbersTakeTheEvenHalf) {
-    const double halves[][2] = {{0.5, 0}, {1.5, 2}, {2.5, 2}, {-0.5, 0}, {-1.5, -2}, {2.500001, 3}};
-    for (const auto& [number, whole] : halves) EXPECT_EQ(nearestwhole(number), whole) << number;
 }
 
 // resetworld clears 1..7000 (700 of cubecolour) and nothing above; a miss names the table.
