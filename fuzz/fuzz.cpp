@@ -1,0 +1,137 @@
+// Feeds the program inputs that nobody would write. What is done with an input is told by a play file of this folder,
+// which the environment names: its paragraphs are ways, and the input's length chooses one. A way is played, and
+//   # input FILE     makes the input this file
+//   # script FILE    makes it the script of this element file, behind the sections that stand there
+//   # typed          types its lines into the boxes; each byte of the next one presses or picks what is in reach
+//   # played         plays its lines, until one is nothing that a user could do
+// A failure is the right answer to any input; whatever else ends a way (a crash, a sanitizer's report, another
+// exception, two seconds of work) is a finding.
+
+#include "core/channels.h"
+#include "core/controls.h"
+#include "core/failure.h"
+#include "tools/play_commands.h"
+#include "tools/workingfolder.h"
+#include "windows/handlers.h"
+
+#include <cstdlib>
+#include <ctime>
+#include <fstream>
+#include <map>
+#include <sstream>
+#include <vector>
+
+namespace {
+
+using namespace tessaly;
+namespace fs = std::filesystem;
+
+void write(const fs::path& path, const std::string& bytes) { std::ofstream(path, std::ios::binary) << bytes; }
+
+// What the process's own working folder holds before each input. The elements have one face, and the scene has only its
+// axes: how they look is the input's affair, and a start is short work.
+std::map<fs::path, std::string> filesatstart() {
+    static const workingfolder folder(TESSALY_SOURCE_DIR);
+    const std::string face = filebytes(TESSALY_SOURCE_DIR "/fuzz/face.txt", "element");
+    const std::string axes = filebytes("datah\\st-axes.txt", "scene");
+    std::map<fs::path, std::string> files;
+    for (const char* shipped : {"datah", "pals"})
+        for (const auto& file : fs::directory_iterator(shipped)) {
+            const std::string name = file.path().filename().string();
+            files[file] = name.starts_with("st-") ? face : filebytes(file.path().string(), "shipped file");
+        }
+    for (const char* scene : {"datah/st-axes.txt", "datah/st-grid.txt", "datah/st-land.txt"}) files[scene] = axes;
+    files["designs/girders1.txt"] = "\"girder\",1,8,8,41,90,0,0,16,4,64\r\n";
+    files["bmps/view.txt"] = "\"1850\",\"-1850\",\"830\",\"0\",\"0\",\"280\",\"0.056\",\"170\",\"-270\"\r\n";
+    return files;
+}
+
+void startanew() {
+    static const std::map<fs::path, std::string> files = filesatstart();
+    for (const char* folder : {"designs", "bmps", "nonuser", "datah", "pals"})
+        for (const auto& file : fs::directory_iterator(folder)) fs::remove_all(file);
+    for (const auto& [path, bytes] : files) write(path, bytes);
+    viewportsurface = &playedsurface;
+    progresssurface = &playedstrip;
+    readpicture = [](const std::string&) { return bitmap(); };
+    startprogram();
+}
+
+// A name with this may lead out of the working folder, where nothing is the input's to touch.
+bool leavesfolder(const std::string& text) { return text.find("..") != text.npos || text.find('/') != text.npos; }
+
+std::string nextline(std::istream& input) {
+    std::string line;
+    std::getline(input, line);
+    return leavesfolder(line) ? "" : line;
+}
+
+void act(std::size_t choice) {
+    std::vector<control*> reached;
+    for (const window* w : allwindows())
+        for (control* c : w->controls) {
+            const bool list = c->kind == controlkind::list || c->kind == controlkind::filelist;
+            const bool button = c->kind == controlkind::button || c->kind == controlkind::picturebutton;
+            if (w->shown && c->shown && (button || (list && !c->items.empty()))) reached.push_back(c);
+        }
+    control& c = *reached[choice % reached.size()];
+    c.items.empty() ? clickcontrol(c) : pickitem(c, static_cast<int>(choice % c.items.size()));
+}
+
+void typed(std::istream& input) {
+    for (control* box : {&perptxtx, &perptxty, &perptxtz, &focustxtx, &focustxty, &focustxtz, &magtxt, &verttxt,
+                         &horiztxt, &floor, &writefilebox, &wiresolid, &panelsnipper, &capbox})
+        typetext(*box, nextline(input));
+    for (const char choice : nextline(input))
+        if (!programended) act(static_cast<unsigned char>(choice));
+}
+
+void played(std::istream& input) {
+    try {
+        while (!programended && input) obeyline(nextline(input));
+    } catch (const scripterror&) {
+    }
+    playedsurface.endlog();
+}
+
+std::string sections(const std::string& element) { return element.substr(0, element.rfind("TRAN")); }
+
+void play(const std::string& way, const std::string& input) {
+    std::istringstream lines(way), given(input);
+    for (std::string line, command, name; std::getline(lines, line);) {
+        std::istringstream(line).ignore(2) >> command >> name;
+        if (!line.starts_with('#')) obeyline(line);
+        if (line.starts_with("# input")) write(name, input);
+        if (line.starts_with("# script")) write(name, sections(filebytes(name, "element")) + input);
+        if (line == "# typed") typed(given);
+        if (line == "# played") played(given);
+    }
+}
+
+// The paragraphs of the play file.
+std::vector<std::string> allways() {
+    std::vector<std::string> ways(1);
+    std::ifstream file(std::getenv("TESSALY_FUZZ"));
+    for (std::string line; std::getline(file, line);)
+        if (line.empty())
+            ways.emplace_back();
+        else
+            ways.back() += line + '\n';
+    return ways;
+}
+
+}  // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
+    static const std::vector<std::string> ways = allways();
+    // Work, not time by the clock on the wall, which a busy machine lets run on.
+    constexpr std::clock_t mostwork = 2 * CLOCKS_PER_SEC;
+    const std::clock_t before = std::clock();
+    try {
+        startanew();
+        play(ways[size % ways.size()], std::string(bytes, bytes + size));
+    } catch (const failure&) {
+    }
+    if (std::clock() - before > mostwork) throw std::runtime_error("an input was more than 2 s of work");
+    return 0;
+}
