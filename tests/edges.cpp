@@ -18,6 +18,7 @@ struct replays : testing::Test {
 
     replays() {
         setview(1850, -1850, 550);
+        showwindow(vistaplan);
         for (control* list : {&autofile, &autofile1, &autofile2, &autofile3, &autofile4, &autofile5})
             setfolder(*list, "designs\\");
     }
@@ -72,6 +73,7 @@ TEST(set, tellsTheBoxWhoseTextIsNoNumber) {
     for (const viewfigure& f : viewfigures) {
         session s;
         s.start();
+        s.click("shopfm");
         s.type(f.box.name, "12a");
         expectfailure(failureof([&] { s.click("cventerbtn"); }), failurekind::typemismatch,
                       "the box \"" + std::string(f.tag ? f.tag : f.word) + "\": \"12a\"");

@@ -8,6 +8,7 @@
 #include "core/value.h"
 #include "core/world.h"
 #include "render/surface.h"
+#include "tools/play_commands.h"
 #include "tools/workingfolder.h"
 #include "windows/handlers.h"
 
@@ -56,16 +57,11 @@ class session {
     ~session() { forgetchannels(); }
     session(const session&) = delete;
 
-    // ---- what a user does; a name that is not there is a fault of the test ----
+    // ---- what a user does; what no user could reach is an error of the test ----
     void start() { click("startprogrambtn"); }
-    void click(const std::string& name) { clickcontrol(named(name)); }
-    void type(const std::string& name, const std::string& text) { typetext(named(name), text); }
-    void pick(const std::string& name, const std::string& item) {
-        control& list = named(name);
-        for (std::size_t i = 0; i < list.items.size(); ++i)
-            if (list.items[i] == item) return pickitem(list, static_cast<int>(i));
-        throw std::logic_error(name + " has no item " + item);
-    }
+    void click(const std::string& name) { obeyline("click " + name); }
+    void type(const std::string& name, const std::string& text) { obeyline("type " + name + ' ' + inquotes(text)); }
+    void pick(const std::string& name, const std::string& item) { obeyline("pick " + name + ' ' + inquotes(item)); }
 
     // ---- what came of it ----
     const std::vector<drawnline>& lines() const { return viewport.drawn; }
@@ -83,12 +79,6 @@ class session {
 
   private:
     workingfolder folder;
-
-    static control& named(const std::string& name) {
-        control* const c = findcontrol(name);
-        if (c == nullptr) throw std::logic_error("no control " + name);
-        return *c;
-    }
 };
 
 // The failure that a procedure ends with, none where it does not fail.
