@@ -48,8 +48,10 @@ std::map<fs::path, std::string> filesatstart() {
 
 void startanew() {
     static const std::map<fs::path, std::string> files = filesatstart();
-    for (const char* folder : {"designs", "bmps", "nonuser", "datah", "pals"})
-        for (const auto& file : fs::directory_iterator(folder)) fs::remove_all(file);
+    for (const char* folder : {"designs", "bmps", "nonuser", "datah", "pals"}) {
+        fs::remove_all(folder);
+        fs::create_directory(folder);
+    }
     for (const auto& [path, bytes] : files) write(path, bytes);
     viewportsurface = &playedsurface;
     progresssurface = &playedstrip;
