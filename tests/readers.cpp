@@ -59,20 +59,23 @@ TEST(readers, cubesThatNoGroupShows) {
     text +=
         "AUTOCUBE600:\n9999,0,0,0,0,0,0,0,0\nAUTOFRAMING1:\n2,2,3\n1,21,4\n3,3,5\n0,0,9999\nAUTOFRAMING2:\n0,0,9999\n"
         "TRAN\nTRANSLATE:\n1,1,10,0,0\n9999,0,0,0,0\nTRAN\nSTOP\n";
-    const auto paint = [](const std::string& cubes) {
+    const auto paint = [](auto readcubes, const std::string& cubes) {
         session::write("datah/az-test.txt", cubes);
         datafile = "az-test.txt";
-        readcubez();
+        readcubes();
         paintsolids();
     };
     session s(ownfolder);
     setview(1850, -1850, 550);
     focusx = focusy = focusz = 0.5;
-    paint(text);
-    EXPECT_TRUE(basex[1] == 11 && drawset == 2 && ptz[2009] == -0.5);
-    expectfailure(failureof([&] { paint(replaced(text, "100,4,60", "100,4,300")); }), failurekind::subscript,
+    for (const auto readcubes : {readcubex, readcubey, readcubez}) {
+        drawset = 1;
+        paint(readcubes, text);
+        EXPECT_TRUE(basex[1] == 11 && drawset == 2 && ptz[2009] == -0.5);
+    }
+    expectfailure(failureof([&] { paint(readcubez, replaced(text, "100,4,60", "100,4,300")); }), failurekind::subscript,
                   "line 6, field 10 (AUTOCUBE100:): palette");
-    expectfailure(failureof([&] { paint(replaced(text, "1,21,4", "1,21,1501")); }), failurekind::subscript,
+    expectfailure(failureof([&] { paint(readcubez, replaced(text, "1,21,4", "1,21,1501")); }), failurekind::subscript,
                   "line 19, field 3 (AUTOFRAMING1:)");
 }
 
