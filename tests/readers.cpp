@@ -34,6 +34,10 @@ TEST(readers, sectionsWithoutAnEndRowStopAtTheirLimit) {
     EXPECT_TRUE(quad1[7000] == 1 && quad1[7001] == 7001);
     readfile(elementtext{.points = rows(10001, "1,0,0,0\n"), .lines = {rows(20001, "1,2\n")}}, 3);
     EXPECT_TRUE(ptcount1 == 0 && linecount1 == 0 && drawset == 1);
+    readfile(elementtext{.script = "TRAN\nXTRANSFORMATIONS:\n" + rows(10000, "3,5\n") + "3,6\nTRAN\nTRANSLATE:\n" +
+                                   rows(7001, "4,4,1,0,0\n") + "TRAN\nSTOP\n"},
+             0);
+    EXPECT_TRUE(basex[3] == 5 && basex[4] == 7000);
 }
 
 // A placement that nobody knows leaves the file open: the element after it fails.
