@@ -76,8 +76,8 @@ TEST(play, endsWithItsStatusAndTellsWhatWasWrong) {
     }
 }
 
-// Every window, control and figure, the captions and the pages of the help among them. What is to be another is kept
-// by: cp out.txt ROOT/tests/show.txt
+// Every window, control and figure, the captions and the pages of the help among them. The difference that is told,
+// once it has been read and found right, is applied to tests/show.txt.
 TEST(play, showsWindowsControlsAndValues) {
     session s;
     ASSERT_EQ(play(post + "type wiresolid \"\\\"a\\\\b\\r\\nc\xC3\xA9\"\nshow\n"), 0);
