@@ -22,7 +22,9 @@ std::uint8_t component(double figure) {
     return static_cast<std::uint8_t>(std::min(whole, 255.0));
 }
 
-// As makecolour; a component that is none is told with place(0..2), where it stands in the files.
+// The colour of three components: rounded to whole numbers, above 255 taken as 255. Fails with overflow outside the
+// 16-bit range, with invalid call below 0, with type mismatch for a text, and tells with place(0..2) where the
+// component stands in the files.
 template <class placing>
 colour colourof(std::initializer_list<value> components, placing place) {
     std::uint8_t made[3];
@@ -40,10 +42,6 @@ colour colourof(std::initializer_list<value> components, placing place) {
 }
 
 }  // namespace
-
-colour makecolour(const value& red, const value& green, const value& blue) {
-    return {component(red), component(green), component(blue)};
-}
 
 colour palettecolour(const value& index) {
     const int entry = indexof(index, "palette", lastcolour);

@@ -12,15 +12,13 @@ struct colour {
     bool operator==(const colour&) const = default;
 };
 
-// The colour of three components: rounded to whole numbers, above 255 taken as 255. Fails with overflow outside the
-// 16-bit range, with invalid call below 0, with type mismatch for a text.
-colour makecolour(const value& red, const value& green, const value& blue);
-
-// The colour at a palette index; fails with subscript out of range outside 0..256, else as makecolour, naming the
-// palette's record.
+// The colour at a palette index: its components rounded to whole numbers, above 255 taken as 255. Fails with subscript
+// out of range outside 0..256; for a component outside the 16-bit range with overflow, below 0 with invalid call,
+// naming the palette's record.
 colour palettecolour(const value& index);
 
-// The colour of backred, backgreen, backblue; fails as makecolour, naming the start file.
+// The colour of backred, backgreen, backblue, likewise; a failure, also with type mismatch for a text, names the start
+// file.
 colour backgroundcolour();
 
 }  // namespace tessaly
