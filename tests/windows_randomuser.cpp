@@ -108,12 +108,12 @@ class randomuser : public windowsession {
 
     void typeany() {
         static const std::vector<const char*> figures{"0", "1", "2.5", "-270", "1850", "-1850.5", ".07", "100", "10"},
-            words{"3x", "4", "10", "solid", "wireframe", "on", "off", "snip both sides", "Snip"},
-            names{"a.bmp", "b.bmp"};
+            words{"3x", "4", "10", "solid", "wireframe", "on", "off"}, names{"a.bmp", "b.bmp"},
+            snips{"snip both sides", "Snip", "Full panel"};
         control* const c = anycontrol({controlkind::textbox, controlkind::combobox});
         if (!c || widgetof(*c)->focusPolicy() == Qt::NoFocus) return;
-        const bool word = c == &wiresolid || c == &writefilebox || c == &panelsnipper || c == &floor;
-        const auto& texts = c == &capbox ? names : word ? words : figures;
+        const bool word = c == &wiresolid || c == &writefilebox || c == &floor;
+        const auto& texts = c == &capbox ? names : c == &panelsnipper ? snips : word ? words : figures;
         const char* const text = texts[oneof(texts.size())];
         script += "type " + c->name + " \"" + text + "\"\n";
         event(c, [&] {
@@ -122,6 +122,7 @@ class randomuser : public windowsession {
             QTest::keyClicks(widgetof(*c), text);
             runevent([] {});
         });
+        EXPECT_EQ(c->text, text);
     }
 
     void closeany() {
