@@ -138,6 +138,7 @@ class randomuser : public windowsession {
         std::map<const window*, const control*> before;
         for (const window* w : allwindows()) before[w] = w->shown ? focusedcontrol(*w) : nullptr;
         run();
+        EXPECT_TRUE(!used || !used->run || usedcontrol == used) << "nothing came of " << used->name;
         for (const window* w : allwindows()) {
             if (!faceof(*w)) continue;
             EXPECT_EQ(faceof(*w)->isVisible(), w->shown) << w->name;
