@@ -52,7 +52,7 @@ TEST(value, textMeetsArithmetic) {
         {std::string(1000000, 'x'), "",
          "type mismatch: \"" + std::string(60, 'x') + "... (1000000 characters)\" where a number was expected"}};
     for (const auto& [text, origin, report] : mistakes)
-        EXPECT_EQ(failureof([&] { return value(text, origin) + 1; })->report(), report);
+        EXPECT_EQ(failureof([text = text, origin = origin] { return value(text, origin) + 1; })->report(), report);
     EXPECT_EQ(excerpt("\xC3\xA9\xC3\xA9", 2) + excerpt("\xC3\xA9\xC3\xA9", 1),
               "\xC3\xA9\xC3\xA9\xC3\xA9... (2 characters)");
 }
