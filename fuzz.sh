@@ -14,7 +14,7 @@ cubes) shipped=(datah/az-*.txt) ;;
 palette) shipped=(pals/*.pal) ;;
 start) shipped=(datah/start.txt) ;;
 designs) shipped=(samples/*.txt) ;;
-player) shipped=(docs/*.play tools/*.play tests/sessions/*.play) ;;
+player) shipped=(docs/*.play tools/*.play) ;;
 *) shipped=() ;; # their seeds are made by hand
 esac
 
