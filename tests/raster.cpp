@@ -83,3 +83,10 @@ TEST(raster, linesFromFarAway) {
         EXPECT_EQ(drawn(1, 1, 5, -none), lit(wide * high));
     }
 }
+
+// The first line of a web has none before it: it is drawn even where all figures are 0.
+TEST(raster, aWebMayBeThePixelInTheCorner) {
+    raster r(9, 9);
+    r.web({}, 7, {255, 0, 0});
+    EXPECT_EQ(r.at(0, 0), (colour{255, 0, 0}));
+}
