@@ -10,10 +10,10 @@ namespace tessaly {
 namespace {
 
 // The middle one of a family's positions.
-const position& middleof(const family& f) {
-    const position* found = nullptr;
+const buttonposition& middleof(const buttonfamily& f) {
+    const buttonposition* found = nullptr;
     const int middle = f.first + f.cols * f.rows / 2;
-    for (const position& p : allpositions())
+    for (const buttonposition& p : allbuttonpositions())
         if (p.of == &f && p.number == middle) found = &p;
     return *found;
 }
@@ -21,7 +21,7 @@ const position& middleof(const family& f) {
 }  // namespace
 
 void addclicks() {
-    for (const family& f : allfamilies())
+    for (const buttonfamily& f : allbuttonfamilies())
         for (const way w : {way::program, way::plain})
             addmeasure(std::string("click/") + f.word, w, 1, [&f] {
                 panelprefix = "st-panels-1or-";

@@ -23,9 +23,9 @@ struct run {
 // pixels are told from all others.
 class limitgatherer : public nosurface {
   public:
-    void sweep(const facecorners& f, int n, colour) override {
+    void drawbetween(const facecorners& f, int n, colour) override {
         const auto byte = [this](int shift) { return static_cast<std::uint8_t>(face >> shift); };
-        image.sweep(f, n, {byte(16), byte(8), byte(0)});
+        image.drawbetween(f, n, {byte(16), byte(8), byte(0)});
         secondsweep = !secondsweep;
         if (secondsweep) return;
         gather(f, 0xff000000 | face++);

@@ -29,9 +29,9 @@ control& named(const std::string& name) {
 }
 
 // The positions of a kind of record, in the order of the layouts.
-std::vector<const position*> positionsof(const char* kind) {
-    std::vector<const position*> found;
-    for (const position& p : allpositions())
+std::vector<const buttonposition*> positionsof(const char* kind) {
+    std::vector<const buttonposition*> found;
+    for (const buttonposition& p : allbuttonpositions())
         if (std::string(p.of->kind) == kind) found.push_back(&p);
     return found;
 }
@@ -42,7 +42,7 @@ constexpr int panelcodes[] = {1, 10, 2, 11, 3, 12, 31, 34};
 // The i-th record of a kind: its positions in turn, spread over the plan.
 std::string recordof(const char* kind, std::size_t i) {
     const auto positions = positionsof(kind);
-    const position& p = *positions[i * 29 % positions.size()];
+    const buttonposition& p = *positions[i * 29 % positions.size()];
     const int code = p.of->code < 0 ? panelcodes[i % std::size(panelcodes)] : p.of->code;
     return recordline({kind, p.number, p.middlex, p.middley, code, p.of->rotx, p.of->rotz, p.x, p.y, p.of->face, 64});
 }
@@ -99,16 +99,16 @@ const char* nameof(way w) {
 }
 
 building::building(way w) : viewport(surfaceof(w)) {
-    plainway = w != way::program && w != way::nodrawing;
+    noshortcuts = w != way::program && w != way::nodrawing;
     viewportsurface = viewport.get();
     progresssurface = &progress;
-    forgetchannels();
+    resetchannels();
     startprogram();
     click("startprogrambtn");
     wiresolid.text = "solid";
 }
 
-building::~building() { plainway = false; }
+building::~building() { noshortcuts = false; }
 
 void click(const std::string& name) { clickcontrol(named(name)); }
 

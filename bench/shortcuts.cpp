@@ -63,8 +63,8 @@ constexpr seenface faces[] = {
 
 void measureface(benchmark::State& state, way w, const seenface& f) {
     building b(w);
-    for (auto _ : state) b.viewport->web(f.corners, f.n, {180, 90, 20});
-    const double pixels = drawnby([&] { viewportsurface->web(f.corners, f.n, {}); }).pixels;
+    for (auto _ : state) b.viewport->fillface(f.corners, f.n, {180, 90, 20});
+    const double pixels = drawnby([&] { viewportsurface->fillface(f.corners, f.n, {}); }).pixels;
     state.counters["pixels/s"] = benchmark::Counter(pixels, benchmark::Counter::kIsIterationInvariantRate);
 }
 

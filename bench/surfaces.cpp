@@ -2,7 +2,7 @@
 
 #include "bench/surfaces.h"
 
-#include "render/linepart.h"
+#include "render/lineclip.h"
 
 namespace tessaly {
 

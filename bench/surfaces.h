@@ -28,7 +28,7 @@ class painterimage : public surface {
 class nosurface : public surface {
   public:
     void line(float, float, float, float, colour) override {}
-    void sweep(const facecorners&, int, colour) override {}
+    void drawbetween(const facecorners&, int, colour) override {}
     void save(const std::string&) override {}
     void setpicture(const std::string&) override {}
 };
@@ -37,7 +37,7 @@ class nosurface : public surface {
 class pixelcounter : public nosurface {
   public:
     void line(float x1, float y1, float x2, float y2, colour c) override;
-    void sweep(const facecorners& f, int n, colour c) override { surface::sweep(f, n, c); }
+    void drawbetween(const facecorners& f, int n, colour c) override { surface::drawbetween(f, n, c); }
     std::int64_t pixels = 0, lines = 0;
 };
 

@@ -21,21 +21,21 @@ void clearrecords() {
     }
 }
 
-const std::vector<column> recordcolumns =
+const std::vector<recordcolumn> bothcolumns =
     designcolumns({nullptr, &rdnumber}, {&girdercode, &rdcode}, {nullptr, &rdtrailer});
 
-// The twelve columns of the temporary files: a design record's ten before its trailer between these two.
-std::vector<column> tempcolumns(column first, column last) {
-    std::vector<column> all = designcolumns({&anynumber, &rdnumber}, {&anycode, &rdcode}, last);
+// The twelve recordcolumns of the temporary files: a design record's ten before its trailer between these two.
+std::vector<recordcolumn> tempcolumns(recordcolumn first, recordcolumn last) {
+    std::vector<recordcolumn> all = designcolumns({&anynumber, &rdnumber}, {&anycode, &rdcode}, last);
     all.insert(all.begin(), first);
     return all;
 }
-const std::vector<column> wirecolumns = tempcolumns({&placez, nullptr}, {nullptr, &rdtrailer});
-const std::vector<column> solidcolumns = tempcolumns({}, {&placez, &rdplacez});
+const std::vector<recordcolumn> wirecolumns = tempcolumns({&placez, nullptr}, {nullptr, &rdtrailer});
+const std::vector<recordcolumn> solidcolumns = tempcolumns({}, {&placez, &rdplacez});
 
 // A line for the temporary files, of record r in the tables.
 std::string templine(const value& first, const value& r, const value& last) {
-    return keptline(first, columns(recordcolumns).first(recordcolumns.size() - 1), r, last);
+    return keptline(first, recordcolumns(bothcolumns).first(bothcolumns.size() - 1), r, last);
 }
 std::string wireline(int i) { return templine(placez, i, rdtrailer[i]); }
 std::string solidline(int i) { return templine(i, i, placez); }
@@ -45,7 +45,7 @@ std::string sortedline(int slot) { return templine(slot, rdorder[slot], rdplacez
 template <class form>
 void addfile(const value& name, form line) {
     clearrecords();
-    const int n = keepdesignfile(1, name, recordcolumns);
+    const int n = keepdesignfile(1, name, bothcolumns);
     combinedcount = combinedcount + n;
     floorfromname(name.text());
     addlines(tempfile, n, line);
@@ -53,8 +53,8 @@ void addfile(const value& name, form line) {
 
 // Both files from tempfile into the record tables, which end at 1000. The scalars are left for the sorted order.
 void keepbothfiles(int n) {
-    std::vector<column> keptonly = solidcolumns;
-    for (column& c : keptonly) c.place = nullptr;
+    std::vector<recordcolumn> keptonly = solidcolumns;
+    for (recordcolumn& c : keptonly) c.scalar = nullptr;
     openinput(2, tempfile, "temporary file");
     for (int k = 1; k <= n; ++k) keeprecord(k, keptonly, readrecord(2, keptonly));
     closechannel(2);

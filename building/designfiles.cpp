@@ -2,7 +2,7 @@
 
 #include "building/designfiles.h"
 
-#include "building/choice.h"
+#include "building/buildstate.h"
 #include "building/records.h"
 #include "core/channels.h"
 #include "core/failure.h"

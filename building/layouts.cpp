@@ -2,7 +2,7 @@
 
 #include "building/layouts.h"
 
-#include "building/choice.h"
+#include "building/buildstate.h"
 #include "building/designfiles.h"
 #include "core/world.h"
 #include "data/elements.h"
@@ -16,9 +16,9 @@ constexpr int bay = 192;  // layout units
 constexpr int fromprefix = -1;
 constexpr colour postred{128, 0, 0}, beamred{255, 128, 128}, panelorange{255, 192, 128}, roofblue{192, 192, 255};
 
-constexpr family families[] = {
+constexpr buttonfamily buttonfamilies[] = {
     // clang-format off
-    // word      window         datafile       kind      files     first cols rows  x0   y0 mode rotx rotz face code         dx   dy  left   top pitch width height back        spoken
+    // word      window         datafile       kind      files     first cols rows  x0   y0 mode rotx rotz face code         dx   dy  left   top pitch width height back        accessiblename
     { "postx",   &layoutgirder, "st-post.txt", "girder", "girders",   1,  6,   8,   0,  16,  2,  90,   0,   4,  41,           8,  -8,  480,  480, 1200,  255,  255, postred,     "Post" },
     { "beamx",   &layoutgirder, "st-beam.txt", "girder", "girders",  49,  6,   7,   0,  16,  3,   0,   0,   4,  42,           8,  88,  720,  480, 1200,  975,  255, beamred,     "Beam along Y" },
     { "vbeamx",  &layoutgirder, "st-beam.txt", "girder", "girders",  91,  5,   8,  16,  16,  4,   0, 270,   1,  43,          88,  -8,  480,  720, 1200,  255,  975, beamred,     "Beam along X" },
@@ -32,35 +32,35 @@ constexpr family families[] = {
 
 constexpr int countbuttons() {
     int count = 0;
-    for (const family& f : families) count += f.cols * f.rows;
+    for (const buttonfamily& f : buttonfamilies) count += f.cols * f.rows;
     return count;
 }
 static_assert(countbuttons() == 329);
-static_assert(families[2].first + families[2].cols * families[2].rows - 1 == 130);
-static_assert(families[6].first + families[6].cols * families[6].rows - 1 == 164);
+static_assert(buttonfamilies[2].first + buttonfamilies[2].cols * buttonfamilies[2].rows - 1 == 130);
+static_assert(buttonfamilies[6].first + buttonfamilies[6].cols * buttonfamilies[6].rows - 1 == 164);
 
 // One button's constant breaks the rule: panel 155 is recorded with Y 784 though it stands at 1168. It moves that panel
 // in the order of a solid replay and does nothing else; it stays.
 constexpr int oddpanel = 155, oddpanely = 784;
 
-std::vector<position> workoutpositions() {
-    std::vector<position> all;
-    for (const family& f : families)
+std::vector<buttonposition> computebuttonpositions() {
+    std::vector<buttonposition> all;
+    for (const buttonfamily& f : buttonfamilies)
         for (int i = 0; i < f.cols; ++i)
             for (int j = 0; j < f.rows; ++j) {
                 const int x = f.x0 + bay * i, y = f.y0 + bay * j;
-                position p{&f, f.first + f.rows * i + j, x, y, x + f.dx, y + f.dy};
+                buttonposition p{&f, f.first + f.rows * i + j, x, y, x + f.dx, y + f.dy};
                 if (f.on == &layoutpanels && p.number == oddpanel) p.middley = oddpanely;
                 all.push_back(p);
             }
     return all;
 }
 
-std::string tooltip(const position& p) { return positionname(p) + ", element " + std::to_string(p.number); }
+std::string tooltip(const buttonposition& p) { return positionname(p) + ", element " + std::to_string(p.number); }
 
-std::string spoken(const position& p) {
-    return std::string(p.of->spoken) + " at X " + std::to_string(p.x) + ", Y " + std::to_string(p.y) + ", element " +
-           std::to_string(p.number);
+std::string accessiblenameof(const buttonposition& p) {
+    return std::string(p.of->accessiblename) + " at X " + std::to_string(p.x) + ", Y " + std::to_string(p.y) +
+           ", element " + std::to_string(p.number);
 }
 
 // Takes the panel's file and code from its prefix and the snip text, which is full again from now on.
@@ -79,8 +79,8 @@ void choosepanelfile() {
     if (const int code = panelcodefor(panelprefix.text(), part)) panelcode = code;
 }
 
-void setplacement(const position& p) {
-    const family& f = *p.of;
+void setplacement(const buttonposition& p) {
+    const buttonfamily& f = *p.of;
     if (*f.datafile) datafile = f.datafile;
     elementkind = f.kind;
     rotx = f.rotx;
@@ -94,38 +94,40 @@ void setplacement(const position& p) {
 
 }  // namespace
 
-std::span<const family> allfamilies() { return families; }
+std::span<const buttonfamily> allbuttonfamilies() { return buttonfamilies; }
 
-const std::vector<position>& allpositions() {
-    static const std::vector<position> positions = workoutpositions();
+const std::vector<buttonposition>& allbuttonpositions() {
+    static const std::vector<buttonposition> positions = computebuttonpositions();
     return positions;
 }
 
-std::string positionname(const position& p) { return p.of->word + std::to_string(p.x) + "y" + std::to_string(p.y); }
+std::string positionname(const buttonposition& p) {
+    return p.of->word + std::to_string(p.x) + "y" + std::to_string(p.y);
+}
 
 void definelayouts() {
     static std::vector<control> buttons;
     buttons.clear();
-    buttons.reserve(allpositions().size());
-    for (const position& p : allpositions()) {
-        const family& f = *p.of;
+    buttons.reserve(allbuttonpositions().size());
+    for (const buttonposition& p : allbuttonpositions()) {
+        const buttonfamily& f = *p.of;
         const int i = (p.x - f.x0) / bay, j = (p.y - f.y0) / bay;
         buttons.push_back({.in = f.on,
                            .kind = controlkind::button,
                            .name = positionname(p),
-                           .place = {f.left0 + f.pitch * j, f.top0 + f.pitch * i, f.width, f.height},
+                           .bounds = {f.left0 + f.pitch * j, f.top0 + f.pitch * i, f.width, f.height},
                            .shown = true,
                            .back = f.back,
                            .tooltip = tooltip(p),
-                           .spoken = spoken(p),
+                           .accessiblename = accessiblenameof(p),
                            .elementnumber = p.number,
                            .run = [&p] { clickposition(p); }});
         addcontrol(buttons.back());
     }
 }
 
-void clickposition(const position& p) {
-    const family& f = *p.of;
+void clickposition(const buttonposition& p) {
+    const buttonfamily& f = *p.of;
     const bool panel = f.on == &layoutpanels;
     if (panel) choosepanelfile();
     readbuildstate();

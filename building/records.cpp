@@ -1,4 +1,4 @@
-// Records by their columns.
+// Records by their recordcolumns.
 
 #include "building/records.h"
 
@@ -6,7 +6,7 @@
 
 namespace tessaly {
 
-std::vector<column> designcolumns(column number, column code, column trailer) {
+std::vector<recordcolumn> designcolumns(recordcolumn number, recordcolumn code, recordcolumn trailer) {
     return {
         {&elementkind, &rdkind, true},
         number,
@@ -31,24 +31,24 @@ std::string recordline(const std::vector<value>& fields) {
     return line + "\r\n";
 }
 
-std::string keptline(const value& first, columns kept, const value& r, const value& last) {
+std::string keptline(const value& first, recordcolumns kept, const value& r, const value& last) {
     std::vector<value> fields{first};
-    for (const column& c : kept) fields.push_back((*c.kept)[r]);
+    for (const recordcolumn& c : kept) fields.push_back((*c.kept)[r]);
     fields.push_back(last);
     return recordline(fields);
 }
 
-std::vector<value> readrecord(int channel, columns form) {
+std::vector<value> readrecord(int channel, recordcolumns form) {
     std::vector<value> fields;
-    for (const column& c : form) {
+    for (const recordcolumn& c : form) {
         constexpr const char* what = "a field of a design record";
         fields.push_back(c.text ? value(readrecordtext(channel, what)) : readrecordfield(channel, what));
-        if (c.place) *c.place = fields.back();
+        if (c.scalar) *c.scalar = fields.back();
     }
     return fields;
 }
 
-void keeprecord(int i, columns form, const std::vector<value>& fields) {
+void keeprecord(int i, recordcolumns form, const std::vector<value>& fields) {
     for (std::size_t k = 0; k < form.size(); ++k)
         if (form[k].kept) form[k].kept->set(i, fields[k]);
 }

@@ -1,5 +1,5 @@
-// Records: lines of fields, as design files and a replay's temporary files hold them, and the one table of the columns
-// of a design record. Where a reader differs from the other it says so by its columns.
+// Records: lines of fields, as design files and a replay's temporary files hold them, and the one table of the
+// recordcolumns of a design record. Where a reader differs from the other it says so by its recordcolumns.
 #pragma once
 
 #include "core/world.h"
@@ -10,29 +10,29 @@
 
 namespace tessaly {
 
-// A column of a file of records.
-struct column {
-    value* place = nullptr;                    // takes a field as it is read
+// A recordcolumn of a file of records.
+struct recordcolumn {
+    value* scalar = nullptr;                   // takes a field as it is read
     table<value, lastrecord>* kept = nullptr;  // keeps the fields of all records, one index a record
     bool text = false;                         // holds texts, whatever they look like
 };
-using columns = std::span<const column>;
+using recordcolumns = std::span<const recordcolumn>;
 
-// The eleven columns of a design record; the three in which readers differ come from the caller.
-std::vector<column> designcolumns(column number, column code, column trailer);
+// The eleven recordcolumns of a design record; the three in which readers differ come from the caller.
+std::vector<recordcolumn> designcolumns(recordcolumn number, recordcolumn code, recordcolumn trailer);
 
 // One line of text fields as records are written: texts in double quotes, numbers bare, commas between, CR LF behind.
 std::string recordline(const std::vector<value>& fields);
 
-// A line of first, record r as the tables of these columns keep it, and last.
-std::string keptline(const value& first, columns kept, const value& r, const value& last);
+// A line of first, record r as the tables of these recordcolumns keep it, and last.
+std::string keptline(const value& first, recordcolumns kept, const value& r, const value& last);
 
-// Reads a record from channel, each field into its column's place: a record that breaks off leaves its front there.
-// Returns the fields; fails: input past end of file, overflow.
-std::vector<value> readrecord(int channel, columns form);
+// Reads a record from channel, each field into its recordcolumn's place: a record that breaks off leaves its front
+// there. Returns the fields; fails: input past end of file, overflow.
+std::vector<value> readrecord(int channel, recordcolumns form);
 
-// Keeps a record's fields in the tables of its columns.
-void keeprecord(int i, columns form, const std::vector<value>& fields);
+// Keeps a record's fields in the tables of its recordcolumns.
+void keeprecord(int i, recordcolumns form, const std::vector<value>& fields);
 
 // "designs\" and the name.
 std::string designpath(const value& name);

@@ -38,7 +38,7 @@ double squared(double d) { return d * d; }
 
 }  // namespace
 
-int keepdesignfile(int channel, const value& name, columns form) {
+int keepdesignfile(int channel, const value& name, recordcolumns form) {
     openinput(channel, designpath(name), "design file");
     const int n = untilfailure(lastrecord, [&](int i) { keeprecord(i, form, readrecord(channel, form)); });
     closechannel(channel);
@@ -77,7 +77,7 @@ void sortrecords(const table<value, lastrecord>& number, int n) {
     }
 }
 
-void paintrecords(const char* file, int n, columns form, const value& kind, const value& code) {
+void paintrecords(const char* file, int n, recordcolumns form, const value& kind, const value& code) {
     openinput(2, file, "temporary file");
     for (int k = 1; k <= n; ++k) {
         readrecord(2, form);

@@ -31,9 +31,9 @@ int untilfailure(int most, procedure step) {
 
 // Keeps the records of a design file, 1000 at most, and returns how many they are. The first failure ends the file.
 // fails: as openinput.
-int keepdesignfile(int channel, const value& name, columns form);
+int keepdesignfile(int channel, const value& name, recordcolumns form);
 
-// Places, reads and draws the element of the record just read, by the column of kind and its code. rotx is 0
+// Places, reads and draws the element of the record just read, by the recordcolumn of kind and its code. rotx is 0
 // afterwards, for placement leaves radians in it. reads: rotx, rotz, placex, placey, placez; writes, fails: as
 // readelements.
 void drawrecord(const value& kind, const value& code);
@@ -63,7 +63,7 @@ void addlines(const char* file, int n, form line) {
 
 // Reads n records of a temporary file and draws and paints each, a step of the strip before it. kind, code: as
 // drawrecord. fails: as drawrecord and paintsolids; the file stays open on channel 2.
-void paintrecords(const char* file, int n, columns form, const value& kind, const value& code);
+void paintrecords(const char* file, int n, recordcolumns form, const value& kind, const value& code);
 
 // Shows the progress strip for n records: cleared to dark, four light rows a record and four over, from the bottom up.
 void drawprogress(int n);

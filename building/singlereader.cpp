@@ -13,13 +13,14 @@ namespace tessaly {
 
 namespace {
 
-constexpr int mostwirerecords = 10000;
+constexpr int maxwirerecords = 10000;
 
 // What the three classes of design files keep apart.
 struct recordclass {
-    const char* prefix;            // of the file's name
-    value kind;                    // by which its codes are read
-    column number, code, trailer;  // a roof's trailer is not kept: what stood in rdtrailer before is written for it
+    const char* prefix;  // of the file's name
+    value kind;          // by which its codes are read
+    recordcolumn number, code,
+        trailer;  // a roof's trailer is not kept: what stood in rdtrailer before is written for it
 };
 
 const recordclass classes[] = {
@@ -36,7 +37,7 @@ const recordclass& classof(const std::string& name) {
     throw failure(failurekind::typemismatch, "the name " + name + " tells no class of design file");
 }
 
-std::vector<column> columnsof(const recordclass& c) { return designcolumns(c.number, c.code, c.trailer); }
+std::vector<recordcolumn> columnsof(const recordclass& c) { return designcolumns(c.number, c.code, c.trailer); }
 
 void offer(control& list) {
     show(escapefilelistbtn);
@@ -61,18 +62,18 @@ void clickautosolidsingle() { offer(autofile5); }
 
 void pickautofile() {
     const recordclass& c = takename(autofile);
-    const std::vector<column> form = columnsof(c);
+    const std::vector<recordcolumn> form = columnsof(c);
     openinput(2, designpath(secondfilename), "design file");
-    untilfailure(mostwirerecords, [&](int) {
+    untilfailure(maxwirerecords, [&](int) {
         readrecord(2, form);
-        drawrecord(c.kind, *c.code.place);
+        drawrecord(c.kind, *c.code.scalar);
     });
     closechannel(2);
 }
 
 void pickautofile5() {
     const recordclass& c = takename(autofile5);
-    std::vector<column> form = columnsof(c);
+    std::vector<recordcolumn> form = columnsof(c);
     for (int i = 1; i <= lastrecord; ++i) c.number.kept->set(i, 0);
     const int n = keepdesignfile(2, secondfilename, form);
     makeeyeabsolute();
@@ -81,10 +82,10 @@ void pickautofile5() {
     form.front() = {};  // in the temporary file the sorted position stands in the kind's place
     addlines(tempfile, n, [&form](int slot) {
         const value& r = rdorder[slot];
-        return keptline(slot, columns(form).subspan(1, form.size() - 2), r, rdtrailer[r]);
+        return keptline(slot, recordcolumns(form).subspan(1, form.size() - 2), r, rdtrailer[r]);
     });
     drawprogress(n);
-    paintrecords(tempfile, n, form, c.kind, *c.code.place);
+    paintrecords(tempfile, n, form, c.kind, *c.code.scalar);
     deletefile(tempfile);
     hide(autofile5);
     hide(progressbar);

@@ -4,7 +4,7 @@
 
 #include "core/channels.h"
 #include "core/failure.h"
-#include "core/viewfigures.h"
+#include "core/viewvalues.h"
 #include "core/windows1252.h"
 #include "render/surface.h"
 
@@ -15,7 +15,7 @@ namespace {
 // Nine fields in quotation marks; nothing in them is escaped, also not a quotation mark.
 std::string viewrecord() {
     std::string record;
-    for (const viewfigure& f : viewfigures) record += (record.empty() ? "\"" : ",\"") + towindows1252(f.box.text) + '"';
+    for (const viewvalue& f : viewvalues) record += (record.empty() ? "\"" : ",\"") + towindows1252(f.box.text) + '"';
     return record + "\r\n";
 }
 

@@ -8,7 +8,7 @@
 #include "core/colour.h"
 #include "core/failure.h"
 #include "core/fields.h"
-#include "core/viewfigures.h"
+#include "core/viewvalues.h"
 #include "core/windows1252.h"
 #include "render/projector.h"
 #include "render/redraw.h"
@@ -34,7 +34,7 @@ std::vector<value> readviewrecord() {
     const std::string path = "bmps\\" + bmpsidecar.text();
     std::vector<value> fields;
     openinput(1, path, "view record");
-    for (const viewfigure& f : viewfigures)
+    for (const viewvalue& f : viewvalues)
         fields.emplace_back(fromwindows1252(readrecordtext(1, f.word)), path + " (" + f.word + ")");
     closechannel(1);
     return fields;
@@ -44,9 +44,9 @@ void writenineboxes() {
     constexpr std::size_t cut = 9;
     sumabsoluteeye();
     writeeyeboxes(perpabsx, perpabsy, perpabsz, cut);
-    writeboxes(focusfigures, cut);
+    writeboxes(focusvalues, cut);
     magtxt.text = boxtext(mag / 10, cut);
-    writeboxes(shiftfigures, cut);
+    writeboxes(shiftvalues, cut);
     copyboxestoeasyviews();
 }
 
@@ -56,10 +56,10 @@ void bringback() {
     perprelative = 0;
     restorepoints();
     auto field = fields.begin();
-    for (const viewfigure& f : viewfigures) f.figure = *field++;
+    for (const viewvalue& f : viewvalues) f.figure = *field++;
     keepeye();
     // Less than other clears: what lies beyond shows until the bitmap covers it.
-    viewportsurface->wash(1, 1125, 1, 829, backgroundcolour());
+    viewportsurface->fillrows(1, 1125, 1, 829, backgroundcolour());
     projectdraw();
     writenineboxes();
     viewportsurface->setpicture("bmps\\" + bmpimage.text());

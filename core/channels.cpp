@@ -36,15 +36,15 @@ struct channelstate {
 };
 
 constexpr int lastchannel = 2;
-constexpr std::size_t mostbytes = 64 << 20;  // of a file that is held whole
+constexpr std::size_t maxbytes = 64 << 20;  // of a file that is held whole
 std::array<channelstate, lastchannel + 1> channels;
 
 channelstate& channelof(int channel) { return channels.at(static_cast<std::size_t>(channel)); }
 
 [[noreturn]] void systemfailure(const std::string& path, const char* what, int error) {
     const auto kind = error == ENOENT || error == ENOTDIR ? failurekind::filenotfound : failurekind::fileaccess;
-    constexpr std::size_t mostofpath = 300;  // more than any file's
-    throw failure(kind, std::strerror(error), excerpt(path, mostofpath) + " (" + what + ")");
+    constexpr std::size_t maxofpath = 300;  // more than any file's
+    throw failure(kind, std::strerror(error), excerpt(path, maxofpath) + " (" + what + ")");
 }
 
 void expectfree(int channel, std::string_view path) {
@@ -66,10 +66,10 @@ int openregular(const std::string& path, const char* what, int flags) {
     throw failure(failurekind::fileaccess, "this is no regular file", path + " (" + what + ")");
 }
 
-// Reads up to the end or a little more than mostbytes; 0, or the system's error.
+// Reads up to the end or a little more than maxbytes; 0, or the system's error.
 int readwhole(int handle, std::string& bytes) {
     char block[1 << 16];
-    while (bytes.size() <= mostbytes) {
+    while (bytes.size() <= maxbytes) {
         const ssize_t got = ::read(handle, block, sizeof block);
         if (got < 0 && errno == EINTR) continue;
         if (got <= 0) return got < 0 ? errno : 0;
@@ -105,7 +105,7 @@ std::string systempath(std::string_view path) {
     return result;
 }
 
-std::string textinput::place(int atline, int atfield) const {
+std::string textinput::location(int atline, int atfield) const {
     return path + ", line " + std::to_string(atline) + ", field " + std::to_string(atfield);
 }
 
@@ -115,13 +115,13 @@ std::string filebytes(std::string_view path, const char* what) {
     const auto size = static_cast<std::size_t>(::lseek(handle, 0, SEEK_END));
     std::string bytes;
     ::lseek(handle, 0, SEEK_SET);
-    const int error = size > mostbytes ? 0 : readwhole(handle, bytes);
+    const int error = size > maxbytes ? 0 : readwhole(handle, bytes);
     ::close(handle);
     if (error != 0) systemfailure(name, what, error);
     const std::size_t found = std::max(size, bytes.size());
-    if (found <= mostbytes) return bytes;
+    if (found <= maxbytes) return bytes;
     throw failure(failurekind::fileaccess,
-                  "the file has " + std::to_string(found) + " bytes, " + std::to_string(mostbytes) +
+                  "the file has " + std::to_string(found) + " bytes, " + std::to_string(maxbytes) +
                       " at most were expected",
                   name + " (" + what + ")");
 }
@@ -170,7 +170,7 @@ textinput& channelinput(int channel) {
     return *c.input;
 }
 
-void forgetchannels() {
+void resetchannels() {
     for (channelstate& c : channels) {
         if (c.output) ::close(c.output->handle);
         c = channelstate{};

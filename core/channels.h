@@ -30,8 +30,8 @@ struct textinput {
     int line = 1, field = 1;
 
     // "datah\st-post.txt, line 14, field 3", for reports.
-    std::string place() const { return place(line, field); }
-    std::string place(int atline, int atfield) const;
+    std::string location() const { return location(line, field); }
+    std::string location(int atline, int atfield) const;
 };
 
 // Opens path for reading on channel. Fails with file already open where the channel is in use, with file not found,
@@ -53,7 +53,7 @@ void closechannel(int channel);
 textinput& channelinput(int channel);
 
 // Closes all channels and forgets unwritten text.
-void forgetchannels();
+void resetchannels();
 
 // Deletes a file; fails with file not found or file access error.
 void deletefile(std::string_view path);

@@ -23,10 +23,10 @@ std::uint8_t component(double figure) {
 }
 
 // The colour of three components: rounded to whole numbers, above 255 taken as 255. Fails with overflow outside the
-// 16-bit range, with invalid call below 0, with type mismatch for a text, and tells with place(0..2) where the
+// 16-bit range, with invalid call below 0, with type mismatch for a text, and tells with location(0..2) where the
 // component stands in the files.
-template <class placing>
-colour colourof(std::initializer_list<value> components, placing place) {
+template <class locating>
+colour colourof(std::initializer_list<value> components, locating location) {
     std::uint8_t made[3];
     int i = 0;
     try {
@@ -35,7 +35,7 @@ colour colourof(std::initializer_list<value> components, placing place) {
             ++i;
         }
     } catch (failure& f) {
-        f.tellplace(place(i));
+        f.addlocation(location(i));
         throw;
     }
     return {made[0], made[1], made[2]};

@@ -37,8 +37,8 @@ window instructions("instructions", "Tessaly Panel and Girder", 19200, 12990, {1
 // clang-format on
 
 // clang-format off
-#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, spoken)                          \
-    control name{&in, controlkind::kind, #name, {left, top, width, height}, text, shown, back, tooltip, spoken};
+#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, accessiblename)                          \
+    control name{&in, controlkind::kind, #name, {left, top, width, height}, text, shown, back, tooltip, accessiblename};
 // clang-format on
 #include "core/controls.def"
 #undef CONTROL
@@ -55,14 +55,14 @@ const std::vector<window*>& allwindows() {
     return windows;
 }
 
-void forgetcontrols() {
+void resetcontrols() {
     struct firststate {
         control* c;
         control state;
     };
     static std::vector<firststate> first;
     if (first.empty()) {
-#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, spoken)                          \
+#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, accessiblename)                  \
     first.push_back({&name, name});
 #include "core/controls.def"
 #undef CONTROL
@@ -99,8 +99,8 @@ window* findwindow(std::string_view name) {
 
 const std::string& selectedtext(const control& list) {
     static const std::string nothing;
-    const auto place = static_cast<std::size_t>(list.selected);
-    return list.selected >= 0 && place < list.items.size() ? list.items[place] : nothing;
+    const auto index = static_cast<std::size_t>(list.selected);
+    return list.selected >= 0 && index < list.items.size() ? list.items[index] : nothing;
 }
 
 void showwindow(window& w) {

@@ -1,5 +1,5 @@
 // Windows and controls as plain state. The logic reads and writes this state and never sees a widget; a window layer
-// carries it to the screen and back, and tools/play drives it with no screen at all. One string is a control's name
+// carries it to the screen and back, and the player drives it with no screen at all. One string is a control's name
 // here, in the tables and on its widget.
 #pragma once
 
@@ -39,17 +39,17 @@ struct control {
     window* in;
     controlkind kind;
     std::string name;
-    twips place;
+    twips bounds;
     std::string text = {};  // caption, or text of a box; UTF-8
     bool shown;
     std::optional<colour> back;  // its own; the kind's where there is none
     std::string tooltip;
-    std::string spoken;              // for screen readers; the caption where empty
+    std::string accessiblename;      // for screen readers; the caption where empty
     int elementnumber = 0;           // of a layout button
     std::function<void()> run = {};  // what a click, or a pick of an item, does; set at the start of the program
     std::string folder = {};         // of a file list, as users write it
     std::vector<std::string> items = {};
-    int selected = -1;            // place in items, -1: none
+    int selected = -1;            // index into items, -1: none
     control* openedby = nullptr;  // the control whose event showed it last
 };
 
@@ -58,12 +58,13 @@ extern window startform, vistaplan, layoutgirder, layoutpanels, layoutroof, easy
 const std::vector<window*>& allwindows();
 
 // The controls with a name of their own; position buttons of layouts and quick views come from their families.
-#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, spoken) extern control name;
+#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, accessiblename)                  \
+    extern control name;
 #include "core/controls.def"
 #undef CONTROL
 
 // Puts windows and controls back to their first state: the named controls in their windows' lists, nothing shown.
-void forgetcontrols();
+void resetcontrols();
 
 // Adds a control to the end of its window's list; it must outlive the program's run.
 void addcontrol(control& added);

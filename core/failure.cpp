@@ -22,10 +22,10 @@ std::string_view kindname(failurekind kind) {
 }
 
 failure::failure(failurekind failed, std::string why, std::string where)
-    : kind(failed), detail(std::move(why)), place(std::move(where)) {}
+    : kind(failed), detail(std::move(why)), location(std::move(where)) {}
 
-void failure::tellplace(const std::string& where) {
-    if (place.empty()) place = where;
+void failure::addlocation(const std::string& where) {
+    if (location.empty()) location = where;
 }
 
 }  // namespace tessaly

@@ -27,27 +27,27 @@ std::string_view kindname(failurekind kind);
 struct failure : std::exception {
     failure(failurekind failed, std::string why, std::string where = {});
 
-    // Tells the place, for whoever knows it on the failure's way up: the first one's counts, which is the nearest.
-    void tellplace(const std::string& where);
+    // Tells the location, for whoever knows it on the failure's way up: the first one's counts, which is the nearest.
+    void addlocation(const std::string& where);
 
     // Place and detail, and all three, in one line, as shown.
-    std::string told() const { return place.empty() ? detail : place + ": " + detail; }
-    std::string report() const { return std::string(kindname(kind)) + ": " + told(); }
+    std::string message() const { return location.empty() ? detail : location + ": " + detail; }
+    std::string report() const { return std::string(kindname(kind)) + ": " + message(); }
 
     const char* what() const noexcept override { return detail.c_str(); }
 
     failurekind kind;
-    std::string detail;  // what was found and what was expected
-    std::string place;   // where to mend it: file, line and field, or text box; empty where it is no place's fault
+    std::string detail;    // what was found and what was expected
+    std::string location;  // where to mend it: file, line and field, or text box; empty where it is no location's fault
 };
 
-// Runs step. An index outside a table was named by a figure of a data file, at place().
-template <class placing, class procedure>
-void tellmisses(placing place, procedure step) {
+// Runs step. An index outside a table was named by a figure of a data file, at location().
+template <class locating, class procedure>
+void locatesubscript(locating location, procedure step) {
     try {
         step();
     } catch (failure& f) {
-        if (f.kind == failurekind::subscript) f.tellplace(place());
+        if (f.kind == failurekind::subscript) f.addlocation(location());
         throw;
     }
 }

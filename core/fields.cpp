@@ -23,7 +23,7 @@ struct scanner {
     char next() const { return bytes[in.at]; }
 
     [[noreturn]] void pastend() const {
-        throw failure(failurekind::inputpastend, std::string("the file ends while looking for ") + what, in.place());
+        throw failure(failurekind::inputpastend, std::string("the file ends while looking for ") + what, in.location());
     }
     void skipblanks() {
         while (!atend() && isblank(next())) ++in.at;
@@ -95,14 +95,14 @@ struct scanner {
         return negative ? -number : number;
     }
     std::optional<double> takenumber() {
-        if (!plainway)
+        if (!noshortcuts)
             if (const auto whole = takewhole()) return whole;
         const std::string_view front = toblank();
         std::optional<double> number;
         try {
             number = strictnumber(front);
         } catch (const failure& beyond) {
-            throw failure(beyond.kind, beyond.detail + " (" + what + ")", in.place());
+            throw failure(beyond.kind, beyond.detail + " (" + what + ")", in.location());
         }
         if (number) {
             in.at += front.size();
@@ -114,13 +114,13 @@ struct scanner {
     // The field that begins here, its blanks skipped.
     value takevalue() {
         if (atend()) pastend();
-        const std::string origin = next() == '"' ? in.place() + " (" + what + ")" : std::string();
+        const std::string origin = next() == '"' ? in.location() + " (" + what + ")" : std::string();
         if (next() == '"') return value(takequoted(), origin);
         if (const auto number = takenumber()) return value(*number);
-        const std::string place = in.place() + " (" + what + ")";
+        const std::string location = in.location() + " (" + what + ")";
         const std::string_view text = tocommaorlineend();
         takeseparator();
-        return text.empty() ? value() : value(text, place);
+        return text.empty() ? value() : value(text, location);
     }
 };
 
@@ -156,7 +156,7 @@ int readlabel(int channel, const char* what) {
     if (label < -32768 || label > 32767)
         throw failure(failurekind::overflow,
                       plaintext(label) + " as " + s.what + ", a whole number -32768..32767 was expected",
-                      s.in.place(line, field));
+                      s.in.location(line, field));
     return static_cast<int>(label);
 }
 
@@ -185,17 +185,17 @@ void skiptofigure(int channel) { scanner(channelinput(channel), "a figure").skip
 
 std::string figureplace(const std::string& path, const std::string& key, int skipped) {
     constexpr int forreports = 0;  // a channel of its own
-    std::string place = path;
+    std::string location = path;
     try {
         openinput(forreports, path, "file of a report");
         findkey(forreports, key.c_str());
         for (; skipped > 0; --skipped) readvalue(forreports, key.c_str());
         skiptofigure(forreports);
-        place = channelinput(forreports).place() + " (" + key + ")";
+        location = channelinput(forreports).location() + " (" + key + ")";
     } catch (const failure&) {
     }
     closechannel(forreports);
-    return place;
+    return location;
 }
 
 }  // namespace tessaly

@@ -45,7 +45,8 @@ std::string figureplace(const std::string& path, const std::string& key, int ski
 // Runs step with a row of a section: an index outside a table is told with the place at which the row began.
 template <class procedure>
 void tellrow(int channel, int line, int field, std::string_view section, procedure step) {
-    tellmisses([&] { return channelinput(channel).place(line, field) + " (" + std::string(section) + ")"; }, step);
+    locatesubscript([&] { return channelinput(channel).location(line, field) + " (" + std::string(section) + ")"; },
+                    step);
 }
 
 }  // namespace tessaly

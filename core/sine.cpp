@@ -9,7 +9,7 @@ namespace tessaly {
 
 namespace {
 
-constexpr double mostangle = 1e9;  // radians; beyond, a double is too coarse for an angle to mean anything
+constexpr double maxangle = 1e9;  // radians; beyond, a double is too coarse for an angle to mean anything
 
 // A figure as the sum of two: low is what high leaves over.
 struct pair {
@@ -73,7 +73,7 @@ double sinebeyond(double angle, double quarters) {
 
 }  // namespace
 
-double sineof(double angle) { return std::abs(angle) < mostangle ? sinebeyond(angle, 0) : std::sin(angle); }
-double cosineof(double angle) { return std::abs(angle) < mostangle ? sinebeyond(angle, 1) : std::cos(angle); }
+double sineof(double angle) { return std::abs(angle) < maxangle ? sinebeyond(angle, 0) : std::sin(angle); }
+double cosineof(double angle) { return std::abs(angle) < maxangle ? sinebeyond(angle, 1) : std::cos(angle); }
 
 }  // namespace tessaly

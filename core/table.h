@@ -25,7 +25,7 @@ inline int indexof(const value& v, const char* tablename, int last) {
 
 // true: every shortcut gives way to the plain way that it stands for, this one and those of core/fields and
 // render/raster. Tests and benchmarks compare the two; the program never sets it.
-extern bool plainway;
+extern bool noshortcuts;
 
 [[noreturn]] void subscriptfailure(const char* tablename, double index, int last);
 
@@ -48,7 +48,7 @@ class tablebase {
 // Which indexes of a table were written, by pages of 64 elements: page p holds the indexes 64p to 64p + 63.
 class writtenpages {
   public:
-    static constexpr int pagesize = 64, mostpages = 128;
+    static constexpr int pagesize = 64, maxpages = 128;
 
     void mark(int index) {
         const std::uint64_t page = std::uint64_t(1) << (index / pagesize % 64);
@@ -63,7 +63,7 @@ class writtenpages {
     template <class procedure>
     void over(int end, procedure visit) const {
         for (std::size_t w = 0; w < words.size(); ++w)
-            for (std::uint64_t left = plainway ? ~std::uint64_t(0) : words[w]; left != 0; left &= left - 1) {
+            for (std::uint64_t left = noshortcuts ? ~std::uint64_t(0) : words[w]; left != 0; left &= left - 1) {
                 const int page = static_cast<int>(w) * 64 + std::countr_zero(left);
                 const int first = std::max(page * pagesize, 1), last = std::min(page * pagesize + pagesize - 1, end);
                 if (first > last) return;
@@ -73,7 +73,7 @@ class writtenpages {
 
   private:
     static std::size_t word(int index) { return static_cast<std::size_t>(index / pagesize / 64); }
-    std::array<std::uint64_t, mostpages / 64> words{};
+    std::array<std::uint64_t, maxpages / 64> words{};
 };
 
 // cleared: the last index that clear() puts to 0; nothing above it is ever cleared.
@@ -105,7 +105,7 @@ class table final : public tablebase {
     static constexpr int lastindex = last;
 
   private:
-    static_assert(cleared < writtenpages::pagesize * writtenpages::mostpages);
+    static_assert(cleared < writtenpages::pagesize * writtenpages::maxpages);
 
     std::size_t checked(int index) const {
         if (static_cast<unsigned>(index) > static_cast<unsigned>(last)) [[unlikely]]

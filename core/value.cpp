@@ -101,7 +101,7 @@ double value::converted() const {
     try {
         if (const auto number = strictnumber(held.text)) return *number;
     } catch (failure& beyond) {
-        beyond.tellplace(held.origin);
+        beyond.addlocation(held.origin);
         throw;
     }
     const std::string found = held.text.empty() ? "nothing" : '"' + excerpt(held.text) + '"';

@@ -14,7 +14,7 @@
 namespace tessaly {
 
 tablebase* tablebase::first = nullptr;
-bool plainway = false;
+bool noshortcuts = false;
 
 #define TABLE(name) name(#name)
 table<value, lastpoint, clearedpoints> TABLE(basex), TABLE(basey), TABLE(basez), TABLE(ptx), TABLE(pty), TABLE(ptz);
@@ -110,7 +110,7 @@ void resetworld() {
     cubecolour.clear();
 }
 
-void forgetworld() {
+void restartworld() {
     for (tablebase* t = tablebase::first; t != nullptr; t = t->next) t->forget();
     for (const scalar& s : scalars()) *s.held = value();
     for (double* d : {&planeseedx, &planeseedy, &planeseedz, &planecentrex, &planecentrey, &planecentrez}) *d = 0;

@@ -181,6 +181,6 @@ inline void setpoint(int i, const value& x, const value& y, const value& z) {
 void resetworld();
 
 // Puts every table and scalar of this header back to its state before the program started.
-void forgetworld();
+void restartworld();
 
 }  // namespace tessaly

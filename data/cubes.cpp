@@ -9,7 +9,7 @@
 #include "core/fields.h"
 #include "core/world.h"
 #include "data/elements.h"
-#include "data/transforms.h"
+#include "data/script.h"
 
 namespace tessaly {
 
@@ -20,7 +20,7 @@ enum axis : std::size_t { alongx, alongy, alongz };
 // The sections of one cube row each. Their cubes are numbered in hundreds, and each cube has ten points and quads.
 constexpr const char* rows[] = {
     "AUTOCUBE000:", "AUTOCUBE100:", "AUTOCUBE200:", "AUTOCUBE300:", "AUTOCUBE400:", "AUTOCUBE500:"};
-constexpr int singlesfirst = 600, mostsingles = 100, singlespoint = 6001;
+constexpr int singlesfirst = 600, maxsingles = 100, singlespoint = 6001;
 
 void readcuberow(axis stepped, int base, cubeslots& next) {
     cubecorners corner = readcorners();
@@ -84,7 +84,7 @@ void readcubesections() {
     findkey(1, "AUTOCUBE600:");
     closepair(8, 3);
     next.point = next.quad = singlespoint;
-    readcuberows(singlesfirst, mostsingles, next);
+    readcuberows(singlesfirst, maxsingles, next);
     closepair(9, 4);
     readcubeframing("AUTOFRAMING1:", framing1);
     readcubeframing("AUTOFRAMING2:", framing2);

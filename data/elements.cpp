@@ -7,8 +7,8 @@
 #include "core/failure.h"
 #include "core/fields.h"
 #include "core/world.h"
-#include "data/transforms.h"
-#include "data/turns.h"
+#include "data/pointtransforms.h"
+#include "data/script.h"
 #include "render/palette.h"
 #include "render/projector.h"
 
@@ -150,7 +150,7 @@ void readshape(const shapereader& r) {
     const bool opened = preopened == r.preopened;
     if (!opened) openinput(1, "datah\\" + datafile.text(), r.role);
     shapefile = channelinput(1).path;
-    tellmisses([] { return channelinput(1).place(); }, r.readsections);
+    locatesubscript([] { return channelinput(1).location(); }, r.readsections);
     if (opened) return;
     // A placemode that nothing sets leaves the file open on channel 1, so that the next element fails.
     if (!r.place()) return;
@@ -209,8 +209,8 @@ void expandcube(cubeslots& next, const cubecorners& opposite, const value& grade
     next.quad += 10;
 }
 
-void readcuberows(int firstcube, int mostrows, cubeslots& next) {
-    for (int c = firstcube; c < firstcube + mostrows; ++c) {
+void readcuberows(int firstcube, int maxrows, cubeslots& next) {
+    for (int c = firstcube; c < firstcube + maxrows; ++c) {
         const int label = readlabel(1, "the label of a cube row");
         const cubecorners corners = readcorners();
         cubegrade.set(c, readvalue(1, "the grade of a cube row"));

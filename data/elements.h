@@ -48,8 +48,8 @@ cubecorners readcorners();
 // Expands a cube into eight points, twelve lines and six faces.
 void expandcube(cubeslots& next, const cubecorners& opposite, const value& grade, const value& colour);
 
-// Reads rows of one cube each, up to the end row or mostrows of them, and expands them into the slots from next on.
+// Reads rows of one cube each, up to the end row or maxrows of them, and expands them into the slots from next on.
 // writes: cubegrade, cubecolour from firstcube on and what expandcube writes; fails: as readelements.
-void readcuberows(int firstcube, int mostrows, cubeslots& next);
+void readcuberows(int firstcube, int maxrows, cubeslots& next);
 
 }  // namespace tessaly

@@ -5,7 +5,7 @@
 
 #include "core/channels.h"
 #include "core/fields.h"
-#include "core/viewfigures.h"
+#include "core/viewvalues.h"
 #include "data/cubes.h"
 #include "data/elements.h"
 #include "render/redraw.h"
@@ -18,17 +18,17 @@ constexpr const char* presetkeys[] = {
     "HighZ(full)",  "HighZ(zoom)",  "FarX(full)",   "FarX(zoom)",   "FarY(full)",   "FarY(zoom)",
     "Perspective1", "Perspective2", "Perspective3", "Perspective4", "Perspective5", "Perspective6",
 };
-constexpr int viewvalues = std::size(viewfigures);
+constexpr int viewvaluecount = std::size(viewvalues);
 
 void readdefaultview() {
     findkey(1, "DEFAULTVIEW:");
-    for (const viewfigure& f : viewfigures) f.figure = readvalue(1, "a figure of DEFAULTVIEW:");
+    for (const viewvalue& f : viewvalues) f.figure = readvalue(1, "a figure of DEFAULTVIEW:");
 }
 
 // A preset's eye is kept relative to its focus.
 void readpreset(const char* key, int first) {
     findkey(1, key);
-    for (int i = 0; i < viewvalues; ++i) viewpreset.set(first + i, readvalue(1, "a figure of a view preset"));
+    for (int i = 0; i < viewvaluecount; ++i) viewpreset.set(first + i, readvalue(1, "a figure of a view preset"));
     for (int i = 0; i < 3; ++i) viewpreset.set(first + i, viewpreset[first + i] - viewpreset[first + 3 + i]);
 }
 
@@ -43,7 +43,7 @@ void readstartfile() {
     int first = 1;
     for (const char* key : presetkeys) {
         readpreset(key, first);
-        first += viewvalues;
+        first += viewvaluecount;
     }
     palname = readname("DEFAULTPAL:");
     findkey(1, "BACKGROUNDCOLOR:");

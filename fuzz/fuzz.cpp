@@ -10,7 +10,7 @@
 #include "core/channels.h"
 #include "core/controls.h"
 #include "core/failure.h"
-#include "tools/play_commands.h"
+#include "player/commands.h"
 #include "tools/workingfolder.h"
 #include "windows/handlers.h"
 
@@ -127,13 +127,13 @@ std::vector<std::string> allways() {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     static const std::vector<std::string> ways = allways();
     // Work, not time by the clock on the wall, which a busy machine lets run on.
-    constexpr std::clock_t mostwork = 2 * CLOCKS_PER_SEC;
+    constexpr std::clock_t maxwork = 2 * CLOCKS_PER_SEC;
     const std::clock_t before = std::clock();
     try {
         startanew();
         play(ways[size % ways.size()], std::string(bytes, bytes + size));
     } catch (const failure&) {
     }
-    if (std::clock() - before > mostwork) throw std::runtime_error("an input was more than 2 s of work");
+    if (std::clock() - before > maxwork) throw std::runtime_error("an input was more than 2 s of work");
     return 0;
 }

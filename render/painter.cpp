@@ -14,7 +14,7 @@ namespace tessaly {
 
 namespace {
 
-constexpr int mostpainted = 100;  // nearest quads that are painted
+constexpr int maxpainted = 100;  // nearest quads that are painted
 
 bool isroof(const value& filename) { return filename.text().substr(0, 4) == "roof"; }
 
@@ -28,7 +28,7 @@ void fillface(int q) {
     const value &c1 = quad1[q], &c2 = quad2[q], &c3 = quad3[q], &c4 = quad4[q];
     const facecorners f{screenx[c1], screeny[c1], screenx[c2], screeny[c2],
                         screenx[c3], screeny[c3], screenx[c4], screeny[c4]};
-    viewportsurface->web(f, divisions, palettecolour(facecolour));
+    viewportsurface->fillface(f, divisions, palettecolour(facecolour));
 }
 
 // One rail of a framing direction: count points from the rail's start, at s / count of its length, and the line ends
@@ -53,8 +53,8 @@ const direction directions[] = {{1, framing1, quad2, quad3}, {2, framing2, quad3
 // The scratch points have no saved positions and no base of their own: a near-side walk starts from what the tables
 // hold there, and the restore overwrites them.
 void framelines() {
-    constexpr int mostlines = (lastpoint - framingscratch + 1) / 2;
-    const int count = indexof(framen, "framing", mostlines);
+    constexpr int maxlines = (lastpoint - framingscratch + 1) / 2;
+    const int count = indexof(framen, "framing", maxlines);
     groupfirst.set(framinggroup, framingscratch);
     grouplast.set(framinggroup, framingscratch - 1 + count);
     buildrail(railstart1, railend1, framingscratch, count, lineend1);
@@ -72,7 +72,7 @@ void framedirection(int q, const direction& d) {
     const colour c = palettecolour(framecolour);
     viewportsurface->line(static_cast<float>(screenx[railend2]), static_cast<float>(screeny[railend2]),
                           static_cast<float>(screenx[railend1]), static_cast<float>(screeny[railend1]), c);
-    tellmisses([&] { return placeofframing(q, d.number); }, framelines);
+    locatesubscript([&] { return placeofframing(q, d.number); }, framelines);
 }
 
 void drawframing(int q) {
@@ -97,10 +97,10 @@ void paintface(int q) {
 void paintsolids() {
     orderquads();
     divisions = choosedivisions();
-    for (int i = mostpainted; i >= 1; --i) {
+    for (int i = maxpainted; i >= 1; --i) {
         if (emptyquad(i)) continue;  // the slot at i itself: an element's quads fill the table from 1 upward
         const int q = indexof(quadorder[i], "quadorder", lastquad);
-        tellmisses([q] { return placeofcolour(q); }, [q] { paintface(q); });
+        locatesubscript([q] { return placeofcolour(q); }, [q] { paintface(q); });
     }
 }
 

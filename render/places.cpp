@@ -20,35 +20,35 @@ bool ofcubes() {
     return name.starts_with("datah\\ax") || name.starts_with("datah\\ay") || name.starts_with("datah\\az");
 }
 
-std::string place(const std::string& key, int skipped) { return figureplace(shapefile.text(), key, skipped); }
+std::string location(const std::string& key, int skipped) { return figureplace(shapefile.text(), key, skipped); }
 
 // A cube's face: the row of its cube, and of that the last figure, which is its colour.
 std::string placeofcubecolour(int face) {
     constexpr int facesofcube = 10, facesofsection = 1000, cubefields = 9, rowfields = 10;
     const int section = (face - 1) / facesofsection;
-    if (ofcubes() && section < 6) return place("AUTOCUBE" + std::to_string(section) + "00:", rowfields - 1);
+    if (ofcubes() && section < 6) return location("AUTOCUBE" + std::to_string(section) + "00:", rowfields - 1);
     const bool lastsection = face > 6 * facesofsection;
     const int row = (face - 1 - (lastsection ? 6 : 4) * facesofsection) / facesofcube;
-    return place(lastsection ? "AUTOCUBE600:" : "AUTOCUBE400:", row * cubefields + cubefields - 1);
+    return location(lastsection ? "AUTOCUBE600:" : "AUTOCUBE400:", row * cubefields + cubefields - 1);
 }
 
 }  // namespace
 
 std::string placeofend(int group, int row, int end) {
-    return place("LINEG" + std::to_string(group) + ":", 2 * (row - 1) + end - 1);
+    return location("LINEG" + std::to_string(group) + ":", 2 * (row - 1) + end - 1);
 }
 
-std::string placeofwirecolour(int group) { return place("WIRECOLORS:", group - (ofcubes() ? 6 : 1)); }
+std::string placeofwirecolour(int group) { return location("WIRECOLORS:", group - (ofcubes() ? 6 : 1)); }
 
 std::string placeofcorner(int face) {
     const value corners[] = {quad1[face], quad3[face], quad2[face], quad4[face]};  // in the order of a row
     const auto nopoint = [](const value& corner) { return !(corner >= -0.5 && corner <= lastpoint + 0.5); };
     const auto found = std::find_if(std::begin(corners), std::end(corners), nopoint);
-    return place("AUTOPLANE:", 7 * (face - 1) + 1 + static_cast<int>(found - corners));
+    return location("AUTOPLANE:", 7 * (face - 1) + 1 + static_cast<int>(found - corners));
 }
 
 std::string placeofcolour(int face) {
-    return ofcubes() || face > 4000 ? placeofcubecolour(face) : place("AUTOPLANE:", 7 * (face - 1) + 6);
+    return ofcubes() || face > 4000 ? placeofcubecolour(face) : location("AUTOPLANE:", 7 * (face - 1) + 6);
 }
 
 // The last row that names the face: rows of face and count, in an axis-cube file of first face, last face and count.
@@ -68,7 +68,7 @@ std::string placeofframing(int face, int direction) {
     } catch (const failure&) {  // the file is another one by now
     }
     closechannel(0);
-    return place(key, fields * found - 1);
+    return location(key, fields * found - 1);
 }
 
 }  // namespace tessaly

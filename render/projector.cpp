@@ -4,7 +4,7 @@
 #include "render/projector.h"
 
 #include "core/failure.h"
-#include "core/viewfigures.h"
+#include "core/viewvalues.h"
 #include "render/places.h"
 #include "render/surface.h"
 
@@ -145,9 +145,9 @@ void writeviewback() {
     sumabsoluteeye();
     magshown = mag * 0.1;
     writeeyeboxes(perpabsx, perpabsy, perpabsz, std::string::npos);
-    writeboxes(focusfigures, std::string::npos);
+    writeboxes(focusvalues, std::string::npos);
     magtxt.text = boxtext(magshown);
-    writeboxes(shiftfigures, 5);
+    writeboxes(shiftvalues, 5);
 }
 
 }  // namespace
@@ -233,8 +233,8 @@ void drawgroups() {
         curwirecolour = wirecolour[group];
         const int first = indexof(groupfirst[group], "groupfirst", lastline),
                   last = indexof(grouplast[group], "grouplast", lastline);
-        tellmisses([group] { return placeofwirecolour(group); },
-                   [first, last] { drawlines(first, last, curwirecolour); });
+        locatesubscript([group] { return placeofwirecolour(group); },
+                        [first, last] { drawlines(first, last, curwirecolour); });
     }
 }
 
@@ -273,7 +273,7 @@ void nudgeview(bool (*same)(const value& focus, const value& eye)) {
 
 void rebaseonfocus() {
     const double fx = focusx, fy = focusy, fz = focusz;
-    overblocks([&](int i) {
+    foreachpointinuse([&](int i) {
         ptx.set(i, ptx[i] - fx);
         pty.set(i, pty[i] - fy);
         ptz.set(i, ptz[i] - fz);

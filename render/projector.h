@@ -27,7 +27,7 @@ struct pointblock {
 };
 // Calls step(i) for every point of the blocks of drawset, in ascending order within each block.
 template <class procedure>
-void overblocks(procedure step);
+void foreachpointinuse(procedure step);
 int blocksinuse(pointblock (&blocks)[4]);
 
 // Sets the reference point, the plane's seed and centre from the eye; with refready 0 projects the reference point.
@@ -57,7 +57,7 @@ void nudgeview(bool (*same)(const value& focus, const value& eye));
 void rebaseonfocus();
 
 template <class procedure>
-void overblocks(procedure step) {
+void foreachpointinuse(procedure step) {
     pointblock blocks[4];
     const int count = blocksinuse(blocks);
     for (int b = 0; b < count; ++b)

@@ -38,7 +38,7 @@ void measurecorners(int i) {
 void measurequad(int i) {
     // The fourth corner is slot 0's, not slot i's: three corners decide whether a quad counts as empty here.
     if (quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[0] == 0) return;
-    tellmisses([i] { return placeofcorner(i); }, [i] { measurecorners(i); });
+    locatesubscript([i] { return placeofcorner(i); }, [i] { measurecorners(i); });
 }
 
 // The slots that a sort has to look at, ascending.
@@ -58,7 +58,7 @@ std::vector<int> writtenslots() {
 void orderquads() {
     std::vector<int> slots = writtenslots();
     for (const int i : slots) measurequad(i);
-    if (!plainway) std::erase_if(slots, emptyquad);
+    if (!noshortcuts) std::erase_if(slots, emptyquad);
     for (const int i : slots) {
         if (emptyquad(i)) continue;
         double best = farthest;

@@ -1,9 +1,9 @@
-// The image in memory. A line's pixels are worked out in whole numbers only, see render/linepart.
+// The image in memory. A line's pixels are worked out in whole numbers only, see render/lineclip.
 
 #include "render/raster.h"
 
 #include "core/table.h"
-#include "render/linepart.h"
+#include "render/lineclip.h"
 
 #include <algorithm>
 #include <array>
@@ -26,8 +26,8 @@ std::uint32_t pixelof(colour c) {
 // The lines of a sweep are rounded a block at a time, coordinate by coordinate, so that the compiler works on several
 // at once; in front of a block stands the last line of the one before.
 constexpr std::size_t block = 8;
-constexpr int mostdivisions = 4096;     // lines of a sweep
-constexpr double mostpixels = 1 << 26;  // of its corners
+constexpr int maxdivisions = 4096;     // lines of a sweep
+constexpr double maxpixels = 1 << 26;  // of its corners
 using pixelblock = std::array<int, block + 1>;
 
 // t / n for t = 0..n, and on to the end of the last block.
@@ -43,9 +43,9 @@ const double* sharesof(int n) {
 }
 
 // Ends at their shares of an edge, as nearestpixel would give them. The bias makes every sum positive, so that cutting
-// it rounds down; up to mostpixels the sum is exact wherever the half matters.
+// it rounds down; up to maxpixels the sum is exact wherever the half matters.
 void roundends(double from, double to, const double* shares, pixelblock& pixels) {
-    constexpr double bias = 2 * mostpixels;
+    constexpr double bias = 2 * maxpixels;
     const double across = to - from;
     pixels[0] = pixels[block];
     for (std::size_t i = 0; i < block; ++i) {
@@ -56,7 +56,7 @@ void roundends(double from, double to, const double* shares, pixelblock& pixels)
 
 // The lines of a sweep in whole pixels; one that repeats the one before is left out. The next call overwrites them.
 std::span<const pixelline> distinctlines(const facecorners& f, int n) {
-    static std::array<pixelline, mostdivisions + 2 * block> lines;
+    static std::array<pixelline, maxdivisions + 2 * block> lines;
     const double* const shares = sharesof(n);
     pixelblock x1{}, y1{}, x2{}, y2{};
     std::size_t found = 0;
@@ -107,12 +107,12 @@ void raster::line(float x1, float y1, float x2, float y2, colour c) {
         paintpart(part, image.pixels.data(), image.width, pixelof(c));
 }
 
-void raster::sweep(const facecorners& f, int n, colour c) {
+void raster::drawbetween(const facecorners& f, int n, colour c) {
     const double corners[] = {f.x1, f.y1, f.x2, f.y2, f.x3, f.y3, f.x4, f.y4};
     // A corner that is no number is not near either.
-    const auto isnear = [](double at) { return std::abs(at) <= mostpixels; };
-    if (plainway || n > mostdivisions || !std::all_of(std::begin(corners), std::end(corners), isnear))
-        return surface::sweep(f, n, c);
+    const auto isnear = [](double at) { return std::abs(at) <= maxpixels; };
+    if (noshortcuts || n > maxdivisions || !std::all_of(std::begin(corners), std::end(corners), isnear))
+        return surface::drawbetween(f, n, c);
     const std::uint32_t pixel = pixelof(c);
     linepart part;
     for (const pixelline& l : distinctlines(f, n))

@@ -16,7 +16,7 @@ class raster : public surface {
     raster(int width, int height);  // white
 
     void line(float x1, float y1, float x2, float y2, colour c) override;
-    void sweep(const facecorners& f, int n, colour c) override;  // no line twice in a row
+    void drawbetween(const facecorners& f, int n, colour c) override;  // no line twice in a row
     void save(const std::string& path) override;
     void setpicture(const std::string& path) override;
 

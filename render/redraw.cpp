@@ -14,11 +14,11 @@ constexpr int rightmost = 1450, lowest = 1010;  // of a clear: more than the sur
 
 }  // namespace
 
-void clearpicture() { viewportsurface->wash(1, rightmost, 1, lowest, backgroundcolour()); }
+void clearpicture() { viewportsurface->fillrows(1, rightmost, 1, lowest, backgroundcolour()); }
 
 void replot() {
     // From 2 on, unlike every other clear: row 1 and column 1 keep what was drawn there. It stays so.
-    viewportsurface->wash(2, rightmost, 2, lowest, backgroundcolour());
+    viewportsurface->fillrows(2, rightmost, 2, lowest, backgroundcolour());
     setplane();
     referencepass();
     drawgroups();
@@ -32,7 +32,7 @@ void rebasepoints() {
 
 void shiftz() {
     const double step = focusstep;
-    overblocks([step](int i) {
+    foreachpointinuse([step](int i) {
         ptz.set(i, ptz[i] - step);
         savez.set(i, ptz[i]);
     });
@@ -47,7 +47,7 @@ void settle() {
 }
 
 void restorepoints() {
-    overblocks([](int i) { setpoint(i, basex[i], basey[i], basez[i]); });
+    foreachpointinuse([](int i) { setpoint(i, basex[i], basey[i], basez[i]); });
 }
 
 }  // namespace tessaly

@@ -7,7 +7,7 @@ namespace tessaly {
 surface* viewportsurface = nullptr;
 surface* progresssurface = nullptr;
 
-void surface::sweep(const facecorners& f, int n, colour c) {
+void surface::drawbetween(const facecorners& f, int n, colour c) {
     for (int t = 0; t <= n; ++t) {
         const double share = static_cast<double>(t) / n;
         line(static_cast<float>(f.x1 + share * (f.x2 - f.x1)), static_cast<float>(f.y1 + share * (f.y2 - f.y1)),
@@ -15,14 +15,14 @@ void surface::sweep(const facecorners& f, int n, colour c) {
     }
 }
 
-void surface::wash(int x1, int x2, int y1, int y2, colour c) {
+void surface::fillrows(int x1, int x2, int y1, int y2, colour c) {
     for (int y = y1; y <= y2; ++y)
         line(static_cast<float>(x1), static_cast<float>(y), static_cast<float>(x2), static_cast<float>(y), c);
 }
 
-void surface::web(const facecorners& f, int n, colour c) {
-    sweep(f, n, c);
-    sweep({f.x1, f.y1, f.x3, f.y3, f.x2, f.y2, f.x4, f.y4}, n, c);
+void surface::fillface(const facecorners& f, int n, colour c) {
+    drawbetween(f, n, c);
+    drawbetween({f.x1, f.y1, f.x3, f.y3, f.x2, f.y2, f.x4, f.y4}, n, c);
 }
 
 }  // namespace tessaly

@@ -21,7 +21,7 @@ class surface {
     virtual void line(float x1, float y1, float x2, float y2, colour c) = 0;
 
     // The lines between edge 1-2 and edge 3-4 at t/n for t = 0..n.
-    virtual void sweep(const facecorners& f, int n, colour c);
+    virtual void drawbetween(const facecorners& f, int n, colour c);
 
     // Saves the image as an uncompressed bitmap file; path as users write it. Fails with file access error.
     virtual void save(const std::string& path) = 0;
@@ -34,10 +34,10 @@ class surface {
     virtual void flush() {}
 
     // Horizontal lines from x1 to x2, one for each y from y1 to y2 ascending.
-    void wash(int x1, int x2, int y1, int y2, colour c);
+    void fillrows(int x1, int x2, int y1, int y2, colour c);
 
     // The fill of a face: a sweep between edges 1-2 and 3-4, then one between edges 1-3 and 2-4.
-    void web(const facecorners& f, int n, colour c);
+    void fillface(const facecorners& f, int n, colour c);
 };
 
 // The building's surface and the progress strip of the solid replays, in pixels. Set by the program.

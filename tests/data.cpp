@@ -127,7 +127,7 @@ TEST(shippeddata, elementsStandOnTheirPlacesAndAreRecordedThere) {
     session s;
     s.start();
     for (const char* button : {"wiresolidbtn", "postbeambtn", "roofbtn", "orange1btn"}) s.click(button);
-    for (const position& p : allpositions()) {
+    for (const buttonposition& p : allbuttonpositions()) {
         s.click(positionname(p));
         EXPECT_EQ(extentfrom(p.x, p.y), extents.at(p.of->word)) << positionname(p);
     }

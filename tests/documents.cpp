@@ -44,8 +44,8 @@ TEST(documents, everyPageOfTheHelpFitsItsControl) {
     constexpr int cellwidth = 8, cellheight = 16, rim = 16;  // pixels of a fixed-pitch character, and around the page
     for (const helppage& page : helppages) {
         SCOPED_TRACE(page.on->name);
-        EXPECT_LE(page.columns * cellwidth, page.on->place.width / twipsperpixel - rim);
-        EXPECT_LE(helplines * cellheight, page.on->place.height / twipsperpixel - rim);
+        EXPECT_LE(page.columns * cellwidth, page.on->bounds.width / twipsperpixel - rim);
+        EXPECT_LE(helplines * cellheight, page.on->bounds.height / twipsperpixel - rim);
         std::istringstream text(page.text);
         int lines = 0;
         for (std::string line; std::getline(text, line); ++lines) {

@@ -1,6 +1,6 @@
 // What the sessions of tests/sessions do not carry: files of thousands of records, files that change without a trace,
 // names and bytes that are no UTF-8, and the same mistake in each of the view's boxes.
-#include "core/viewfigures.h"
+#include "core/viewvalues.h"
 #include "tests/session.h"
 
 using namespace tessaly;
@@ -70,7 +70,7 @@ TEST_F(replays, aFileIsReadAnewWhateverTheSystemTellsOfIt) {
 }
 
 TEST(set, tellsTheBoxWhoseTextIsNoNumber) {
-    for (const viewfigure& f : viewfigures) {
+    for (const viewvalue& f : viewvalues) {
         session s;
         s.start();
         s.click("shopfm");

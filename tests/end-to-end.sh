@@ -59,7 +59,7 @@ on() {
     workingfolder "$scratch/$desktop"
     startprogram "$scratch/$desktop" env "${@:5}" "$build/tessaly"
     if [ "$look" = spoken ]; then
-        "$root/tests/spoken.py" "$script" "$build/spoken.txt" || fail "the interface; its controls are listed in $build/spoken.txt"
+        "$root/tests/accessibility.py" "$script" "$build/spoken.txt" || fail "the interface; its controls are listed in $build/spoken.txt"
     else
         playbymouse <"$script"
     fi

@@ -73,7 +73,7 @@ TEST(fields, rulesAtTheirEdges) {
     };
     session s(ownfolder);
     for (const bool plain : {true, false}) {
-        plainway = plain;
+        noshortcuts = plain;
         for (const auto& c : cases) EXPECT_EQ(readall(c.bytes, c.reads), c.expected) << c.bytes << " by " << c.reads;
     }
 }

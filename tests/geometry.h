@@ -3,7 +3,7 @@
 #pragma once
 
 #include "core/world.h"
-#include "tests/dice.h"
+#include "tests/random.h"
 
 #include <array>
 #include <cmath>

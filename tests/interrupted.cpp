@@ -52,7 +52,7 @@ TEST(interrupted, aDesignOutlivesTheProgramsDeathAtAnyMoment) {
     const session s;
     std::string script = "click startprogrambtn\nclick wiresolidbtn\nclick postbeambtn\n", all, walls;
     int clicks = 0;
-    for (const position& p : allpositions()) {
+    for (const buttonposition& p : allbuttonpositions()) {
         if (p.of->on != &layoutgirder) continue;
         script += "click " + positionname(p) + "\nsay " + std::to_string(++clicks) + '\n';
         if (clicks % 50 == 0)

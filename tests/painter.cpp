@@ -1,7 +1,7 @@
 // The solid painter: random faces against their geometry, line for line, and faces that the sort treats on its own.
 #include "render/painter.h"
 
-#include "data/turns.h"
+#include "data/pointtransforms.h"
 #include "render/projector.h"
 #include "tests/geometry.h"
 #include "tests/session.h"

@@ -1,7 +1,7 @@
 // The projector: random scenes against the geometry of its picture plane, and what no random scene meets.
 #include "render/projector.h"
 
-#include "data/turns.h"
+#include "data/pointtransforms.h"
 #include "tests/geometry.h"
 #include "tests/session.h"
 

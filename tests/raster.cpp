@@ -1,7 +1,7 @@
 // The image's lines against a plain reference, which asks of each column (or row) for the nearest pixel and nothing
 // else.
 #include "render/raster.h"
-#include "tests/dice.h"
+#include "tests/random.h"
 
 #include <algorithm>
 #include <gtest/gtest.h>
@@ -87,6 +87,6 @@ TEST(raster, linesFromFarAway) {
 // The first line of a web has none before it: it is drawn even where all figures are 0.
 TEST(raster, aWebMayBeThePixelInTheCorner) {
     raster r(9, 9);
-    r.web({}, 7, {255, 0, 0});
+    r.fillface({}, 7, {255, 0, 0});
     EXPECT_EQ(r.at(0, 0), (colour{255, 0, 0}));
 }

@@ -7,8 +7,8 @@
 #include "core/failure.h"
 #include "core/value.h"
 #include "core/world.h"
+#include "player/commands.h"
 #include "render/surface.h"
-#include "tools/play_commands.h"
 #include "tools/workingfolder.h"
 #include "windows/handlers.h"
 
@@ -54,7 +54,7 @@ class session {
         progresssurface = &progress;
         startprogram();
     }
-    ~session() { forgetchannels(); }
+    ~session() { resetchannels(); }
     session(const session&) = delete;
 
     // ---- what a user does; what no user could reach is an error of the test ----

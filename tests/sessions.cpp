@@ -1,9 +1,9 @@
 // Whole sessions: each script of tests/sessions is played in a scratch folder, over the shipped data and the files of
 // the folder of its name, and what each step changed is held against the record that is kept beside it.
 // tools/make-sessions.sh writes the records anew; a change of theirs is to be read like a change of the program.
+#include "picturefiles/picturefile.h"
+#include "player/commands.h"
 #include "tests/session.h"
-#include "tools/play_commands.h"
-#include "windows/qt/picturefiles/picturefile.h"
 
 #include <algorithm>
 

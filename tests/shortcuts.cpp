@@ -1,11 +1,11 @@
 // Every shortcut against the plain way that it stands for: the same random elements are read and painted both ways, and
 // after each all tables, all scalars, all pixels and the report of a failure are the same.
 #include "data/elements.h"
+#include "player/checksum.h"
 #include "render/painter.h"
 #include "render/raster.h"
-#include "tests/dice.h"
+#include "tests/random.h"
 #include "tests/session.h"
-#include "tools/checksum.h"
 
 using namespace tessaly;
 
@@ -108,11 +108,11 @@ TEST(shortcuts, elementsLeaveTheSameTablesAndPixels) {
             session s(ownfolder);
             raster image(300, 200);
             viewportsurface = &image;
-            plainway = plain;
+            noshortcuts = plain;
             dice d(seed);
             for (int step = 0; step < 24; ++step) {
                 const auto f = failureof([&] { drawsome(d); });
-                if (f) forgetchannels();
+                if (f) resetchannels();
                 seen[plain].push_back(thismoment(image) + (f ? f->report() : ""));
             }
         }

@@ -1,9 +1,9 @@
 // Captures in the real windows: the files that other programs open, and pictures that are not as they should be.
 
 #include "core/failure.h"
+#include "picturefiles/rasterview.h"
 #include "tests/windowsession.h"
 #include "windows/qt/canvas.h"
-#include "windows/qt/picturefiles/rasterview.h"
 
 #include <gmock/gmock.h>
 

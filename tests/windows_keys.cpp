@@ -1,6 +1,6 @@
 // The keyboard in the real windows: where the focus goes, and what Return, Escape, Tab, the arrows, F1 and F5 do.
 
-#include "core/viewfigures.h"
+#include "core/viewvalues.h"
 #include "core/world.h"
 #include "tests/windowsession.h"
 
@@ -60,14 +60,14 @@ TEST_F(windowsession, arrowsWalkThePlans) {
         fastchange Return focusx0y0 Up =perpxm1800y0)");
     for (const window* plan : {&layoutgirder, &layoutpanels, &layoutroof, &easyviews}) {
         std::set<const QWidget*> reached;
-        std::vector<QWidget*> ways{faceof(*plan)->plan()};
+        std::vector<QWidget*> ways{frameof(*plan)->plan()};
         while (!ways.empty()) {
             QWidget* const from = ways.back();
             ways.pop_back();
             for (const auto key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
                 from->setFocus();
                 QTest::keyClick(from, key);
-                if (reached.insert(faceof(*plan)->focusWidget()).second) ways.push_back(faceof(*plan)->focusWidget());
+                if (reached.insert(frameof(*plan)->focusWidget()).second) ways.push_back(frameof(*plan)->focusWidget());
             }
         }
         for (const control* c : plan->controls)
@@ -88,7 +88,7 @@ TEST_F(windowsession, aBuildingByTheKeyboardAlone) {
     keys("fastchange Return perpx0y1800 Return F5 =perpx0y1800");
     EXPECT_EQ(perptxtx.text + " " + perptxty.text, "0.1 1800");
     keys("F1 =instructions");
-    const face& help = *faceof(instructions);  // larger than the screen
+    const windowframe& help = *frameof(instructions);  // larger than the screen
     EXPECT_LE(help.height(), help.screen()->availableSize().height());
     EXPECT_GT(help.verticalScrollBar()->maximum(), 0);
     EXPECT_EQ(session::file("designs/girders1.txt"),

@@ -15,8 +15,8 @@ namespace {
 constexpr int leastpixels = 10;  // of letters that can be read
 
 bool standsatitsplace(const control& c, const QRect& seen) {
-    const QRect place(c.place.left / twipsperpixel, c.place.top / twipsperpixel, c.place.width / twipsperpixel,
-                      c.place.height / twipsperpixel);
+    const QRect place(c.bounds.left / twipsperpixel, c.bounds.top / twipsperpixel, c.bounds.width / twipsperpixel,
+                      c.bounds.height / twipsperpixel);
     return place.adjusted(-1, -1, 1, 1).contains(seen) && seen.adjusted(-1, -1, 1, 1).contains(place);
 }
 
@@ -53,7 +53,7 @@ TEST_F(windowsession, controlsStandAtTheirPlacesAndAreSeenWhole) {
             EXPECT_EQ(widget.toolTip().toStdString(), c->tooltip);
             if (c->kind == controlkind::frame) continue;
             EXPECT_FALSE(widget.accessibleName().isEmpty());  // what a screen reader says
-            EXPECT_TRUE(c->spoken.empty() || widget.accessibleName().toStdString() == c->spoken);
+            EXPECT_TRUE(c->accessiblename.empty() || widget.accessibleName().toStdString() == c->accessiblename);
             for (const control* other : w->controls) EXPECT_FALSE(other != c && liesover(*c, *other)) << other->name;
         }
     EXPECT_EQ(widgetof(viewport)->geometry(), QRect(120, 0, 897, 581));

@@ -77,7 +77,7 @@ class randomuser : public windowsession {
         script += "click " + c->name + '\n';
         QWidget* const widget = widgetof(*c);
         if (oneof(2) == 0) return event(c, [&] { QTest::mouseClick(widget, Qt::LeftButton); });
-        if (c == &cventerbtn) return event(nullptr, [&] { QTest::keyClick(faceof(anywindow()), Qt::Key_F5); });
+        if (c == &cventerbtn) return event(nullptr, [&] { QTest::keyClick(frameof(anywindow()), Qt::Key_F5); });
         event(c, [&] {
             widget->setFocus(Qt::TabFocusReason);
             QTest::keyClick(widget, Qt::Key_Return);
@@ -129,7 +129,7 @@ class randomuser : public windowsession {
         const window& w = anywindow();
         if (&w == &vistaplan) return;
         script += std::string("close ") + w.name + '\n';
-        event(nullptr, [&] { faceof(w)->close(); });
+        event(nullptr, [&] { frameof(w)->close(); });
     }
 
     // What the user does, and what must hold after it.
@@ -140,8 +140,8 @@ class randomuser : public windowsession {
         run();
         EXPECT_TRUE(!used || !used->run || usedcontrol == used) << "nothing came of " << used->name;
         for (const window* w : allwindows()) {
-            if (!faceof(*w)) continue;
-            EXPECT_EQ(faceof(*w)->isVisible(), w->shown) << w->name;
+            if (!frameof(*w)) continue;
+            EXPECT_EQ(frameof(*w)->isVisible(), w->shown) << w->name;
             for (const control* c : w->controls) expectsame(*c, *widgetof(*c));
             if (report.empty() && w->shown) expectfocus(*w, used, before[w]);
         }

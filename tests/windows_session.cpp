@@ -41,13 +41,13 @@ TEST_F(windowsession, theProgressStripMovesWhileThePictureWaits) {
 }
 
 TEST_F(windowsession, endsWithStatus0WhereTheUserWishesAndWith1AfterAReport) {
-    EXPECT_EQ(faceof(layoutgirder), nullptr);  // a window is made on first use
-    EXPECT_TRUE(faceof(vistaplan)->windowState() & Qt::WindowMaximized);
+    EXPECT_EQ(frameof(layoutgirder), nullptr);  // a window is made on first use
+    EXPECT_TRUE(frameof(vistaplan)->windowState() & Qt::WindowMaximized);
     QTimer::singleShot(0, [] { click(exitbtn); });
     EXPECT_EQ(QApplication::exec(), 0);
-    EXPECT_FALSE(faceof(vistaplan)->isVisible());
+    EXPECT_FALSE(frameof(vistaplan)->isVisible());
     start();
-    QTimer::singleShot(0, [] { faceof(vistaplan)->close(); });
+    QTimer::singleShot(0, [] { frameof(vistaplan)->close(); });
     EXPECT_EQ(QApplication::exec(), 0);
     start();
     click(postbeambtn);

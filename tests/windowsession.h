@@ -1,11 +1,11 @@
 // The real windows on a screen that nobody sees, over a scratch working folder, used by mouse and keyboard.
 #pragma once
 
+#include "picturefiles/picturefile.h"
 #include "tests/session.h"
 #include "windows/qt/binding.h"
-#include "windows/qt/dress.h"
-#include "windows/qt/look.h"
-#include "windows/qt/picturefiles/picturefile.h"
+#include "windows/qt/decoration.h"
+#include "windows/qt/style.h"
 
 #include <QApplication>
 #include <QKeySequence>
@@ -61,7 +61,7 @@ class windowsession : public testing::Test {
         QTest::mouseClick(widgetof(c), Qt::LeftButton);
     }
     static void start() {
-        openwindows(dresswindow);
+        openwindows(decoratewindow);
         click(startprogrambtn);
     }
 
@@ -78,7 +78,7 @@ class windowsession : public testing::Test {
             if (const auto key = QKeySequence(word.c_str())[0].key(); key != Qt::Key_unknown)
                 press(key);
             else if (word.front() == '"')
-                QTest::keyClicks(faceof(*has)->focusWidget(), word.substr(1, word.size() - 2).c_str());
+                QTest::keyClicks(frameof(*has)->focusWidget(), word.substr(1, word.size() - 2).c_str());
             else
                 look(word.front(), word.find_first_of("=-") == 0 ? word.substr(1) : word);
         }
@@ -89,8 +89,8 @@ class windowsession : public testing::Test {
 
   private:
     void press(Qt::Key key) {
-        QTest::keyClick(faceof(*has)->focusWidget(), key);
-        const auto* line = qobject_cast<QLineEdit*>(faceof(*has)->focusWidget());
+        QTest::keyClick(frameof(*has)->focusWidget(), key);
+        const auto* line = qobject_cast<QLineEdit*>(frameof(*has)->focusWidget());
         EXPECT_TRUE(key != Qt::Key_Tab || !line || line->selectedText() == line->text());  // to be typed over
     }
 
@@ -99,15 +99,16 @@ class windowsession : public testing::Test {
         const window* const w = c ? c->in : findwindow(name);
         ASSERT_TRUE(w) << "no control and no window";
         if (mark == '-') {
-            EXPECT_FALSE(c ? widgetof(*c)->isVisible() : faceof(*w)->isVisible());
+            EXPECT_FALSE(c ? widgetof(*c)->isVisible() : frameof(*w)->isVisible());
             return;
         }
         has = w;
-        faceof(*w)->activateWindow();
-        ASSERT_TRUE(QTest::qWaitFor([w] { return QApplication::activeWindow() == faceof(*w); }));
+        frameof(*w)->activateWindow();
+        ASSERT_TRUE(QTest::qWaitFor([w] { return QApplication::activeWindow() == frameof(*w); }));
         for (int tabs = 0; mark != '=' && focusedcontrol(*w) != c && tabs < 400; ++tabs) press(Qt::Key_Tab);
-        const QWidget* const focused = faceof(*w)->focusWidget();
-        EXPECT_EQ(focused, c ? widgetof(*c) : faceof(*w)->plan()) << (focused ? qPrintable(focused->objectName()) : "");
+        const QWidget* const focused = frameof(*w)->focusWidget();
+        EXPECT_EQ(focused, c ? widgetof(*c) : frameof(*w)->plan())
+            << (focused ? qPrintable(focused->objectName()) : "");
     }
 
     const window* has = &vistaplan;  // the keyboard, as the desktop gives it

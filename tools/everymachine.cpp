@@ -7,11 +7,11 @@
 #include "building/layouts.h"
 #include "core/controls.h"
 #include "core/failure.h"
-#include "core/viewfigures.h"
+#include "core/viewvalues.h"
 #include "core/world.h"
+#include "player/checksum.h"
+#include "player/commands.h"
 #include "render/projector.h"
-#include "tools/checksum.h"
-#include "tools/play_commands.h"
 #include "tools/workingfolder.h"
 #include "windows/handlers.h"
 
@@ -62,10 +62,10 @@ struct measuredsurface : surface {
         image.line(x1, y1, x2, y2, c);
         summed.line(x1, y1, x2, y2, c);
     }
-    void sweep(const facecorners& f, int n, colour c) override {
-        image.sweep(f, n, c);
+    void drawbetween(const facecorners& f, int n, colour c) override {
+        image.drawbetween(f, n, c);
         add(figures, "face", {f.x1, f.y1, f.x2, f.y2, f.x3, f.y3, f.x4, f.y4});
-        summed.sweep(f, n, c);
+        summed.drawbetween(f, n, c);
     }
     void save(const std::string& path) override { image.save(path); }
     void setpicture(const std::string& path) override { image.setpicture(path); }
@@ -146,7 +146,7 @@ void playscript(const fs::path& path) {
 
 void look(std::initializer_list<std::string> figuresofview) {
     auto figure = figuresofview.begin();
-    for (const viewfigure& f : viewfigures) play("type " + f.box.name + " \"" + *figure++ + '"');
+    for (const viewvalue& f : viewvalues) play("type " + f.box.name + " \"" + *figure++ + '"');
     play("click cventerbtn");
 }
 
@@ -194,7 +194,7 @@ void playelements(const std::string& mode) {
     }
     for (const char* element : {"postbeambtn", "roofbtn", "orange1btn", "orange2btn", "orange3btn", "yellow1btn",
                                 "yellow2btn", "yellow3btn", "door2btn", "door4btn"})
-        for (const family& f : allfamilies()) {
+        for (const buttonfamily& f : allbuttonfamilies()) {
             const std::string place = positionname({&f, 0, f.x0 + 2 * 192, f.y0 + 3 * 192, 0, 0});
             play(std::string("click ") + element);
             if (!f.on->shown) continue;
@@ -222,7 +222,7 @@ void playviews() {
         const int far = view % 3 == 0 ? 4000 : 30000;
         look({tenths(-far, far), tenths(-far, far), tenths(-far / 2, far), tenths(-3000, 3000), tenths(-3000, 3000),
               tenths(0, 6000), shortesttext(within(5, 105) / 1000.0), tenths(-3000, 3000), tenths(-6000, 3000)});
-        const position& p = allpositions()[static_cast<std::size_t>(within(0, 328))];
+        const buttonposition& p = allbuttonpositions()[static_cast<std::size_t>(within(0, 328))];
         play(std::string("type wiresolid \"") + (view % 4 == 0 ? "wireframe" : "solid") + '"');
         play(p.of->on == &layoutpanels ? "click orange2btn"
              : p.of->on == &layoutroof ? "click roofbtn"

@@ -6,10 +6,10 @@
 #include "building/layouts.h"
 #include "core/controls.h"
 #include "core/world.h"
+#include "picturefiles/picturefile.h"
 #include "render/projector.h"
 #include "render/raster.h"
 #include "windows/handlers.h"
-#include "windows/qt/picturefiles/picturefile.h"
 
 #include <QImage>
 

@@ -4,7 +4,7 @@
 
 #include "building/layouts.h"
 #include "core/controls.h"
-#include "tools/pictured.h"
+#include "tools/picturedescription.h"
 
 #include <QGuiApplication>
 #include <QImage>
@@ -20,7 +20,7 @@ namespace {
 constexpr int sheetwidth = 1754, sheetheight = 1240;  // dots
 constexpr int dotspermetre = 5906;
 constexpr int margin = 70, planleft = 160, plantop = 180, planbottom = 1030;
-constexpr double mostwidening = 1.4;
+constexpr double maxwidening = 1.4;
 
 struct sheet {
     window* of;
@@ -54,20 +54,20 @@ scale fit(const window& w) {
     int left = w.widthtwips, top = w.heighttwips, right = 0, bottom = 0;
     for (const control* c : w.controls) {
         if (!stands(w, *c)) continue;
-        left = std::min(left, c->place.left);
-        top = std::min(top, c->place.top);
-        right = std::max(right, c->place.left + c->place.width);
-        bottom = std::max(bottom, c->place.top + c->place.height);
+        left = std::min(left, c->bounds.left);
+        top = std::min(top, c->bounds.top);
+        right = std::max(right, c->bounds.left + c->bounds.width);
+        bottom = std::max(bottom, c->bounds.top + c->bounds.height);
     }
     const double across = double(sheetwidth - planleft - margin) / (right - left);
     const double down = double(planbottom - plantop) / (bottom - top);
-    return {std::min(across, down * mostwidening), down, left, top};
+    return {std::min(across, down * maxwidening), down, left, top};
 }
 
 void drawpositions(QPainter& p, const window& w, const scale& s) {
     for (const control* c : w.controls) {
         if (!stands(w, *c)) continue;
-        const QRectF r = s.rect(c->place);
+        const QRectF r = s.rect(c->bounds);
         QColor fill = shade(*c->back);
         p.setPen(QPen(Qt::black, 1));
         p.setBrush(fill.lightnessF() < 0.4 ? fill.lighter(100) : fill.lighter(115));
@@ -89,7 +89,7 @@ void addmark(marks& at, double dot, int figure) {
 // The figures of x in the names down the left side and those of y along the top: long buttons nearer to the plan.
 void drawaxes(QPainter& p, const window& w, const scale& s) {
     marks across, inneracross, down;
-    for (const family& f : allfamilies()) {
+    for (const buttonfamily& f : allbuttonfamilies()) {
         if (f.on != &w) continue;
         for (int j = 0; j < f.rows; ++j)
             addmark(f.width > f.height ? inneracross : across,
@@ -112,7 +112,7 @@ void drawaxes(QPainter& p, const window& w, const scale& s) {
 
 void drawlegend(QPainter& p, const window& w) {
     int y = planbottom + 36;
-    for (const family& f : allfamilies()) {
+    for (const buttonfamily& f : allbuttonfamilies()) {
         if (f.on != &w) continue;
         p.setPen(QPen(Qt::black, 1));
         p.setBrush(shade(f.back));
@@ -121,15 +121,15 @@ void drawlegend(QPainter& p, const window& w) {
         p.setFont(font(21));
         const int last = f.first + f.cols * f.rows - 1;
         p.drawText(QRectF(planleft + 64, y - 4, 1400, 34), Qt::AlignLeft | Qt::AlignVCenter,
-                   QString("%1 to %2   %3   (buttons %4..y..)").arg(f.first).arg(last).arg(f.spoken, f.word));
+                   QString("%1 to %2   %3   (buttons %4..y..)").arg(f.first).arg(last).arg(f.accessiblename, f.word));
         y += 38;
     }
 }
 
 std::string wordsof(const sheet& of) {
     std::string words = std::string(of.title) + '\n' + of.designs + '\n';
-    for (const family& f : allfamilies())
-        if (f.on == of.of) words += std::string(f.word) + ' ' + std::to_string(f.first) + ' ' + f.spoken + '\n';
+    for (const buttonfamily& f : allbuttonfamilies())
+        if (f.on == of.of) words += std::string(f.word) + ' ' + std::to_string(f.first) + ' ' + f.accessiblename + '\n';
     for (const control* c : of.of->controls)
         if (stands(*of.of, *c)) words += wordsof(*c);
     return words;
@@ -166,7 +166,7 @@ int main(int argc, char** argv) {
         std::fputs("usage: makemaps FOLDER\n", stderr);
         return 2;
     }
-    tessaly::forgetcontrols();
+    tessaly::resetcontrols();
     tessaly::definelayouts();
     const tessaly::sheet sheets[] = {
         {&tessaly::layoutgirder, "girders.png", "Tessaly: posts and beams of a floor",

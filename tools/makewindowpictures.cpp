@@ -5,13 +5,13 @@
 #include "building/layouts.h"
 #include "core/controls.h"
 #include "core/world.h"
-#include "tools/pictured.h"
+#include "picturefiles/picturefile.h"
+#include "tools/picturedescription.h"
 #include "tools/workingfolder.h"
 #include "windows/qt/binding.h"
 #include "windows/qt/canvas.h"
-#include "windows/qt/dress.h"
-#include "windows/qt/look.h"
-#include "windows/qt/picturefiles/picturefile.h"
+#include "windows/qt/decoration.h"
+#include "windows/qt/style.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -36,7 +36,7 @@ namespace fs = std::filesystem;
 // A region of the main window, in twips, and the help button that shows it.
 struct region {
     const char* button;
-    twips place;
+    twips bounds;
 };
 constexpr region regions[] = {
     // clang-format off
@@ -67,7 +67,7 @@ void replaysolid(std::initializer_list<const char*> names) {
 
 // Whether a control's middle lies in a region of its window: neighbours overlap the rim.
 bool liesin(const twips& region, const control& c) {
-    const int x = c.place.left + c.place.width / 2 - region.left, y = c.place.top + c.place.height / 2 - region.top;
+    const int x = c.bounds.left + c.bounds.width / 2 - region.left, y = c.bounds.top + c.bounds.height / 2 - region.top;
     return x >= 0 && x < region.width && y >= 0 && y < region.height;
 }
 
@@ -75,10 +75,10 @@ twips wholeof(const window& w) { return {0, 0, w.widthtwips, w.heighttwips}; }
 
 // The inside of a window at its designed size, sharp at times its pixels.
 QImage shot(const window& w, int times = 1) {
-    const QSize size = faceof(w)->designedsize();
+    const QSize size = frameof(w)->designedsize();
     QImage image(size * times, QImage::Format_RGB32);
     image.setDevicePixelRatio(times);
-    faceof(w)->plan()->render(&image, {}, QRegion(QRect({0, 0}, size)));
+    frameof(w)->plan()->render(&image, {}, QRegion(QRect({0, 0}, size)));
     image.setDevicePixelRatio(1);
     return image;
 }
@@ -96,7 +96,7 @@ std::string wordsof(const window& w, const twips& region) {
     return words + "on viewport " + pixels.text() + '\n';
 }
 
-// The plan of a layout window, with a frame around each place that the guide's clicks press on it.
+// The plan of a layout window, with a frame around each bounds that the guide's clicks press on it.
 QImage markedplan(const window& w, const fs::path& guide) {
     QImage image = shot(w);
     QPainter painter(&image);
@@ -128,14 +128,14 @@ void keepplan(const window& w, const fs::path& guide, const fs::path& folder, co
 // What a help button has room for, in pixels: as much of it as its window shows, within its rim.
 QSize roomofbutton(const char* name) {
     constexpr int rim = 2;
-    const twips& place = findcontrol(name)->place;
-    const int high = std::min(place.height, instructions.heighttwips - place.top);
-    return {inpixels(place.width) - 2 * rim, inpixels(high) - 2 * rim};
+    const twips& bounds = findcontrol(name)->bounds;
+    const int high = std::min(bounds.height, instructions.heighttwips - bounds.top);
+    return {inpixels(bounds.width) - 2 * rim, inpixels(high) - 2 * rim};
 }
 
 // Leaves on the main window only the controls of a region.
-void showonly(const twips& place) {
-    for (const control* c : vistaplan.controls) widgetof(*c)->setVisible(c->shown && liesin(place, *c));
+void showonly(const twips& bounds) {
+    for (const control* c : vistaplan.controls) widgetof(*c)->setVisible(c->shown && liesin(bounds, *c));
 }
 
 // A region on the main window's grey, which fills the button that shows it.
@@ -146,14 +146,14 @@ void makehelppictures(const fs::path& folder) {
         QImage filled(roomofbutton(r.button) * sharp, QImage::Format_RGB32);
         filled.fill(screencolour(vistaplan.back));
         const QSize shown =
-            QSize(inimage(r.place.width), inimage(r.place.height)).scaled(filled.size(), Qt::KeepAspectRatio);
-        showonly(r.place);
+            QSize(inimage(r.bounds.width), inimage(r.bounds.height)).scaled(filled.size(), Qt::KeepAspectRatio);
+        showonly(r.bounds);
         const QImage cut =
             shot(vistaplan, sharp)
-                .copy(inimage(r.place.left), inimage(r.place.top), inimage(r.place.width), inimage(r.place.height));
+                .copy(inimage(r.bounds.left), inimage(r.bounds.top), inimage(r.bounds.width), inimage(r.bounds.height));
         QPainter(&filled).drawImage((filled.width() - shown.width()) / 2, 0,
                                     cut.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-        keep(filled, vistaplan, r.place, folder, r.button);
+        keep(filled, vistaplan, r.bounds, folder, r.button);
     }
     showonly(wholeof(vistaplan));
 }
@@ -173,7 +173,7 @@ void looktower() {
 }
 
 void makeall(const fs::path& guide, const fs::path& help, const fs::path& documents) {
-    openwindows(dresswindow);
+    openwindows(decoratewindow);
     click("startprogrambtn");
     keepwindow(vistaplan, documents, "main-window-start");
     makehelppictures(help);

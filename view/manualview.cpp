@@ -19,7 +19,7 @@ bool sametext(const value& a, const value& b) { return a.istext() && b.istext() 
 void clickcventerbtn() {
     perprelative = 0;
     restorepoints();
-    for (const viewfigure& f : viewfigures) f.figure = boxvalue(f.box);
+    for (const viewvalue& f : viewvalues) f.figure = boxvalue(f.box);
     nudgeview(sametext);
     keepeye();
     clearpicture();
@@ -28,9 +28,9 @@ void clickcventerbtn() {
     // A character less for the last three than a step writes: a shift of -1270 reads -127 from here on, and the next
     // SET takes that. The box is the truth after SET.
     writeeyeboxes(perpabsx, perpabsy, perpabsz, 5);
-    writeboxes(focusfigures, 5);
+    writeboxes(focusvalues, 5);
     magtxt.text = boxtext(mag / 10, 5);
-    writeboxes(shiftfigures, 4);
+    writeboxes(shiftvalues, 4);
     copyboxestoeasyviews();
 }
 
@@ -52,13 +52,13 @@ void clickdefaultviewbtn() {
 }
 
 void clickhidpfm() {
-    for (const viewfigure& f : taggedfigures) hide(f.box);
+    for (const viewvalue& f : taggedvalues) hide(f.box);
     hide(hidpfm);
     show(shopfm);
 }
 
 void clickshopfm() {
-    for (const viewfigure& f : taggedfigures) show(f.box);
+    for (const viewvalue& f : taggedvalues) show(f.box);
     show(hidpfm);
     hide(shopfm);
 }
@@ -73,7 +73,7 @@ void drawrelativeview() {
     settle();
     replot();
     writesteppedview();
-    writeboxes(shiftfigures, 5);
+    writeboxes(shiftvalues, 5);
 }
 
 }  // namespace tessaly

@@ -2,7 +2,7 @@
 
 #include "view/quickviews.h"
 
-#include "core/viewfigures.h"
+#include "core/viewvalues.h"
 
 #include <iterator>
 #include <string>
@@ -68,16 +68,16 @@ constexpr int buttonsize = 255;  // twips
 
 // What the places of a kind share: the figures that they stand for, X and Y or Z, and how they look and sound.
 struct kindrow {
-    figurespan figures;
+    viewvaluespan figures;
     colour back;
-    const char* spoken;
+    const char* accessiblename;
 };
 const kindrow kinds[] = {
     // clang-format off
-    {eyefigures.first(2),   {192, 255, 192}, "Eye"},
-    {eyefigures.last(1),    {255, 192, 255}, "Eye"},
-    {focusfigures.first(2), {128, 128, 255}, "Focus"},
-    {focusfigures.last(1),  {255,   0,   0}, "Focus"},
+    {eyevalues.first(2),   {192, 255, 192}, "Eye"},
+    {eyevalues.last(1),    {255, 192, 255}, "Eye"},
+    {focusvalues.first(2), {128, 128, 255}, "Focus"},
+    {focusvalues.last(1),  {255,   0,   0}, "Focus"},
     // clang-format on
 };
 
@@ -85,16 +85,17 @@ const kindrow& kindof(const quickview& q) { return kinds[q.kind]; }
 bool isheight(const quickview& q) { return kindof(q).figures.size() == 1; }
 
 // "Eye at X 1800, Y 0", "Focus at Z 850": by the figures that the button writes.
-std::string spoken(const quickview& q) {
+std::string accessiblenameof(const quickview& q) {
     const std::string first = std::to_string(q.figures[0]), second = std::to_string(q.figures[1]);
-    return std::string(kindof(q).spoken) + " at " + (isheight(q) ? "Z " + first : "X " + first + ", Y " + second);
+    return std::string(kindof(q).accessiblename) + " at " +
+           (isheight(q) ? "Z " + first : "X " + first + ", Y " + second);
 }
 
 void clickquickview(const quickview& q) {
     int i = 0;
-    for (const viewfigure& f : kindof(q).figures) f.copy->text = std::to_string(q.figures[i++]);
+    for (const viewvalue& f : kindof(q).figures) f.copy->text = std::to_string(q.figures[i++]);
     if (q.name == focuscopier) focustxtx.text = efocusxbox.text;
-    for (const viewfigure& f : kindof(q).figures) f.box.text = f.copy->text;
+    for (const viewvalue& f : kindof(q).figures) f.box.text = f.copy->text;
 }
 
 }  // namespace
@@ -114,11 +115,11 @@ void definequickviews() {
         buttons.push_back({.in = &easyviews,
                            .kind = controlkind::button,
                            .name = q.name,
-                           .place = {q.left, q.top, buttonsize, buttonsize},
+                           .bounds = {q.left, q.top, buttonsize, buttonsize},
                            .shown = true,
                            .back = kindof(q).back,
-                           .tooltip = spoken(q) + ": SET takes it",
-                           .spoken = spoken(q),
+                           .tooltip = accessiblenameof(q) + ": SET takes it",
+                           .accessiblename = accessiblenameof(q),
                            .run = [&q] { clickquickview(q); }});
         addcontrol(buttons.back());
     }

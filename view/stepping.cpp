@@ -26,7 +26,7 @@ void stepfocus(int sign) {
     focusstep = sign * focusinc;
     shiftz();
     writesteppedview();
-    copytoeasyviews(focusfigures[2]);
+    copytoeasyviews(focusvalues[2]);
 }
 
 // The eye, down or up. reads: incrementlist; writes: perpz, perprelz, the same boxes, eperpzbox.
@@ -37,7 +37,7 @@ void stepperp(int sign) {
     settle();
     replot();
     writesteppedview();
-    copytoeasyviews(eyefigures[2]);
+    copytoeasyviews(eyevalues[2]);
 }
 
 // By steps of its box. reads: magincbox; writes: mag, magshown, magtxt.

@@ -8,8 +8,8 @@
 namespace tessaly {
 
 value boxvalue(const control& box) {
-    const auto shown = std::find_if(std::begin(viewfigures), std::end(viewfigures),
-                                    [&box](const viewfigure& f) { return &f.box == &box; });
+    const auto shown = std::find_if(std::begin(viewvalues), std::end(viewvalues),
+                                    [&box](const viewvalue& f) { return &f.box == &box; });
     return value(box.text, std::string("the box \"") + (shown->tag ? shown->tag : shown->word) + '"');
 }
 
@@ -27,7 +27,7 @@ void sumeye() {
 void writesteppedview() {
     sumeye();
     writeeyeboxes(perpsumx, perpsumy, perpsumz, 5);
-    writeboxes(focusfigures, 5);
+    writeboxes(focusvalues, 5);
     magtxt.text = boxtext(magshown, 6);
 }
 

@@ -1,7 +1,7 @@
 // What the view controls share: the boxes and lists as they read them, and the boxes that a step writes.
 #pragma once
 
-#include "core/viewfigures.h"
+#include "core/viewvalues.h"
 
 namespace tessaly {
 

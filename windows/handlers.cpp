@@ -4,7 +4,7 @@
 
 #include "windows/handlers.h"
 
-#include "building/choice.h"
+#include "building/buildstate.h"
 #include "building/combinedreader.h"
 #include "building/filelist.h"
 #include "building/layouts.h"
@@ -175,9 +175,9 @@ control* closerof(const window& w, const control* focused) {
 }  // namespace
 
 void startprogram() {
-    forgetchannels();
-    forgetworld();
-    forgetcontrols();
+    resetchannels();
+    restartworld();
+    resetcontrols();
     definelayouts();
     definechoice();
     definesteps();

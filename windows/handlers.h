@@ -1,5 +1,5 @@
 // The life of the program: its start, which gives every control its procedure, and the closing of its windows. No Qt
-// here: the windows and tools/play drive the same procedures over the same controls.
+// here: the windows and the player drive the same procedures over the same controls.
 #pragma once
 
 #include "core/controls.h"

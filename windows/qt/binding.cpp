@@ -5,9 +5,9 @@
 #include "core/failure.h"
 #include "render/surface.h"
 #include "windows/handlers.h"
+#include "windows/qt/accessibility.h"
 #include "windows/qt/canvas.h"
 #include "windows/qt/controlwidgets.h"
-#include "windows/qt/spoken.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -32,7 +32,7 @@ struct boundcontrol {
 };
 
 struct boundwindow {
-    std::unique_ptr<face> frame;
+    std::unique_ptr<windowframe> frame;
     std::vector<boundcontrol> controls;
     int raised = 0;  // as last carried
 };
@@ -42,7 +42,7 @@ std::map<const window*, boundwindow>& boundwindows() {
     return bound;
 }
 
-void (*dressing)(face&);  // of a window that was made
+void (*decorateframe)(windowframe&);  // of a window that was made
 
 bool running = false;  // an event is under way
 bool ending = false;   // the program is to end
@@ -60,7 +60,7 @@ void listento(QWidget* widget, control& c) {
 }
 
 void buildwindow(window& w, boundwindow& bound) {
-    bound.frame = std::make_unique<face>(w);
+    bound.frame = std::make_unique<windowframe>(w);
     bound.frame->whenclosed = [&w] { runevent([&w] { closewindow(w); }); };
     bound.frame->whenescaped = [&w] { runevent([&w] { pressescape(w, focusedcontrol(w)); }); };
     for (control* c : w.controls) {
@@ -73,7 +73,7 @@ void buildwindow(window& w, boundwindow& bound) {
     std::stable_sort(bylayer.begin(), bylayer.end(),
                      [](const boundcontrol& a, const boundcontrol& b) { return layerof(*a.of) < layerof(*b.of); });
     for (const boundcontrol& b : bylayer) b.widget->raise();
-    dressing(*bound.frame);
+    decorateframe(*bound.frame);
 }
 
 // ---- state to widgets --------------------------------------------------------------------------------------
@@ -98,7 +98,7 @@ void takefocusback(const window& w, const boundwindow& bound) {
     to->setFocus();
 }
 
-void showface(face& f) {
+void showframe(windowframe& f) {
     const bool first = !f.testAttribute(Qt::WA_WState_ExplicitShowHide);
     if (first) {
         f.resize(f.designedsize());
@@ -112,7 +112,7 @@ void showface(face& f) {
 }
 
 void carrytowindow(window& w) {
-    if (!w.shown && !faceof(w)) return;
+    if (!w.shown && !frameof(w)) return;
     boundwindow& bound = boundwindows()[&w];
     if (!bound.frame) buildwindow(w, bound);
     takefocusback(w, bound);
@@ -129,7 +129,7 @@ void carrytowidgets() {
     std::sort(torise.begin(), torise.end(), [](const window* a, const window* b) { return a->raised < b->raised; });
     for (window* w : torise) {
         boundwindows()[w].raised = w->raised;
-        showface(*faceof(*w));
+        showframe(*frameof(*w));
     }
     if (QWidget* picture = widgetof(viewport)) picture->update();
     if (QWidget* strip = widgetof(progressbar)) strip->update();
@@ -161,7 +161,7 @@ void reportfailure(const failure& f) {
     std::fflush(stderr);
     const QString kind = QString::fromUtf8(kindname(f.kind).data());
     QMessageBox box(QMessageBox::Critical, "Tessaly",
-                    "Tessaly has met a failure and ends: " + kind + ".\n\n" + QString::fromStdString(f.told()),
+                    "Tessaly has met a failure and ends: " + kind + ".\n\n" + QString::fromStdString(f.message()),
                     QMessageBox::Ok, QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
@@ -172,8 +172,8 @@ void reportfailure(const failure& f) {
 
 }  // namespace
 
-void openwindows(void (*dress)(face&)) {
-    dressing = dress;
+void openwindows(void (*decoratewindow)(windowframe&)) {
+    decorateframe = decoratewindow;
     viewportimage().clear();
     progressimage().clear();
     viewportsurface = &viewportimage();
@@ -222,7 +222,7 @@ QWidget* widgetof(const control& c) {
     return nullptr;
 }
 
-face* faceof(const window& w) {
+windowframe* frameof(const window& w) {
     const auto found = boundwindows().find(&w);
     return found == boundwindows().end() ? nullptr : found->second.frame.get();
 }

@@ -3,7 +3,7 @@
 // the event's procedure runs, then everything that changed in the state goes to the widgets.
 #pragma once
 
-#include "windows/qt/face.h"
+#include "windows/qt/windowframe.h"
 
 #include <functional>
 
@@ -11,7 +11,7 @@ namespace tessaly {
 
 // Sets the drawing surfaces and starts the program: its first window comes to the screen. dress is called for each
 // window that has been made, with its controls on the plan.
-void openwindows(void (*dress)(face&));
+void openwindows(void (*decorate)(windowframe&));
 
 // Takes all windows off the screen and forgets them.
 void dropwindows();
@@ -25,6 +25,6 @@ const control* focusedcontrol(const window& w);
 
 // The widget of a control or a window, nullptr as long as its window was never shown.
 QWidget* widgetof(const control& c);
-face* faceof(const window& w);
+windowframe* frameof(const window& w);
 
 }  // namespace tessaly

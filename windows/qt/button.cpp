@@ -2,7 +2,7 @@
 
 #include "windows/qt/button.h"
 
-#include "windows/qt/look.h"
+#include "windows/qt/style.h"
 
 #include <QFile>
 #include <QKeyEvent>
@@ -126,16 +126,16 @@ QPixmap picture::scaledto(QSizeF size, qreal ratio) const {
 void picture::paint(QPainter& painter, const QRectF& into) const {
     if (isnull()) return;
     QSizeF fitted = QSizeF(size()).scaled(into.size(), Qt::KeepAspectRatio);
-    QRectF place({0, 0}, fitted);
-    place.moveCenter(into.center());
+    QRectF bounds({0, 0}, fitted);
+    bounds.moveCenter(into.center());
     painter.setRenderHint(QPainter::Antialiasing);
     if (pixels.isNull())
-        drawing.render(&painter, place);
+        drawing.render(&painter, bounds);
     else
-        painter.drawPixmap(place.topLeft(), scaledto(place.size(), painter.device()->devicePixelRatioF()));
+        painter.drawPixmap(bounds.topLeft(), scaledto(bounds.size(), painter.device()->devicePixelRatioF()));
 }
 
-button::button(const QColor& itsface, QWidget* parent) : QPushButton(parent), face(itsface) {
+button::button(const QColor& itsbackground, QWidget* parent) : QPushButton(parent), background(itsbackground) {
     setAttribute(Qt::WA_Hover);
     setAutoDefault(false);
 }
@@ -161,10 +161,10 @@ void button::paintEvent(QPaintEvent*) {
 QRect button::seen() const { return rect() & parentWidget()->rect().translated(-pos()); }
 
 void button::paintface(QPainter& painter) const {
-    const bool dark = inkupon(face) != QColor(0, 0, 0);  // where a little lighter or darker would not be seen
-    const QColor base = lookspressed() ? face.darker(dark ? 200 : 115)
-                        : underMouse() ? face.lighter(dark ? 165 : 106)
-                                       : face;
+    const bool dark = inkupon(background) != QColor(0, 0, 0);  // where a little lighter or darker would not be seen
+    const QColor base = lookspressed() ? background.darker(dark ? 200 : 115)
+                        : underMouse() ? background.lighter(dark ? 165 : 106)
+                                       : background;
     QLinearGradient shade(0, 0, 0, height());
     shade.setColorAt(0, lookspressed() ? base.darker(106) : base.lighter(108));
     shade.setColorAt(1, lookspressed() ? base : base.darker(106));
@@ -172,17 +172,17 @@ void button::paintface(QPainter& painter) const {
     painter.setRenderHint(QPainter::Antialiasing);
     // The ring of the keyboard shows only to those who use it.
     const bool ring = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
-    painter.setPen(QPen(ring ? ringcolour : face.darker(170), 1));
+    painter.setPen(QPen(ring ? ringcolour : background.darker(170), 1));
     painter.setBrush(shade);
     painter.drawRoundedRect(rim, 2, 2);
     painter.setBrush(Qt::NoBrush);
     if (lookspressed())
-        painter.setPen(QPen(face.darker(170), 1));
+        painter.setPen(QPen(background.darker(170), 1));
     else
         painter.setPen(QPen(QColor(255, 255, 255, 110), 1));
     painter.drawLine(QPointF(2, 1.5), QPointF(width() - 2, 1.5));
     if (ring) {
-        painter.setPen(QPen(inkupon(face) == QColor(0, 0, 0) ? ringcolour : QColor(255, 255, 255), 1));
+        painter.setPen(QPen(inkupon(background) == QColor(0, 0, 0) ? ringcolour : QColor(255, 255, 255), 1));
         painter.drawRoundedRect(rim.adjusted(1, 1, -1, -1), 1, 1);
     }
 }
@@ -195,7 +195,7 @@ void button::paintcaption(QPainter& painter) const {
     const QFont letters = buttonfont(caption.pixels, bold);
     const QFontMetrics metrics(letters);
     painter.setFont(letters);
-    painter.setPen(inkupon(face));
+    painter.setPen(inkupon(background));
     const auto count = static_cast<int>(caption.lines.size());
     // Capitals stand in the middle: the foot of a "g" may come nearer to the rim than the top of a capital.
     const int ink = metrics.capHeight() + (count - 1) * linepitch(metrics);

@@ -40,7 +40,7 @@ bool walkbyarrow(const QWidget& plan, QPoint from, int key);
 
 class button : public QPushButton {
   public:
-    button(const QColor& itsface, QWidget* parent);
+    button(const QColor& itsbackground, QWidget* parent);
     void setpicture(const QString& name);
     void setchosen(bool itis);  // whether it looks pressed all the time
 
@@ -56,7 +56,7 @@ class button : public QPushButton {
 
     bool lookspressed() const { return chosen || isDown(); }
 
-    QColor face;
+    QColor background;
     bool chosen = false;
     std::unique_ptr<picture> shows;
 };

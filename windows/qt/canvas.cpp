@@ -3,7 +3,7 @@
 #include "windows/qt/canvas.h"
 
 #include "core/controls.h"
-#include "windows/qt/picturefiles/rasterview.h"
+#include "picturefiles/rasterview.h"
 
 #include <QElapsedTimer>
 #include <QPaintEvent>

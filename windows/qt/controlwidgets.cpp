@@ -2,10 +2,10 @@
 
 #include "windows/qt/controlwidgets.h"
 
+#include "windows/qt/accessibility.h"
 #include "windows/qt/button.h"
 #include "windows/qt/canvas.h"
-#include "windows/qt/look.h"
-#include "windows/qt/spoken.h"
+#include "windows/qt/style.h"
 
 #include <QComboBox>
 #include <QKeyEvent>
@@ -112,7 +112,7 @@ QWidget* makelabel(QWidget* plan) {
 }
 
 QWidget* maketextbox(const control& c, QWidget* plan) {
-    if (inpixels(c.place.height) < multiline) {
+    if (inpixels(c.bounds.height) < multiline) {
         auto* box = new QLineEdit(plan);
         box->setTextMargins(-1, 0, -1, 0);  // the narrowest boxes are 33 pixels wide
         return box;
@@ -200,10 +200,10 @@ QWidget* makewidget(const control& c, QWidget* plan) {
     if (c.kind == controlkind::frame) setrole(*widget, QAccessible::Grouping);
     const QString caption = QString::fromStdString(c.text).simplified();
     widget->setObjectName(QString::fromStdString(c.name));
-    widget->setGeometry(inpixels(c.place.left), inpixels(c.place.top), inpixels(c.place.width),
-                        inpixels(c.place.height));
+    widget->setGeometry(inpixels(c.bounds.left), inpixels(c.bounds.top), inpixels(c.bounds.width),
+                        inpixels(c.bounds.height));
     widget->setToolTip(QString::fromStdString(c.tooltip));
-    widget->setAccessibleName(c.spoken.empty() ? caption : QString::fromStdString(c.spoken));
+    widget->setAccessibleName(c.accessiblename.empty() ? caption : QString::fromStdString(c.accessiblename));
     widget->setAccessibleDescription(widget->toolTip().section(": ", -1));  // what the name does not say already
     if (auto* box = qobject_cast<QComboBox*>(widget)) box->lineEdit()->setAccessibleName(box->accessibleName());
     widget->hide();

@@ -1,8 +1,8 @@
 // The quick views' diagram: the layout grid from above with the places around it, and the two scales of heights. The
 // lines are fixed; which buttons stand on them is the tables' matter. Coordinates are twips of the window.
 
-#include "windows/qt/dress.h"
-#include "windows/qt/look.h"
+#include "windows/qt/decoration.h"
+#include "windows/qt/style.h"
 
 #include <QPainter>
 
@@ -60,6 +60,6 @@ void drawdiagram(QPainter& painter) {
 
 }  // namespace
 
-void dresseasyviews(face& f) { f.decoration = drawdiagram; }
+void decorateeasyviews(windowframe& f) { f.decoration = drawdiagram; }
 
 }  // namespace tessaly

@@ -2,8 +2,8 @@
 // coordinates are twips of the window unless said otherwise; x of the plan runs down, y runs across.
 
 #include "windows/qt/binding.h"
-#include "windows/qt/dress.h"
-#include "windows/qt/look.h"
+#include "windows/qt/decoration.h"
+#include "windows/qt/style.h"
 
 #include <QPainter>
 
@@ -73,7 +73,7 @@ void setbold(const control& label) {
     widget->setFont(font);
 }
 
-void dresslayout(face& f, const control& labelx, const control& labely, void (*draw)(QPainter&)) {
+void decoratelayout(windowframe& f, const control& labelx, const control& labely, void (*draw)(QPainter&)) {
     setbold(labelx);
     setbold(labely);
     f.decoration = [draw](QPainter& painter) {
@@ -105,8 +105,8 @@ void drawroofplan(QPainter& painter) {
 
 }  // namespace
 
-void dresslayoutgirder(face& f) { dresslayout(f, girderlabelx, girderlabely, drawgirderplan); }
-void dresslayoutpanels(face& f) { dresslayout(f, panellabelx, panellabely, drawpanelplan); }
-void dresslayoutroof(face& f) { dresslayout(f, rooflabelx, rooflabely, drawroofplan); }
+void decoratelayoutgirder(windowframe& f) { decoratelayout(f, girderlabelx, girderlabely, drawgirderplan); }
+void decoratelayoutpanels(windowframe& f) { decoratelayout(f, panellabelx, panellabely, drawpanelplan); }
+void decoratelayoutroof(windowframe& f) { decoratelayout(f, rooflabelx, rooflabely, drawroofplan); }
 
 }  // namespace tessaly

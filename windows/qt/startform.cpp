@@ -1,9 +1,9 @@
 // The opening window: large letters, and a steel frame drawn behind them.
 
 #include "windows/qt/binding.h"
-#include "windows/qt/dress.h"
-#include "windows/qt/look.h"
-#include "windows/qt/placement.h"
+#include "windows/qt/decoration.h"
+#include "windows/qt/style.h"
+#include "windows/qt/windowposition.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -49,12 +49,12 @@ void drawframe(QPainter& painter) {
 
 }  // namespace
 
-void dressstartform(face& f) {
+void decoratestartform(windowframe& f) {
     f.decoration = drawframe;
     enlarge(Label1, titlepixels, true);
     enlarge(Label3, datepixels, false);
     enlarge(startprogrambtn, startpixels, true);
-    f.firstshowing = [](face& first) {
+    f.firstshowing = [](windowframe& first) {
         openincentre(first);
         first.plan()->setFocusProxy(widgetof(startprogrambtn));
     };

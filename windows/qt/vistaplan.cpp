@@ -1,9 +1,9 @@
 // The main window: maximised at the start, with its keys.
 
-#include "core/viewfigures.h"
+#include "core/viewvalues.h"
 #include "windows/qt/binding.h"
-#include "windows/qt/dress.h"
-#include "windows/qt/look.h"
+#include "windows/qt/decoration.h"
+#include "windows/qt/style.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -59,8 +59,8 @@ void makereadonly(const control& c) {
 
 }  // namespace
 
-void dressvistaplan(face& f) {
-    for (const viewfigure& over : taggedfigures) {
+void decoratevistaplan(windowframe& f) {
+    for (const viewvalue& over : taggedvalues) {
         auto* box = qobject_cast<QLineEdit*>(widgetof(over.box));
         auto* word = new tag(over.tag, box);
         box->setTextMargins(1, 0, word->width() - 2, 0);
@@ -76,7 +76,7 @@ void dressvistaplan(face& f) {
     QObject::connect(qobject_cast<QLineEdit*>(widgetof(capbox)), &QLineEdit::returnPressed, &f, [] {
         if (screencapenter.shown) runevent([] { clickcontrol(screencapenter); });
     });
-    f.firstshowing = [](face& first) { first.setWindowState(first.windowState() | Qt::WindowMaximized); };
+    f.firstshowing = [](windowframe& first) { first.setWindowState(first.windowState() | Qt::WindowMaximized); };
 }
 
 }  // namespace tessaly

@@ -1,9 +1,9 @@
 // The program with its windows.
 
+#include "picturefiles/picturefile.h"
 #include "windows/qt/binding.h"
-#include "windows/qt/dress.h"
-#include "windows/qt/look.h"
-#include "windows/qt/picturefiles/picturefile.h"
+#include "windows/qt/decoration.h"
+#include "windows/qt/style.h"
 
 #include <clocale>
 
@@ -15,7 +15,7 @@ int main(int argc, char** argv) {
     QGuiApplication::setDesktopFileName("tessaly");
     tessaly::setlook(app);
     tessaly::usepicturefiles();
-    tessaly::openwindows(tessaly::dresswindow);
+    tessaly::openwindows(tessaly::decoratewindow);
     const int status = QApplication::exec();
     tessaly::dropwindows();
     return status;

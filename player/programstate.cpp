@@ -1,10 +1,10 @@
 // A line each for windows, controls and scalars; tables by their checksums, or a part of one.
 
-#include "tools/play_state.h"
+#include "player/programstate.h"
 
 #include "core/controls.h"
 #include "core/world.h"
-#include "tools/play_line.h"
+#include "player/scriptline.h"
 
 #include <algorithm>
 
@@ -24,12 +24,12 @@ std::string colourtext(colour c) {
 }
 
 std::string layoutof(const control& c) {
-    std::string told = "  " + c.name + ' ' + std::to_string(c.place.left) + ',' + std::to_string(c.place.top) + ' ' +
-                       std::to_string(c.place.width) + 'x' + std::to_string(c.place.height);
+    std::string told = "  " + c.name + ' ' + std::to_string(c.bounds.left) + ',' + std::to_string(c.bounds.top) + ' ' +
+                       std::to_string(c.bounds.width) + 'x' + std::to_string(c.bounds.height);
     if (c.back) told += colourtext(*c.back);
     if (c.elementnumber > 0) told += " number " + std::to_string(c.elementnumber);
     if (!c.tooltip.empty()) told += " tip " + inquotes(c.tooltip);
-    if (!c.spoken.empty()) told += " spoken " + inquotes(c.spoken);
+    if (!c.accessiblename.empty()) told += " spoken " + inquotes(c.accessiblename);
     for (const std::string& item : c.items) told += ' ' + inquotes(item);
     return told;
 }

@@ -1,6 +1,6 @@
 // Style, palette, fonts and icon. Only the sizes matter to the rest: they are pixels, never points.
 
-#include "windows/qt/look.h"
+#include "windows/qt/style.h"
 
 #include <QFontDatabase>
 #include <QIcon>
@@ -18,9 +18,10 @@ const QStringList pagefamilies{"Fixedsys", "Fixedsys Excelsior 3.01", "Fixedsys 
 constexpr int pagepixels = 13;
 
 QPalette housepalette() {
-    const QColor ink(0, 0, 0), grey(192, 192, 192), face(226, 226, 226), paper(255, 255, 255), pale(128, 128, 128);
+    const QColor ink(0, 0, 0), grey(192, 192, 192), buttoncolour(226, 226, 226), paper(255, 255, 255),
+        pale(128, 128, 128);
     const QColor chosen(36, 84, 150);
-    QPalette palette(ink, face, paper, pale, QColor(160, 160, 160), ink, paper, paper, grey);
+    QPalette palette(ink, buttoncolour, paper, pale, QColor(160, 160, 160), ink, paper, paper, grey);
     palette.setColor(QPalette::Highlight, chosen);
     palette.setColor(QPalette::HighlightedText, paper);
     palette.setColor(QPalette::AlternateBase, QColor(244, 244, 244));

@@ -1,14 +1,14 @@
 // The commands of a script, a row each in the table at the end.
 // A control is used only where a user could reach it: in a window that is shown, and shown itself.
 
-#include "tools/play_commands.h"
+#include "player/commands.h"
 
 #include "core/controls.h"
 #include "core/failure.h"
-#include "tools/play_record.h"
-#include "tools/play_state.h"
+#include "picturefiles/picturefile.h"
+#include "player/programstate.h"
+#include "player/sessionrecord.h"
 #include "windows/handlers.h"
-#include "windows/qt/picturefiles/picturefile.h"
 
 #include <algorithm>
 #include <charconv>

@@ -1,7 +1,7 @@
 // The player's picture files where it is built without the toolkit, which writes them: there are none.
 
 #include "core/failure.h"
-#include "windows/qt/picturefiles/picturefile.h"
+#include "picturefiles/picturefile.h"
 
 namespace tessaly {
 

@@ -1,7 +1,7 @@
 // Transformation scripts: every keyword against points worked out by hand; and the sine that they turn by.
-#include "data/transforms.h"
+#include "data/script.h"
 #include "core/sine.h"
-#include "data/turns.h"
+#include "data/pointtransforms.h"
 #include "tests/geometry.h"
 #include "tests/session.h"
 

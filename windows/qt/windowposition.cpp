@@ -1,6 +1,6 @@
 // Places by what the screen and the other windows leave.
 
-#include "windows/qt/placement.h"
+#include "windows/qt/windowposition.h"
 
 #include "windows/qt/binding.h"
 
@@ -17,11 +17,11 @@ namespace {
 constexpr int titlebar = 30, edge = 4;  // pixels: what a desktop may put above and around a window
 
 // What the screen leaves for a window's interior.
-QRect roomfor(const face& f) { return f.screen()->availableGeometry().adjusted(0, titlebar, 0, 0); }
+QRect roomfor(const windowframe& f) { return f.screen()->availableGeometry().adjusted(0, titlebar, 0, 0); }
 
 // The size of a window that has just been made. Where the room is too small one way, the bar to scroll that way does
 // not take from the other.
-QSize firstsize(const face& f) {
+QSize firstsize(const windowframe& f) {
     const QRect room = roomfor(f);
     const QSize plan = f.designedsize();
     const int bar = f.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
@@ -42,7 +42,7 @@ QRect placeonscreen(const QWidget& widget) { return {widget.mapToGlobal(QPoint(0
 
 // The controls of the main window, the boxes over its picture also while they are hidden; the picture itself; and the
 // other windows that stand beside it, with the bars that the desktop puts above them.
-std::vector<obstacle> obstaclesto(const face& f) {
+std::vector<obstacle> obstaclesto(const windowframe& f) {
     constexpr int picture = 4, otherwindow = 1, control = 40;
     std::vector<obstacle> found;
     for (const tessaly::control* c : vistaplan.controls) {
@@ -50,7 +50,7 @@ std::vector<obstacle> obstaclesto(const face& f) {
         if (counts && widgetof(*c)) found.push_back({placeonscreen(*widgetof(*c)), c == &viewport ? picture : control});
     }
     for (const window* w : allwindows())
-        if (const face* other = faceof(*w); other && other != &f && w != &vistaplan && other->isVisible())
+        if (const windowframe* other = frameof(*w); other && other != &f && w != &vistaplan && other->isVisible())
             found.push_back({placeonscreen(*other).adjusted(0, -titlebar, 0, 0), otherwindow});
     return found;
 }
@@ -65,7 +65,7 @@ qint64 hidden(const QRect& place, const std::vector<obstacle>& obstacles) {
 }
 
 // Of the places where it hides the least, the uppermost, and of these the one farthest to the left.
-QRect freestplace(const face& f) {
+QRect freestplace(const windowframe& f) {
     constexpr int step = 8;
     const QRect room = roomfor(f);
     const std::vector<obstacle> obstacles = obstaclesto(f);
@@ -84,15 +84,15 @@ QRect freestplace(const face& f) {
 
 }  // namespace
 
-void openincentre(face& f) {
+void openincentre(windowframe& f) {
     f.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, firstsize(f), roomfor(f)));
 }
 
-void openbesidemain(face& f) {
+void openbesidemain(windowframe& f) {
     f.setGeometry(freestplace(f));
     f.setWindowFlags(Qt::Dialog);  // the kind that desktops keep in front of another
     f.winId();                     // makes the desktop's own window, which is told so
-    if (const face* main = faceof(vistaplan)) f.windowHandle()->setTransientParent(main->windowHandle());
+    if (const windowframe* main = frameof(vistaplan)) f.windowHandle()->setTransientParent(main->windowHandle());
 }
 
 }  // namespace tessaly

@@ -1,13 +1,13 @@
 // Transformation scripts: blocks of rows between TRAN and the next TRAN, each keyword one procedure over a row.
 
-#include "data/transforms.h"
+#include "data/script.h"
 
 #include "core/channels.h"
 #include "core/failure.h"
 #include "core/fields.h"
 #include "core/sine.h"
 #include "core/world.h"
-#include "data/turns.h"
+#include "data/pointtransforms.h"
 
 #include <algorithm>
 #include <string>
@@ -17,8 +17,8 @@ namespace tessaly {
 
 namespace {
 
-constexpr int mostrows = 7000, mostpairs = 10000;
-constexpr int mostfields = 6;
+constexpr int maxrows = 7000, maxpairs = 10000;
+constexpr int maxfields = 6;
 
 // ---- one procedure a keyword; row holds its fields in file order ----
 
@@ -99,18 +99,18 @@ struct block {
 
 constexpr block blocks[] = {
     // clang-format off
-    {"XTRANSFORMATIONS:",  2, mostpairs, setone<ptx, basex>},
-    {"YTRANSFORMATIONS:",  2, mostpairs, setone<pty, basey>},
-    {"ZTRANSFORMATIONS:",  2, mostpairs, setone<ptz, basez>},
-    {"RESIZE:",            5, mostrows,  resize},
-    {"XROTATETRANSLATE:",  6, mostrows,  xrotatetranslate},
-    {"YROTATETRANSLATE:",  6, mostrows,  yrotatetranslate},
-    {"ZROTATETRANSLATE:",  6, mostrows,  zrotatetranslate},
-    {"TRANSLATE:",         5, mostrows,  translate},
-    {"STEP10TRANSLATE:",   5, mostrows,  step10translate},
-    {"ZWRAP:",             6, mostrows,  zwrap},
-    {"XWRAP:",             6, mostrows,  xwrap},
-    {"YWRAP:",             6, mostrows,  ywrap},
+    {"XTRANSFORMATIONS:",  2, maxpairs, setone<ptx, basex>},
+    {"YTRANSFORMATIONS:",  2, maxpairs, setone<pty, basey>},
+    {"ZTRANSFORMATIONS:",  2, maxpairs, setone<ptz, basez>},
+    {"RESIZE:",            5, maxrows,  resize},
+    {"XROTATETRANSLATE:",  6, maxrows,  xrotatetranslate},
+    {"YROTATETRANSLATE:",  6, maxrows,  yrotatetranslate},
+    {"ZROTATETRANSLATE:",  6, maxrows,  zrotatetranslate},
+    {"TRANSLATE:",         5, maxrows,  translate},
+    {"STEP10TRANSLATE:",   5, maxrows,  step10translate},
+    {"ZWRAP:",             6, maxrows,  zwrap},
+    {"XWRAP:",             6, maxrows,  xwrap},
+    {"YWRAP:",             6, maxrows,  ywrap},
     // clang-format on
 };
 
@@ -125,7 +125,7 @@ void obeyblock(const block& b) {
     for (int n = 1; n <= b.rows; ++n) {
         skiptofigure(1);
         const int line = channelinput(1).line, field = channelinput(1).field;
-        value row[mostfields];
+        value row[maxfields];
         for (int f = 0; f < b.fields; ++f) row[f] = readvalue(1, "a field of a transformation row");
         if (endsrows(row[0])) return;
         tellrow(1, line, field, b.keyword, [&] { b.obey(row); });

@@ -1,6 +1,6 @@
 // The boxes of the view, written by cutting.
 
-#include "core/viewfigures.h"
+#include "core/viewvalues.h"
 
 namespace tessaly {
 
@@ -10,17 +10,17 @@ void writeeyeboxes(const value& x, const value& y, const value& z, std::size_t n
     perptxtz.text = boxtext(z, n);
 }
 
-void writeboxes(figurespan figures, std::size_t n) {
-    for (const viewfigure& f : figures) f.box.text = boxtext(f.figure, n);
+void writeboxes(viewvaluespan figures, std::size_t n) {
+    for (const viewvalue& f : figures) f.box.text = boxtext(f.figure, n);
 }
 
-void copytoeasyviews(const viewfigure& f) {
+void copytoeasyviews(const viewvalue& f) {
     easyviews.created = true;
     f.copy->text = f.box.text;
 }
 
 void copyboxestoeasyviews() {
-    for (const viewfigure& f : viewfigures)
+    for (const viewvalue& f : viewvalues)
         if (f.copy) copytoeasyviews(f);
 }
 

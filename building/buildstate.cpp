@@ -1,6 +1,6 @@
 // Element choice and the state of building: all of it lives in the text of four boxes, read at each click.
 
-#include "building/choice.h"
+#include "building/buildstate.h"
 
 #include "core/controls.h"
 #include "core/world.h"

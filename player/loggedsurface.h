@@ -1,8 +1,8 @@
 // The player's pictures: an image in memory that, while asked to, also writes each drawn line to a file and counts it.
 #pragma once
 
+#include "player/checksum.h"
 #include "render/raster.h"
-#include "tools/checksum.h"
 
 #include <cstdio>
 #include <memory>
@@ -32,7 +32,7 @@ class loggedsurface : public surface {
     linetally taketally() { return std::exchange(*tally, {}); }
 
     void line(float x1, float y1, float x2, float y2, colour c) override;
-    void sweep(const facecorners& f, int n, colour c) override;
+    void drawbetween(const facecorners& f, int n, colour c) override;
     void save(const std::string& path) override { image.save(path); }
     void setpicture(const std::string& path) override;
 

@@ -1,6 +1,6 @@
 // Words, quotes and escapes of script lines.
 
-#include "tools/play_line.h"
+#include "player/scriptline.h"
 
 #include <algorithm>
 

@@ -9,14 +9,14 @@
 
 namespace tessaly {
 
-struct viewfigure {
+struct viewvalue {
     value& figure;
     control& box;
     control* copy;     // on easyviews; nullptr: there is none
     const char* word;  // for reports
     const char* tag;   // in the box, where no label stands beside it
 };
-inline constexpr viewfigure viewfigures[] = {
+inline constexpr viewvalue viewvalues[] = {
     // clang-format off
     {perpx,      perptxtx,  &eperpxbox,  "eye X",            "persp X"},
     {perpy,      perptxty,  &eperpybox,  "eye Y",            "persp Y"},
@@ -29,19 +29,19 @@ inline constexpr viewfigure viewfigures[] = {
     {horizshift, horiztxt,  nullptr,     "horizontal shift", nullptr},
     // clang-format on
 };
-using figurespan = std::span<const viewfigure>;
-inline constexpr figurespan eyefigures = figurespan(viewfigures).first(3);
-inline constexpr figurespan focusfigures = figurespan(viewfigures).subspan(3, 3);
-inline constexpr figurespan shiftfigures = figurespan(viewfigures).last(2);
-inline constexpr figurespan taggedfigures = figurespan(viewfigures).first(7);  // over the picture
+using viewvaluespan = std::span<const viewvalue>;
+inline constexpr viewvaluespan eyevalues = viewvaluespan(viewvalues).first(3);
+inline constexpr viewvaluespan focusvalues = viewvaluespan(viewvalues).subspan(3, 3);
+inline constexpr viewvaluespan shiftvalues = viewvaluespan(viewvalues).last(2);
+inline constexpr viewvaluespan taggedvalues = viewvaluespan(viewvalues).first(7);  // over the picture
 
 // Write boxes, each figure cut to its first n characters: the eye's from x, y, z, since perpx.. may be relative to the
 // focus; others from their own figures.
 void writeeyeboxes(const value& x, const value& y, const value& z, std::size_t n);
-void writeboxes(figurespan figures, std::size_t n);
+void writeboxes(viewvaluespan figures, std::size_t n);
 
 // Copies a box's text to its copy on easyviews, which is created, not shown, where it does not exist yet.
-void copytoeasyviews(const viewfigure& f);
+void copytoeasyviews(const viewvalue& f);
 
 // Copies the six boxes of focus and eye to easyviews.
 void copyboxestoeasyviews();

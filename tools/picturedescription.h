@@ -4,7 +4,7 @@
 #pragma once
 
 #include "core/controls.h"
-#include "tools/checksum.h"
+#include "player/checksum.h"
 
 #include <QFile>
 #include <QImage>
@@ -17,8 +17,8 @@ namespace tessaly {
 inline std::string wordsof(const control& c) {
     const colour back = c.back.value_or(colour{});
     char places[100];
-    std::snprintf(places, sizeof places, " %d %d %d %d #%02x%02x%02x ", c.place.left, c.place.top, c.place.width,
-                  c.place.height, back.red, back.green, back.blue);
+    std::snprintf(places, sizeof places, " %d %d %d %d #%02x%02x%02x ", c.bounds.left, c.bounds.top, c.bounds.width,
+                  c.bounds.height, back.red, back.green, back.blue);
     std::string words = c.name + places + c.text;
     if (&c == chosenelement) words += "(pressed) ";
     if (QFile shown(QString::fromStdString(":/pictures/" + c.name + ".png")); shown.open(QIODevice::ReadOnly)) {

@@ -1,10 +1,10 @@
 // Frame and plan of a window.
 
-#include "windows/qt/face.h"
+#include "windows/qt/windowframe.h"
 
+#include "windows/qt/accessibility.h"
 #include "windows/qt/button.h"
-#include "windows/qt/look.h"
-#include "windows/qt/spoken.h"
+#include "windows/qt/style.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -16,7 +16,7 @@ namespace {
 
 class planwidget : public QWidget {
   public:
-    explicit planwidget(face& itsface) : of(itsface) {}
+    explicit planwidget(windowframe& itsframe) : of(itsframe) {}
 
   protected:
     void paintEvent(QPaintEvent*) override {
@@ -41,12 +41,12 @@ class planwidget : public QWidget {
     }
 
   private:
-    face& of;
+    windowframe& of;
 };
 
 }  // namespace
 
-face::face(const tessaly::window& itswindow) : of(itswindow) {
+windowframe::windowframe(const tessaly::window& itswindow) : of(itswindow) {
     setObjectName(of.name);
     setWindowTitle(of.title);
     setrole(*this, &of == &startform || &of == &vistaplan ? QAccessible::Window : QAccessible::Dialog);
@@ -62,14 +62,14 @@ face::face(const tessaly::window& itswindow) : of(itswindow) {
     setWidget(plan);
 }
 
-QSize face::designedsize() const { return {inpixels(of.widthtwips), inpixels(of.heighttwips)}; }
+QSize windowframe::designedsize() const { return {inpixels(of.widthtwips), inpixels(of.heighttwips)}; }
 
-void face::closeEvent(QCloseEvent* event) {
+void windowframe::closeEvent(QCloseEvent* event) {
     event->ignore();
     whenclosed();
 }
 
-void face::keyPressEvent(QKeyEvent* event) {
+void windowframe::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
         whenescaped();
     else

@@ -2,7 +2,7 @@
 // on: with that end anywhere near the picture the pixels are the exact ones but for a hair at a border; with both ends
 // beyond everything it is a line through the picture where there is one. No building comes near it.
 
-#include "render/linepart.h"
+#include "render/lineclip.h"
 
 namespace tessaly {
 

@@ -1,6 +1,6 @@
 // The interfaces that stand in for the toolkit's own.
 
-#include "windows/qt/spoken.h"
+#include "windows/qt/accessibility.h"
 
 #include <QAccessibleWidget>
 #include <QComboBox>

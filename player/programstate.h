@@ -2,7 +2,7 @@
 // session's record compares them from step to step, and its tables.
 #pragma once
 
-#include "tools/checksum.h"
+#include "player/checksum.h"
 
 #include <optional>
 #include <string>

@@ -1,11 +1,11 @@
 // Picture files: PNG out, any picture that the image library knows in, told by its content. A picture takes its name
 // only when it is whole, and one that is not whole is not shown: the one that was there before stays.
 
-#include "windows/qt/picturefiles/picturefile.h"
+#include "picturefiles/picturefile.h"
 
 #include "core/channels.h"
 #include "core/failure.h"
-#include "windows/qt/picturefiles/rasterview.h"
+#include "picturefiles/rasterview.h"
 
 #include <QFile>
 #include <QImageReader>

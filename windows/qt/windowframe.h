@@ -10,9 +10,9 @@
 
 namespace tessaly {
 
-class face : public QScrollArea {
+class windowframe : public QScrollArea {
   public:
-    explicit face(const tessaly::window& itswindow);
+    explicit windowframe(const tessaly::window& itswindow);
 
     QWidget* plan() const { return widget(); }
     QSize designedsize() const;
@@ -23,7 +23,7 @@ class face : public QScrollArea {
     // Paints behind the controls, in pixels of the plan.
     std::function<void(QPainter&)> decoration;
     // The first showing: where it stands and how large.
-    std::function<void(face&)> firstshowing;
+    std::function<void(windowframe&)> firstshowing;
 
     // The user closes it, or presses Escape in it: whether it goes is the program's to say.
     std::function<void()> whenclosed, whenescaped;

@@ -1,11 +1,11 @@
 // Before and after a step: the program's state, the lines drawn and the files of the working folder, compared.
 
-#include "tools/play_record.h"
+#include "player/sessionrecord.h"
 
 #include "core/controls.h"
-#include "tools/play_commands.h"
-#include "tools/play_line.h"
-#include "tools/play_state.h"
+#include "player/commands.h"
+#include "player/programstate.h"
+#include "player/scriptline.h"
 
 #include <cstdio>
 #include <filesystem>
@@ -17,7 +17,7 @@ namespace tessaly {
 
 namespace {
 
-constexpr std::size_t mostquoted = 400;  // bytes of a file that are written out; longer ones as length and checksum
+constexpr std::size_t maxquoted = 400;  // bytes of a file that are written out; longer ones as length and checksum
 
 using filesbypath = std::map<std::string, std::string>;
 
@@ -46,7 +46,7 @@ filesbypath filesofsession() {
 moment takemoment() { return {programstate(), tablesums(), filesofsession(), wantedfocus}; }
 
 std::string told(std::string_view bytes) {
-    if (bytes.size() <= mostquoted) return inquotes(bytes);
+    if (bytes.size() <= maxquoted) return inquotes(bytes);
     checksum sum;
     sum.add(bytes);
     return std::to_string(bytes.size()) + " bytes " + sum.text();

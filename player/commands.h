@@ -7,8 +7,8 @@
 //   lines FILE, picture FILE, record FILE    each line drawn from here on; the picture; what each step changes
 #pragma once
 
-#include "tools/play_line.h"
-#include "tools/play_surface.h"
+#include "player/loggedsurface.h"
+#include "player/scriptline.h"
 
 namespace tessaly {
 

@@ -1,7 +1,7 @@
 // While lines are logged or counted a sweep is drawn line by line, so that none of them is missing from the log; the
 // image comes out the same.
 
-#include "tools/play_surface.h"
+#include "player/loggedsurface.h"
 
 #include <charconv>
 
@@ -44,11 +44,11 @@ void loggedsurface::line(float x1, float y1, float x2, float y2, colour c) {
     std::fwrite(row, 1, static_cast<std::size_t>(at - row), log.get());
 }
 
-void loggedsurface::sweep(const facecorners& f, int n, colour c) {
+void loggedsurface::drawbetween(const facecorners& f, int n, colour c) {
     if (listening())
-        surface::sweep(f, n, c);
+        surface::drawbetween(f, n, c);
     else
-        image.sweep(f, n, c);
+        image.drawbetween(f, n, c);
 }
 
 void loggedsurface::setpicture(const std::string& path) {

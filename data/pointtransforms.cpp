@@ -1,6 +1,6 @@
 // The turns. Sums and products run in the order in which they are written.
 
-#include "data/turns.h"
+#include "data/pointtransforms.h"
 
 #include "core/failure.h"
 #include "core/sine.h"

@@ -1,6 +1,6 @@
 #!/usr/bin/python3 -Wignore
 """Plays a script in the running program by its accessibility interface alone, and looks through every window that opens.
-Usage: spoken.py SCRIPT FILE-FOR-THE-DUMP"""
+Usage: accessibility.py SCRIPT FILE-FOR-THE-DUMP"""
 import re
 import sys
 import time

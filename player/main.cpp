@@ -5,9 +5,9 @@
 
 #include "core/controls.h"
 #include "core/failure.h"
-#include "tools/play_commands.h"
+#include "picturefiles/picturefile.h"
+#include "player/commands.h"
 #include "windows/handlers.h"
-#include "windows/qt/picturefiles/picturefile.h"
 
 #include <cstdio>
 #include <fstream>
