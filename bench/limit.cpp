@@ -3,7 +3,7 @@
 
 #include "bench/measure.h"
 #include "bench/surfaces.h"
-#include "core/channels.h"
+#include "core/textfiles.h"
 #include "core/world.h"
 
 #include <algorithm>

@@ -5,7 +5,7 @@
 #include "bench/surfaces.h"
 #include "building/layouts.h"
 #include "building/records.h"
-#include "core/channels.h"
+#include "core/textfiles.h"
 #include "core/world.h"
 #include "windows/handlers.h"
 

@@ -6,8 +6,8 @@
 #include "building/designfiles.h"
 #include "building/records.h"
 #include "building/replay.h"
-#include "core/channels.h"
 #include "core/controls.h"
+#include "core/textfiles.h"
 
 namespace tessaly {
 
@@ -55,20 +55,20 @@ void addfile(const value& name, form line) {
 void keepbothfiles(int n) {
     std::vector<recordcolumn> keptonly = solidcolumns;
     for (recordcolumn& c : keptonly) c.scalar = nullptr;
-    openinput(2, tempfile, "temporary file");
-    for (int k = 1; k <= n; ++k) keeprecord(k, keptonly, readrecord(2, keptonly));
-    closechannel(2);
+    textinput& in = openinput(2, tempfile, "temporary file");
+    for (int k = 1; k <= n; ++k) keeprecord(k, keptonly, readrecord(in, keptonly));
+    in.close();
 }
 
 // Draws the records of tempfile as wires, the first file's and then the second's. reads: combinedcount.
 void replaycombined() {
     const int n = indexof(combinedcount, "combinedcount", 2 * lastrecord);
-    openinput(2, tempfile, "temporary file");
+    textinput& in = openinput(2, tempfile, "temporary file");
     for (int k = 1; k <= n; ++k) {
-        readrecord(2, wirecolumns);
+        readrecord(in, wirecolumns);
         drawrecord(elementkind, anycode);
     }
-    closechannel(2);
+    in.close();
     deletefile(tempfile);
 }
 

@@ -4,8 +4,8 @@
 
 #include "building/buildstate.h"
 #include "building/records.h"
-#include "core/channels.h"
 #include "core/failure.h"
+#include "core/textfiles.h"
 #include "core/windows1252.h"
 #include "core/world.h"
 
@@ -61,9 +61,9 @@ std::string_view firstcharacters(std::string_view text, int n) {
 }  // namespace
 
 void recordelement(const char* family, int number, int x, int y, const value& code) {
-    openappend(1, designpath(family + floorname.text() + ".txt"), "design file");
-    writetext(1, recordline({elementkind, number, x, y, code, rotx, rotz, placex, placey, facecode, recordtrailer}));
-    closechannel(1);
+    textoutput& out = openappend(1, designpath(family + floorname.text() + ".txt"), "design file");
+    out.write(recordline({elementkind, number, x, y, code, rotx, rotz, placex, placey, facecode, recordtrailer}));
+    out.close();
 }
 
 int panelcodefor(const std::string& prefix, const std::string& part) {

@@ -3,8 +3,8 @@
 #include "building/filelist.h"
 
 #include "building/records.h"
-#include "core/channels.h"
 #include "core/controls.h"
+#include "core/textfiles.h"
 
 namespace tessaly {
 

@@ -38,11 +38,11 @@ std::string keptline(const value& first, recordcolumns kept, const value& r, con
     return recordline(fields);
 }
 
-std::vector<value> readrecord(int channel, recordcolumns form) {
+std::vector<value> readrecord(textinput& in, recordcolumns form) {
     std::vector<value> fields;
     for (const recordcolumn& c : form) {
         constexpr const char* what = "a field of a design record";
-        fields.push_back(c.text ? value(readrecordtext(channel, what)) : readrecordfield(channel, what));
+        fields.push_back(c.text ? value(readrecordtext(in, what)) : readrecordfield(in, what));
         if (c.scalar) *c.scalar = fields.back();
     }
     return fields;

@@ -2,6 +2,7 @@
 // recordcolumns of a design record. Where a reader differs from the other it says so by its recordcolumns.
 #pragma once
 
+#include "core/textfiles.h"
 #include "core/world.h"
 
 #include <span>
@@ -27,9 +28,9 @@ std::string recordline(const std::vector<value>& fields);
 // A line of first, record r as the tables of these recordcolumns keep it, and last.
 std::string keptline(const value& first, recordcolumns kept, const value& r, const value& last);
 
-// Reads a record from channel, each field into its recordcolumn's place: a record that breaks off leaves its front
+// Reads a record, each field into its recordcolumn's place: a record that breaks off leaves its front
 // there. Returns the fields; fails: input past end of file, overflow.
-std::vector<value> readrecord(int channel, recordcolumns form);
+std::vector<value> readrecord(textinput& in, recordcolumns form);
 
 // Keeps a record's fields in the tables of its recordcolumns.
 void keeprecord(int i, recordcolumns form, const std::vector<value>& fields);

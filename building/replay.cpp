@@ -3,8 +3,8 @@
 #include "building/replay.h"
 
 #include "building/designfiles.h"
-#include "core/channels.h"
 #include "core/controls.h"
+#include "core/textfiles.h"
 #include "data/elements.h"
 #include "render/painter.h"
 #include "render/surface.h"
@@ -39,9 +39,9 @@ double squared(double d) { return d * d; }
 }  // namespace
 
 int keepdesignfile(int channel, const value& name, recordcolumns form) {
-    openinput(channel, designpath(name), "design file");
-    const int n = untilfailure(lastrecord, [&](int i) { keeprecord(i, form, readrecord(channel, form)); });
-    closechannel(channel);
+    textinput& in = openinput(channel, designpath(name), "design file");
+    const int n = untilfailure(lastrecord, [&](int i) { keeprecord(i, form, readrecord(in, form)); });
+    in.close();
     return n;
 }
 
@@ -78,14 +78,14 @@ void sortrecords(const table<value, lastrecord>& number, int n) {
 }
 
 void paintrecords(const char* file, int n, recordcolumns form, const value& kind, const value& code) {
-    openinput(2, file, "temporary file");
+    textinput& in = openinput(2, file, "temporary file");
     for (int k = 1; k <= n; ++k) {
-        readrecord(2, form);
+        readrecord(in, form);
         stepprogress();
         drawrecord(kind, code);
         paintsolids();
     }
-    closechannel(2);
+    in.close();
 }
 
 void drawprogress(int n) {

@@ -4,8 +4,8 @@
 #pragma once
 
 #include "building/records.h"
-#include "core/channels.h"
 #include "core/failure.h"
+#include "core/textfiles.h"
 #include "core/value.h"
 #include "core/world.h"
 
@@ -56,9 +56,9 @@ void sortrecords(const table<value, lastrecord>& number, int n);
 // Adds line(1) .. line(n) to a temporary file, on channel 2. fails: as openappend, type mismatch, subscript.
 template <class form>
 void addlines(const char* file, int n, form line) {
-    openappend(2, file, "temporary file");
-    for (int i = 1; i <= n; ++i) writetext(2, line(i));
-    closechannel(2);
+    textoutput& out = openappend(2, file, "temporary file");
+    for (int i = 1; i <= n; ++i) out.write(line(i));
+    out.close();
 }
 
 // Reads n records of a temporary file and draws and paints each, a step of the strip before it. kind, code: as

@@ -6,8 +6,8 @@
 #include "building/designfiles.h"
 #include "building/records.h"
 #include "building/replay.h"
-#include "core/channels.h"
 #include "core/controls.h"
+#include "core/textfiles.h"
 
 namespace tessaly {
 
@@ -63,12 +63,12 @@ void clickautosolidsingle() { offer(autofile5); }
 void pickautofile() {
     const recordclass& c = takename(autofile);
     const std::vector<recordcolumn> form = columnsof(c);
-    openinput(2, designpath(secondfilename), "design file");
+    textinput& in = openinput(2, designpath(secondfilename), "design file");
     untilfailure(maxwirerecords, [&](int) {
-        readrecord(2, form);
+        readrecord(in, form);
         drawrecord(c.kind, *c.code.scalar);
     });
-    closechannel(2);
+    in.close();
 }
 
 void pickautofile5() {

@@ -2,8 +2,8 @@
 
 #include "captures/capture.h"
 
-#include "core/channels.h"
 #include "core/failure.h"
+#include "core/textfiles.h"
 #include "core/viewvalues.h"
 #include "core/windows1252.h"
 #include "render/surface.h"
@@ -42,9 +42,9 @@ void clickscreencapenter() {
     capname = capbox.text;
     const std::string record = viewrecord();
     capsidecar = stemof(capname) + ".txt";
-    openappend(1, "bmps\\" + capsidecar.text(), "view record");
-    writetext(1, record);
-    closechannel(1);
+    textoutput& sidecar = openappend(1, "bmps\\" + capsidecar.text(), "view record");
+    sidecar.write(record);
+    sidecar.close();
     closedialog();
     viewportsurface->save("bmps\\" + capname.text());
 }

@@ -4,10 +4,10 @@
 #include "captures/retrieval.h"
 
 #include "captures/capture.h"
-#include "core/channels.h"
 #include "core/colour.h"
 #include "core/failure.h"
 #include "core/fields.h"
+#include "core/textfiles.h"
 #include "core/viewvalues.h"
 #include "core/windows1252.h"
 #include "render/projector.h"
@@ -33,10 +33,10 @@ void namefiles() {
 std::vector<value> readviewrecord() {
     const std::string path = "bmps\\" + bmpsidecar.text();
     std::vector<value> fields;
-    openinput(1, path, "view record");
+    textinput& in = openinput(1, path, "view record");
     for (const viewvalue& f : viewvalues)
-        fields.emplace_back(fromwindows1252(readrecordtext(1, f.word)), path + " (" + f.word + ")");
-    closechannel(1);
+        fields.emplace_back(fromwindows1252(readrecordtext(in, f.word)), path + " (" + f.word + ")");
+    in.close();
     return fields;
 }
 

@@ -3,7 +3,6 @@
 #include "core/colour.h"
 
 #include "core/failure.h"
-#include "core/fields.h"
 #include "core/world.h"
 
 #include <algorithm>
@@ -51,7 +50,7 @@ colour palettecolour(const value& index) {
 
 colour backgroundcolour() {
     return colourof({backred, backgreen, backblue},
-                    [](int i) { return figureplace("datah\\start.txt", "BACKGROUNDCOLOR:", i); });
+                    [](int i) { return "datah\\start.txt, " + numberin("BACKGROUNDCOLOR:", i + 1); });
 }
 
 }  // namespace tessaly

@@ -2,7 +2,7 @@
 
 #include "core/controls.h"
 
-#include "core/channels.h"
+#include "core/textfiles.h"
 
 #include <map>
 

@@ -28,4 +28,10 @@ void failure::addlocation(const std::string& where) {
     if (location.empty()) location = where;
 }
 
+std::string numberin(const std::string& row, int number) {
+    constexpr const char* ordinals[] = {"first", "second",  "third",  "fourth", "fifth",
+                                        "sixth", "seventh", "eighth", "ninth",  "tenth"};
+    return row + ", " + ordinals[number - 1] + " number";
+}
+
 }  // namespace tessaly

@@ -41,6 +41,9 @@ struct failure : std::exception {
     std::string location;  // where to mend it: file, line and field, or text box; empty where it is no location's fault
 };
 
+// The location of a row's number 1..10, such as "LINEG3:, row 4, second number".
+std::string numberin(const std::string& row, int number);
+
 // Runs step. An index outside a table was named by a figure of a data file, at location().
 template <class locating, class procedure>
 void locatesubscript(locating location, procedure step) {

@@ -2,8 +2,8 @@
 
 #include "core/fields.h"
 
-#include "core/channels.h"
 #include "core/failure.h"
+#include "core/textfiles.h"
 #include "core/world.h"
 
 namespace tessaly {
@@ -32,19 +32,19 @@ struct scanner {
     void takelineend() {
         if (next() == '\r' && in.at + 1 < bytes.size() && bytes[in.at + 1] == '\n') ++in.at;
         ++in.at;
-        ++in.line;
-        in.field = 1;
+        ++in.next.line;
+        in.next.field = 1;
     }
     // Takes the separator that closes a field, if one stands here.
     void takeseparator() {
         if (atend()) return;
         if (next() == ',') {
             ++in.at;
-            ++in.field;
+            ++in.next.field;
         } else if (islineend(next())) {
             takelineend();
         } else {
-            ++in.field;
+            ++in.next.field;
         }
     }
     // Blank lines, and the line end of a row that is broken after a comma.
@@ -59,7 +59,7 @@ struct scanner {
     std::string_view takequoted() {
         const std::size_t from = ++in.at;
         while (!atend() && next() != '"') {
-            if (next() == '\n') ++in.line;
+            if (next() == '\n') ++in.next.line;
             ++in.at;
         }
         const std::string_view text(bytes.data() + from, in.at - from);
@@ -126,23 +126,23 @@ struct scanner {
 
 }  // namespace
 
-value readvalue(int channel, const char* what) {
-    scanner s(channelinput(channel), what);
+value readvalue(textinput& in, const char* what) {
+    scanner s(in, what);
     s.skiplineends();
     return s.takevalue();
 }
 
-value readrecordfield(int channel, const char* what) {
-    scanner s(channelinput(channel), what);
+value readrecordfield(textinput& in, const char* what) {
+    scanner s(in, what);
     s.skipblanks();
     return s.takevalue();
 }
 
-int readlabel(int channel, const char* what) {
-    scanner s(channelinput(channel), what);
+int readlabel(textinput& in, const char* what) {
+    scanner s(in, what);
     s.skiplineends();
     if (s.atend()) s.pastend();
-    const int line = s.in.line, field = s.in.field;
+    const fieldlocation start = in.next;
     double label = 0;
     if (s.next() == '"') {
         label = strictnumber(s.takequoted()).value_or(0);
@@ -156,19 +156,19 @@ int readlabel(int channel, const char* what) {
     if (label < -32768 || label > 32767)
         throw failure(failurekind::overflow,
                       plaintext(label) + " as " + s.what + ", a whole number -32768..32767 was expected",
-                      s.in.location(line, field));
+                      in.location(start));
     return static_cast<int>(label);
 }
 
-std::string_view readtextfield(int channel, const char* what) {
-    scanner s(channelinput(channel), what);
+std::string_view readtextfield(textinput& in, const char* what) {
+    scanner s(in, what);
     s.skipblanks();
-    if (s.in.field > 1 && !s.atend() && islineend(s.next())) s.takelineend();  // the row is broken after a comma
-    return readrecordtext(channel, what);
+    if (in.next.field > 1 && !s.atend() && islineend(s.next())) s.takelineend();  // the row is broken after a comma
+    return readrecordtext(in, what);
 }
 
-std::string_view readrecordtext(int channel, const char* what) {
-    scanner s(channelinput(channel), what);
+std::string_view readrecordtext(textinput& in, const char* what) {
+    scanner s(in, what);
     s.skipblanks();
     if (s.atend()) s.pastend();
     if (s.next() == '"') return s.takequoted();
@@ -177,25 +177,13 @@ std::string_view readrecordtext(int channel, const char* what) {
     return text;
 }
 
-void findkey(int channel, const char* key) {
-    while (readtextfield(channel, key) != key) continue;
+void findkey(textinput& in, const char* key) {
+    while (readtextfield(in, key) != key) continue;
 }
 
-void skiptofigure(int channel) { scanner(channelinput(channel), "a figure").skiplineends(); }
-
-std::string figureplace(const std::string& path, const std::string& key, int skipped) {
-    constexpr int forreports = 0;  // a channel of its own
-    std::string location = path;
-    try {
-        openinput(forreports, path, "file of a report");
-        findkey(forreports, key.c_str());
-        for (; skipped > 0; --skipped) readvalue(forreports, key.c_str());
-        skiptofigure(forreports);
-        location = channelinput(forreports).location() + " (" + key + ")";
-    } catch (const failure&) {
-    }
-    closechannel(forreports);
-    return location;
+fieldlocation nextfield(textinput& in) {
+    scanner(in, "a number").skiplineends();
+    return in.next;
 }
 
 }  // namespace tessaly

@@ -3,10 +3,10 @@
 
 #include "data/cubes.h"
 
-#include "core/channels.h"
 #include "core/controls.h"
 #include "core/failure.h"
 #include "core/fields.h"
+#include "core/textfiles.h"
 #include "core/world.h"
 #include "data/elements.h"
 #include "data/script.h"
@@ -22,12 +22,12 @@ constexpr const char* rows[] = {
     "AUTOCUBE000:", "AUTOCUBE100:", "AUTOCUBE200:", "AUTOCUBE300:", "AUTOCUBE400:", "AUTOCUBE500:"};
 constexpr int singlesfirst = 600, maxsingles = 100, singlespoint = 6001;
 
-void readcuberow(axis stepped, int base, cubeslots& next) {
-    cubecorners corner = readcorners();
-    const value step = readvalue(1, "the step of a cube row");
-    const value last = readvalue(1, "the last cube's number of a cube row");
-    rowgrade = readvalue(1, "the grade of a cube row");
-    rowcolour = readvalue(1, "the colour of a cube row");
+void readcuberow(textinput& in, axis stepped, int base, cubeslots& next) {
+    cubecorners corner = readcorners(in);
+    const value step = readvalue(in, "the step of a cube row");
+    const value last = readvalue(in, "the last cube's number of a cube row");
+    rowgrade = readvalue(in, "the grade of a cube row");
+    rowcolour = readvalue(in, "the colour of a cube row");
 
     value &first = corner[stepped], &second = corner[stepped + 3];
     first = first - step;
@@ -41,29 +41,28 @@ void readcuberow(axis stepped, int base, cubeslots& next) {
 
 // Rows of first quad, last quad and count: the same face of each cube of a row, ten slots apart. The end row clears the
 // slot at which the walk of the row before it stopped.
-void readcubeframing(const char* key, table<value, lastquad, clearedpoints>& framing) {
-    findkey(1, key);
+void readcubeframing(textinput& in, const char* key, table<value, lastquad, clearedpoints>& framing) {
+    findkey(in, key);
     double walked = 0;
     for (;;) {
-        skiptofigure(1);
-        const int line = channelinput(1).line, field = channelinput(1).field;
-        const value first = readvalue(1, "the first quad of a framing row");
-        const value last = readvalue(1, "the last quad of a framing row");
-        const value count = readvalue(1, "the count of a framing row");
+        const fieldlocation row = nextfield(in);
+        const value first = readvalue(in, "the first quad of a framing row");
+        const value last = readvalue(in, "the last quad of a framing row");
+        const value count = readvalue(in, "the count of a framing row");
         const bool end = endsrows(count);
         const auto frame = [&] {
             if (end) return framing.set(value(walked), 0);
             for (walked = first; walked <= last; walked += 10) framing.set(value(walked), count);
         };
-        tellrow(1, line, field, key, frame);
+        locaterow(in, row, key, frame);
         if (end) return;
     }
 }
 
 template <axis stepped>
-void readcubesections() {
-    findkey(1, "WIRECOLORS:");
-    for (int group = 6; group <= 9; ++group) wirecolour[group] = readvalue(1, "a wire colour (WIRECOLORS:)");
+void readcubesections(textinput& in) {
+    findkey(in, "WIRECOLORS:");
+    for (int group = 6; group <= 9; ++group) wirecolour[group] = readvalue(in, "a wire colour (WIRECOLORS:)");
 
     cubeslots next{1, 1, 1};
     int pairstart = 1;  // first line of the pair of sections being read
@@ -74,20 +73,20 @@ void readcubesections() {
     };
     int base = 0;
     for (const char* key : rows) {
-        findkey(1, key);
+        findkey(in, key);
         if (base == 200) closepair(6, 1);
         if (base == 400) closepair(7, 2);
         next.point = next.quad = 10 * base + 1;
-        readcuberow(stepped, base, next);
+        readcuberow(in, stepped, base, next);
         base += 100;
     }
-    findkey(1, "AUTOCUBE600:");
+    findkey(in, "AUTOCUBE600:");
     closepair(8, 3);
     next.point = next.quad = singlespoint;
-    readcuberows(singlesfirst, maxsingles, next);
+    readcuberows(in, singlesfirst, maxsingles, next);
     closepair(9, 4);
-    readcubeframing("AUTOFRAMING1:", framing1);
-    readcubeframing("AUTOFRAMING2:", framing2);
+    readcubeframing(in, "AUTOFRAMING1:", framing1);
+    readcubeframing(in, "AUTOFRAMING2:", framing2);
 }
 
 bool placecubes() {

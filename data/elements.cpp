@@ -3,9 +3,9 @@
 
 #include "data/elements.h"
 
-#include "core/channels.h"
 #include "core/failure.h"
 #include "core/fields.h"
+#include "core/textfiles.h"
 #include "core/world.h"
 #include "data/pointtransforms.h"
 #include "data/script.h"
@@ -20,18 +20,18 @@ constexpr int lastplaced = 100;  // points that a placement moves
 constexpr int lastplane = 7000;
 constexpr int cubesinsection = 200;
 
-void readwirecolours() {
-    findkey(1, "WIRECOLORS:");
-    for (int group = 1; group <= 7; ++group) wirecolour[group] = readvalue(1, "a wire colour (WIRECOLORS:)");
+void readwirecolours(textinput& in) {
+    findkey(in, "WIRECOLORS:");
+    for (int group = 1; group <= 7; ++group) wirecolour[group] = readvalue(in, "a wire colour (WIRECOLORS:)");
 }
 
-void readpoints() {
-    findkey(1, "STANDARD:");
+void readpoints(textinput& in) {
+    findkey(in, "STANDARD:");
     for (int n = 1; n <= lastpoint; ++n) {
-        const int label = readlabel(1, "the label of a STANDARD: row");
-        ptx.set(n, readvalue(1, "x of a STANDARD: row"));
-        pty.set(n, readvalue(1, "y of a STANDARD: row"));
-        ptz.set(n, readvalue(1, "z of a STANDARD: row"));
+        const int label = readlabel(in, "the label of a STANDARD: row");
+        ptx.set(n, readvalue(in, "x of a STANDARD: row"));
+        pty.set(n, readvalue(in, "y of a STANDARD: row"));
+        ptz.set(n, readvalue(in, "z of a STANDARD: row"));
         placepoint(n, ptx[n], pty[n], ptz[n]);
         if (label == sentinel) {
             ptcount1 = n - 1;
@@ -41,67 +41,66 @@ void readpoints() {
 }
 
 // Reads one LINEG section from line index first on; gives its count of lines. A section without an end row counts none.
-int readlines(const char* key, int first) {
-    findkey(1, key);
+int readlines(textinput& in, const char* key, int first) {
+    findkey(in, key);
     for (int n = first; n <= lastline; ++n) {
-        lineend1.set(n, readvalue(1, "the first point of a line row"));
-        lineend2.set(n, readvalue(1, "the second point of a line row"));
+        lineend1.set(n, readvalue(in, "the first point of a line row"));
+        lineend2.set(n, readvalue(in, "the second point of a line row"));
         if (endsrows(lineend1[n]) && endsrows(lineend2[n])) return n - first;
     }
     return 0;
 }
 
-void readplanes() {
-    findkey(1, "AUTOPLANE:");
+void readplanes(textinput& in) {
+    findkey(in, "AUTOPLANE:");
     for (int q = 1; q <= lastplane; ++q) {
-        const int label = readlabel(1, "the label of an AUTOPLANE: row");
-        quad1.set(q, readvalue(1, "corner 1 of an AUTOPLANE: row"));
-        quad3.set(q, readvalue(1, "corner 3 of an AUTOPLANE: row"));
-        quad2.set(q, readvalue(1, "corner 2 of an AUTOPLANE: row"));
-        quad4.set(q, readvalue(1, "corner 4 of an AUTOPLANE: row"));
-        quadface.set(q, readvalue(1, "the face of an AUTOPLANE: row"));
-        quadcolour.set(q, readvalue(1, "the colour of an AUTOPLANE: row"));
+        const int label = readlabel(in, "the label of an AUTOPLANE: row");
+        quad1.set(q, readvalue(in, "corner 1 of an AUTOPLANE: row"));
+        quad3.set(q, readvalue(in, "corner 3 of an AUTOPLANE: row"));
+        quad2.set(q, readvalue(in, "corner 2 of an AUTOPLANE: row"));
+        quad4.set(q, readvalue(in, "corner 4 of an AUTOPLANE: row"));
+        quadface.set(q, readvalue(in, "the face of an AUTOPLANE: row"));
+        quadcolour.set(q, readvalue(in, "the colour of an AUTOPLANE: row"));
         if (label == sentinel) return;
     }
 }
 
-void readframing(const char* key, table<value, lastquad, clearedpoints>& framing) {
-    findkey(1, key);
+void readframing(textinput& in, const char* key, table<value, lastquad, clearedpoints>& framing) {
+    findkey(in, key);
     for (;;) {
-        skiptofigure(1);
-        const int line = channelinput(1).line, field = channelinput(1).field;
-        const value quad = readvalue(1, "the quad index of a framing row");
-        const value count = readvalue(1, "the count of a framing row");
+        const fieldlocation row = nextfield(in);
+        const value quad = readvalue(in, "the quad index of a framing row");
+        const value count = readvalue(in, "the count of a framing row");
         const bool last = endsrows(count);
-        tellrow(1, line, field, key, [&] { framing.set(quad, last ? value(0) : count); });
+        locaterow(in, row, key, [&] { framing.set(quad, last ? value(0) : count); });
         if (last) return;
     }
 }
 
-void readsections() {
-    readwirecolours();
-    readpoints();
+void readsections(textinput& in) {
+    readwirecolours(in);
+    readpoints(in);
     int lines = 0;
     const char* const keys[] = {"LINEG1:", "LINEG2:", "LINEG3:", "LINEG4:", "LINEG5:"};
     for (int group = 1; group <= 5; ++group) {
-        const int count = readlines(keys[group - 1], lines + 1);
+        const int count = readlines(in, keys[group - 1], lines + 1);
         linecount[group] = count;
         lines += count;
     }
     cubeslots next{4001, 4001, lines + 1};
-    findkey(1, "AUTOCUBE400:");
-    readcuberows(400, cubesinsection, next);
+    findkey(in, "AUTOCUBE400:");
+    readcuberows(in, 400, cubesinsection, next);
     linecount6 = next.line - (lines + 1);
     ptcount3 = next.point - 4001;
     const int firstline = next.line;
     next = {6001, 6001, firstline};
-    findkey(1, "AUTOCUBE600:");
-    readcuberows(600, cubesinsection, next);
+    findkey(in, "AUTOCUBE600:");
+    readcuberows(in, 600, cubesinsection, next);
     linecount7 = next.line - firstline;
     ptcount4 = next.point - 6001;
-    readplanes();
-    readframing("AUTOFRAMING1:", framing1);
-    readframing("AUTOFRAMING2:", framing2);
+    readplanes(in);
+    readframing(in, "AUTOFRAMING1:", framing1);
+    readframing(in, "AUTOFRAMING2:", framing2);
 }
 
 void toworldplace() {
@@ -148,13 +147,13 @@ void shiftplace() {
 void readshape(const shapereader& r) {
     resetworld();
     const bool opened = preopened == r.preopened;
-    if (!opened) openinput(1, "datah\\" + datafile.text(), r.role);
-    shapefile = channelinput(1).path;
-    locatesubscript([] { return channelinput(1).location(); }, r.readsections);
+    textinput& in = opened ? channelinput(1) : openinput(1, "datah\\" + datafile.text(), r.role);
+    shapefile = in.path;
+    locatesubscript([&in] { return in.location(); }, [&] { r.readsections(in); });
     if (opened) return;
     // A placemode that nothing sets leaves the file open on channel 1, so that the next element fails.
     if (!r.place()) return;
-    closechannel(1);
+    in.close();
     drawset = r.drawset;
     plotgroups();
 }
@@ -162,16 +161,16 @@ void readshape(const shapereader& r) {
 void showscene() {
     preopened = 0;
     runtransforms();
-    closechannel(1);
+    channelinput(1).close();
     viewprompt = "AUTOMA";
     loadpalette();
     plotgroups();
     plotstate = 2;
 }
 
-cubecorners readcorners() {
+cubecorners readcorners(textinput& in) {
     cubecorners corners;
-    for (value& coordinate : corners) coordinate = readvalue(1, "a corner coordinate of a cube row");
+    for (value& coordinate : corners) coordinate = readvalue(in, "a corner coordinate of a cube row");
     return corners;
 }
 
@@ -209,12 +208,12 @@ void expandcube(cubeslots& next, const cubecorners& opposite, const value& grade
     next.quad += 10;
 }
 
-void readcuberows(int firstcube, int maxrows, cubeslots& next) {
+void readcuberows(textinput& in, int firstcube, int maxrows, cubeslots& next) {
     for (int c = firstcube; c < firstcube + maxrows; ++c) {
-        const int label = readlabel(1, "the label of a cube row");
-        const cubecorners corners = readcorners();
-        cubegrade.set(c, readvalue(1, "the grade of a cube row"));
-        cubecolour.set(c, readvalue(1, "the colour of a cube row"));
+        const int label = readlabel(in, "the label of a cube row");
+        const cubecorners corners = readcorners(in);
+        cubegrade.set(c, readvalue(in, "the grade of a cube row"));
+        cubecolour.set(c, readvalue(in, "the colour of a cube row"));
         if (label == sentinel) return;
         expandcube(next, corners, cubegrade[c], cubecolour[c]);
     }

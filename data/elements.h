@@ -2,6 +2,7 @@
 // drawn as wires.
 #pragma once
 
+#include "core/textfiles.h"
 #include "core/value.h"
 
 #include <array>
@@ -23,7 +24,7 @@ void shiftplace();  // moved only
 struct shapereader {
     int preopened;     // at which the reader finds its file open on channel 1
     const char* role;  // of its file, for reports
-    void (*readsections)();
+    void (*readsections)(textinput& in);
     bool (*place)();  // false: nothing placed it
     int drawset;
 };
@@ -43,13 +44,13 @@ struct cubeslots {
 
 // Two opposite corners of a cube, x, y and z of each, as a row gives them.
 using cubecorners = std::array<value, 6>;
-cubecorners readcorners();
+cubecorners readcorners(textinput& in);
 
 // Expands a cube into eight points, twelve lines and six faces.
 void expandcube(cubeslots& next, const cubecorners& opposite, const value& grade, const value& colour);
 
 // Reads rows of one cube each, up to the end row or maxrows of them, and expands them into the slots from next on.
 // writes: cubegrade, cubecolour from firstcube on and what expandcube writes; fails: as readelements.
-void readcuberows(int firstcube, int maxrows, cubeslots& next);
+void readcuberows(textinput& in, int firstcube, int maxrows, cubeslots& next);
 
 }  // namespace tessaly

@@ -2,10 +2,10 @@
 
 #include "data/script.h"
 
-#include "core/channels.h"
 #include "core/failure.h"
 #include "core/fields.h"
 #include "core/sine.h"
+#include "core/textfiles.h"
 #include "core/world.h"
 #include "data/pointtransforms.h"
 
@@ -121,27 +121,27 @@ const block& blockof(std::string_view keyword) {
     return blocks[0];
 }
 
-void obeyblock(const block& b) {
+void obeyblock(textinput& in, const block& b) {
     for (int n = 1; n <= b.rows; ++n) {
-        skiptofigure(1);
-        const int line = channelinput(1).line, field = channelinput(1).field;
+        const fieldlocation start = nextfield(in);
         value row[maxfields];
-        for (int f = 0; f < b.fields; ++f) row[f] = readvalue(1, "a field of a transformation row");
+        for (int f = 0; f < b.fields; ++f) row[f] = readvalue(in, "a field of a transformation row");
         if (endsrows(row[0])) return;
-        tellrow(1, line, field, b.keyword, [&] { b.obey(row); });
+        locaterow(in, start, b.keyword, [&] { b.obey(row); });
     }
 }
 
 }  // namespace
 
 void runtransforms() {
+    textinput& in = channelinput(1);
     std::string keyword;
     for (;;) {
         // Every block is introduced by its own TRAN; a keyword that was TRAN itself introduces the next block.
-        if (keyword != "TRAN") findkey(1, "TRAN");
-        keyword = readtextfield(1, "the keyword behind TRAN");
+        if (keyword != "TRAN") findkey(in, "TRAN");
+        keyword = readtextfield(in, "the keyword behind TRAN");
         if (keyword == "STOP") return;
-        obeyblock(blockof(keyword));
+        obeyblock(in, blockof(keyword));
     }
 }
 

@@ -3,8 +3,8 @@
 
 #include "data/startdisplay.h"
 
-#include "core/channels.h"
 #include "core/fields.h"
+#include "core/textfiles.h"
 #include "core/viewvalues.h"
 #include "data/cubes.h"
 #include "data/elements.h"
@@ -20,38 +20,38 @@ constexpr const char* presetkeys[] = {
 };
 constexpr int viewvaluecount = std::size(viewvalues);
 
-void readdefaultview() {
-    findkey(1, "DEFAULTVIEW:");
-    for (const viewvalue& f : viewvalues) f.figure = readvalue(1, "a figure of DEFAULTVIEW:");
+void readdefaultview(textinput& in) {
+    findkey(in, "DEFAULTVIEW:");
+    for (const viewvalue& f : viewvalues) f.figure = readvalue(in, "a figure of DEFAULTVIEW:");
 }
 
 // A preset's eye is kept relative to its focus.
-void readpreset(const char* key, int first) {
-    findkey(1, key);
-    for (int i = 0; i < viewvaluecount; ++i) viewpreset.set(first + i, readvalue(1, "a figure of a view preset"));
+void readpreset(textinput& in, const char* key, int first) {
+    findkey(in, key);
+    for (int i = 0; i < viewvaluecount; ++i) viewpreset.set(first + i, readvalue(in, "a figure of a view preset"));
     for (int i = 0; i < 3; ++i) viewpreset.set(first + i, viewpreset[first + i] - viewpreset[first + 3 + i]);
 }
 
-value readname(const char* key) {
-    findkey(1, key);
-    return value(readtextfield(1, key));
+value readname(textinput& in, const char* key) {
+    findkey(in, key);
+    return value(readtextfield(in, key));
 }
 
 void readstartfile() {
-    openinput(1, "datah\\start.txt", "start file");
-    readdefaultview();
+    textinput& in = openinput(1, "datah\\start.txt", "start file");
+    readdefaultview(in);
     int first = 1;
     for (const char* key : presetkeys) {
-        readpreset(key, first);
+        readpreset(in, key, first);
         first += viewvaluecount;
     }
-    palname = readname("DEFAULTPAL:");
-    findkey(1, "BACKGROUNDCOLOR:");
-    for (value* v : {&backred, &backgreen, &backblue}) *v = readvalue(1, "a component of BACKGROUNDCOLOR:");
-    startgroup1 = readname("DISPLAYSTARTGROUP1:");
-    startgroup2 = readname("DISPLAYSTARTGROUP2:");
-    startgroup3 = readname("DISPLAYSTARTGROUP3:");
-    closechannel(1);
+    palname = readname(in, "DEFAULTPAL:");
+    findkey(in, "BACKGROUNDCOLOR:");
+    for (value* v : {&backred, &backgreen, &backblue}) *v = readvalue(in, "a component of BACKGROUNDCOLOR:");
+    startgroup1 = readname(in, "DISPLAYSTARTGROUP1:");
+    startgroup2 = readname(in, "DISPLAYSTARTGROUP2:");
+    startgroup3 = readname(in, "DISPLAYSTARTGROUP3:");
+    in.close();
 }
 
 void opengroup(const value& name, int step) {

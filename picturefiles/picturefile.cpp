@@ -3,7 +3,7 @@
 
 #include "picturefiles/picturefile.h"
 
-#include "core/channels.h"
+#include "core/textfiles.h"
 #include "core/failure.h"
 #include "picturefiles/rasterview.h"
 

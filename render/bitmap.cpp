@@ -2,7 +2,7 @@
 
 #include "render/bitmap.h"
 
-#include "core/channels.h"
+#include "core/textfiles.h"
 #include "core/failure.h"
 
 #include <algorithm>

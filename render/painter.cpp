@@ -5,7 +5,7 @@
 #include "core/colour.h"
 #include "core/failure.h"
 #include "core/world.h"
-#include "render/places.h"
+#include "render/locations.h"
 #include "render/projector.h"
 #include "render/quadsort.h"
 #include "render/surface.h"
@@ -72,7 +72,7 @@ void framedirection(int q, const direction& d) {
     const colour c = palettecolour(framecolour);
     viewportsurface->line(static_cast<float>(screenx[railend2]), static_cast<float>(screeny[railend2]),
                           static_cast<float>(screenx[railend1]), static_cast<float>(screeny[railend1]), c);
-    locatesubscript([&] { return placeofframing(q, d.number); }, framelines);
+    locatesubscript([&] { return locationofframing(q, d.number); }, framelines);
 }
 
 void drawframing(int q) {
@@ -100,7 +100,7 @@ void paintsolids() {
     for (int i = maxpainted; i >= 1; --i) {
         if (emptyquad(i)) continue;  // the slot at i itself: an element's quads fill the table from 1 upward
         const int q = indexof(quadorder[i], "quadorder", lastquad);
-        locatesubscript([q] { return placeofcolour(q); }, [q] { paintface(q); });
+        locatesubscript([q] { return locationofcolour(q); }, [q] { paintface(q); });
     }
 }
 

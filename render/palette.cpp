@@ -2,9 +2,11 @@
 
 #include "render/palette.h"
 
-#include "core/channels.h"
+#include "core/textfiles.h"
 #include "core/failure.h"
 #include "core/world.h"
+
+#include <utility>
 
 namespace tessaly {
 
@@ -26,9 +28,9 @@ void loadpalette() {
     const std::string path = "pals\\" + palname.text() + ".pal";
     std::string bytes;
     try {
-        openinput(1, path, "palette");
-        bytes = channelinput(1).bytes;
-        closechannel(1);
+        textinput& in = openinput(1, path, "palette");
+        bytes = std::move(in.bytes);
+        in.close();
     } catch (const failure& f) {
         // A record file is opened for reading and writing alike: a missing one is merely empty. Its folder has to be
         // there.

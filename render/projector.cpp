@@ -5,7 +5,7 @@
 
 #include "core/failure.h"
 #include "core/viewvalues.h"
-#include "render/places.h"
+#include "render/locations.h"
 #include "render/surface.h"
 
 #include <cmath>
@@ -120,7 +120,7 @@ int lineend(const table<value, lastline>& ends, int line, int end) {
     const int group = static_cast<int>(double(curgroup)), row = line - static_cast<int>(double(groupfirst[group])) + 1;
     throw failure(failurekind::subscript,
                   "point " + plaintext(named) + ", a point 0.." + std::to_string(lastpoint) + " was expected",
-                  placeofend(group, row, end));
+                  locationofend(group, row, end));
 }
 
 bool samenumber(const value& focus, const value& eye) { return double(eye) == double(focus); }
@@ -233,7 +233,7 @@ void drawgroups() {
         curwirecolour = wirecolour[group];
         const int first = indexof(groupfirst[group], "groupfirst", lastline),
                   last = indexof(grouplast[group], "grouplast", lastline);
-        locatesubscript([group] { return placeofwirecolour(group); },
+        locatesubscript([group] { return locationofwirecolour(group); },
                         [first, last] { drawlines(first, last, curwirecolour); });
     }
 }

@@ -4,7 +4,7 @@
 
 #include "core/failure.h"
 #include "core/world.h"
-#include "render/places.h"
+#include "render/locations.h"
 
 #include <cmath>
 #include <vector>
@@ -38,7 +38,7 @@ void measurecorners(int i) {
 void measurequad(int i) {
     // The fourth corner is slot 0's, not slot i's: three corners decide whether a quad counts as empty here.
     if (quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[0] == 0) return;
-    locatesubscript([i] { return placeofcorner(i); }, [i] { measurecorners(i); });
+    locatesubscript([i] { return locationofcorner(i); }, [i] { measurecorners(i); });
 }
 
 // The slots that a sort has to look at, ascending.

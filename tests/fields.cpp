@@ -13,22 +13,22 @@ namespace {
 // "-" empty.
 std::string readall(const std::string& bytes, const std::string& reads) {
     session::write("f.txt", bytes);
-    openinput(1, "f.txt", "test");
+    textinput& in = openinput(1, "f.txt", "test");
     std::string result;
     const auto shown = [](const value& v) { return v.empty() ? "-" : v.isnumber() ? v.text() : '"' + v.text() + '"'; };
     const auto quoted = [](std::string_view text) { return '"' + std::string(text) + '"'; };
     for (const char read : reads) {
         if (!result.empty()) result += ' ';
         const auto failed = failureof([&] {
-            if (read == 'v') result += shown(readvalue(1, "it"));
-            if (read == 'r') result += shown(readrecordfield(1, "it"));
-            if (read == 'l') result += std::to_string(readlabel(1, "it"));
-            if (read == 's') result += quoted(readrecordtext(1, "it"));
-            if (read == 't') result += quoted(readtextfield(1, "it"));
+            if (read == 'v') result += shown(readvalue(in, "it"));
+            if (read == 'r') result += shown(readrecordfield(in, "it"));
+            if (read == 'l') result += std::to_string(readlabel(in, "it"));
+            if (read == 's') result += quoted(readrecordtext(in, "it"));
+            if (read == 't') result += quoted(readtextfield(in, "it"));
         });
         if (failed) result += kindname(failed->kind);
     }
-    closechannel(1);
+    in.close();
     return result;
 }
 
@@ -82,10 +82,10 @@ TEST(fields, rulesAtTheirEdges) {
 TEST(fields, keysAreFoundByWholeFields) {
     session s(ownfolder);
     session::write("f.txt", "say KEY: twice, KEY:x,key:\n \"KEY:\" 1\nKEY:\n2\n");
-    openinput(1, "f.txt", "test");
-    findkey(1, "KEY:");
-    EXPECT_EQ(readvalue(1, "it"), 1);
-    EXPECT_EQ(failureof([] { findkey(1, "OTHER:"); })->report(),
+    textinput& in = openinput(1, "f.txt", "test");
+    findkey(in, "KEY:");
+    EXPECT_EQ(readvalue(in, "it"), 1);
+    EXPECT_EQ(failureof([&] { findkey(in, "OTHER:"); })->report(),
               "input past end of file: f.txt, line 5, field 1: the file ends while looking for OTHER:");
 }
 

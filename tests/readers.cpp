@@ -78,9 +78,9 @@ TEST(readers, cubesThatNoGroupShows) {
         EXPECT_TRUE(basex[1] == 11 && drawset == 2 && ptz[2009] == -0.5);
     }
     expectfailure(failureof([&] { paint(readcubez, replaced(text, "100,4,60", "100,4,300")); }), failurekind::subscript,
-                  "line 6, field 10 (AUTOCUBE100:): palette");
+                  "AUTOCUBE100:, tenth number: palette");
     expectfailure(failureof([&] { paint(readcubez, replaced(text, "1,21,4", "1,21,1501")); }), failurekind::subscript,
-                  "line 19, field 3 (AUTOFRAMING1:)");
+                  "AUTOFRAMING1:, face 1: framing");
 }
 
 // No folder of designs or bitmaps: the load of the main window fails before anything is drawn.

@@ -2,7 +2,7 @@
 // user does (click, pick, type) or set the world's tables themselves and call one procedure.
 #pragma once
 
-#include "core/channels.h"
+#include "core/textfiles.h"
 #include "core/controls.h"
 #include "core/failure.h"
 #include "core/value.h"

@@ -11,7 +11,7 @@
 #include "building/singlereader.h"
 #include "captures/capture.h"
 #include "captures/retrieval.h"
-#include "core/channels.h"
+#include "core/textfiles.h"
 #include "core/failure.h"
 #include "core/world.h"
 #include "data/cubes.h"

@@ -1,7 +1,7 @@
-// Channels over the system's files. A record is appended with one write and taken back where it did not go in whole,
-// so that a design file never holds half a record.
+// Text files on numbered channels. A record is appended with one write and removed again if it was not written
+// completely, so that a design file never holds half a record.
 
-#include "core/channels.h"
+#include "core/textfiles.h"
 
 #include "core/failure.h"
 #include "core/value.h"
@@ -13,6 +13,7 @@
 #include <cstring>
 #include <filesystem>
 #include <optional>
+#include <utility>
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -22,17 +23,9 @@ namespace tessaly {
 
 namespace {
 
-struct appending {
-    std::string path;
-    std::string text;
-    int handle;
-    bool created;  // by its opening: it goes again where its text cannot be written
-};
-
 struct channelstate {
     std::optional<textinput> input;
-    std::optional<appending> output;
-    bool open() const { return input || output; }
+    std::optional<textoutput> output;
 };
 
 constexpr int lastchannel = 2;
@@ -49,7 +42,7 @@ channelstate& channelof(int channel) { return channels.at(static_cast<std::size_
 
 void expectfree(int channel, std::string_view path) {
     const channelstate& c = channelof(channel);
-    if (!c.open()) return;
+    if (!c.input && !c.output) return;
     throw failure(failurekind::filealreadyopen, "channel " + std::to_string(channel) + " still holds " +
                                                     (c.input ? c.input->path : c.output->path) + " while opening " +
                                                     std::string(path));
@@ -105,8 +98,13 @@ std::string systempath(std::string_view path) {
     return result;
 }
 
-std::string textinput::location(int atline, int atfield) const {
-    return path + ", line " + std::to_string(atline) + ", field " + std::to_string(atfield);
+std::string textinput::location(fieldlocation of) const {
+    return path + ", line " + std::to_string(of.line) + ", field " + std::to_string(of.field);
+}
+
+void textinput::close() {
+    for (channelstate& c : channels)
+        if (c.input && &*c.input == this) return c.input.reset();
 }
 
 std::string filebytes(std::string_view path, const char* what) {
@@ -128,39 +126,36 @@ std::string filebytes(std::string_view path, const char* what) {
 
 int openfile(std::string_view path, const char* what) { return openregular(std::string(path), what, O_RDONLY); }
 
-void openinput(int channel, std::string_view path, const char* what) {
+textinput& openinput(int channel, std::string_view path, const char* what) {
     expectfree(channel, path);
-    channelof(channel).input = textinput{std::string(path), filebytes(path, what)};
+    return channelof(channel).input.emplace(textinput{std::string(path), filebytes(path, what)});
 }
 
-void openappend(int channel, std::string_view path, const char* what) {
+textoutput& openappend(int channel, std::string_view path, const char* what) {
     expectfree(channel, path);
+    return channelof(channel).output.emplace(path, what);
+}
+
+textoutput::textoutput(std::string_view filepath, const char* what) : path(filepath) {
     std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is a failed write, not the end of the process
-    const std::string name(path);
     constexpr int flags = O_WRONLY | O_APPEND | O_CREAT;
-    const int created = ::open(systempath(path).c_str(), flags | O_EXCL | O_CLOEXEC, 0666);
-    const int handle = created >= 0 ? created : openregular(name, what, flags);
-    channelof(channel).output = appending{name, {}, handle, created >= 0};
+    handle = ::open(systempath(path).c_str(), flags | O_EXCL | O_CLOEXEC, 0666);
+    created = handle >= 0;
+    if (!created) handle = openregular(path, what, flags);
 }
 
-void writetext(int channel, std::string_view text) {
-    channelstate& c = channelof(channel);
-    if (!c.output)
-        throw failure(failurekind::invalidcall, "channel " + std::to_string(channel) + " is not open for writing");
-    c.output->text += text;
+textoutput::~textoutput() {
+    if (handle >= 0) ::close(handle);
 }
 
-void closechannel(int channel) {
-    channelstate& c = channelof(channel);
-    c.input.reset();
-    if (!c.output) return;
-    const appending closing = std::move(*c.output);
-    c.output.reset();
-    int error = appendwhole(closing.handle, closing.text);
-    if (::close(closing.handle) != 0 && error == 0) error = errno;
-    if (error == 0) return;
-    if (closing.created) ::unlink(systempath(closing.path).c_str());
-    systemfailure(closing.path, "could not be written, it stands as it was", error);
+void textoutput::close() {
+    int error = appendwhole(handle, unwritten);
+    if (::close(std::exchange(handle, -1)) != 0 && error == 0) error = errno;
+    if (error != 0 && created) ::unlink(systempath(path).c_str());
+    const std::string closed = path;
+    for (channelstate& c : channels)
+        if (c.output && &*c.output == this) c.output.reset();
+    if (error != 0) systemfailure(closed, "could not be written, it stands as it was", error);
 }
 
 textinput& channelinput(int channel) {
@@ -172,8 +167,8 @@ textinput& channelinput(int channel) {
 
 void resetchannels() {
     for (channelstate& c : channels) {
-        if (c.output) ::close(c.output->handle);
-        c = channelstate{};
+        c.input.reset();
+        c.output.reset();
     }
 }
 

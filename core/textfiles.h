@@ -1,0 +1,89 @@
+// Text files as the building set uses them: read from the front, or appended to. Each is open on a numbered channel,
+// which holds one file at a time: channel 1 serves element, scene and start files and design files being written;
+// channel 2 a design file during replay and its temporary files.
+// Paths are written as users know them ("designs\girders1.txt") and go through one procedure here: the first backslash
+// ends the folder, and in the name behind it a backslash is a letter like any other, as it is on this system.
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tessaly {
+
+// The path as this system opens it, relative to the working folder.
+std::string systempath(std::string_view path);
+
+// The bytes of a file as they stand on disk now: nothing is kept from an earlier reading. Fails with file not found,
+// with file access error also where it is no regular file or has more than 64 MB.
+std::string filebytes(std::string_view path, const char* what);
+
+// The system's handle of a file, open for reading, which is the caller's to close. Fails with file not found, with file
+// access error also where it is no regular file: a pipe may never answer, a device never end.
+int openfile(std::string_view path, const char* what);
+
+// The location of a field in its file; line and field count from 1.
+struct fieldlocation {
+    int line = 1, field = 1;
+};
+
+// A file open for reading. Its bytes are read into memory when it is opened.
+struct textinput {
+    std::string path;         // as users know it
+    std::string bytes;        // at the time of opening
+    std::size_t at = 0;       // index of the next field's first byte
+    fieldlocation next = {};  // of that field
+
+    // "datah\st-post.txt, line 14, field 3", for reports.
+    std::string location() const { return location(next); }
+    std::string location(fieldlocation of) const;
+
+    // Frees the channel. The object must not be used after it.
+    void close();
+};
+
+// A file open for appending.
+class textoutput {
+  public:
+    textoutput(std::string_view filepath, const char* what);  // as openappend
+    ~textoutput();
+    textoutput(const textoutput&) = delete;
+    textoutput& operator=(const textoutput&) = delete;
+
+    // Adds text to what close will write.
+    void write(std::string_view text) { unwritten += text; }
+
+    // Writes the text, complete or not at all, and frees the channel. Fails with file access error if it cannot be
+    // written; the file then has its old length, and a file that did not exist before is deleted. The object must not
+    // be used after it.
+    void close();
+
+    const std::string path;
+
+  private:
+    int handle;
+    bool created;  // by the constructor
+    std::string unwritten;
+};
+
+// Opens path for reading on channel. Fails with file already open if the channel is in use, with file not found, with
+// file access error. what: the role of the file, for reports ("element file").
+textinput& openinput(int channel, std::string_view path, const char* what);
+
+// Opens path for appending on channel and creates it if it does not exist. Fails as openinput.
+textoutput& openappend(int channel, std::string_view path, const char* what);
+
+// Returns the file open for reading on channel; fails with invalid call if there is none.
+textinput& channelinput(int channel);
+
+// Closes all channels without writing what was not written yet.
+void resetchannels();
+
+// Deletes a file; fails with file not found or file access error.
+void deletefile(std::string_view path);
+
+// The bare names of the visible files of a folder, sorted; fails with file not found where there is no such folder.
+std::vector<std::string> filesin(std::string_view folder);
+
+}  // namespace tessaly
