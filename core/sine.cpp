@@ -1,5 +1,5 @@
-// The series of sine and cosine, summed in pairs of doubles, about 31 figures; what is left to chance is the rounding
-// of a value that agrees with the middle between two doubles in 14 figures more.
+// The power series of sine and cosine, summed in pairs of doubles with about 31 significant digits. The rounding to a
+// double is wrong only if a result lies so close to the middle between two doubles that these digits do not decide.
 
 #include "core/sine.h"
 
@@ -9,9 +9,9 @@ namespace tessaly {
 
 namespace {
 
-constexpr double maxangle = 1e9;  // radians; beyond, a double is too coarse for an angle to mean anything
+constexpr double maxangle = 1e9;  // radians; the spacing of doubles beyond this makes an angle meaningless
 
-// A figure as the sum of two: low is what high leaves over.
+// A number as the unevaluated sum of two doubles; low is the rounding error of high.
 struct pair {
     double high, low;
 };
@@ -21,7 +21,7 @@ pair exactsum(double a, double b) {
     return {sum, (a - (sum - second)) + (b - second)};
 }
 
-// The factor's upper half: products of halves are exact.
+// Returns the upper half of the significant bits of a; products of halves are exact.
 double upperhalf(double a) {
     const double shifted = a * 134217729;  // 2^27 + 1
     return shifted - (shifted - a);
@@ -48,7 +48,7 @@ pair operator/(pair a, double b) {
     return exactsum(quotient, ((a.high - product.high) - product.low + a.low) / b);
 }
 
-// first - first x^2 / ((n + 1) (n + 2)) + ...: with first 1 and n 0 the cosine of x, with x and 1 its sine.
+// Sums first - first x^2 / ((n + 1) (n + 2)) + ...: the cosine of x for first 1 and n 0, its sine for first x and n 1.
 double series(pair first, pair x, double n) {
     const pair square = x * x, minussquare{-square.high, -square.low};
     pair sum = first, term = first;
@@ -59,21 +59,23 @@ double series(pair first, pair x, double n) {
     return sum.high;
 }
 
-// The sine of the angle and so many quarters of a turn, by what the angle is beyond the nearest quarter.
-double sinebeyond(double angle, double quarters) {
+// Returns the sine of angle + quarters * pi / 2. Reduces the angle to the remainder from the nearest multiple of pi
+// / 2.
+double shiftedsine(double angle, double quarters) {
     constexpr double quarter[] = {0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54, -0x1.f1976b7ed8fbcp-110};  // pi / 2
-    const double passed = std::floor(angle / quarter[0] + 0.5);
-    pair rest{angle, 0};
-    for (const double part : quarter) rest = rest + exactproduct(-passed, part);
-    const double at = std::fmod(passed + quarters, 4), turned = at < 0 ? at + 4 : at;
-    const bool odd = turned == 1 || turned == 3;
-    const double sine = odd ? series({1, 0}, rest, 0) : series(rest, rest, 1);
-    return turned < 2 ? sine : -sine;
+    const double nearest = std::floor(angle / quarter[0] + 0.5);
+    pair remainder{angle, 0};
+    for (const double part : quarter) remainder = remainder + exactproduct(-nearest, part);
+    const double signedquadrant = std::fmod(nearest + quarters, 4);
+    const double quadrant = signedquadrant < 0 ? signedquadrant + 4 : signedquadrant;
+    const bool odd = quadrant == 1 || quadrant == 3;
+    const double sine = odd ? series({1, 0}, remainder, 0) : series(remainder, remainder, 1);
+    return quadrant < 2 ? sine : -sine;
 }
 
 }  // namespace
 
-double sineof(double angle) { return std::abs(angle) < maxangle ? sinebeyond(angle, 0) : std::sin(angle); }
-double cosineof(double angle) { return std::abs(angle) < maxangle ? sinebeyond(angle, 1) : std::cos(angle); }
+double sineof(double angle) { return std::abs(angle) < maxangle ? shiftedsine(angle, 0) : std::sin(angle); }
+double cosineof(double angle) { return std::abs(angle) < maxangle ? shiftedsine(angle, 1) : std::cos(angle); }
 
 }  // namespace tessaly

@@ -1,11 +1,11 @@
-// Sine and cosine of our own, rounded to the nearest double. The system's libraries differ in the last place, and one
-// library does from processor to processor, by whether it has a fused multiply; an element at an odd angle would stand
-// elsewhere.
+// Sine and cosine, rounded to the nearest double. The libraries of different systems differ in the last bit, and one
+// library may differ between processors with and without fused multiply-add. An element rotated by an odd angle would
+// then have other coordinates on another machine.
 #pragma once
 
 namespace tessaly {
 
-// Of an angle in radians.
+// Return the sine and the cosine of an angle in radians. Beyond 1e9 radians they call the standard library.
 double sineof(double angle);
 double cosineof(double angle);
 

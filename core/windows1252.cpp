@@ -1,4 +1,4 @@
-// Windows-1252: as Unicode's first 256 characters but for 0x80..0x9F.
+// Windows-1252 agrees with the first 256 characters of Unicode, except for 0x80..0x9F.
 
 #include "core/windows1252.h"
 
@@ -18,7 +18,7 @@ static_assert(std::size(fromeighty) == 0x20);
 
 constexpr char32_t nocharacter = 0xFFFFFFFF;
 
-// Takes the first character off a UTF-8 text; a byte that begins none is taken alone.
+// Removes the first character from a UTF-8 text and returns it. For an invalid lead byte it removes that byte only.
 char32_t takecharacter(std::string_view& text) {
     const auto lead = static_cast<unsigned char>(text.front());
     text.remove_prefix(1);
@@ -45,7 +45,7 @@ char32_t characterof(unsigned char byte) {
     return byte >= 0x80 && byte < 0xA0 ? fromeighty[byte - 0x80] : char32_t{byte};
 }
 
-// Characters of the set lie below 0x10000: three bytes at most.
+// Appends a character as UTF-8. All characters of the set are below 0x10000, so three bytes are enough.
 void append(std::string& text, char32_t character) {
     const auto add = [&text](char32_t byte) { text += static_cast<char>(byte); };
     if (character < 0x80) {

@@ -1,4 +1,5 @@
-// The single-byte Windows character set (1252), in which view records are written; all texts in memory are UTF-8.
+// The single-byte character set Windows-1252, in which the view records of captures are written. Texts in memory are
+// UTF-8.
 #pragma once
 
 #include <string>
@@ -6,14 +7,13 @@
 
 namespace tessaly {
 
-// Whether a byte of UTF-8 goes on with a character that one before it began.
+// Returns whether a byte of UTF-8 continues a character.
 inline bool continuescharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0) == 0x80; }
 
-// A UTF-8 text in Windows-1252: a character outside it becomes "?", and so does a byte that is no UTF-8.
+// Converts UTF-8 to Windows-1252. A character outside that set, or a byte that is not valid UTF-8, becomes "?".
 std::string towindows1252(std::string_view text);
 
-// Bytes of Windows-1252 as UTF-8. The five bytes without a character there come back as the control character of
-// their number.
+// Converts Windows-1252 to UTF-8. The five bytes without a character become the control characters of the same number.
 std::string fromwindows1252(std::string_view bytes);
 
 }  // namespace tessaly

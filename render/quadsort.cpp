@@ -47,7 +47,7 @@ std::vector<int> writtenslots() {
     for (const auto* corner : {&quad2, &quad3, &quad4}) pages |= corner->written();
     if (quad4[0] != 0) pages.markall();  // then no slot counts as empty when the quads are measured
     std::vector<int> slots;
-    pages.over(lastsorted, [&slots](int first, int last) {
+    pages.visit(lastsorted, [&slots](int first, int last) {
         for (int i = first; i <= last; ++i) slots.push_back(i);
     });
     return slots;

@@ -1,5 +1,5 @@
-// Makes the icon for desktops that take no SVG: one PNG for each size, in the folders in which a desktop looks for it.
-// makeicons SVG FOLDER is run by the build; FOLDER gets 16x16/apps/tessaly.png and so on.
+// Generates the icon as one PNG per size, for desktops that do not support SVG, in the folders where desktops look for
+// icons. The build runs makeicons SVG FOLDER, which writes FOLDER/16x16/apps/tessaly.png and so on.
 
 #include <QImage>
 #include <QPainter>
@@ -20,9 +20,9 @@ bool makeicon(QSvgRenderer& drawing, int size, const std::filesystem::path& fold
     drawing.render(&painter);
     painter.end();
     const std::string text = std::to_string(size);
-    const std::filesystem::path place = folder / (text + "x" + text) / "apps";
-    std::filesystem::create_directories(place);
-    return icon.save(QString::fromStdString((place / "tessaly.png").string()));
+    const std::filesystem::path target = folder / (text + "x" + text) / "apps";
+    std::filesystem::create_directories(target);
+    return icon.save(QString::fromStdString((target / "tessaly.png").string()));
 }
 
 }  // namespace

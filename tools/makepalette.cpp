@@ -1,6 +1,6 @@
-// Makes a palette from a list that people read and edit: after any text, a line a colour, "entry red green blue name".
-// makepalette LIST FOLDER writes FOLDER/<name of the list>.pal, eight bytes an entry in the order of the list, in which
-// the entries must stand by their numbers, from 1.
+// Generates a palette from an editable list: any text, then one line per colour, "entry red green blue name".
+// makepalette LIST FOLDER writes FOLDER/<name of the list>.pal with eight bytes per entry. The entries of the list must
+// be numbered 1, 2, 3 and so on.
 #include <cstdio>
 #include <exception>
 #include <filesystem>
@@ -11,7 +11,7 @@
 
 namespace {
 
-// The record of a line, "" for text. Fails where the entry is not the next one, or the colour none.
+// Returns the eight bytes of a line, "" for a line of text. Fails if the entry is not number next, or is no colour.
 std::string record(const std::string& line, int next) {
     std::istringstream fields(line);
     int entry, red, green, blue;

@@ -1,8 +1,8 @@
-// The 32 panels: eight types, each described once as tiles of a wall sheet, and cut at its ends into four files.
-// A panel stands in the plane Y = 0 with its outside towards minus Y; X runs from 0 on the left, seen from outside, to
-// 208 on the right, Z from 0 to 128. The tiles lie edge to edge, so that none can cover another whatever the eye sees
-// first. The outer 16 of all panels of a type are one upright strip: neighbours overlap there, over the post.
-// makepanels FOLDER writes st-panels-<type>-<ends>.txt into it, 32 files.
+// Generates the element files of the 32 panels. Each of the eight types is described once, as tiles of a wall, and
+// cut at its ends into four files. A panel lies in the plane Y = 0 and faces minus Y; seen from outside, X runs from 0
+// at the left to 208 at the right, Z from 0 to 128, in model units. The tiles touch and do not overlap, so their
+// drawing order does not matter. The outer 16 units at each end are one vertical strip: neighbouring panels overlap
+// there, at the post. makepanels FOLDER writes the 32 files st-panels-<type>-<ends>.txt.
 #include "tools/shape.h"
 
 #include <algorithm>
@@ -15,13 +15,13 @@ namespace tessaly {
 
 namespace {
 
-// ---- measures, in model units ------------------------------------------------------------
-constexpr int bay = 192;              // from the middle of a post to that of the next
+// ---- sizes, in model units ------------------------------------------------------------
+constexpr int bay = 192;              // from the middle of a post to the middle of the next
 constexpr int thick = 16;             // side of a post
 constexpr int storey = 128;           // height of a floor
 constexpr int wallong = bay + thick;  // a panel reaches over the posts at both ends
 
-// ---- colours: entries of pals/tessaly.txt, the first of three ------------------------------
+// ---- colours: the first of three consecutive entries of pals/tessaly.txt -------------------
 namespace paint {  // clang-format off
 constexpr int
     orange = 13,     orangerib = 16,   orangetrim = 19,
@@ -31,11 +31,11 @@ constexpr int
     orangewire = 70, yellowwire = 73,  doorwire = 76,    glasswire = 79;
 }  // clang-format on
 
-// Line groups of a panel. An edge that two pieces share belongs to the lower group.
+// Line groups of a panel. An edge that two pieces share is a line of the lower group.
 enum : int { doorgroup = 1, glassgroup = 2, sashgroup = 3, wallgroup = 4, ribgroup = 5 };
 
-// A flat piece of wall by its corners 1, 2, 3, 4 as (x, z): below left, below right, above left, above right.
-// Framing cuts it into columns and rows; the ribs of a wall are also drawn as wires.
+// A flat piece of wall with the corners 1, 2, 3, 4 as (x, z): bottom left, bottom right, top left, top right.
+// Framing lines divide it into columns and rows; 0 for none.
 struct piece {
     int group, colour;
     std::array<corner, 4> at;
@@ -52,7 +52,7 @@ piece tile(int group, int colour, double x0, double x1, double z0, double z1, in
     return {group, colour, {{{x0, z0}, {x1, z0}, {x0, z1}, {x1, z1}}}, columns, rows};
 }
 
-// ---- what all panels share: heights of plinth and cornice, the field between the posts -----
+// ---- shared by all panels: top of the plinth, bottom of the cornice, and the area between the posts
 constexpr double plinth = 12, cornice = 116, left = thick, right = bay;
 
 struct wall {
@@ -62,7 +62,7 @@ constexpr wall orangewall{paint::orange, paint::orangerib, paint::orangetrim};
 constexpr wall yellowwall{paint::yellow, paint::yellowboard, paint::yellowtrim};
 constexpr wall doorwall{paint::cream, paint::cream, paint::creamtrim};
 
-// The strips over the posts, and the bands above and, where the wall reaches the ground, below.
+// Returns the strips at the posts, the band at the top, and with ground the band at the bottom.
 std::vector<piece> frame(const wall& w, bool ground) {
     std::vector<piece> p{tile(wallgroup, w.trim, 0, left, 0, storey, 1, 1),
                          tile(wallgroup, w.trim, right, wallong, 0, storey, 1, 1),
@@ -90,26 +90,26 @@ std::vector<piece> boards(const wall& w) {
     return p;
 }
 
-// A window of as many lights side by side, each a pane in a white sash; the bars of the panes are framing lines.
-std::vector<piece> window(double x0, double x1, double z0, double z1, int lights, int columns, int rows) {
+// Returns a window of several panes side by side in white sashes; framing lines form the bars of each pane.
+std::vector<piece> window(double x0, double x1, double z0, double z1, int panes, int columns, int rows) {
     constexpr double sash = 4;
     std::vector<piece> p{tile(sashgroup, paint::sash, x0, x1, z0, z0 + sash),
                          tile(sashgroup, paint::sash, x0, x1, z1 - sash, z1)};
-    const double width = (x1 - x0 - sash * (lights + 1)) / lights;
+    const double width = (x1 - x0 - sash * (panes + 1)) / panes;
     double x = x0;
-    for (int n = 0; n <= lights; n++, x += sash + width) {
+    for (int n = 0; n <= panes; n++, x += sash + width) {
         p.push_back(tile(sashgroup, paint::sash, x, x + sash, z0 + sash, z1 - sash));
-        if (n == lights) break;
+        if (n == panes) break;
         p.push_back(tile(glassgroup, paint::glass, x + sash, x + sash + width, z0 + sash, z1 - sash, columns, rows));
     }
     return p;
 }
 
-// Windows of one width in a row, the same stretch of wall between and beside them.
+// A row of windows of equal width, with equal stretches of wall between and beside them.
 struct row {
     int count;
     double width, sill, lintel;
-    int lights, columns, rows;  // of each window, and the parts into which bars cut a pane
+    int panes, columns, rows;  // panes of a window; columns and rows into which the bars divide a pane
 };
 
 std::vector<piece> windows(const wall& w, const row& r) {
@@ -119,14 +119,15 @@ std::vector<piece> windows(const wall& w, const row& r) {
     double x = left;
     for (int n = 0; n < r.count; n++) {
         if (pier > 0) p.push_back(tile(wallgroup, w.face, x, x + pier, r.sill, r.lintel));
-        p += window(x + pier, x + pier + r.width, r.sill, r.lintel, r.lights, r.columns, r.rows);
+        p += window(x + pier, x + pier + r.width, r.sill, r.lintel, r.panes, r.columns, r.rows);
         x += pier + r.width;
     }
     if (pier > 0) p.push_back(tile(wallgroup, w.face, x, right, r.sill, r.lintel));
     return p;
 }
 
-// Doors of one width in a row: stiles, a rail above, a pane, a filled lower half; a brass handle on the right stile.
+// Returns a row of doors of equal width, each with stiles, a top rail, a pane above, an infill below and a brass
+// handle.
 std::vector<piece> doors(const wall& w, int count, double width, int leaf, int infill) {
     constexpr double head = 100, stile = 6, foot = 6, half = 50, pane = 56, rail = 92, handle = 42, grip = 50;
     std::vector<piece> p{tile(wallgroup, w.face, left, right, head, cornice)};
@@ -151,14 +152,14 @@ std::vector<piece> doors(const wall& w, int count, double width, int leaf, int i
     return p;
 }
 
-// A window of eight sides in the middle: three panes in a white sash, and the wall around it in bands and corners.
+// Returns an octagonal window in the middle: three panes in a white sash, and the wall around it in bands and corners.
 std::vector<piece> octagon(const wall& w) {
     constexpr double middle = wallong / 2.0, height = 64;
     struct ring {
-        double reach, half;  // from the middle to a side, half the length of a side
-        // The corner in that direction, by the signs of x and z: on the upright side, or on the level one.
-        corner upright(int x, int z) const { return {middle + x * reach, height + z * half}; }
-        corner level(int x, int z) const { return {middle + x * half, height + z * reach}; }
+        double reach, half;  // from the middle to a side; half the length of a side
+        // Return the corner in the direction of the signs of x and z, on the vertical or on the horizontal side.
+        corner onvertical(int x, int z) const { return {middle + x * reach, height + z * half}; }
+        corner onhorizontal(int x, int z) const { return {middle + x * half, height + z * reach}; }
     };
     constexpr ring out{44, 18}, in{39, 16};
     const double x0 = middle - out.reach, x1 = middle + out.reach, z0 = height - out.reach, z1 = height + out.reach;
@@ -171,14 +172,19 @@ std::vector<piece> octagon(const wall& w) {
     for (const int x : {-1, 1}) {
         for (const int z : {-1, 1}) {
             const corner edge{middle + x * out.reach, height + z * out.reach};
-            put(wallgroup, w.face, edge, out.level(x, z), out.upright(x, z), out.upright(x, z));
-            put(sashgroup, paint::sash, out.level(x, z), out.upright(x, z), in.level(x, z), in.upright(x, z));
+            put(wallgroup, w.face, edge, out.onhorizontal(x, z), out.onvertical(x, z), out.onvertical(x, z));
+            put(sashgroup, paint::sash, out.onhorizontal(x, z), out.onvertical(x, z), in.onhorizontal(x, z),
+                in.onvertical(x, z));
         }
-        put(sashgroup, paint::sash, out.upright(x, -1), out.upright(x, 1), in.upright(x, -1), in.upright(x, 1));
-        put(sashgroup, paint::sash, out.level(-1, x), out.level(1, x), in.level(-1, x), in.level(1, x));
-        put(glassgroup, paint::glass, in.upright(-1, x), in.upright(1, x), in.level(-1, x), in.level(1, x), 2);
+        put(sashgroup, paint::sash, out.onvertical(x, -1), out.onvertical(x, 1), in.onvertical(x, -1),
+            in.onvertical(x, 1));
+        put(sashgroup, paint::sash, out.onhorizontal(-1, x), out.onhorizontal(1, x), in.onhorizontal(-1, x),
+            in.onhorizontal(1, x));
+        put(glassgroup, paint::glass, in.onvertical(-1, x), in.onvertical(1, x), in.onhorizontal(-1, x),
+            in.onhorizontal(1, x), 2);
     }
-    put(glassgroup, paint::glass, in.upright(-1, -1), in.upright(1, -1), in.upright(-1, 1), in.upright(1, 1), 2);
+    put(glassgroup, paint::glass, in.onvertical(-1, -1), in.onvertical(1, -1), in.onvertical(-1, 1),
+        in.onvertical(1, 1), 2);
     p.back().rows = 1;
     return p;
 }
@@ -188,15 +194,15 @@ std::vector<panel> panels() {
     const std::array orangewires{0, glasswire, glasswire + 1, orangewire, orangewire + 1};
     const std::array yellowwires{0, glasswire, glasswire + 1, yellowwire, yellowwire + 1};
     const auto doorwires = [](int door) { return std::array{door, glasswire, 0, doorwire, 0}; };
-    const auto made = [](const wall& w, bool ground, const std::vector<piece>& field) {
+    const auto withframe = [](const wall& w, bool ground, const std::vector<piece>& field) {
         auto p = frame(w, ground);
         p += field;
         return p;
     };
-    const auto orange = [&](const std::vector<piece>& field) { return made(orangewall, true, field); };
-    const auto yellow = [&](const std::vector<piece>& field) { return made(yellowwall, true, field); };
+    const auto orange = [&](const std::vector<piece>& field) { return withframe(orangewall, true, field); };
+    const auto yellow = [&](const std::vector<piece>& field) { return withframe(yellowwall, true, field); };
     const auto withdoors = [&](int count, double width, int leaf, int infill) {
-        return made(doorwall, false, doors(doorwall, count, width, leaf, infill));
+        return withframe(doorwall, false, doors(doorwall, count, width, leaf, infill));
     };
     using namespace paint;
     return {
@@ -225,7 +231,7 @@ constexpr ends cuts[] = {
     { "both", "Cut on both sides by the width of a post.",     left, right },
 };  // clang-format on
 
-// The bars of a pane as wires: what framing draws on the solid face.
+// Adds the bars of a pane as lines, where the framing lines of its solid face are.
 void bars(shape& s, const quad& pane) {
     const auto along = [&](int from, int to, int part, int parts) {
         const corner a = s.points[static_cast<std::size_t>(pane.points[static_cast<std::size_t>(from)]) - 1];
@@ -237,7 +243,8 @@ void bars(shape& s, const quad& pane) {
     for (int n = 1; n < pane.rows; n++) s.line(glassgroup, along(0, 2, n, pane.rows), along(1, 3, n, pane.rows));
 }
 
-// A piece goes whole or not at all: the pieces at the ends are as wide as the cut.
+// Returns the panel without the pieces that reach beyond the cut; no piece has to be divided, since the strips at the
+// ends are as wide as the cut.
 shape cut(const panel& p, const ends& e) {
     shape s;
     s.title = std::string(p.title) + " (" + e.name + ")";

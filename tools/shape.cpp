@@ -1,5 +1,5 @@
-// The element data file from a shape. Its sections are written in the order in which the reader looks for them, each
-// with a heading of free text; no field of such a text may equal a section's key, so headings hold no key by itself.
+// Formats a shape as an element data file. The sections are in the order in which the reader searches for them, each
+// after a heading of free text. No field of a heading may equal the key of a section.
 #include "tools/shape.h"
 
 #include <algorithm>
@@ -17,7 +17,7 @@ std::string row(const char* form, numbers... n) {
     return buffer;
 }
 
-// Whether p lies on the open stretch from a to b, to a ten-thousandth of a unit.
+// Returns whether p lies between a and b, within 1e-4 model units; false at the ends.
 bool between(corner a, corner b, corner p) {
     if (p == a || p == b) return false;
     const double dx = b.x - a.x, dz = b.z - a.z;
@@ -54,7 +54,7 @@ std::string quadrows(const shape& s) {
     return out + "9999,    0,    0,    0,    0,   0,    0\n\n";
 }
 
-// The end row names the slot behind the last face, whose count it sets to 0.
+// The end row names the slot after the last face; the reader sets its count to 0.
 std::string framingrows(const shape& s, const char* key, int quad::*count) {
     std::string out = row("%s\n", key);
     int n = 0;

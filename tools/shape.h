@@ -1,6 +1,5 @@
-// A flat element under construction: points, lines in five groups, quads, all in the plane Y = 0. A maker lays down
-// faces and lines by their corners; the shape numbers the points, splits and shares the lines, and writes the element
-// data file.
+// A flat element in the plane Y = 0: points, lines in five groups and quads. A generator adds faces and lines by their
+// corners; the shape numbers the points, splits the lines, removes duplicates, and formats the element data file.
 #pragma once
 
 #include <array>
@@ -15,28 +14,28 @@ struct corner {
     bool operator==(const corner&) const = default;
 };
 
-// A quad in the painter's order: the rails 1-2 and 3-4 lie across from each other, so around it goes 1, 2, 4, 3.
+// A quad in the painter's corner order: 1-2 and 3-4 are opposite edges, so going around gives 1, 2, 4, 3.
 struct quad {
     std::array<int, 4> points;  // point numbers of corners 1, 2, 3, 4
     int colour;                 // palette entry
-    int columns, rows;          // framing lines: parts into which they cut edge 1-2, and edge 1-3; 0 for none
+    int columns, rows;          // parts into which framing lines divide edges 1-2 and 1-3; 0 for none
 };
 
 struct shape {
-    std::string title, note;                                // the file's first lines
+    std::string title, note;                                // the first two lines of the file
     std::array<int, 5> wires{};                             // palette entries of the line groups
     std::vector<corner> points;                             // point n of the file is points[n - 1]
     std::array<std::vector<std::pair<int, int>>, 5> lines;  // point numbers
     std::vector<quad> quads;
 
-    int pointat(corner c);                     // the number of that point, laid down where it is new
-    void line(int group, corner a, corner b);  // group 1..5; one that lies in any group already is left out
-    // A quad by its corners in the painter's order; its edges become lines of the group.
+    int pointat(corner c);                     // returns the number of the point; adds it if it is new
+    void line(int group, corner a, corner b);  // group 1..5; adds nothing if any group already has the line
+    // Adds a quad with its corners in the painter's order, and its edges as lines of the group.
     void face(int group, int colour, const std::array<corner, 4>& at, int columns, int rows);
-    // Cuts each line at the points that lie on it, so that no two lines share a stretch; the lower group keeps it.
+    // Splits each line at the points on it, so that no two lines overlap; a shared part stays in the lower group.
     void split();
 
-    std::string text() const;  // the element data file
+    std::string text() const;  // returns the element data file
 };
 
 }  // namespace tessaly
