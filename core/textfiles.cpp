@@ -28,6 +28,12 @@ struct channelstate {
     std::optional<textoutput> output;
 };
 
+#ifdef _WIN32  // without O_BINARY, line ends would be converted
+constexpr int openflags = O_BINARY | O_NOINHERIT;
+#else
+constexpr int openflags = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
+#endif
+
 constexpr int lastchannel = 2;
 constexpr std::size_t maxbytes = 64 << 20;  // of a file that is held whole
 std::array<channelstate, lastchannel + 1> channels;
@@ -50,7 +56,7 @@ void expectfree(int channel, std::string_view path) {
 
 // Opens a file as flags say: a regular one, for a pipe may never answer and a device never end.
 int openregular(const std::string& path, const char* what, int flags) {
-    const int handle = ::open(systempath(path).c_str(), flags | O_CLOEXEC | O_NOCTTY | O_NONBLOCK, 0666);
+    const int handle = ::open(systempath(path).c_str(), flags | openflags, 0666);
     struct stat s {};
     if (handle >= 0 && ::fstat(handle, &s) == 0 && S_ISREG(s.st_mode)) return handle;
     const int error = handle < 0 ? errno : ENXIO;
@@ -77,7 +83,7 @@ int appendwhole(int handle, const std::string& text) {
     if (::fstat(handle, &before) != 0) return errno;
     std::size_t done = 0;
     while (done < text.size()) {
-        const ssize_t wrote = ::write(handle, text.data() + done, text.size() - done);
+        const ssize_t wrote = ::write(handle, text.data() + done, static_cast<unsigned>(text.size() - done));
         if (wrote < 0 && errno == EINTR) continue;
         if (wrote <= 0) {
             const int error = wrote < 0 ? errno : ENOSPC;
@@ -137,9 +143,11 @@ textoutput& openappend(int channel, std::string_view path, const char* what) {
 }
 
 textoutput::textoutput(std::string_view filepath, const char* what) : path(filepath) {
+#ifdef SIGXFSZ
     std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is a failed write, not the end of the process
+#endif
     constexpr int flags = O_WRONLY | O_APPEND | O_CREAT;
-    handle = ::open(systempath(path).c_str(), flags | O_EXCL | O_CLOEXEC, 0666);
+    handle = ::open(systempath(path).c_str(), flags | O_EXCL | openflags, 0666);
     created = handle >= 0;
     if (!created) handle = openregular(path, what, flags);
 }

@@ -37,7 +37,8 @@ filesbypath filesofsession() {
         std::error_code missing;
         for (const auto& entry : std::filesystem::directory_iterator(folder, missing)) {
             std::ifstream in(entry.path(), std::ios::binary);
-            if (entry.is_regular_file()) files[entry.path()] = (std::ostringstream() << in.rdbuf()).str();
+            if (entry.is_regular_file())
+                files[entry.path().generic_string()] = (std::ostringstream() << in.rdbuf()).str();
         }
     }
     return files;

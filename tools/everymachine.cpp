@@ -235,7 +235,7 @@ void playviews() {
 // A design file as a hand may write it, its panels turned by any angle.
 void playturned() {
     begin();
-    std::ofstream turned("designs/panels1.txt");
+    std::ofstream turned("designs/panels1.txt", std::ios::binary);
     for (int i = 1; i <= 150; ++i)
         turned << "\"panel\"," << i << ",100,100," << within(1, 15) << ",0," << tenths(-7200, 7200) << ','
                << tenths(0, 9600) << ',' << tenths(0, 13000) << ",4,64\r\n";

@@ -2,10 +2,8 @@
 #pragma once
 
 #include <filesystem>
-#include <stdexcept>
+#include <random>
 #include <string>
-
-#include <stdlib.h>
 
 namespace tessaly {
 
@@ -14,9 +12,9 @@ class workingfolder {
     // With copies of datah and pals as they stand in source, or with empty ones; the other folders are empty.
     explicit workingfolder(const std::filesystem::path& source = {}) {
         namespace fs = std::filesystem;
-        std::string name = (fs::temp_directory_path() / "tessaly-XXXXXX").string();
-        if (::mkdtemp(name.data()) == nullptr) throw std::runtime_error("no scratch folder");
-        path = name;
+        std::random_device random;
+        do path = fs::temp_directory_path() / ("tessaly-" + std::to_string(random()));
+        while (!fs::create_directory(path));
         for (const char* written : {"designs", "bmps", "nonuser"}) fs::create_directory(path / written);
         for (const char* data : {"datah", "pals"}) {
             if (source.empty())
