@@ -7,9 +7,9 @@
 // A failure is the right answer to any input; whatever else ends a way (a crash, a sanitizer's report, another
 // exception, two seconds of work) is a finding.
 
-#include "core/textfiles.h"
 #include "core/controls.h"
 #include "core/failure.h"
+#include "core/textfiles.h"
 #include "player/commands.h"
 #include "tools/workingfolder.h"
 #include "windows/handlers.h"

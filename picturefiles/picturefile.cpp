@@ -3,8 +3,8 @@
 
 #include "picturefiles/picturefile.h"
 
-#include "core/textfiles.h"
 #include "core/failure.h"
+#include "core/textfiles.h"
 #include "picturefiles/rasterview.h"
 
 #include <QFile>

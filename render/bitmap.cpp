@@ -2,8 +2,8 @@
 
 #include "render/bitmap.h"
 
-#include "core/textfiles.h"
 #include "core/failure.h"
+#include "core/textfiles.h"
 
 #include <algorithm>
 #include <cerrno>

@@ -2,8 +2,8 @@
 
 #include "render/palette.h"
 
-#include "core/textfiles.h"
 #include "core/failure.h"
+#include "core/textfiles.h"
 #include "core/world.h"
 
 #include <utility>

@@ -39,7 +39,7 @@ bool looksalike(const QImage& a, const QImage& b) {
     return clearlydifferent < a.width() * a.height() / 20;
 }
 
-std::string wordsof(const QImage& picture) { return picture.text("Shows").toStdString(); }
+std::string descriptionof(const QImage& picture) { return picture.text("Shows").toStdString(); }
 
 // A picture that tells in words what it shows is compared by them to the letter, and only roughly by its pixels. All
 // others come from the engine's arithmetic alone and are the same to the pixel.
@@ -51,8 +51,8 @@ void expectsame(const fs::path& made, const fs::path& kept) {
     }
     const QImage now(made.c_str()), before(kept.c_str());
     ASSERT_FALSE(now.isNull());
-    EXPECT_EQ(wordsof(now), wordsof(before));
-    EXPECT_TRUE(wordsof(now).empty() ? now == before : looksalike(now, before));
+    EXPECT_EQ(descriptionof(now), descriptionof(before));
+    EXPECT_TRUE(descriptionof(now).empty() ? now == before : looksalike(now, before));
 }
 
 // Runs a maker in a working folder and compares each file that it writes with the one kept in one of these folders.

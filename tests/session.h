@@ -2,9 +2,9 @@
 // user does (click, pick, type) or set the world's tables themselves and call one procedure.
 #pragma once
 
-#include "core/textfiles.h"
 #include "core/controls.h"
 #include "core/failure.h"
+#include "core/textfiles.h"
 #include "core/value.h"
 #include "core/world.h"
 #include "player/commands.h"

@@ -1,8 +1,8 @@
-// Plays the same buildings on any machine and writes, after each step, checksums that are to be the same on all of
-// them: of the picture, of the lines drawn, and of the figures behind them, which tell apart what a line's ends round
-// away.
-//   everymachine ROOT          all steps, a row each, with the data, scripts and samples of the project's folder ROOT
-//   everymachine ROOT STEP     of that step every line and figure that its checksums are made of
+// Plays the same buildings on any machine and writes checksums after each step, which must be equal on all machines: of
+// the picture, of the lines drawn, and of the numbers from which they were computed, since rounding hides small
+// differences.
+//   everymachine ROOT          plays all steps with the data, scripts and samples of the repository ROOT; one row per
+//   step everymachine ROOT STEP     writes every line and number that is part of the checksums of that step
 
 #include "building/layouts.h"
 #include "core/controls.h"
@@ -29,17 +29,17 @@ namespace {
 using namespace tessaly;
 namespace fs = std::filesystem;
 
-// ---- what is summed ----------------------------------------------------------------------
+// ---- checksums ---------------------------------------------------------------------------
 
-checksum lines, figures;  // of the step being played
+checksum lines, numbers;  // of the current step
 long drawn = 0;
-int step = 1, toldstep = 0;
+int step = 1, listedstep = 0;
 
 void add(checksum& sum, const char* what, std::initializer_list<double> added) {
-    for (const double figure : added) sum.add(figure);
-    if (step != toldstep) return;
+    for (const double number : added) sum.add(number);
+    if (step != listedstep) return;
     std::fputs(what, stdout);
-    for (const double figure : added) std::printf(" %s", shortesttext(figure).c_str());
+    for (const double number : added) std::printf(" %s", shortesttext(number).c_str());
     std::putchar('\n');
 }
 
@@ -53,7 +53,7 @@ struct linesum : surface {
     void setpicture(const std::string&) override {}
 };
 
-// The picture as the program paints it, by its shortcuts, and beside it the lines one by one.
+// Draws the picture with the shortcuts of the program, and adds each line to the checksum.
 struct measuredsurface : surface {
     raster image{897, 581};
     linesum summed;
@@ -64,7 +64,7 @@ struct measuredsurface : surface {
     }
     void drawbetween(const facecorners& f, int n, colour c) override {
         image.drawbetween(f, n, c);
-        add(figures, "face", {f.x1, f.y1, f.x2, f.y2, f.x3, f.y3, f.x4, f.y4});
+        add(numbers, "face", {f.x1, f.y1, f.x2, f.y2, f.x3, f.y3, f.x4, f.y4});
         summed.drawbetween(f, n, c);
     }
     void save(const std::string& path) override { image.save(path); }
@@ -72,12 +72,12 @@ struct measuredsurface : surface {
 };
 
 void addpoint(int i) {
-    add(figures, "place", {basex[i], basey[i], basez[i], ptx[i], pty[i], ptz[i], savex[i], savey[i], savez[i]});
-    add(figures, "plane", {planex[i], planey[i], planez[i], planedist[i], planecos[i], planeup[i], planeside[i]});
-    add(figures, "screen", {screenx[i], screeny[i]});
+    add(numbers, "point", {basex[i], basey[i], basez[i], ptx[i], pty[i], ptz[i], savex[i], savey[i], savez[i]});
+    add(numbers, "plane", {planex[i], planey[i], planez[i], planedist[i], planecos[i], planeup[i], planeside[i]});
+    add(numbers, "screen", {screenx[i], screeny[i]});
 }
 
-// The element in the tables: its points, those of its last framing lines, and how far its faces are from the eye.
+// Adds the element in the tables: its points, those of its last framing lines, and the distances of its faces.
 void addelement() {
     constexpr int framingpoints = 60, faces = 100;
     pointblock blocks[4];
@@ -85,13 +85,13 @@ void addelement() {
         for (int i = blocks[b].first; i <= blocks[b].last; ++i) addpoint(i);
     for (int i = framingscratch; i < framingscratch + framingpoints; ++i) addpoint(i);
     addpoint(referencepoint);
-    add(figures, "plane's centre", {planecentrex, planecentrey, planecentrez});
+    add(numbers, "plane centre", {planecentrex, planecentrey, planecentrez});
     for (int q = 1; q <= faces; ++q)
-        add(figures, "distances",
+        add(numbers, "distances",
             {quadcornerdist1[q], quadcornerdist2[q], quadcornerdist3[q], quadcornerdist4[q], double(quadorder[q])});
 }
 
-// A replay brings its strip to the screen before each element: the one before stands in the tables still.
+// A replay flushes its progress strip before each element, while the tables still hold the previous one.
 struct measuredstrip : linesum {
     void line(float, float, float, float, colour) override {}
     void flush() override { addelement(); }
@@ -110,18 +110,18 @@ void play(const std::string& script) {
     addelement();
 }
 
-// The end of a step: its row, if it drew anything.
+// Ends a step: writes its row if it drew anything.
 void endstep(const std::string& name) {
     if (drawn == 0) return;
-    if (step == toldstep) std::exit(0);
-    if (toldstep == 0) {
+    if (step == listedstep) std::exit(0);
+    if (listedstep == 0) {
         checksum picture;
         for (int i = 0; i < measured.image.width() * measured.image.height(); ++i)
             picture.add(std::uint64_t{measured.image.pixels()[i]});
         std::printf("%s %s %s %7ld lines, step %d: %s\n", picture.text().c_str(), lines.text().c_str(),
-                    figures.text().c_str(), drawn, step, name.c_str());
+                    numbers.text().c_str(), drawn, step, name.c_str());
     }
-    lines = figures = {};
+    lines = numbers = {};
     drawn = 0;
     ++step;
 }
@@ -144,9 +144,9 @@ void playscript(const fs::path& path) {
     }
 }
 
-void look(std::initializer_list<std::string> figuresofview) {
-    auto figure = figuresofview.begin();
-    for (const viewvalue& f : viewvalues) play("type " + f.box.name + " \"" + *figure++ + '"');
+void setview(std::initializer_list<std::string> texts) {
+    auto text = texts.begin();
+    for (const viewvalue& v : viewvalues) play("type " + v.box.name + " \"" + *text++ + '"');
     play("click cventerbtn");
 }
 
@@ -167,7 +167,7 @@ void playhouse() {
                                         {"-1850", "1850"}, {"-2600", "30"}, {"-1850", "-1850"}, {"40", "-2600"}};
     beginwithsamples();
     for (const auto& [x, y] : sides) {
-        look({x, y, "830", "1", "2", "280", ".056", "170", "-270"});
+        setview({x, y, "830", "1", "2", "280", ".056", "170", "-270"});
         for (const char* design : {"girdhou1", "paneho1", "roofh1", "girdhou2", "paneho2", "roofh2"}) replay(design);
         endstep(std::string("the house from ") + x + ", " + y);
     }
@@ -175,7 +175,7 @@ void playhouse() {
 
 void playtower() {
     beginwithsamples();
-    look({"1850", "-1850", "1230", "1", "1", "600", ".036", "200", "-270"});
+    setview({"1850", "-1850", "1230", "1", "1", "600", ".036", "200", "-270"});
     for (const char* floor : {"1", "2", "3", "4", "5", "6", "7", "8", "9", "0"}) {
         for (const char* design : {"girdtow", "paneto"}) replay(std::string(design) + floor);
         endstep(std::string("the tower, floor ") + floor);
@@ -184,7 +184,8 @@ void playtower() {
     endstep("the tower, roof");
 }
 
-// Each element at a place of each of its families, which turn it each way, and each part of a panel.
+// Places each element at one position of each of its button families, which rotate it each way, and each snip of a
+// panel.
 void playelements(const std::string& mode) {
     begin();
     play("type wiresolid \"" + mode + '"');
@@ -195,33 +196,33 @@ void playelements(const std::string& mode) {
     for (const char* element : {"postbeambtn", "roofbtn", "orange1btn", "orange2btn", "orange3btn", "yellow1btn",
                                 "yellow2btn", "yellow3btn", "door2btn", "door4btn"})
         for (const buttonfamily& f : allbuttonfamilies()) {
-            const std::string place = positionname({&f, 0, f.x0 + 2 * 192, f.y0 + 3 * 192, 0, 0});
+            const std::string position = positionname({&f, 0, f.x0 + 2 * 192, f.y0 + 3 * 192, 0, 0});
             play(std::string("click ") + element);
             if (!f.on->shown) continue;
             const bool snipped = f.on == &layoutpanels;
             for (std::size_t snip = 0; snip < (snipped ? panelsnipper.items.size() : 1); ++snip) {
                 if (snipped) play("type panelsnipper \"" + panelsnipper.items[snip] + '"');
-                play("click " + place);
+                play("click " + position);
             }
-            endstep(std::string(element) + ", " + place + ", " + mode);
+            endstep(std::string(element) + ", " + position + ", " + mode);
         }
 }
 
-// Raw figures of the generator only: the distributions are each library's own.
+// Uses the raw numbers of the generator, because the distributions differ between libraries.
 std::mt19937 generator;
 int within(int least, int most) {
     return least + static_cast<int>(generator() % static_cast<unsigned>(most - least + 1));
 }
 std::string tenths(int least, int most) { return shortesttext(within(least, most) / 10.0); }
 
-// Views from anywhere, some from between the elements, each with an element somewhere.
+// Random views, some from inside the building, each with an element at a random position.
 void playviews() {
     begin();
     for (const char* opened : {"shopfm", "postbeambtn", "orange2btn", "roofbtn"}) play(std::string("click ") + opened);
     for (int view = 1; view <= 300; ++view) {
         const int far = view % 3 == 0 ? 4000 : 30000;
-        look({tenths(-far, far), tenths(-far, far), tenths(-far / 2, far), tenths(-3000, 3000), tenths(-3000, 3000),
-              tenths(0, 6000), shortesttext(within(5, 105) / 1000.0), tenths(-3000, 3000), tenths(-6000, 3000)});
+        setview({tenths(-far, far), tenths(-far, far), tenths(-far / 2, far), tenths(-3000, 3000), tenths(-3000, 3000),
+                 tenths(0, 6000), shortesttext(within(5, 105) / 1000.0), tenths(-3000, 3000), tenths(-6000, 3000)});
         const buttonposition& p = allbuttonpositions()[static_cast<std::size_t>(within(0, 328))];
         play(std::string("type wiresolid \"") + (view % 4 == 0 ? "wireframe" : "solid") + '"');
         play(p.of->on == &layoutpanels ? "click orange2btn"
@@ -232,7 +233,7 @@ void playviews() {
     }
 }
 
-// A design file as a hand may write it, its panels turned by any angle.
+// Replays a hand-written design file whose panels are rotated by arbitrary angles.
 void playturned() {
     begin();
     std::ofstream turned("designs/panels1.txt", std::ios::binary);
@@ -252,7 +253,7 @@ int main(int count, char** words) {
         return 2;
     }
     root = fs::absolute(words[1]);
-    if (count == 3) toldstep = std::atoi(words[2]);
+    if (count == 3) listedstep = std::atoi(words[2]);
     viewportsurface = &measured;
     progresssurface = &progress;
     try {

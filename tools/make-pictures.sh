@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # tools/make-pictures.sh PLAY FOLDER: draws the pictures of the panels, of the sample tower and of the guide's building
-# with the player PLAY, in working folders of its own, and leaves them in FOLDER (docs/pictures).
+# with the player PLAY in temporary working folders, and saves them in FOLDER (docs/pictures).
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/tools/workingfolder.sh"
@@ -10,8 +10,8 @@ trap 'rm -r "$TMPDIR"' EXIT
 play=$(realpath "$1")
 folder=$(realpath "$2")
 
-# scene PICTURE VIEW: plays standard input in a folder that starts with that view and holds the sample designs; the
-# picture is that of viewport at the end.
+# scene PICTURE VIEW: plays standard input in a folder with the sample designs, starting with that view, and saves
+# viewport at the end.
 scene() {
     local scratch
     scratch=$(mktemp -d)
@@ -23,7 +23,7 @@ scene() {
     mv "$scratch/$1.png" "$folder"
 }
 
-# replay FILE...: the files through the single file reader, solid.
+# replay FILE...: replays the files solid with the single file reader.
 replay() {
     local file
     for file in "$@"; do
@@ -34,7 +34,7 @@ replay() {
 
 tower=$(for floor in 1 2 3 4 5 6 7 8 9 0; do echo "girdtow$floor paneto$floor"; done)
 
-# The eight types of panel in two rows, the first four above.
+# The eight types of panels in two rows, the first four in the upper one.
 panels() {
     local n=0 panel
     echo 'click writefilebtn'
@@ -50,10 +50,10 @@ panels() {
 replay $tower rooft0 | scene tower "1850, -1850, 1230, 0, 0, 600, 0.036, 200, -270"
 panels | scene panels "2200, 500, 560, 104, -96, 150, 0.1, 200, -270"
 
-# The guide's own building, by the guide's own script.
+# The building of the guide, built by its script.
 scratch=$(mktemp -d)
 workingfolder "$scratch"
 (cd "$scratch" && "$play" "$root/docs/guide.play")
-cmp "$scratch/guide-retrieved.png" "$scratch/guide-house.png" # the capture brings its picture back
+cmp "$scratch/guide-retrieved.png" "$scratch/guide-house.png" # the retrieved picture equals the captured one
 rm "$scratch/guide-retrieved.png"
 mv "$scratch"/guide-*.png "$folder"

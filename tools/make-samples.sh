@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# tools/make-samples.sh PLAY FOLDER: builds the sample designs by clicks, as a user would, with the player PLAY in a
-# working folder of its own, and leaves their design files in FOLDER under names that keep clear of a user's own.
+# tools/make-samples.sh PLAY FOLDER: builds the sample designs by clicks with the player PLAY in a temporary working
+# folder, and saves their design files in FOLDER under names that differ from the standard ones.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/tools/workingfolder.sh"
@@ -14,18 +14,18 @@ beam() { echo "click beamx$((192 * $1))y$((192 * $2 + 16))"; }      # from post 
 vbeam() { echo "click vbeamx$((192 * $1 + 16))y$((192 * $2 + 16))"; } # from post I J along X
 roof() { echo "click roofx$((192 * $1))y$((192 * $2))"; }
 
-# A wall of bay I J on the side that the word says, with the panel of that button.
+# wall SIDE I J PANEL: a wall on that side of bay I J, with the panel of that button.
 wall() {
     echo "click ${4}btn"
     case $1 in
-    front) echo "click pan0x$((192 * $2))y$((192 * $3))" ;;                  # looks towards minus Y
+    front) echo "click pan0x$((192 * $2))y$((192 * $3))" ;;                  # faces minus Y
     back) echo "click pan180x$((192 * $2 + 208))y$((192 * $3 + 208))" ;;      # towards plus Y
     left) echo "click pan270x$((192 * $2))y$((192 * $3 + 208))" ;;            # towards minus X
     right) echo "click pan90x$((192 * $2 + 208))y$((192 * $3))" ;;            # towards plus X
     esac
 }
 
-# The same for a wall that ends in an inside corner, with the snip button's end.
+# snipped SNIP SIDE I J PANEL: the same, snipped, for a wall that ends at an inside corner.
 snipped() {
     local snip=$1 panel=$5
     echo "click ${panel}btn"
@@ -33,7 +33,7 @@ snipped() {
     wall "$2" "$3" "$4" "$panel" | tail -n 1
 }
 
-# All steel of the bays I0..I1, J0..J1; names given behind are left out.
+# steel I0 I1 J0 J1 NAME...: all posts and beams of these bays, except those of the names.
 steel() {
     local i j left=" ${*:5} "
     echo "click postbeambtn"
@@ -55,7 +55,7 @@ roofs() {
     done
 }
 
-# Two storeys over three by four bays; the corner bay in front is a terrace on the lower one.
+# Two floors of three by four bays; on the upper floor the front corner bay is a terrace.
 house() {
     echo "click startprogrambtn"
     steel 0 2 2 5
@@ -78,7 +78,7 @@ house() {
     echo "click exitbtn"
 }
 
-# The four walls of three bays each around the tower: outer bays, middle bay.
+# ring PANEL MIDDLEPANEL: the four walls of the tower, three bays each.
 ring() {
     local i
     for i in 1 2 3; do
@@ -89,7 +89,7 @@ ring() {
     done
 }
 
-# Ten storeys over three by three bays.
+# Ten floors of three by three bays.
 tower() {
     local floor
     echo "click startprogrambtn"
@@ -108,8 +108,8 @@ tower() {
     echo "click exitbtn"
 }
 
-# samples NAME: plays NAME; design files become girdNAM1.txt, paneNA1.txt and roofN1.txt: the first letters say what
-# they hold, the figure in its place says the floor (0 for the tenth), and no longer name would be read.
+# samples NAME: plays NAME and renames its design files to girdNAM1.txt, paneNA1.txt and roofN1.txt. The readers expect the
+# first four letters and the floor digit (0 for the tenth floor) in these positions.
 samples() {
     local name=$1 scratch file floor
     scratch=$(mktemp -d)

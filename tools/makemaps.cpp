@@ -1,6 +1,6 @@
-// Makes the element maps of el-numbers: one sheet a layout window, drawn from the same families of position buttons,
-// with every element's number at its place, the axes in layout units and a legend. For users who edit design files by
-// hand. makemaps FOLDER writes girders.png, panels.png and roofs.png there (A4 landscape at 150 dots an inch).
+// Generates the element maps of el-numbers for users who edit design files: one sheet per layout window, drawn from the
+// same table of position buttons, with every element number, the axes in layout units and a legend.
+// makemaps FOLDER writes girders.png, panels.png and roofs.png (A4 landscape at 150 dots per inch).
 
 #include "building/layouts.h"
 #include "core/controls.h"
@@ -29,10 +29,10 @@ struct sheet {
     const char* designs;
 };
 
-// From the window's twips to the sheet's dots: the plan as large as it goes, stretched where the sheet is wider.
+// Converts twips of the window to dots of the sheet. The plan fills the height and is stretched to the width.
 struct scale {
     double across, down;
-    int left, top;  // twips of the plan's corner
+    int left, top;  // top left corner of the plan, twips
     QRectF rect(const twips& t) const {
         return {planleft + (t.left - left) * across, plantop + (t.top - top) * down, t.width * across, t.height * down};
     }
@@ -48,12 +48,12 @@ QFont font(int dots, bool bold = false) {
     return f;
 }
 
-bool stands(const window& w, const control& c) { return c.in == &w && c.elementnumber != 0; }
+bool ispositionof(const window& w, const control& c) { return c.in == &w && c.elementnumber != 0; }
 
 scale fit(const window& w) {
     int left = w.widthtwips, top = w.heighttwips, right = 0, bottom = 0;
     for (const control* c : w.controls) {
-        if (!stands(w, *c)) continue;
+        if (!ispositionof(w, *c)) continue;
         left = std::min(left, c->bounds.left);
         top = std::min(top, c->bounds.top);
         right = std::max(right, c->bounds.left + c->bounds.width);
@@ -66,7 +66,7 @@ scale fit(const window& w) {
 
 void drawpositions(QPainter& p, const window& w, const scale& s) {
     for (const control* c : w.controls) {
-        if (!stands(w, *c)) continue;
+        if (!ispositionof(w, *c)) continue;
         const QRectF r = s.rect(c->bounds);
         QColor fill = shade(*c->back);
         p.setPen(QPen(Qt::black, 1));
@@ -78,15 +78,15 @@ void drawpositions(QPainter& p, const window& w, const scale& s) {
     }
 }
 
-// Figures by the dot at which they stand; families that share a row or column share the label.
+// Coordinates by the dot where they are written; families in the same row or column share a label.
 using marks = std::map<int, QStringList>;
 
-void addmark(marks& at, double dot, int figure) {
-    QStringList& figures = at[qRound(dot)];
-    if (!figures.contains(QString::number(figure))) figures += QString::number(figure);
+void addmark(marks& at, double dot, int coordinate) {
+    QStringList& label = at[qRound(dot)];
+    if (!label.contains(QString::number(coordinate))) label += QString::number(coordinate);
 }
 
-// The figures of x in the names down the left side and those of y along the top: long buttons nearer to the plan.
+// Writes the X coordinates at the left and the Y coordinates at the top, those of wide buttons nearer to the plan.
 void drawaxes(QPainter& p, const window& w, const scale& s) {
     marks across, inneracross, down;
     for (const buttonfamily& f : allbuttonfamilies()) {
@@ -99,12 +99,12 @@ void drawaxes(QPainter& p, const window& w, const scale& s) {
     }
     p.setFont(font(17));
     p.setPen(Qt::black);
-    for (const auto& [dot, figures] : inneracross)
-        p.drawText(QRectF(dot - 60, plantop - 32, 120, 24), Qt::AlignCenter, figures.join(" / "));
-    for (const auto& [dot, figures] : across)
-        p.drawText(QRectF(dot - 60, plantop - 56, 120, 24), Qt::AlignCenter, figures.join(" / "));
-    for (const auto& [dot, figures] : down)
-        p.drawText(QRectF(planleft - 110, dot - 12, 98, 24), Qt::AlignRight | Qt::AlignVCenter, figures.join(" / "));
+    for (const auto& [dot, label] : inneracross)
+        p.drawText(QRectF(dot - 60, plantop - 32, 120, 24), Qt::AlignCenter, label.join(" / "));
+    for (const auto& [dot, label] : across)
+        p.drawText(QRectF(dot - 60, plantop - 56, 120, 24), Qt::AlignCenter, label.join(" / "));
+    for (const auto& [dot, label] : down)
+        p.drawText(QRectF(planleft - 110, dot - 12, 98, 24), Qt::AlignRight | Qt::AlignVCenter, label.join(" / "));
     p.setFont(font(28, true));
     p.drawText(QRectF(planleft - 20, plantop - 96, 300, 40), Qt::AlignLeft | Qt::AlignVCenter, "Y  \u2192");
     p.drawText(QRectF(10, plantop + 10, 50, 90), Qt::AlignHCenter | Qt::AlignTop, "X\n\u2193");
@@ -126,12 +126,12 @@ void drawlegend(QPainter& p, const window& w) {
     }
 }
 
-std::string wordsof(const sheet& of) {
+std::string descriptionof(const sheet& of) {
     std::string words = std::string(of.title) + '\n' + of.designs + '\n';
     for (const buttonfamily& f : allbuttonfamilies())
         if (f.on == of.of) words += std::string(f.word) + ' ' + std::to_string(f.first) + ' ' + f.accessiblename + '\n';
     for (const control* c : of.of->controls)
-        if (stands(*of.of, *c)) words += wordsof(*c);
+        if (ispositionof(*of.of, *c)) words += descriptionof(*c);
     return words;
 }
 
@@ -151,7 +151,7 @@ void drawsheet(const sheet& of, const QString& folder) {
     drawpositions(p, *of.of, s);
     drawlegend(p, *of.of);
     p.end();
-    keepwords(image, wordsof(of));
+    setdescription(image, descriptionof(of));
     if (!image.save(folder + "/" + of.file)) std::exit(1);
 }
 

@@ -1,6 +1,6 @@
-// Makes the pictures of the windows: the five navigation pictures and the opening picture of the instructions window,
-// cut out of the real main window so that they cannot go stale, and the window pictures of the guide and the README.
-// makewindowpictures ROOT HELPFOLDER DOCFOLDER works in a scratch folder with the data and samples of ROOT.
+// Generates the pictures of the windows from the real windows: the five navigation pictures and the opening picture of
+// the instructions window, and the window pictures of the guide and the README. makewindowpictures ROOT HELPFOLDER
+// DOCFOLDER works in a scratch folder with the data and samples of ROOT.
 
 #include "building/layouts.h"
 #include "core/controls.h"
@@ -65,7 +65,7 @@ void replaysolid(std::initializer_list<const char*> names) {
     }
 }
 
-// Whether a control's middle lies in a region of its window: neighbours overlap the rim.
+// Returns whether the middle of a control is in a region of its window; neighbours may overlap the edge.
 bool liesin(const twips& region, const control& c) {
     const int x = c.bounds.left + c.bounds.width / 2 - region.left, y = c.bounds.top + c.bounds.height / 2 - region.top;
     return x >= 0 && x < region.width && y >= 0 && y < region.height;
@@ -73,21 +73,21 @@ bool liesin(const twips& region, const control& c) {
 
 twips wholeof(const window& w) { return {0, 0, w.widthtwips, w.heighttwips}; }
 
-// The inside of a window at its designed size, sharp at times its pixels.
-QImage shot(const window& w, int times = 1) {
+// Returns the contents of a window at its designed size, rendered at the given multiple of its pixels.
+QImage render(const window& w, int multiple = 1) {
     const QSize size = frameof(w)->designedsize();
-    QImage image(size * times, QImage::Format_RGB32);
-    image.setDevicePixelRatio(times);
+    QImage image(size * multiple, QImage::Format_RGB32);
+    image.setDevicePixelRatio(multiple);
     frameof(w)->plan()->render(&image, {}, QRegion(QRect({0, 0}, size)));
     image.setDevicePixelRatio(1);
     return image;
 }
 
-// The controls in a region of a window, whatever their order, and the engine's picture pixel by pixel.
-std::string wordsof(const window& w, const twips& region) {
+// Describes the controls in a region of a window, sorted, and the pixels of viewport if it is one of them.
+std::string descriptionof(const window& w, const twips& region) {
     std::set<std::string> lines;
     for (const control* c : w.controls)
-        if (c->shown && liesin(region, *c)) lines.insert(wordsof(*c));
+        if (c->shown && liesin(region, *c)) lines.insert(descriptionof(*c));
     std::string words = std::accumulate(lines.begin(), lines.end(), std::string());
     if (&w != &vistaplan || !liesin(region, viewport)) return words;
     checksum pixels;
@@ -96,9 +96,9 @@ std::string wordsof(const window& w, const twips& region) {
     return words + "on viewport " + pixels.text() + '\n';
 }
 
-// The plan of a layout window, with a frame around each bounds that the guide's clicks press on it.
+// Returns the plan of a layout window with a frame around each button that the guide clicks.
 QImage markedplan(const window& w, const fs::path& guide) {
-    QImage image = shot(w);
+    QImage image = render(w);
     QPainter painter(&image);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(0, 60, 220), 3));
@@ -111,63 +111,63 @@ QImage markedplan(const window& w, const fs::path& guide) {
     return image;
 }
 
-// Writes a picture of a region of a window.
-void keep(QImage image, const window& w, const twips& region, const fs::path& folder, const char* name) {
-    keepwords(image, wordsof(w, region));
+// Saves a picture of a region of a window.
+void save(QImage image, const window& w, const twips& region, const fs::path& folder, const char* name) {
+    setdescription(image, descriptionof(w, region));
     if (!image.save(QString::fromStdString((folder / (std::string(name) + ".png")).string()))) std::exit(1);
 }
 
-void keepwindow(const window& w, const fs::path& folder, const char* name) {
-    keep(shot(w), w, wholeof(w), folder, name);
+void savewindow(const window& w, const fs::path& folder, const char* name) {
+    save(render(w), w, wholeof(w), folder, name);
 }
 
-void keepplan(const window& w, const fs::path& guide, const fs::path& folder, const char* name) {
-    keep(markedplan(w, guide), w, wholeof(w), folder, name);
+void saveplan(const window& w, const fs::path& guide, const fs::path& folder, const char* name) {
+    save(markedplan(w, guide), w, wholeof(w), folder, name);
 }
 
-// What a help button has room for, in pixels: as much of it as its window shows, within its rim.
-QSize roomofbutton(const char* name) {
+// Returns the size of the picture on a help button in pixels: the visible part of the button without its rim.
+QSize picturesize(const char* name) {
     constexpr int rim = 2;
     const twips& bounds = findcontrol(name)->bounds;
     const int high = std::min(bounds.height, instructions.heighttwips - bounds.top);
     return {inpixels(bounds.width) - 2 * rim, inpixels(high) - 2 * rim};
 }
 
-// Leaves on the main window only the controls of a region.
+// Hides all controls of the main window outside a region.
 void showonly(const twips& bounds) {
     for (const control* c : vistaplan.controls) widgetof(*c)->setVisible(c->shown && liesin(bounds, *c));
 }
 
-// A region on the main window's grey, which fills the button that shows it.
+// Saves a picture of each region, on the grey of the main window, in the size of its help button.
 void makehelppictures(const fs::path& folder) {
-    constexpr int sharp = 2;
-    const auto inimage = [](int twips) { return sharp * twips / twipsperpixel; };
+    constexpr int density = 2;
+    const auto inimage = [](int twips) { return density * twips / twipsperpixel; };
     for (const region& r : regions) {
-        QImage filled(roomofbutton(r.button) * sharp, QImage::Format_RGB32);
+        QImage filled(picturesize(r.button) * density, QImage::Format_RGB32);
         filled.fill(screencolour(vistaplan.back));
         const QSize shown =
             QSize(inimage(r.bounds.width), inimage(r.bounds.height)).scaled(filled.size(), Qt::KeepAspectRatio);
         showonly(r.bounds);
         const QImage cut =
-            shot(vistaplan, sharp)
+            render(vistaplan, density)
                 .copy(inimage(r.bounds.left), inimage(r.bounds.top), inimage(r.bounds.width), inimage(r.bounds.height));
         QPainter(&filled).drawImage((filled.width() - shown.width()) / 2, 0,
                                     cut.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
-        keep(filled, vistaplan, r.bounds, folder, r.button);
+        save(filled, vistaplan, r.bounds, folder, r.button);
     }
     showonly(wholeof(vistaplan));
 }
 
-// The view from which the whole tower is seen; it is taken by SET, as a user would.
+// Sets a view of the whole tower, with SET as a user would.
 void looktower() {
-    struct figure {
+    struct typed {
         control& box;
         const char* text;
     };
-    const figure figures[] = {{perptxtx, "1850"}, {perptxty, "-1850"}, {perptxtz, "1230"},
-                              {focustxtx, "1"},   {focustxty, "1"},    {focustxtz, "600"},
-                              {magtxt, ".036"},   {verttxt, "200"},    {horiztxt, "-270"}};
-    for (const figure& f : figures) f.box.text = f.text;
+    const typed texts[] = {{perptxtx, "1850"}, {perptxty, "-1850"}, {perptxtz, "1230"},
+                           {focustxtx, "1"},   {focustxty, "1"},    {focustxtz, "600"},
+                           {magtxt, ".036"},   {verttxt, "200"},    {horiztxt, "-270"}};
+    for (const typed& t : texts) t.box.text = t.text;
     click("cventerbtn");
     click("groupbtn");
 }
@@ -175,19 +175,19 @@ void looktower() {
 void makeall(const fs::path& guide, const fs::path& help, const fs::path& documents) {
     openwindows(decoratewindow);
     click("startprogrambtn");
-    keepwindow(vistaplan, documents, "main-window-start");
+    savewindow(vistaplan, documents, "main-window-start");
     makehelppictures(help);
     click("postbeambtn");
-    keepplan(layoutgirder, guide, documents, "layout-girders");
+    saveplan(layoutgirder, guide, documents, "layout-girders");
     click("orange1btn");
-    keepplan(layoutpanels, guide, documents, "layout-panels");
+    saveplan(layoutpanels, guide, documents, "layout-panels");
     click("roofbtn");
-    keepplan(layoutroof, guide, documents, "layout-roof");
+    saveplan(layoutroof, guide, documents, "layout-roof");
     click("fastchange");
-    keepwindow(easyviews, documents, "easy-views");
+    savewindow(easyviews, documents, "easy-views");
     click("groupbtn");
     replaysolid({"girdhou1", "paneho1", "roofh1", "girdhou2", "paneho2", "roofh2"});
-    keepwindow(vistaplan, documents, "main-window");
+    savewindow(vistaplan, documents, "main-window");
     looktower();
     replaysolid({"girdtow1", "paneto1",  "girdtow2", "paneto2",  "girdtow3", "paneto3",  "girdtow4",
                  "paneto4",  "girdtow5", "paneto5",  "girdtow6", "paneto6",  "girdtow7", "paneto7",
@@ -212,7 +212,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    for (const char* ofscreens : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI"}) qunsetenv(ofscreens);
+    for (const char* scaling : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI"}) qunsetenv(scaling);
     QApplication::setDesktopSettingsAware(false);
     QApplication app(argc, argv);
     std::setlocale(LC_NUMERIC, "C");

@@ -1,6 +1,6 @@
-// What a picture shows, in words, a line a control: it is kept in the picture's own file. Letters and shades are the
-// toolkit's, and look another way with another font library; by the words a test tells on any machine whether a picture
-// is stale: they change with a control that is moved, added, renamed or coloured anew, and with an element.
+// A description of what a picture shows, one line per control, stored in the PNG file. Qt renders text and shades
+// differently with other font libraries, so tests compare these descriptions to find out on any machine whether a
+// picture is stale. They change when a control is moved, added, renamed or recoloured, or shows another picture.
 #pragma once
 
 #include "core/controls.h"
@@ -14,12 +14,12 @@
 
 namespace tessaly {
 
-inline std::string wordsof(const control& c) {
+inline std::string descriptionof(const control& c) {
     const colour back = c.back.value_or(colour{});
-    char places[100];
-    std::snprintf(places, sizeof places, " %d %d %d %d #%02x%02x%02x ", c.bounds.left, c.bounds.top, c.bounds.width,
+    char bounds[100];
+    std::snprintf(bounds, sizeof bounds, " %d %d %d %d #%02x%02x%02x ", c.bounds.left, c.bounds.top, c.bounds.width,
                   c.bounds.height, back.red, back.green, back.blue);
-    std::string words = c.name + places + c.text;
+    std::string words = c.name + bounds + c.text;
     if (&c == chosenelement) words += "(pressed) ";
     if (QFile shown(QString::fromStdString(":/pictures/" + c.name + ".png")); shown.open(QIODevice::ReadOnly)) {
         checksum bytes;
@@ -29,7 +29,7 @@ inline std::string wordsof(const control& c) {
     return words + '\n';
 }
 
-inline void keepwords(QImage& picture, const std::string& words) {
+inline void setdescription(QImage& picture, const std::string& words) {
     picture.setText("Shows", QString::fromStdString(words));
 }
 

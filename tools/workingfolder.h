@@ -1,4 +1,4 @@
-// A scratch working folder for tests, benchmarks and makers: made, gone into, and removed when it goes.
+// A temporary working folder for tests, benchmarks and generators.
 #pragma once
 
 #include <filesystem>
@@ -9,7 +9,8 @@ namespace tessaly {
 
 class workingfolder {
   public:
-    // With copies of datah and pals as they stand in source, or with empty ones; the other folders are empty.
+    // Creates the folder and makes it the current one. Copies datah and pals from source, or leaves them empty if
+    // source is empty. The destructor returns to the previous folder and removes this one.
     explicit workingfolder(const std::filesystem::path& source = {}) {
         namespace fs = std::filesystem;
         std::random_device random;

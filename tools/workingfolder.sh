@@ -1,6 +1,6 @@
-# Sourced by scripts that play in a folder of their own. root: the repository's.
+# Sourced by scripts that play in a temporary working folder. root: the folder of the repository.
 
-# workingfolder FOLDER: makes it a working folder as a fresh clone has it.
+# workingfolder FOLDER: makes FOLDER a working folder like that of a fresh clone.
 workingfolder() {
     mkdir -p "$1"/{designs,bmps,nonuser}
     cp -r "$root/datah" "$root/pals" "$1"
