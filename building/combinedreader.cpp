@@ -43,11 +43,11 @@ std::string sortedline(int slot) { return templine(slot, rdorder[slot], rdplacez
 
 // Reads a design file into the record tables, and adds its records to combinedcount and to tempfile.
 template <class form>
-void addfile(const value& name, form line) {
+void addfile(const replayfile& file, form line) {
     clearrecords();
-    const int n = keepdesignfile(1, name, bothcolumns);
+    const int n = keepdesignfile(1, file.name, bothcolumns);
     combinedcount = combinedcount + n;
-    floorfromname(name.text());
+    floorfromname(file.floorby);
     addlines(tempfile, n, line);
 }
 
@@ -81,47 +81,42 @@ void offerfirst(control& list) {
 }
 
 template <class form>
-void takefirst(control& list, control& secondlist, form line) {
-    firstfilename = selectedtext(list);
+void takefirst(const replayfile& file, form line) {
+    firstfilename = file.name;
+    combinedcount = 0;
+    addfile(file, line);
+}
+
+template <class form>
+void takesecond(const replayfile& file, form line) {
+    secondfilename = file.name;
+    addfile(file, line);
+}
+
+template <class form>
+void pickfirst(control& list, control& secondlist, form line) {
     hide(escapefilelistbtn);
     hide(list);
     hide(selectgirderfile);
-    selectedbox.text = "You selected:  " + firstfilename.text();
+    selectedbox.text = "You selected:  " + selectedtext(list);
     show(selectedbox);
-    combinedcount = 0;
-    addfile(firstfilename, line);
+    takefirst(pickedfile(list), line);
     show(selectpanelfile);
     refresh(secondlist);
     show(secondlist);
 }
 
-template <class form>
-void takesecond(control& list, form line) {
-    secondfilename = selectedtext(list);
+// Hides the second list and its prompts. Returns the file picked in it.
+replayfile leavesecond(control& list) {
     hide(selectedbox);
     hide(list);
     hide(selectpanelfile);
     hide(autohintbox);
-    addfile(secondfilename, line);
+    return pickedfile(list);
 }
 
-}  // namespace
-
-void clickautowirebtn() { offerfirst(autofile1); }
-
-void clickautosolidbtn() { offerfirst(autofile3); }
-
-void pickautofile1() { takefirst(autofile1, autofile2, wireline); }
-
-void pickautofile3() { takefirst(autofile3, autofile4, solidline); }
-
-void pickautofile2() {
-    takesecond(autofile2, wireline);
-    replaycombined();
-}
-
-void pickautofile4() {
-    takesecond(autofile4, solidline);
+// Replays both files of tempfile solid. reads: combinedcount.
+void replaysorted() {
     const int n = indexof(combinedcount, "combinedcount", 2 * lastrecord);
     keepbothfiles(n);
     makeeyeabsolute();
@@ -134,5 +129,33 @@ void pickautofile4() {
     deletefile(sortedtempfile);
     hide(progressbar);
 }
+
+}  // namespace
+
+void clickautowirebtn() { offerfirst(autofile1); }
+
+void clickautosolidbtn() { offerfirst(autofile3); }
+
+void pickautofile1() { pickfirst(autofile1, autofile2, wireline); }
+
+void pickautofile3() { pickfirst(autofile3, autofile4, solidline); }
+
+void pickautofile2() {
+    takesecond(leavesecond(autofile2), wireline);
+    replaycombined();
+}
+
+void pickautofile4() {
+    takesecond(leavesecond(autofile4), solidline);
+    replaysorted();
+}
+
+void replaypairsolid(const replayfile& first, const replayfile& second) {
+    takefirst(first, solidline);
+    takesecond(second, solidline);
+    replaysorted();
+}
+
+bool awaitssecondfile() { return autofile2.shown || autofile4.shown; }
 
 }  // namespace tessaly

@@ -3,6 +3,8 @@
 // kind decides what it draws, so that any two files go together. Design files are read and never written.
 #pragma once
 
+#include "building/designfiles.h"
+
 namespace tessaly {
 
 void clickautowirebtn();   // shows autofile1, refreshed, with its prompt, the hint and the button that closes it
@@ -23,5 +25,11 @@ void pickautofile2();
 // with subscript out of range. writes: as pickautofile2, quaddist, perpx.. (absolute until the next plotgroups);
 // draws on viewport and progressbar; fails: as pickautofile2, paintsolids; the temporary files then stay.
 void pickautofile4();
+
+// Replays two files solid as the two picks do, and leaves the lists and prompts alone.
+void replaypairsolid(const replayfile& first, const replayfile& second);
+
+// Whether a first file was picked and the second one is to be picked.
+bool awaitssecondfile();
 
 }  // namespace tessaly

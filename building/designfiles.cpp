@@ -4,6 +4,7 @@
 
 #include "building/buildstate.h"
 #include "building/records.h"
+#include "core/controls.h"
 #include "core/failure.h"
 #include "core/textfiles.h"
 #include "core/windows1252.h"
@@ -89,17 +90,24 @@ void elementfileforcode(const value& kind, const value& code) {
     }
 }
 
-void floorfromname(const std::string& name) {
+int floordigit(const std::string& name) {
     const std::string letters = name.substr(0, 4);
     const int length = letters == "gird" ? 8 : letters == "pane" ? 7 : letters == "roof" ? 6 : 0;
     const std::string_view stem = firstcharacters(name, length);
     const char digit = stem.empty() ? ' ' : stem.back();
-    if (digit < '0' || digit > '9')
+    return digit < '0' || digit > '9' ? -1 : digit - '0';
+}
+
+replayfile pickedfile(const control& filelist) { return {selectedtext(filelist), selectedtext(filelist)}; }
+
+void floorfromname(const std::string& name) {
+    const int digit = floordigit(name);
+    if (digit < 0)
         throw failure(failurekind::typemismatch,
                       "no reader knows this name; girders1.txt, panels1.txt and roofs1.txt would do, or names as long "
                       "with the same first four letters and the floor's digit in the place of the 1",
                       designpath(name));
-    floornum = digit - '0';
+    floornum = digit;
     setfloor(floornum == 0 ? value(10) : floornum);
 }
 

@@ -7,6 +7,8 @@
 
 namespace tessaly {
 
+struct control;
+
 // Appends the record of a click to "designs\" + family + floorname + ".txt" on channel 1. number, x, y, code: constants
 // of the clicked button. reads: elementkind, rotx, rotz, placex, placey, facecode, floorname; fails: file already open,
 // file access error, file not found (folder).
@@ -19,8 +21,17 @@ int panelcodefor(const std::string& prefix, const std::string& part);
 // code outside the table, leaves what it cannot tell as it was.
 void elementfileforcode(const value& kind, const value& code);
 
-// Sets floornum, floorname and placez from a design file's name: the digit behind "girders", "panels" or "roofs".
-// Fails with type mismatch where the name tells no floor.
+// The floor digit in a design file's name, 0 for floor 10: the character after "girders", "panels" or "roofs" in a
+// standard name. -1 for a name that the readers refuse.
+int floordigit(const std::string& name);
+
+// A design file to replay, and the name that gives its floor: its own, but for three files of wholebuilding.
+struct replayfile {
+    std::string name, floorby;
+};
+replayfile pickedfile(const control& filelist);
+
+// Sets floornum, floorname and placez from a design file's name. Fails with type mismatch if it has no floor digit.
 void floorfromname(const std::string& name);
 
 }  // namespace tessaly

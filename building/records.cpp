@@ -22,6 +22,12 @@ std::vector<recordcolumn> designcolumns(recordcolumn number, recordcolumn code, 
     };
 }
 
+std::vector<recordcolumn> unstoredcolumns() {
+    std::vector<recordcolumn> columns = designcolumns({}, {}, {});
+    for (recordcolumn& c : columns) c = {nullptr, nullptr, c.text};
+    return columns;
+}
+
 std::string recordline(const std::vector<value>& fields) {
     std::string line;
     for (const value& field : fields) {

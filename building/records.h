@@ -22,6 +22,9 @@ using recordcolumns = std::span<const recordcolumn>;
 // The eleven recordcolumns of a design record; the three in which readers differ come from the caller.
 std::vector<recordcolumn> designcolumns(recordcolumn number, recordcolumn code, recordcolumn trailer);
 
+// The same eleven for a record that is read and not stored.
+std::vector<recordcolumn> unstoredcolumns();
+
 // One line of text fields as records are written: texts in double quotes, numbers bare, commas between, CR LF behind.
 std::string recordline(const std::vector<value>& fields);
 

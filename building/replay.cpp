@@ -45,6 +45,12 @@ int keepdesignfile(int channel, const value& name, recordcolumns form) {
     return n;
 }
 
+int countrecords(const value& name) {
+    textinput in{designpath(name), filebytes(designpath(name), "design file")};  // on no channel
+    const std::vector<recordcolumn> form = unstoredcolumns();
+    return untilfailure(lastrecord, [&](int) { readrecord(in, form); });
+}
+
 void drawrecord(const value& kind, const value& code) {
     elementfileforcode(kind, code);
     readelements();

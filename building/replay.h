@@ -33,6 +33,10 @@ int untilfailure(int most, procedure step) {
 // fails: as openinput.
 int keepdesignfile(int channel, const value& name, recordcolumns form);
 
+// The number of complete records of a design file, 1000 at most, by the same rules; stores nothing. fails: as
+// keepdesignfile.
+int countrecords(const value& name);
+
 // Places, reads and draws the element of the record just read, by the recordcolumn of kind and its code. rotx is 0
 // afterwards, for placement leaves radians in it. reads: rotx, rotz, placex, placey, placez; writes, fails: as
 // readelements.

@@ -45,13 +45,18 @@ void offer(control& list) {
     show(list);
 }
 
-// The first steps of both replays: the name and what it tells. reads: the list; writes: secondfilename, floor.
-const recordclass& takename(control& list) {
-    secondfilename = selectedtext(list);
+// Hides a list of which an entry was picked. Returns that file.
+replayfile takepick(control& list) {
     hide(list);
     hide(escapefilelistbtn);
-    floorfromname(secondfilename.text());
-    return classof(secondfilename.text());
+    return pickedfile(list);
+}
+
+// The first steps of both replays. writes: secondfilename, floor.
+const recordclass& takename(const replayfile& file) {
+    secondfilename = file.name;
+    floorfromname(file.floorby);
+    return classof(file.name);
 }
 
 }  // namespace
@@ -61,7 +66,7 @@ void clickautowiresingle() { offer(autofile); }
 void clickautosolidsingle() { offer(autofile5); }
 
 void pickautofile() {
-    const recordclass& c = takename(autofile);
+    const recordclass& c = takename(takepick(autofile));
     const std::vector<recordcolumn> form = columnsof(c);
     textinput& in = openinput(2, designpath(secondfilename), "design file");
     untilfailure(maxwirerecords, [&](int) {
@@ -71,8 +76,10 @@ void pickautofile() {
     in.close();
 }
 
-void pickautofile5() {
-    const recordclass& c = takename(autofile5);
+void pickautofile5() { replaysolid(takepick(autofile5)); }
+
+void replaysolid(const replayfile& file) {
+    const recordclass& c = takename(file);
     std::vector<recordcolumn> form = columnsof(c);
     for (int i = 1; i <= lastrecord; ++i) c.number.kept->set(i, 0);
     const int n = keepdesignfile(2, secondfilename, form);
@@ -87,7 +94,6 @@ void pickautofile5() {
     drawprogress(n);
     paintrecords(tempfile, n, form, c.kind, *c.code.scalar);
     deletefile(tempfile);
-    hide(autofile5);
     hide(progressbar);
 }
 

@@ -2,6 +2,8 @@
 // farthest element first. It reads design files and never writes them, and the view stays as it is.
 #pragma once
 
+#include "building/designfiles.h"
+
 namespace tessaly {
 
 void clickautowiresingle();   // shows autofile, refreshed, and the button that closes it
@@ -17,5 +19,8 @@ void pickautofile();
 // trapped. writes: as pickautofile, and the record tables, quaddist, perpx.. (absolute until the next plotgroups);
 // draws on viewport and progressbar; fails: as pickautofile, readelements and paintsolids; tempfile then stays.
 void pickautofile5();
+
+// Replays a file solid as pickautofile5 does, and leaves the lists alone.
+void replaysolid(const replayfile& file);
 
 }  // namespace tessaly

@@ -71,6 +71,17 @@ void close(scriptline& line) {
     closewindow(*w);
 }
 
+// A key that acts from any window.
+void key(scriptline& line) {
+    const std::string name = nameof(line);
+    line.expectend();
+    const auto keys = programkeys();
+    const auto known = std::find_if(keys.begin(), keys.end(), [&](const programkey& k) { return k.name == name; });
+    if (known == keys.end()) throw scripterror("there is no key " + name);
+    if (!vistaplan.shown) throw scripterror("the main window is not there yet");
+    known->press();
+}
+
 void writeline(const std::string& text) {
     std::fwrite(text.data(), 1, text.size(), stdout);
     std::putchar('\n');
@@ -190,6 +201,7 @@ constexpr command commands[] = {
     {"pick",    pick,      recordstep},
     {"type",    type,      recordstep},
     {"close",   close,     recordstep},
+    {"key",     key,       recordstep},
     {"edit",    edit,      recordoutside},
     {"delete",  deletefile, recordoutside},
     {"fails",   fails,     nullptr},

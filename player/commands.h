@@ -1,5 +1,6 @@
 // What the lines of a script do: the same clicks, picks and texts as a user's, over the same controls and procedures.
 //   click BUTTON, pick LIST "ENTRY", type BOX "TEXT", close WINDOW      as by mouse and keyboard
+//   key F6                                   a key that acts from any window: F1, F5 or F6
 //   edit FILE "TEXT" "OTHER", delete FILE    in an editor or a file manager; the empty TEXT is the whole file
 //   fails LINE                               a line that ends the program with a report; it is started anew then
 //   show, layout, table NAME FROM TO         windows, controls and figures; how they are laid out; a part of a table

@@ -1,4 +1,4 @@
-// The keyboard in the real windows: where the focus goes, and what Return, Escape, Tab, the arrows, F1 and F5 do.
+// The keyboard in the real windows: where the focus goes, and what Return, Escape, Tab, the arrows and F keys do.
 
 #include "core/viewvalues.h"
 #include "core/world.h"

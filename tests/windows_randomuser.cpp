@@ -67,7 +67,12 @@ class randomuser : public windowsession {
 
     void act() {
         const unsigned what = oneof(100);
-        what < 55 ? pressany() : what < 75 ? pickany() : what < 95 ? typeany() : closeany();
+        what < 3 ? pressf6() : what < 55 ? pressany() : what < 75 ? pickany() : what < 95 ? typeany() : closeany();
+    }
+
+    void pressf6() {
+        script += "key F6\n";
+        event(nullptr, [&] { QTest::keyClick(frameof(anywindow()), Qt::Key_F6); });
     }
 
     // By the keyboard as often as by the mouse.

@@ -9,6 +9,7 @@
 #include "building/filelist.h"
 #include "building/layouts.h"
 #include "building/singlereader.h"
+#include "building/wholebuilding.h"
 #include "captures/capture.h"
 #include "captures/retrieval.h"
 #include "core/failure.h"
@@ -147,6 +148,16 @@ const handler handlers[] = {
 #undef CLICK
 #undef PICK
 
+constexpr programkey keys[] = {
+    {"F1", [] { clickcontrol(instructionsbtn); }},
+    {"F5", [] { clickcontrol(cventerbtn); }},
+    {"F6",
+     [] {
+         usedcontrol = wantedfocus = nullptr;  // no control's event
+         drawwholebuilding();
+     }},
+};
+
 // The buttons that the Escape key presses, each with what of its own the focus may be on.
 struct closer {
     control* button;
@@ -187,6 +198,8 @@ void startprogram() {
     panelsnipper.items = {"Full panel", "snip left side", "snip right side", "snip both sides"};
     showwindow(startform);
 }
+
+std::span<const programkey> programkeys() { return keys; }
 
 void pressescape(window& w, const control* focused) {
     wantedfocus = nullptr;

@@ -4,11 +4,20 @@
 
 #include "core/controls.h"
 
+#include <span>
+
 namespace tessaly {
 
 // Puts the whole program into its first state: all controls set up with their procedures, startform shown, nothing
 // loaded. viewportsurface and progresssurface are to be set before.
 void startprogram();
+
+// The keys that act from any window once the main window is there, and their procedures.
+struct programkey {
+    const char* name;
+    void (*press)();
+};
+std::span<const programkey> programkeys();
 
 // The Escape key in a window, with the focus on focused (nullptr: on no control). It does what the window's own closing
 // button does: of those of the main window the one that belongs to focused, or else the first that is shown. A list

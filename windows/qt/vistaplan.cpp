@@ -1,6 +1,7 @@
 // The main window: maximised at the start, with its keys.
 
 #include "core/viewvalues.h"
+#include "windows/handlers.h"
 #include "windows/qt/binding.h"
 #include "windows/qt/decoration.h"
 #include "windows/qt/style.h"
@@ -18,13 +19,6 @@ namespace {
 // The seven boxes over the picture have no labels beside them: each carries its tag at its right end.
 constexpr int tagpixels = 9;
 const QColor hintpaper(255, 255, 225);
-
-// Buttons with a key of their own, from whichever window.
-struct keyrow {
-    Qt::Key key;
-    control& of;
-};
-const keyrow keys[] = {{Qt::Key_F1, instructionsbtn}, {Qt::Key_F5, cventerbtn}};
 
 class tag : public QWidget {
   public:
@@ -68,10 +62,11 @@ void decoratevistaplan(windowframe& f) {
     for (const control* c : {&Label4, &Label5, &Label6, &vert, &horizlabel})
         qobject_cast<QLabel*>(widgetof(*c))->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     for (const control* c : {&selectgirderfile, &selectpanelfile, &selectedbox, &autohintbox}) makereadonly(*c);
-    for (const keyrow& k : keys) {
-        auto* shortcut = new QShortcut(k.key, &f);
+    for (const programkey& k : programkeys()) {
+        auto* shortcut = new QShortcut(QKeySequence(k.name), &f);
         shortcut->setContext(Qt::ApplicationShortcut);
-        QObject::connect(shortcut, &QShortcut::activated, &f, [&k] { runevent([&k] { clickcontrol(k.of); }); });
+        shortcut->setAutoRepeat(false);
+        QObject::connect(shortcut, &QShortcut::activated, &f, [&k] { runevent(k.press); });
     }
     QObject::connect(qobject_cast<QLineEdit*>(widgetof(capbox)), &QLineEdit::returnPressed, &f, [] {
         if (screencapenter.shown) runevent([] { clickcontrol(screencapenter); });
