@@ -90,7 +90,7 @@ void typed(std::istream& input) {
 
 void played(std::istream& input) {
     try {
-        while (!programended && input) obeyline(nextline(input));
+        while (!programended && input) playline(nextline(input));
     } catch (const scripterror&) {
     }
     playedsurface.endlog();
@@ -102,7 +102,7 @@ void play(const std::string& way, const std::string& input) {
     std::istringstream lines(way), given(input);
     for (std::string line, command, name; std::getline(lines, line);) {
         std::istringstream(line).ignore(2) >> command >> name;
-        if (!line.starts_with('#')) obeyline(line);
+        if (!line.starts_with('#')) playline(line);
         if (line.starts_with("# input")) write(name, input);
         if (line.starts_with("# script")) write(name, sections(filebytes(name, "element")) + input);
         if (line == "# typed") typed(given);

@@ -37,6 +37,11 @@ class checksum {
         std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(sum));
         return digits;
     }
+    std::string shorttext() const {  // eight: enough to notice a change
+        char digits[9];
+        std::snprintf(digits, sizeof digits, "%08x", static_cast<unsigned>(sum ^ sum >> 32));
+        return digits;
+    }
 
   private:
     std::uint64_t sum = 0xcbf29ce484222325;

@@ -6,8 +6,11 @@
 #include "core/controls.h"
 #include "core/failure.h"
 #include "picturefiles/picturefile.h"
+#include "player/loggedsurface.h"
 #include "player/programstate.h"
+#include "player/scriptline.h"
 #include "player/sessionrecord.h"
+#include "player/tablechanges.h"
 #include "windows/handlers.h"
 
 #include <algorithm>
@@ -18,8 +21,6 @@
 #include <iterator>
 
 namespace tessaly {
-
-loggedsurface playedsurface(viewportwidth, viewportheight), playedstrip(progresswidth, progressheight);
 
 namespace {
 
@@ -87,15 +88,20 @@ void writeline(const std::string& text) {
     std::putchar('\n');
 }
 
-// On standard output, and under the step played last in the session's record.
-void tell(const std::string& text) {
+// Writes to standard output, and under the step played last in the record of the session.
+void writenote(const std::string& text) {
     writeline(text);
     recordnote(text);
 }
 
 void showstate(scriptline& line) {
     line.expectend();
-    for (const stateline& state : programstate()) writeline(state.name + state.visibility + state.text);
+    for (const stateitem& item : programstate()) {
+        std::string text(item.kind);
+        for (const std::string_view part : {std::string_view(item.name), item.visibility, std::string_view(item.text)})
+            if (!part.empty()) text.append(" ").append(part);
+        writeline(text);
+    }
 }
 
 void lines(scriptline& line) {
@@ -122,20 +128,34 @@ std::filesystem::path ownfile(const std::string& name) {
     return path;
 }
 
-// As in an editor: the first place of a text is put otherwise; the whole file where the text is empty.
-void edit(scriptline& line) {
-    const auto path = ownfile(nameof(line));
-    const std::string taken = line.quoted(), put = line.quoted();
-    line.expectend();
-    std::string bytes;
-    if (!taken.empty()) {
-        std::ifstream in(path, std::ios::binary);
-        bytes.assign(std::istreambuf_iterator(in), {});
-        if (bytes.find(taken) == std::string::npos) throw scripterror(path.string() + " has no " + inquotes(taken));
-        bytes.replace(bytes.find(taken), taken.size(), put);
-    }
-    if (!(std::ofstream(path, std::ios::binary) << (taken.empty() ? put : bytes)).flush())
+std::string readfile(const std::filesystem::path& path) {
+    std::ifstream in(path, std::ios::binary);
+    return {std::istreambuf_iterator(in), {}};
+}
+
+void writefile(const std::filesystem::path& path, const std::string& bytes) {
+    if (!(std::ofstream(path, std::ios::binary) << bytes).flush())
         throw scripterror(path.string() + " cannot be written");
+}
+
+struct editedfile {
+    std::filesystem::path path;
+    std::string before;
+};
+
+// Reads FILE "TEXT" "OTHER" and replaces the first TEXT in the file by OTHER; an empty TEXT is the complete file.
+editedfile editfile(scriptline& line) {
+    const auto path = ownfile(nameof(line));
+    const std::string text = line.quoted(), other = line.quoted(), before = readfile(path);
+    const std::size_t at = before.find(text);
+    if (at == std::string::npos) throw scripterror(path.string() + " has no " + inquotes(text));
+    writefile(path, text.empty() ? other : std::string(before).replace(at, text.size(), other));
+    return {path, before};
+}
+
+void edit(scriptline& line) {
+    editfile(line);
+    line.expectend();
 }
 
 void deletefile(scriptline& line) {
@@ -144,18 +164,41 @@ void deletefile(scriptline& line) {
     if (!std::filesystem::remove(path, failed)) throw scripterror(path.string() + " cannot be deleted");
 }
 
-// A line at which the program is to fail: told in the record, and the program is started anew as by a user.
-void fails(scriptline& line) {
-    const std::string_view tried = line.rest();
-    if (scriptline(tried).word() == "fails") throw scripterror("once is enough");
+void playline(std::string_view text, std::string_view recorded);
+
+// Plays the rest of the line, which is expected to end the program with a failure.
+void playfailing(scriptline& line) {
     try {
-        obeyline(tried);
+        playline(line.rest(), line.text());
     } catch (const failure&) {
-        playedsurface.image.clear();
-        startprogram();
-        return recordrestart();
+        return;
     }
     throw scripterror("the program did not fail");
+}
+
+void restart() {
+    playedsurface.image.clear();
+    startprogram();
+    recordrestart();
+}
+
+void fails(scriptline& line) {
+    playfailing(line);
+    restart();
+}
+
+void mistake(scriptline& line) {
+    const editedfile file = editfile(line);
+    playfailing(line);
+    writefile(file.path, file.before);
+    restart();
+}
+
+// Opens the main window, of which the record shows nothing.
+void start(scriptline& line) {
+    line.expectend();
+    scriptline button("startprogrambtn");
+    click(button);
 }
 
 std::size_t indexin(std::string_view word) {
@@ -173,14 +216,13 @@ void table(scriptline& line) {
     line.expectend();
     const auto text = tabletext(name, from, to);
     if (!text) throw scripterror("there is no table " + name + " that goes so far");
-    const std::string told = name + ' ' + std::to_string(from) + ".." + std::to_string(to) + ':' + *text;
-    tell(told);
+    writenote(name + ' ' + std::to_string(from) + ".." + std::to_string(to) + ':' + *text);
 }
 
 // How windows and controls are laid out: a line each, into the record as well.
 void layout(scriptline& line) {
     line.expectend();
-    for (const std::string& told : programlayout()) tell(told);
+    for (const std::string& text : programlayout()) writenote(text);
 }
 
 void record(scriptline& line) {
@@ -192,36 +234,37 @@ void say(scriptline& line) { writeline(std::string(line.rest())); }
 
 struct command {
     std::string_view name;
-    void (*obey)(scriptline&);
-    bool (*keep)(std::string_view);  // of what a user does: writes it into the session's record
+    void (*run)(scriptline&);
+    bool (*record)(std::string_view);  // writes the step and what it changed to the record of the session
 };
 constexpr command commands[] = {
     // clang-format off
-    {"click",   click,     recordstep},
-    {"pick",    pick,      recordstep},
-    {"type",    type,      recordstep},
-    {"close",   close,     recordstep},
-    {"key",     key,       recordstep},
-    {"edit",    edit,      recordoutside},
-    {"delete",  deletefile, recordoutside},
-    {"fails",   fails,     nullptr},
-    {"show",    showstate, nullptr},
-    {"table",   table,     nullptr},
-    {"layout",  layout,    nullptr},
-    {"lines",   lines,     nullptr},
-    {"picture", picture,   nullptr},
-    {"record",  record,    nullptr},
-    {"say",     say,       nullptr},
+    {"click",   click,      recordstep},
+    {"pick",    pick,       recordstep},
+    {"type",    type,       recordstep},
+    {"close",   close,      recordstep},
+    {"key",     key,        recordstep},
+    {"start",   start,      recordunseen},
+    {"edit",    edit,       recordunseen},
+    {"delete",  deletefile, recordunseen},
+    {"fails",   fails,      nullptr},
+    {"mistake", mistake,    nullptr},
+    {"show",    showstate,  nullptr},
+    {"table",   table,      nullptr},
+    {"layout",  layout,     nullptr},
+    {"lines",   lines,      nullptr},
+    {"picture", picture,    nullptr},
+    {"record",  record,     nullptr},
+    {"say",     say,        nullptr},
     // clang-format on
 };
 
-void expectwritten(bool kept) {
-    if (!kept) throw scripterror("the record of the session cannot be written");
+void expectwritten(bool written) {
+    if (!written) throw scripterror("the record of the session cannot be written");
 }
 
-}  // namespace
-
-void obeyline(std::string_view text) {
+// Plays a line; the record shows it as recorded.
+void playline(std::string_view text, std::string_view recorded) {
     scriptline line(text);
     const std::string_view name = line.word();
     if (name.empty() || name.front() == '#') return;
@@ -229,12 +272,16 @@ void obeyline(std::string_view text) {
         std::find_if(std::begin(commands), std::end(commands), [name](const command& c) { return c.name == name; });
     if (known == std::end(commands)) throw scripterror("there is no command " + std::string(name));
     try {
-        known->obey(line);
+        known->run(line);
     } catch (const failure& f) {
-        expectwritten(recordfailure(text, f.report()));
+        expectwritten(recordfailure(recorded, f.report()));
         throw;
     }
-    if (known->keep != nullptr) expectwritten(known->keep(text));
+    if (known->record != nullptr) expectwritten(known->record(recorded));
 }
+
+}  // namespace
+
+void playline(std::string_view text) { playline(text, text); }
 
 }  // namespace tessaly

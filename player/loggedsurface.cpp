@@ -7,6 +7,8 @@
 
 namespace tessaly {
 
+loggedsurface playedsurface(viewportwidth, viewportheight), playedstrip(progresswidth, progressheight);
+
 namespace {
 
 // A coordinate with nine significant digits, which tell every single-precision value, and a blank.

@@ -16,6 +16,8 @@ struct linetally {
     long lines = 0;
     checksum sum;
     std::string picture;
+
+    std::string text() const { return std::to_string(lines) + ' ' + sum.shorttext(); }
 };
 
 class loggedsurface : public surface {
@@ -47,5 +49,9 @@ class loggedsurface : public surface {
     std::unique_ptr<std::FILE, closing> log;
     std::optional<linetally> tally;
 };
+
+// The pictures that scripts draw on: the building and the strip that shows the progress of a replay. viewportsurface
+// and progresssurface are set to them.
+extern loggedsurface playedsurface, playedstrip;
 
 }  // namespace tessaly

@@ -29,7 +29,7 @@ void flushall() {
 void playscript(std::istream& script, int& number) {
     for (std::string line; !programended && std::getline(script, line);) {
         ++number;
-        obeyline(line);
+        playline(line);
         flushall();
     }
     if (script.bad()) throw scripterror("the script cannot be read");

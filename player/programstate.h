@@ -1,37 +1,32 @@
-// The state of the program as lines of text: its windows, controls and figures, as "show" writes them and as a
-// session's record compares them from step to step, and its tables.
+// The state of the program as text: windows, controls and scalars, as "show" writes them and as the record of a
+// session compares them from step to step.
 #pragma once
 
-#include "player/checksum.h"
-
-#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tessaly {
 
-struct stateline {
-    std::string name;        // "window vistaplan", "control floor", "value mag"
-    std::string visibility;  // " shown" or " hidden"; "" of a figure
-    std::string text;        // " \"1\"" of a control, " 0.56" of a figure
+class value;
+
+struct stateitem {
+    std::string_view kind;  // "window", "control" or "value"
+    std::string name;
+    std::string_view visibility;  // "shown" or "hidden"; "" for a value
+    std::string text;             // "\"1\"" for a control, "0.56" for a value; "" for a window
 };
 
-// Windows, controls and reported scalars, each in the order of its table.
-std::vector<stateline> programstate();
+// Returns windows, controls and reported scalars, each in the order of its table. The items are the same at each call
+// as long as the program runs.
+std::vector<stateitem> programstate();
 
-// The windows' titles, sizes and colours; of each control its place in twips, colour, element, tooltip and spoken name.
+// A value as the state shows it: empty, its shortest text, or its text in quotes.
+std::string statetext(const value& v);
+
+// How the windows look before they are used, a line for each window and control: its title or text, bounds in twips,
+// colour, and what else it has: "hidden", element number, tooltip, accessible name, items. Of the position buttons of
+// one family only the first and the last are listed; the others follow from them.
 std::vector<std::string> programlayout();
-
-// A table of the world, and the checksum of its elements, in which 0 and -0 count as one.
-struct tablesum {
-    std::string_view name;
-    checksum sum;
-    bool operator==(const tablesum&) const = default;
-};
-std::vector<tablesum> tablesums();
-
-// The elements from..to of a table, each behind a blank; nothing where there is no such table or part of one.
-std::optional<std::string> tabletext(std::string_view name, std::size_t from, std::size_t to);
 
 }  // namespace tessaly

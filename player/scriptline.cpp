@@ -12,8 +12,9 @@ constexpr std::string_view blanks = " \t";
 
 }  // namespace
 
-scriptline::scriptline(std::string_view line) : left(line) {
-    while (!left.empty() && (left.back() == '\n' || left.back() == '\r')) left.remove_suffix(1);
+scriptline::scriptline(std::string_view line) {
+    while (!line.empty() && (line.back() == '\n' || line.back() == '\r')) line.remove_suffix(1);
+    all = left = line;
 }
 
 bool scriptline::atend() {

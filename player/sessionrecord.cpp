@@ -1,13 +1,14 @@
-// Before and after a step: the program's state, the lines drawn and the files of the working folder, compared.
+// Before and after a step: the program's state, its tables, the lines drawn and the files of the working folder,
+// compared.
 
 #include "player/sessionrecord.h"
 
 #include "core/controls.h"
-#include "player/commands.h"
+#include "player/loggedsurface.h"
 #include "player/programstate.h"
 #include "player/scriptline.h"
+#include "player/tablechanges.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <map>
@@ -17,92 +18,98 @@ namespace tessaly {
 
 namespace {
 
-constexpr std::size_t maxquoted = 400;  // bytes of a file that are written out; longer ones as length and checksum
+constexpr std::size_t maxquoted = 400;  // bytes of a file; of more, the number and the checksum are written
 
 using filesbypath = std::map<std::string, std::string>;
 
 struct moment {
-    std::vector<stateline> state;
-    std::vector<tablesum> tables;
+    std::vector<stateitem> state;
+    tablesnapshot tables;
     filesbypath files;
     const control* focus;
 };
 
 std::ofstream record;
-moment before;
+std::optional<moment> before;
 
-filesbypath filesofsession() {
+filesbypath sessionfiles() {
     filesbypath files;
     for (const char* folder : {"bmps", "designs", "nonuser"}) {
         std::error_code missing;
         for (const auto& entry : std::filesystem::directory_iterator(folder, missing)) {
+            if (!entry.is_regular_file(missing)) continue;
             std::ifstream in(entry.path(), std::ios::binary);
-            if (entry.is_regular_file())
-                files[entry.path().generic_string()] = (std::ostringstream() << in.rdbuf()).str();
+            files[entry.path().generic_string()] = (std::ostringstream() << in.rdbuf()).str();
         }
     }
     return files;
 }
 
-moment takemoment() { return {programstate(), tablesums(), filesofsession(), wantedfocus}; }
+moment takemoment() { return {programstate(), {}, sessionfiles(), wantedfocus}; }
 
-std::string told(std::string_view bytes) {
+// One line of the record: the kind of change, then what changed; nothing if there is nothing to add.
+class changeline {
+  public:
+    explicit changeline(std::string_view itskind) : kind(itskind) {}
+    ~changeline() {
+        if (!changes.empty()) record << "  " << kind << ' ' << changes << '\n';
+    }
+    changeline(const changeline&) = delete;
+    changeline& operator=(const changeline&) = delete;
+
+    void add(std::string_view change) { changes.append(changes.empty() ? "" : ", ").append(change); }
+
+  private:
+    std::string_view kind;
+    std::string changes;
+};
+
+// A typed or picked text is not repeated: the step ends with it.
+void writestate(std::string_view step, const moment& after) {
+    changeline values("values"), texts("texts"), hidden("hidden"), shown("shown");  // written from the last on
+    for (std::size_t i = 0; i < after.state.size(); ++i) {
+        const stateitem &was = before->state[i], &is = after.state[i];
+        if (was.visibility != is.visibility) (is.visibility == "shown" ? shown : hidden).add(is.name);
+        const std::string text = is.name + ' ' + is.text;
+        if (was.text != is.text && !step.ends_with(text)) (is.kind == "value" ? values : texts).add(text);
+    }
+}
+
+void writelines() {
+    const linetally viewport = playedsurface.taketally(), strip = playedstrip.taketally();
+    changeline lines("lines"), picture("picture");
+    if (!viewport.picture.empty()) picture.add("viewport " + viewport.picture);
+    if (viewport.lines > 0) lines.add("viewport " + viewport.text());
+    if (strip.lines > 0) lines.add("strip " + strip.text());
+}
+
+std::string filetext(std::string_view bytes) {
     if (bytes.size() <= maxquoted) return inquotes(bytes);
     checksum sum;
     sum.add(bytes);
-    return std::to_string(bytes.size()) + " bytes " + sum.text();
+    return std::to_string(bytes.size()) + " bytes " + sum.shorttext();
 }
 
-// Of what is another than before, that which changed.
-void writechangedstate(const moment& after) {
-    std::map<std::string_view, const stateline*> was;
-    for (const stateline& line : before.state) was[line.name] = &line;
-    for (const stateline& is : after.state) {
-        const stateline* const old = was[is.name];
-        const bool shown = old == nullptr || old->visibility != is.visibility;
-        const bool text = old == nullptr || old->text != is.text;
-        if (shown || text) record << "  " << is.name << (shown ? is.visibility : "") << (text ? is.text : "") << '\n';
-    }
-}
-
-void writechangedtables(const moment& after) {
-    if (after.tables == before.tables) return;
-    checksum all;
-    std::string names;
-    for (std::size_t i = 0; i < after.tables.size(); ++i) {
-        all.add(after.tables[i].sum.text());
-        if (after.tables[i] != before.tables[i]) names += ' ' + std::string(after.tables[i].name);
-    }
-    record << "  tables " << all.text() << names << '\n';
-}
-
-void writechangedfiles(const filesbypath& after) {
+void writefiles(const filesbypath& after) {
     for (const auto& [path, bytes] : after) {
-        const auto old = before.files.find(path);
-        if (old == before.files.end())
-            record << "  file " << path << " new " << told(bytes) << '\n';
+        const auto old = before->files.find(path);
+        if (old == before->files.end())
+            record << "  file " << path << " new " << filetext(bytes) << '\n';
         else if (old->second != bytes && bytes.starts_with(old->second))
-            record << "  file " << path << " gained " << told(std::string_view(bytes).substr(old->second.size()))
+            record << "  file " << path << " gained " << filetext(std::string_view(bytes).substr(old->second.size()))
                    << '\n';
         else if (old->second != bytes)
-            record << "  file " << path << " is now " << told(bytes) << '\n';
+            record << "  file " << path << " is now " << filetext(bytes) << '\n';
     }
-    for (const auto& [path, bytes] : before.files)
+    for (const auto& [path, bytes] : before->files)
         if (!after.contains(path)) record << "  file " << path << " gone\n";
-}
-
-void writelines(const char* name, loggedsurface& drawnon) {
-    const linetally drawn = drawnon.taketally();
-    if (!drawn.picture.empty()) record << "  picture " << name << ' ' << drawn.picture << '\n';
-    if (drawn.lines > 0) record << "  lines " << name << ' ' << drawn.lines << ' ' << drawn.sum.text() << '\n';
 }
 
 }  // namespace
 
 bool startrecord(const std::string& path) {
-    for (loggedsurface* s : {&playedsurface, &playedstrip}) s->starttally();
-    before = takemoment();
     record = std::ofstream(path, std::ios::binary);
+    recordrestart();
     return record.is_open();
 }
 
@@ -114,35 +121,37 @@ bool recordstep(std::string_view step) {
     if (!record.is_open()) return true;
     moment after = takemoment();
     record << step << '\n';
-    writechangedstate(after);
-    writechangedtables(after);
-    if (after.focus != nullptr && after.focus != before.focus) record << "  focus " << after.focus->name << '\n';
-    writelines("viewport", playedsurface);
-    writelines("strip", playedstrip);
-    writechangedfiles(after.files);
+    writestate(step, after);
+    changeline("tables").add(before->tables.changes(after.tables));
+    if (after.focus != nullptr && after.focus != before->focus) record << "  focus " << after.focus->name << '\n';
+    writelines();
+    writefiles(after.files);
     before = std::move(after);
     return static_cast<bool>(record.flush());
 }
 
-bool recordoutside(std::string_view step) {
+void recordrestart() {
+    if (!record.is_open()) return;
+    for (loggedsurface* s : {&playedsurface, &playedstrip}) s->starttally();
+    before = takemoment();
+}
+
+bool recordunseen(std::string_view step) {
     if (!record.is_open()) return true;
-    filesbypath files = filesofsession();
     record << step << '\n';
-    writelines("viewport", playedsurface);
-    writelines("strip", playedstrip);
-    writechangedfiles(files);
-    before.files = std::move(files);
+    recordrestart();
     return static_cast<bool>(record.flush());
 }
 
 bool recordfailure(std::string_view step, std::string_view report) {
-    const bool written = recordoutside(step);
-    recordnote("failure " + std::string(report));
-    return written;
-}
-
-void recordrestart() {
-    if (record.is_open()) before = takemoment();
+    if (!record.is_open()) return true;
+    filesbypath files = sessionfiles();
+    record << step << '\n';
+    writelines();
+    writefiles(files);
+    before->files = std::move(files);
+    record << "  failure " << report << '\n';
+    return static_cast<bool>(record.flush());
 }
 
 }  // namespace tessaly

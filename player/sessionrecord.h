@@ -1,14 +1,16 @@
-// The record of a played session: under each step of the script what it changed, a line each, so that a change of the
-// program shows as a difference that a person can judge.
+// The record of a played session: under each step of the script, a line for each kind of change that it made, so that a
+// change of the program shows as a difference that a person can judge.
 //   click postx0y16
-//     control capbox shown                       a window that was opened, a control that came into view
-//     control perptxtx "1849.9"                  a text, an item or a figure that is another than before
-//     tables 5d1f3c0e7a9b2846 basex basey        those that changed, and the checksum of all tables
-//     focus capbox                               where the keyboard is wanted
-//     lines viewport 24 8d3e0c5b9a1f2e47         how many were drawn, and their checksum
-//     file designs/girders1.txt gained "..."     what a file of the working folder became
-//     failure ...                                the report of a step that ended the program; what it left in the
-//                                                tables and windows is gone with it, and not told
+//     shown capbox, screencapenter               windows that were opened, controls that came into view
+//     hidden floorlist                           the same the other way round
+//     texts perptxtx "1849.9", floor "2"         texts of boxes and captions, picked items; not what the step itself
+//     says values perpx 1849.9, focusz "280"          scalars; what is in quotes is still text tables plane 88ab3e10,
+//     points 1c9d04fe     groups of tables, and the checksum of the elements that changed focus capbox the control that
+//     gets the keyboard lines viewport 24 8d3e0c5b, strip 3 1f2e   lines drawn, with their checksum picture viewport
+//     bmps/view.bmp             the picture set as the background of a surface file designs/girders1.txt gained "..."
+//     what happened to a file of the working folder, a line for each failure ...                                the
+//     report of a step that ended the program. Its lines and files are
+//                                                recorded, its tables and windows are not: they are gone
 #pragma once
 
 #include <string>
@@ -16,19 +18,19 @@
 
 namespace tessaly {
 
-// From here on each step is recorded in this file; false where it cannot be written.
+// Starts recording each step in this file. Returns false if it cannot be written.
 bool startrecord(const std::string& path);
 
-// Writes a line under the step that was played last, as it is given; nothing where no record was begun.
+// Writes a line under the step played last, as it is given. Does nothing if no record was started.
 void recordnote(std::string_view line);
 
-// Writes what a step just played changed: one of the program; one outside of it, in an editor; one that ended it, of
-// which lines, files and the report are left. Nothing where no record was begun; false where the disk does not take it.
+// Write a step: with what it changed; without that; and with what is left of one that ended the program. Do nothing if
+// no record was started. Return false if the file could not be written.
 bool recordstep(std::string_view step);
-bool recordoutside(std::string_view step);
+bool recordunseen(std::string_view step);
 bool recordfailure(std::string_view step, std::string_view report);
 
-// The program was started anew: what changes from here on is told against that.
+// Compares the next step with the present state. For a program that was started again.
 void recordrestart();
 
 }  // namespace tessaly

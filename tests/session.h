@@ -59,9 +59,9 @@ class session {
 
     // ---- what a user does; what no user could reach is an error of the test ----
     void start() { click("startprogrambtn"); }
-    void click(const std::string& name) { obeyline("click " + name); }
-    void type(const std::string& name, const std::string& text) { obeyline("type " + name + ' ' + inquotes(text)); }
-    void pick(const std::string& name, const std::string& item) { obeyline("pick " + name + ' ' + inquotes(item)); }
+    void click(const std::string& name) { playline("click " + name); }
+    void type(const std::string& name, const std::string& text) { playline("type " + name + ' ' + inquotes(text)); }
+    void pick(const std::string& name, const std::string& item) { playline("pick " + name + ' ' + inquotes(item)); }
 
     // ---- what came of it ----
     const std::vector<drawnline>& lines() const { return viewport.drawn; }

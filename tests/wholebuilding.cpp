@@ -2,6 +2,7 @@
 #include "building/wholebuilding.h"
 #include "core/viewvalues.h"
 #include "player/programstate.h"
+#include "player/tablechanges.h"
 #include "tests/session.h"
 
 #include <algorithm>
@@ -36,7 +37,7 @@ std::string leftbehind() {
     std::string all;
     for (const scalar& s : scalars())
         all += s.name + ' ' + (s.held->isnumber() ? shortesttext(*s.held) : inquotes(s.held->text())) + '\n';
-    for (const tablesum& t : tablesums()) all += std::string(t.name) + ' ' + t.sum.text() + '\n';
+    all += tablesums();
     for (const viewvalue& v : viewvalues) all += v.box.name + ' ' + v.box.text + '\n';
     checksum pixels;
     const raster& image = playedsurface.image;
@@ -47,10 +48,10 @@ std::string leftbehind() {
 
 std::string controlsbutthoseoftheview() {
     std::string all;
-    for (const stateline& s : programstate())
-        if (s.name.starts_with("control ") && std::none_of(std::begin(viewvalues), std::end(viewvalues),
-                                                           [&](auto& v) { return s.name == "control " + v.box.name; }))
-            all += s.name + s.visibility + s.text + '\n';
+    for (const stateitem& s : programstate())
+        if (s.kind == "control" &&
+            std::none_of(std::begin(viewvalues), std::end(viewvalues), [&](auto& v) { return s.name == v.box.name; }))
+            all.append(s.name).append(s.visibility).append(s.text + '\n');
     return all;
 }
 
@@ -66,7 +67,7 @@ std::string played(const std::string& samples, const std::string& view, const st
     std::istringstream script(view + steps);
     for (std::string line; std::getline(script, line);) {
         const std::string before = controlsbutthoseoftheview();
-        obeyline(line);
+        playline(line);
         EXPECT_TRUE(line != "key F6" || controlsbutthoseoftheview() == before);
     }
     return leftbehind();

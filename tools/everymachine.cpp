@@ -106,7 +106,7 @@ fs::path root;
 std::optional<workingfolder> folder;
 
 void play(const std::string& script) {
-    obeyline(script);
+    playline(script);
     addelement();
 }
 

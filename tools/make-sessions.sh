@@ -1,26 +1,47 @@
 #!/usr/bin/env bash
-# Writes the records of the sessions in tests/sessions anew: all, or those that are named. Read what changed before you
-# keep it: each line is something that a user sees or finds on disk.
+# tools/make-sessions.sh NAME... | --all: plays these sessions of tests/sessions and writes their records again. Shows
+# how each record differs: review every line, it is something that a user sees or finds on disk. Refuses to replace a
+# record that has changes which are not committed.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/setup.sh
+root=$PWD
+. tools/workingfolder.sh
+
+if [ $# -eq 0 ]; then
+    echo "usage: tools/make-sessions.sh NAME... | --all" >&2
+    exit 2
+fi
+if [ "$1" = --all ]; then
+    mapfile -t names < <(basename -s .play tests/sessions/*.play)
+    set -- "${names[@]}"
+fi
+for name in "$@"; do
+    if ! git diff --quiet HEAD -- "tests/sessions/$name.txt"; then
+        echo "tests/sessions/$name.txt has changes that are not committed: commit them, or git restore it" >&2
+        exit 1
+    fi
+done
 
 wantpackages "${runpackages[@]}"
 build release play
-root=$PWD
-. tools/workingfolder.sh
-[ $# -gt 0 ] || set -- $(basename -s .play tests/sessions/*.play)
-for name in "$@"; do
-    scratch=$(mktemp -d)
-    workingfolder "$scratch"
-    [ ! -d "tests/sessions/$name" ] || cp -r "tests/sessions/$name/." "$scratch"
-    status=0
-    (cd "$scratch" && "$root/build/tools/play" "$root/tests/sessions/$name.play" 2>error.txt) || status=$?
-    if [ "$status" -gt 1 ]; then # 1: the program failed, as the record tells
-        echo "$name: $(cat "$scratch/error.txt")" >&2
-        exit 1
+scratch=$(mktemp -d)
+trap 'rm -r "$scratch"' EXIT
+
+# record NAME: plays the session in a folder of its own, then shows the difference and replaces the record.
+record() {
+    local script=tests/sessions/$1.play expected=tests/sessions/$1.txt folder=$scratch/$1 status=0
+    workingfolder "$folder"
+    [ ! -d "tests/sessions/$1" ] || cp -r "tests/sessions/$1/." "$folder"
+    (cd "$folder" && "$root/build/tools/play" "$root/$script" >/dev/null 2>error.txt) || status=$?
+    if [ "$status" -gt 1 ]; then # with 1 the program failed, as the record shows
+        echo "$1: $(cat "$folder/error.txt")" >&2
+        return 1
     fi
-    mv "$scratch/record.txt" "tests/sessions/$name.txt"
-    rm -r "$scratch"
+    diff -uN --label "$expected" --label "$expected, recorded again" "$expected" "$folder/record.txt" || true
+    mv "$folder/record.txt" "$expected"
+}
+
+for name in "$@"; do
+    record "$name"
 done
-git --no-pager diff --stat tests/sessions
