@@ -1,4 +1,4 @@
-// The capture takes its figures from the boxes, as text: what was typed and not yet SET goes into the record.
+// The view record takes the texts of the boxes, not the view: a number that was typed but not SET is recorded too.
 
 #include "captures/capture.h"
 
@@ -12,11 +12,17 @@ namespace tessaly {
 
 namespace {
 
-// Nine fields in quotation marks; nothing in them is escaped, also not a quotation mark.
+// Returns the record: nine fields in quotation marks. Nothing in them is escaped, not even a quotation mark.
 std::string viewrecord() {
     std::string record;
     for (const viewvalue& f : viewvalues) record += (record.empty() ? "\"" : ",\"") + towindows1252(f.box.text) + '"';
     return record + "\r\n";
+}
+
+// Fails with file access error if name would lead out of the folder or could not be the name of a file.
+void expectbarename(const std::string& name) {
+    if (name.find_first_of(std::string_view("/\0", 2)) != std::string::npos)
+        throw failure(failurekind::fileaccess, "a name without / was expected", "bmps\\" + excerpt(name));
 }
 
 void closedialog() {
@@ -36,12 +42,13 @@ void clickcapescapebtn() {
     hide(bmplabel);
 }
 
-// The record is written first and the dialog closed before the bitmap: a bitmap that fails leaves its record.
+// The record is written and the dialog closed before the bitmap is saved: if that fails, the record stays.
 void clickscreencapenter() {
     hide(bmplabel);
     capname = capbox.text;
     const std::string record = viewrecord();
     capsidecar = stemof(capname) + ".txt";
+    expectbarename(capname.text());
     textoutput& sidecar = openappend(1, "bmps\\" + capsidecar.text(), "view record");
     sidecar.write(record);
     sidecar.close();

@@ -1,5 +1,5 @@
-// What a failure leaves depends on the step that it ends: before the record is read nothing has changed, while it is
-// read channel 1 stays open, in the drawing the view is half set, and without a bitmap only the picture is not there.
+// What a failed retrieval leaves depends on the step. Before the record is complete nothing has changed, but a record
+// that is too short leaves channel 1 open. After that the view may be set in part, or only the picture may be missing.
 
 #include "captures/retrieval.h"
 
@@ -20,7 +20,7 @@ namespace tessaly {
 
 namespace {
 
-// From the name picked to the names of its pair. Another ending leaves the bitmap of the retrieval before.
+// Sets the names of the picked file's pair. For any other extension, bmpimage remains that of the last retrieval.
 void namefiles() {
     const std::string name = bmpfile.text(), stem = stemof(bmpfile);
     bmpstem = stem;
@@ -29,7 +29,8 @@ void namefiles() {
     bmpsidecar = stem + ".txt";
 }
 
-// The first nine fields, as texts. A record that ends early leaves the channel open: every later opening of it fails.
+// Returns the first nine fields, as texts. If the record ends early, channel 1 stays open and every later opening of it
+// fails. This is intended.
 std::vector<value> readviewrecord() {
     const std::string path = "bmps\\" + bmpsidecar.text();
     std::vector<value> fields;
@@ -50,7 +51,7 @@ void writenineboxes() {
     copyboxestoeasyviews();
 }
 
-void bringback() {
+void restorecapture() {
     namefiles();
     const std::vector<value> fields = readviewrecord();
     perprelative = 0;
@@ -58,7 +59,7 @@ void bringback() {
     auto field = fields.begin();
     for (const viewvalue& f : viewvalues) f.figure = *field++;
     keepeye();
-    // Less than other clears: what lies beyond shows until the bitmap covers it.
+    // A smaller area than other clears: the rest remains visible unless the bitmap covers it.
     viewportsurface->fillrows(1, 1125, 1, 829, backgroundcolour());
     projectdraw();
     writenineboxes();
@@ -81,15 +82,15 @@ void clickdelbmpbtn() {
     bmpfile = selectedtext(bmplistbox);
     try {
         deletefile("bmps\\" + bmpfile.text());
-    } catch (const failure&) {  // nothing picked, gone already: the click ends
+    } catch (const failure&) {  // nothing is picked, or the file is gone: ignored
     }
 }
 
 void clickdisplayimagebtn() {
     bmpfile = selectedtext(bmplistbox);
     try {
-        bringback();
-    } catch (const failure&) {  // the list closes, and the user is told nothing
+        restorecapture();
+    } catch (const failure&) {  // no message: only the list closes
     }
     clickclosebmpbtn();
     capbox.text.clear();

@@ -4,6 +4,7 @@
 #include "core/textfiles.h"
 
 #include "core/failure.h"
+#include "core/openflags.h"
 #include "core/value.h"
 
 #include <algorithm>
@@ -15,7 +16,6 @@
 #include <optional>
 #include <utility>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -27,12 +27,6 @@ struct channelstate {
     std::optional<textinput> input;
     std::optional<textoutput> output;
 };
-
-#ifdef _WIN32  // without O_BINARY, line ends would be converted
-constexpr int openflags = O_BINARY | O_NOINHERIT;
-#else
-constexpr int openflags = O_CLOEXEC | O_NOCTTY | O_NONBLOCK;
-#endif
 
 constexpr int lastchannel = 2;
 constexpr std::size_t maxbytes = 64 << 20;  // of a file that is held whole

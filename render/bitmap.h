@@ -1,5 +1,5 @@
-// Bitmap files as captures are kept: 24 bits a pixel, no compression, 96 dots to the inch. The same picture is the same
-// file on every machine, whatever its screen says.
+// Bitmap files, the format captures are saved in: 24 bits per pixel, uncompressed, 96 dots per inch. A picture gives
+// the same bytes on every machine, whatever the screen's resolution.
 #pragma once
 
 #include <cstdint>
@@ -11,15 +11,15 @@ namespace tessaly {
 // A picture in memory.
 struct bitmap {
     int width = 0, height = 0;
-    std::vector<std::uint32_t> pixels;  // row after row from the top, 0xffRRGGBB
+    std::vector<std::uint32_t> pixels;  // row by row from the top, 0xffRRGGBB
 };
 
-// Writes the picture; the file takes its name only when it is whole, and the one that was there before stays until
-// then. Fails with file access error.
+// Writes the picture as a file. An existing file is replaced only when the new one is complete, see core/wholefile.
+// Fails with file access error, also if the folder is missing or takes no new name.
 void writebitmap(const bitmap& picture, const std::string& path);
 
-// Reads such a file. Fails with file not found or file access error, and with invalid call for a file that is another
-// kind of picture or none, or not whole.
+// Reads such a file. Fails with file not found, with file access error if it cannot be read, is no regular file or has
+// more than 64 MB, and with invalid call if it is not a bitmap of this format or is truncated.
 bitmap readbitmap(const std::string& path);
 
 }  // namespace tessaly
