@@ -109,7 +109,7 @@ void textinput::close() {
 
 std::string filebytes(std::string_view path, const char* what) {
     const std::string name(path);
-    const int handle = openfile(path, what);
+    const int handle = openregular(name, what, O_RDONLY);
     const auto size = static_cast<std::size_t>(::lseek(handle, 0, SEEK_END));
     std::string bytes;
     ::lseek(handle, 0, SEEK_SET);
@@ -123,8 +123,6 @@ std::string filebytes(std::string_view path, const char* what) {
                       " at most were expected",
                   name + " (" + what + ")");
 }
-
-int openfile(std::string_view path, const char* what) { return openregular(std::string(path), what, O_RDONLY); }
 
 textinput& openinput(int channel, std::string_view path, const char* what) {
     expectfree(channel, path);

@@ -19,10 +19,6 @@ std::string systempath(std::string_view path);
 // with file access error also where it is no regular file or has more than 64 MB.
 std::string filebytes(std::string_view path, const char* what);
 
-// The system's handle of a file, open for reading, which is the caller's to close. Fails with file not found, with file
-// access error also where it is no regular file: a pipe may never answer, a device never end.
-int openfile(std::string_view path, const char* what);
-
 // The location of a field in its file; line and field count from 1.
 struct fieldlocation {
     int line = 1, field = 1;

@@ -1,15 +1,15 @@
-// Picture files: PNG out, any picture that the image library knows in, told by its content. A picture takes its name
-// only when it is whole, and one that is not whole is not shown: the one that was there before stays.
+// Picture files through Qt Gui. The kind of a file is determined by its contents, whatever its name says: kinds that
+// run instructions or refer to other files, such as SVG, are never handed to the library.
 
 #include "picturefiles/picturefile.h"
 
 #include "core/failure.h"
 #include "core/textfiles.h"
+#include "core/wholefile.h"
 #include "picturefiles/rasterview.h"
 
-#include <QFile>
+#include <QBuffer>
 #include <QImageReader>
-#include <QSaveFile>
 #include <QtEndian>
 
 #include <algorithm>
@@ -19,31 +19,95 @@ namespace tessaly {
 
 namespace {
 
-void writepng(const raster& image, const std::string& path) {
-    QSaveFile file(QFile::decodeName(systempath(path).c_str()));
-    if (!file.open(QIODevice::WriteOnly))
-        throw failure(failurekind::fileaccess, file.errorString().toStdString(), path + " (picture)");
-    if (!viewof(image).save(&file, "png") || !file.commit())
-        throw failure(failurekind::fileaccess,
-                      "the picture could not be written in whole: " + file.errorString().toStdString(), path);
+constexpr int maxmegabytes = 64;  // of a picture in memory, at four bytes per pixel
+
+// Returns a BMP as it is. Fails if it has fewer bytes than its header says: Qt would show the missing rows as black.
+std::string completebmp(std::string bytes) {
+    constexpr std::size_t sizeat = 2, headbytes = 14;
+    if (bytes.size() >= headbytes && qFromLittleEndian<quint32>(bytes.data() + sizeat) <= bytes.size()) return bytes;
+    throw failure(failurekind::invalidcall, "the file is not complete");
 }
 
-// Whether a bitmap is shorter than its head says; the library would show the missing rows as black.
-bool cutshort(QFile& file) {
-    const QByteArray head = file.peek(6);  // "BM", then the size of the whole file
-    return head.startsWith("BM") && head.size() == 6 && qFromLittleEndian<quint32>(head.constData() + 2) > file.size();
+// Returns a PNG without its ancillary chunks: a few megabytes of compressed texts can expand to gigabytes.
+std::string criticalchunks(std::string bytes) {
+    constexpr std::size_t signature = 8, typeat = 4, withoutdata = 12;
+    constexpr char ancillary = 0x20;
+    std::string critical = bytes.substr(0, signature);
+    for (std::size_t at = signature; at + withoutdata <= bytes.size();) {
+        const quint64 length = quint64{qFromBigEndian<quint32>(bytes.data() + at)} + withoutdata;
+        const auto present = static_cast<std::size_t>(std::min<quint64>(length, bytes.size() - at));
+        if (!(bytes[at + typeat] & ancillary)) critical.append(bytes, at, present);
+        at += present;
+    }
+    return critical;
+}
+
+// Returns a JPEG as it is. Fails if it has thousands of scans, which take hours; a usual one has a dozen at most.
+std::string fewscans(std::string bytes) {
+    constexpr int maxscans = 100;
+    int scans = 0;
+    for (std::size_t at = 0; (at = bytes.find("\xFF\xDA", at)) != std::string::npos; ++at) ++scans;
+    if (scans <= maxscans) return bytes;
+    throw failure(failurekind::invalidcall, "the picture has " + std::to_string(scans) + " scans, " +
+                                                std::to_string(maxscans) + " at most were expected");
+}
+
+std::string unchanged(std::string bytes) { return bytes; }
+
+// The kinds that are read: Qt's name, the bytes that such a file begins with, and what makes its bytes safe for Qt.
+struct picturekind {
+    const char* name;
+    std::string_view start;
+    std::string (*safebytes)(std::string bytes);
+};
+constexpr picturekind kinds[] = {
+    // clang-format off
+    {"bmp",  "BM",                    completebmp},
+    {"png",  "\x89PNG\r\n\x1A\n", criticalchunks},
+    {"jpeg", "\xFF\xD8\xFF",       fewscans},
+    {"gif",  "GIF8",                  unchanged},
+    // clang-format on
+};
+
+void writepng(const raster& image, const std::string& path) {
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    if (!viewof(image).save(&buffer, "png"))
+        throw failure(failurekind::fileaccess, "the picture could not be made a PNG", path);
+    replacefile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())}, "picture");
+}
+
+// Decodes the upper left part that viewport can show.
+QImage decode(const picturekind& kind, const std::string& bytes) {
+    QByteArray contents = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
+    QBuffer buffer(&contents);
+    QImageReader reader(&buffer, kind.name);
+    reader.setAutoDetectImageFormat(false);
+    const QSize size = reader.size();
+    if (qint64{size.width()} * size.height() > (qint64{maxmegabytes} << 20) / 4)
+        throw failure(failurekind::invalidcall, std::to_string(size.width()) + " x " + std::to_string(size.height()) +
+                                                    " pixels, " + std::to_string(maxmegabytes) +
+                                                    " MB at most were expected");
+    reader.setClipRect(QRect(0, 0, viewportwidth, viewportheight).intersected(QRect(QPoint(), size)));
+    const QImage picture = reader.read().convertToFormat(QImage::Format_RGB32);
+    if (picture.isNull()) throw failure(failurekind::invalidcall, reader.errorString().toStdString());
+    return picture;
+}
+
+QImage readshown(const std::string& bytes) {
+    for (const picturekind& kind : kinds)
+        if (bytes.starts_with(kind.start)) return decode(kind, kind.safebytes(bytes));
+    throw failure(failurekind::invalidcall, "a BMP, PNG, JPEG or GIF picture was expected");
 }
 
 bitmap readimage(const std::string& path) {
-    QFile file;  // by its handle: the library would lose a name that is no UTF-8
-    if (!file.open(openfile(path, "picture"), QIODevice::ReadOnly, QFileDevice::AutoCloseHandle))
-        throw failure(failurekind::fileaccess, file.errorString().toStdString(), path + " (picture)");
-    if (cutshort(file)) throw failure(failurekind::invalidcall, "the file is not whole", path + " (picture)");
-    QImageReader reader(&file);
-    reader.setDecideFormatFromContent(true);
-    const QImage picture = reader.read().convertToFormat(QImage::Format_RGB32);
-    if (picture.isNull())
-        throw failure(failurekind::invalidcall, reader.errorString().toStdString(), path + " (picture)");
+    QImage picture;
+    try {
+        picture = readshown(filebytes(path, "picture"));
+    } catch (failure& f) {
+        f.addlocation(path + " (picture)");
+        throw;
+    }
     bitmap read{picture.width(), picture.height(), {}};
     for (int y = 0; y < read.height; ++y) {
         const auto* row = reinterpret_cast<const std::uint32_t*>(picture.constScanLine(y));
@@ -60,7 +124,10 @@ bool endswithnocase(const std::string& path, const std::string& ending) {
 
 }  // namespace
 
-void usepicturefiles() { readpicture = readimage; }
+void usepicturefiles() {
+    QImageReader::setAllocationLimit(maxmegabytes);
+    readpicture = readimage;
+}
 
 void savepicture(const raster& image, const std::string& path) {
     if (endswithnocase(path, ".png")) return writepng(image, path);

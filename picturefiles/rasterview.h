@@ -1,4 +1,4 @@
-// An image in memory as the toolkit's image library takes it.
+// A raster as a QImage.
 #pragma once
 
 #include "render/raster.h"
@@ -7,7 +7,7 @@
 
 namespace tessaly {
 
-// The image's own pixels, not copied: it must outlive what is done with them.
+// Returns a QImage that shares the raster's pixels; the raster must outlive it.
 inline QImage viewof(const raster& image) {
     return QImage(reinterpret_cast<const uchar*>(image.pixels()), image.width(), image.height(), image.width() * 4,
                   QImage::Format_RGB32);

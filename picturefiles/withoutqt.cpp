@@ -1,4 +1,4 @@
-// The player's picture files where it is built without the toolkit, which writes them: there are none.
+// The player's picture files in a build without Qt: none can be written, and render/bitmap reads bitmaps.
 
 #include "core/failure.h"
 #include "picturefiles/picturefile.h"
@@ -8,7 +8,7 @@ namespace tessaly {
 void usepicturefiles() {}
 
 void savepicture(const raster&, const std::string& path) {
-    throw failure(failurekind::fileaccess, "this player was built without the toolkit that writes pictures", path);
+    throw failure(failurekind::fileaccess, "this player was built without Qt, which writes pictures", path);
 }
 
 }  // namespace tessaly

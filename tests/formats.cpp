@@ -1,7 +1,10 @@
 // What other programs read and write as well: bitmap files, and texts in Windows-1252.
 #include "core/windows1252.h"
+#include "picturefiles/picturefile.h"
 #include "render/raster.h"
 #include "tests/session.h"
+
+#include <QImage>
 
 using namespace tessaly;
 
@@ -25,6 +28,38 @@ TEST(bitmap, isOneFileAndComesBackWhole) {
     }
     std::filesystem::create_directory("bmps/b.bmp");
     expectfailure(failureof([&] { made.save("bmps\\b.bmp"); }), failurekind::fileaccess, "bmps\\b.bmp");
+}
+
+// Pictures of other programs are read as far as viewport shows them. Refused, whatever its name: a file that could
+// refer to others (SVG), that is truncated, or that would take gigabytes or hours.
+TEST(pictures, areReadIfTheyAreBitmapsOfReasonableSize) {
+    const session s;
+    usepicturefiles();
+    const auto read = [] { return readpicture("bmps\\a.bmp"); };
+    const auto expectrefused = [&](const std::string& bytes, const char* why) {
+        session::write("bmps/a.bmp", bytes);
+        expectfailure(failureof(read), failurekind::invalidcall, why);
+    };
+    QImage large(2000, 1500, QImage::Format_RGB32), huge(5000, 4000, QImage::Format_Mono);
+    large.fill(qRgb(255, 0, 0));
+    for (const char* kind : {"bmp", "png", "jpg"}) {
+        ASSERT_TRUE(large.save("bmps/a.bmp", kind));
+        const bitmap picture = read();
+        EXPECT_EQ(picture.width, viewportwidth) << kind;
+        EXPECT_EQ(picture.height, viewportheight) << kind;
+        EXPECT_EQ(picture.pixels.back() & 0xfffcfcfc, 0xfffc0000) << kind;  // a JPEG is not exact
+    }
+    const std::string jpeg = session::file("bmps/a.bmp");
+    std::string scans;
+    for (int i = 0; i < 101; ++i) scans += "\xFF\xDA";
+    expectrefused(replaced(jpeg, "\xFF\xDA", scans), "101 scans");
+    huge.fill(0);
+    ASSERT_TRUE(huge.save("bmps/a.bmp", "png"));
+    const std::string png = session::file("bmps/a.bmp");
+    expectrefused(png, "5000 x 4000 pixels, 64 MB at most");
+    expectrefused(png.substr(0, 40), "bmps\\a.bmp (picture)");
+    expectrefused("BM", "not complete");
+    expectrefused("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"9\" height=\"9\"/>", "BMP, PNG, JPEG or GIF");
 }
 
 TEST(windows1252, everyByteComesBack) {
