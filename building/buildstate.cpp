@@ -5,11 +5,14 @@
 #include "core/controls.h"
 #include "core/world.h"
 
+#include <cmath>
+
 namespace tessaly {
 
 namespace {
 
 constexpr double floorheight = 128;  // layout units
+constexpr int lowestfloor = 1, highestfloor = 10;
 
 void openlayout(window& layout) {
     chosenelement = usedcontrol;
@@ -30,6 +33,20 @@ const textchoice panels[] = {
 };
 const textchoice snips[] = {
     {snipleftbtn, "snip left side"}, {sniprighbtn, "snip right side"}, {snipbothbtn, "snip both sides"}};
+
+// What is odd about the texts of the three boxes that the layouts read; nullptr: nothing.
+const char* oddfloor(const std::string& text) {
+    const double level = Val(text);
+    const bool known = level >= lowestfloor && level <= highestfloor && level == std::floor(level);
+    return known ? nullptr : "no known floor, clicks build on the one before";
+}
+const char* odddrawmode(const std::string& text) {
+    return text == "solid" || text == "wireframe" ? nullptr : "no known mode, the one before stays in force";
+}
+const char* oddrecordmode(const std::string& text) {
+    if (text == "off") return "clicks are not recorded now";
+    return text == "on" ? nullptr : "no known mode, the one before stays in force";
+}
 
 // Turns one of two texts into the other; any third text is left alone.
 void toggle(control& box, const char* one, const char* other) {
@@ -53,7 +70,7 @@ void readbuildstate() {
 }
 
 void setfloor(const value& level) {
-    for (int number = 1; number <= 10; ++number) {
+    for (int number = lowestfloor; number <= highestfloor; ++number) {
         if (level != number) continue;
         floorname = std::to_string(number);
         placez = floorheight * (number - 1);
@@ -68,6 +85,9 @@ void definechoice() {
         };
     postbeambtn.run = [] { openlayout(layoutgirder); };
     roofbtn.run = [] { openlayout(layoutroof); };
+    floor.warningof = oddfloor;
+    wiresolid.warningof = odddrawmode;
+    writefilebox.warningof = oddrecordmode;
     for (const textchoice& c : snips) c.button.run = [&c] { panelsnipper.text = c.text; };
 }
 

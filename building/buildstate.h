@@ -13,7 +13,8 @@ void readbuildstate();
 void setfloor(const value& level);
 
 // Gives the ten element buttons and the three snip buttons what they do: the panel buttons set panelprefix, all ten
-// open their layout window, the snip buttons set the text of panelsnipper.
+// open their layout window, the snip buttons set the text of panelsnipper. Lets the three boxes that readbuildstate
+// reads warn of a text that it does not know, and of recording switched off.
 void definechoice();
 
 void clickfloorbtn();      // shows floorlist

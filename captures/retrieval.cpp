@@ -46,7 +46,7 @@ void writenineboxes() {
     sumabsoluteeye();
     writeeyeboxes(perpabsx, perpabsy, perpabsz, cut);
     writeboxes(focusvalues, cut);
-    magtxt.text = boxtext(mag / 10, cut);
+    writebox(magtxt, boxtext(mag / 10, cut));
     writeboxes(shiftvalues, cut);
     copyboxestoeasyviews();
 }

@@ -55,6 +55,20 @@ const std::vector<window*>& allwindows() {
     return windows;
 }
 
+boxtint tintof(const control& box) {
+    if (box.warningof && box.warningof(box.text)) return boxtint::warning;
+    return box.written && *box.written != box.text ? boxtint::edited : boxtint::none;
+}
+
+std::string tooltipof(const control& c) {
+    switch (tintof(c)) {
+    case boxtint::warning: return c.tooltip + "; " + c.warningof(c.text);
+    case boxtint::edited: return c.tooltip + "; not in force before SET (F5)";
+    case boxtint::none: break;
+    }
+    return c.tooltip + c.note;
+}
+
 void resetcontrols() {
     struct firststate {
         control* c;
@@ -131,6 +145,11 @@ void pickitem(control& c, int item) {
     c.selected = item;
     if (c.kind == controlkind::combobox) c.text = selectedtext(c);
     clickcontrol(c);
+}
+
+void writebox(control& box, std::string text) {
+    box.text = std::move(text);
+    box.written = box.text;
 }
 
 void typetext(control& c, std::string_view text) {

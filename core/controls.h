@@ -22,6 +22,9 @@ constexpr int twipsperpixel = 15;
 
 struct control;
 
+// How a box is tinted: not at all, as holding a text that is not in force yet, or as needing attention.
+enum class boxtint { none, edited, warning };
+
 struct window {
     window(const char* itsname, const char* itstitle, int itswidth, int itsheight, colour itsback);
 
@@ -42,15 +45,20 @@ struct control {
     twips bounds;
     std::string text = {};  // caption, or text of a box; UTF-8
     bool shown;
-    std::optional<colour> back;  // its own; the kind's where there is none
-    std::string tooltip;
+    std::optional<colour> back;      // its own; the kind's where there is none
+    std::string tooltip;             // the part that never changes
     std::string accessiblename;      // for screen readers; the caption where empty
     int elementnumber = 0;           // of a layout button
     std::function<void()> run = {};  // what a click, or a pick of an item, does; set at the start of the program
     std::string folder = {};         // of a file list, as users write it
     std::vector<std::string> items = {};
-    int selected = -1;            // index into items, -1: none
-    control* openedby = nullptr;  // the control whose event showed it last
+    int selected = -1;                        // index into items, -1: none
+    control* openedby = nullptr;              // the control whose event showed it last
+    bool chosen = false;                      // a button that looks pressed until another is chosen
+    bool repeats = false;                     // a button that goes on being clicked while it is held, by mouse or key
+    std::string note = {};                    // the part of the tooltip that changes, with its leading blank or mark
+    std::optional<std::string> written = {};  // into a box of the view: the program's last text; nullopt: none yet
+    const char* (*warningof)(const std::string& text) = nullptr;  // of a box: what is odd about a text, or nullptr
 };
 
 // The windows, in the order in which reports list them.
@@ -62,6 +70,10 @@ const std::vector<window*>& allwindows();
     extern control name;
 #include "core/controls.def"
 #undef CONTROL
+
+// The tint of a box by its text; the whole tooltip, with what holds at the moment.
+boxtint tintof(const control& box);
+std::string tooltipof(const control& c);
 
 // Puts windows and controls back to their first state: the named controls in their windows' lists, nothing shown.
 void resetcontrols();
@@ -92,6 +104,10 @@ inline void hide(control& c) { c.shown = false; }
 // fails: as the procedure does.
 void clickcontrol(control& c);
 void pickitem(control& c, int item);
+
+// Writes a value into a box of the view. Only the program's own values are written so: a text that did not come this
+// way is not in force yet.
+void writebox(control& box, std::string text);
 
 // The user's text in a text box or combination box.
 void typetext(control& c, std::string_view text);

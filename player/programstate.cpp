@@ -44,7 +44,7 @@ std::string layoutof(const control& c) {
     else if (!c.text.empty())
         line += ' ' + inquotes(c.text);
     if (c.elementnumber > 0) line += " number " + std::to_string(c.elementnumber);
-    if (!c.tooltip.empty()) line += " tip " + inquotes(c.tooltip);
+    if (!c.tooltip.empty()) line += " tip " + inquotes(tooltipof(c));
     if (!c.accessiblename.empty()) line += " accessible " + inquotes(c.accessiblename);
     for (const std::string& item : c.items) line += " item " + inquotes(item);
     return line;

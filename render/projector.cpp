@@ -146,7 +146,7 @@ void writeviewback() {
     magshown = mag * 0.1;
     writeeyeboxes(perpabsx, perpabsy, perpabsz, std::string::npos);
     writeboxes(focusvalues, std::string::npos);
-    magtxt.text = boxtext(magshown);
+    writebox(magtxt, boxtext(magshown));
     writeboxes(shiftvalues, 5);
 }
 

@@ -29,7 +29,7 @@ void clickcventerbtn() {
     // SET takes that. The box is the truth after SET.
     writeeyeboxes(perpabsx, perpabsy, perpabsz, 5);
     writeboxes(focusvalues, 5);
-    magtxt.text = boxtext(mag / 10, 5);
+    writebox(magtxt, boxtext(mag / 10, 5));
     writeboxes(shiftvalues, 4);
     copyboxestoeasyviews();
 }

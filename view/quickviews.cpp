@@ -118,7 +118,7 @@ void definequickviews() {
                            .bounds = {q.left, q.top, buttonsize, buttonsize},
                            .shown = true,
                            .back = kindof(q).back,
-                           .tooltip = accessiblenameof(q) + ": SET takes it",
+                           .tooltip = accessiblenameof(q) + ": SET takes it (F5)",
                            .accessiblename = accessiblenameof(q),
                            .run = [&q] { clickquickview(q); }});
         addcontrol(buttons.back());

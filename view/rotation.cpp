@@ -12,7 +12,6 @@ namespace tessaly {
 namespace {
 
 constexpr double limit = 1800;  // model units, absolute: half the side of the square
-constexpr double usualstep = 100;
 
 // A side of the square, by rotstage: what moves along it and which way, and the stage behind it in each direction.
 struct side {
@@ -57,7 +56,7 @@ void step(const side& s, double rotinc) {
 // A click on an arrow: along the side in force, and around the corner where its limit is met before or after the step.
 // It ends, for opposite sides cannot both be met within one step.
 void walk(int side::*next) {
-    const double rotinc = pickedstep(rotincbox, usualstep);
+    const double rotinc = pickedstep(rotincbox, usualwalk);
     readeyeboxes();
     for (;;) {
         const side& s = sideinforce();
@@ -66,7 +65,7 @@ void walk(int side::*next) {
             if (!limitmet(s)) return;
         }
         s.seen = s.sign * limit;
-        s.box.text = boxtext(s.seen, s.cut);
+        writebox(s.box, boxtext(s.seen, s.cut));
         rotstage = s.*next;
     }
 }

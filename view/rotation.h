@@ -5,6 +5,8 @@
 
 namespace tessaly {
 
+constexpr double usualwalk = 100;  // model units: a step of an arrow without a pick
+
 // Puts the rotation view into force (the height in its box now counts from the focus) and brings the left arrow.
 // reads: perptxtz, magtxt, verttxt, horiztxt; writes: view state, rotstage, the nine boxes; fails: type mismatch for a
 // box that holds no number, and as projectdraw.

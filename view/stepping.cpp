@@ -3,21 +3,19 @@
 #include "view/stepping.h"
 
 #include "render/redraw.h"
+#include "view/rotation.h"
 #include "view/viewboxes.h"
 
 namespace tessaly {
 
 namespace {
 
-constexpr double usualfocusstep = 50, usualperpstep = 100;  // model units
-constexpr double usualmagstep = 0.001;                      // units of magtxt
-constexpr double usualshiftstep = 50;                       // viewport pixels
-constexpr double magscale = 10;                             // mag while displaying over its figure in magtxt
+constexpr double magscale = 10;  // mag while displaying over its number in magtxt
 
 // The point looked at, down or up. The eye is kept relative to the focus: it moves against it and so stays in its
-// place. reads: incrementlist; writes: focusz, perpz, perprelz, the boxes of eye, focus and magnification, efocuszbox.
-void stepfocus(int sign) {
-    focusinc = pickedstep(incrementlist, usualfocusstep);
+// place. writes: focusz, perpz, perprelz, the boxes of eye, focus and magnification, efocuszbox.
+void stepfocus(int sign, double by) {
+    focusinc = by;
     focusz = focusz + sign * focusinc;
     focussign = sign;
     perpz = perpz - sign * focusinc;
@@ -29,9 +27,9 @@ void stepfocus(int sign) {
     copytoeasyviews(focusvalues[2]);
 }
 
-// The eye, down or up. reads: incrementlist; writes: perpz, perprelz, the same boxes, eperpzbox.
-void stepperp(int sign) {
-    focusstep = pickedstep(incrementlist, usualperpstep);
+// The eye, down or up. writes: perpz, perprelz, the same boxes, eperpzbox.
+void stepperp(int sign, double by) {
+    focusstep = by;
     perpz = perpz + sign * focusstep;
     perprelz = perpz;
     settle();
@@ -40,15 +38,15 @@ void stepperp(int sign) {
     copytoeasyviews(eyevalues[2]);
 }
 
-// By steps of its box. reads: magincbox; writes: mag, magshown, magtxt.
-void stepmag(int sign) {
-    maginc = pickedstep(magincbox, usualmagstep);
+// By steps of its box. writes: mag, magshown, magtxt.
+void stepmag(int sign, double by) {
+    maginc = by;
     mag = mag + sign * (magscale * maginc);
     magshown = 0.1 * mag;
     settle();
     replot();
     sumeye();
-    magtxt.text = boxtext(magshown, 6);
+    writebox(magtxt, boxtext(magshown, 6));
 }
 
 // What five characters hold of a shift: what stands behind them is lost, whatever it is. Where they end within an
@@ -59,43 +57,66 @@ double frontof(const value& shift) {
     return Val(front);
 }
 
-// reads: incrementlist; writes: the shift and its box; fails: type mismatch where the shift is no number.
-void stepshift(int sign, value& shift, control& box) {
-    shiftinc = pickedstep(incrementlist, usualshiftstep);
+// writes: the shift and its box; fails: type mismatch where the shift is no number.
+void stepshift(int sign, double by, value& shift, control& box) {
+    shiftinc = by;
     shift = frontof(shift) + sign * shiftinc;
     settle();
     replot();
-    box.text = boxtext(shift, 5);
+    writebox(box, boxtext(shift, 5));
 }
 
-struct steppair {
-    control &down, &up;
-    void (*step)(int sign);
-};
-const steppair pairs[] = {
-    {vertfocusminusbtn, vertfocusplusbtn, stepfocus},
-    {vertperpminusbtn, vertperpplusbtn, stepperp},
-    {magminusbtn, magplusbtn, stepmag},
-    {vertdec, vertinc, [](int sign) { stepshift(sign, vertshift, verttxt); }},
-    {horizdec, horizinc, [](int sign) { stepshift(sign, horizshift, horiztxt); }},
-};
-
+// A list of steps and the button that shows it.
 struct steplist {
     control &button, &list;
 };
-const steplist lists[] = {{incrementbtn, incrementlist}, {magincbtn, magincbox}, {rotincbtn, rotincbox}};
+constexpr steplist increments{incrementbtn, incrementlist}, magincrements{magincbtn, magincbox},
+    rotincrements{rotincbtn, rotincbox};
+
+struct steppair {
+    control &down, &up;
+    const steplist& from;
+    double usual;  // step without a pick: model units, units of magtxt, viewport pixels
+    void (*step)(int sign, double by);
+};
+const steppair pairs[] = {
+    // clang-format off
+    {vertfocusminusbtn, vertfocusplusbtn, increments,    50,        stepfocus},
+    {vertperpminusbtn,  vertperpplusbtn,  increments,    100,       stepperp},
+    {magminusbtn,       magplusbtn,       magincrements, 0.001,     stepmag},
+    {vertdec,           vertinc,          increments,    50,        [](int sign, double by) { stepshift(sign, by, vertshift, verttxt); }},
+    {horizdec,          horizinc,         increments,    50,        [](int sign, double by) { stepshift(sign, by, horizshift, horiztxt); }},
+    {rotleftbtn,        rotrightbtn,      rotincrements, usualwalk, nullptr},  // the rotation's own procedures step
+    // clang-format on
+};
+
+// Writes into the tooltip of each step by how much it goes, and the list that this was picked in.
+void notesteps() {
+    for (const steppair& p : pairs) {
+        const double by = pickedstep(p.from.list, p.usual);
+        const bool picked = pickedstep(p.from.list, 0) != 0;
+        const std::string from = picked ? ", picked in \"" + p.from.button.text + '"' : "";
+        p.down.note = p.up.note = " by " + boxtext(by) + from;
+    }
+}
 
 }  // namespace
 
 void definesteps() {
     for (const steppair& p : pairs) {
-        p.down.run = [&p] { p.step(-1); };
-        p.up.run = [&p] { p.step(1); };
+        p.down.repeats = p.up.repeats = true;
+        if (!p.step) continue;
+        p.down.run = [&p] { p.step(-1, pickedstep(p.from.list, p.usual)); };
+        p.up.run = [&p] { p.step(1, pickedstep(p.from.list, p.usual)); };
     }
-    for (const steplist& l : lists) {
-        l.button.run = [&l] { show(l.list); };
-        l.list.run = [&l] { hide(l.list); };
+    for (const steplist* l : {&increments, &magincrements, &rotincrements}) {
+        l->button.run = [l] { show(l->list); };
+        l->list.run = [l] {
+            hide(l->list);
+            notesteps();
+        };
     }
+    notesteps();
 }
 
 }  // namespace tessaly

@@ -28,7 +28,7 @@ void writesteppedview() {
     sumeye();
     writeeyeboxes(perpsumx, perpsumy, perpsumz, 5);
     writeboxes(focusvalues, 5);
-    magtxt.text = boxtext(magshown, 6);
+    writebox(magtxt, boxtext(magshown, 6));
 }
 
 }  // namespace tessaly

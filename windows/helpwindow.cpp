@@ -10,12 +10,14 @@ namespace {
 
 void hidepages() {
     for (const helppage& page : helppages) hide(*page.on);
+    for (const helpregion& region : helpregions) region.button->chosen = false;
 }
 
 // The hint belongs to no region and is never shown.
 void showregion(const helpregion& region) {
     hide(startpicbox);
     hidepages();
+    region.button->chosen = true;
     show(*region.firstpage);
     if (region.secondpage != nullptr) show(*region.secondpage);
 }
