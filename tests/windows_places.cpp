@@ -50,7 +50,7 @@ TEST_F(windowsession, controlsStandAtTheirPlacesAndAreSeenWhole) {
             EXPECT_EQ(widget.objectName().toStdString(), c->name);
             EXPECT_EQ(widget.isHidden(), !c->shown);
             EXPECT_TRUE(captionfits(*c, widget));
-            EXPECT_EQ(widget.toolTip().toStdString(), c->tooltip);
+            EXPECT_EQ(widget.toolTip().toStdString(), tooltipof(*c));
             if (c->kind == controlkind::frame) continue;
             EXPECT_FALSE(widget.accessibleName().isEmpty());  // what a screen reader says
             EXPECT_TRUE(c->accessiblename.empty() || widget.accessibleName().toStdString() == c->accessiblename);

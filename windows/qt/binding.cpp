@@ -8,12 +8,15 @@
 #include "windows/qt/accessibility.h"
 #include "windows/qt/canvas.h"
 #include "windows/qt/controlwidgets.h"
+#include "windows/qt/keyrepeat.h"
 
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
+#include <QScrollBar>
 
 #include <algorithm>
 #include <cstdio>
@@ -27,8 +30,10 @@ namespace {
 struct boundcontrol {
     control* of;
     QWidget* widget;
-    std::string text;  // as last carried to the widget
+    std::string text;  // as last carried to the widget, and the three below
     std::vector<std::string> items;
+    std::string tooltip;
+    boxtint tint = boxtint::none;
 };
 
 struct boundwindow {
@@ -57,6 +62,9 @@ void listento(QWidget* widget, control& c) {
     if (auto* box = qobject_cast<QComboBox*>(widget)) QObject::connect(box, &QComboBox::activated, pick);
     if (auto* rows = qobject_cast<QListWidget*>(widget))
         QObject::connect(rows, &QListWidget::clicked, [pick](const QModelIndex& row) { pick(row.row()); });
+    // What is typed shows at once in what depends on it; nothing runs.
+    if (auto* line = qobject_cast<QLineEdit*>(widget))
+        QObject::connect(line, &QLineEdit::textChanged, [] { runevent([] {}); });
 }
 
 void buildwindow(window& w, boundwindow& bound) {
@@ -66,7 +74,7 @@ void buildwindow(window& w, boundwindow& bound) {
     for (control* c : w.controls) {
         QWidget* widget = makewidget(*c, bound.frame->plan());
         listento(widget, *c);
-        bound.controls.push_back({c, widget, {}, {}});
+        bound.controls.push_back({c, widget, {}, {}, {}});
     }
     // What the table lists later may lie under what it lists earlier: each kind has its layer.
     std::vector<boundcontrol> bylayer = bound.controls;
@@ -78,12 +86,21 @@ void buildwindow(window& w, boundwindow& bound) {
 
 // ---- state to widgets --------------------------------------------------------------------------------------
 
+// A page opens at its beginning, also where the press that opened it was further down.
+void scrolltotop(windowframe& f) {
+    f.horizontalScrollBar()->setValue(0);
+    f.verticalScrollBar()->setValue(0);
+}
+
 void carrytowidget(boundcontrol& b) {
     if (b.items != b.of->items) setitems(*b.widget, b.items = b.of->items);
     if (b.text != b.of->text) settext(*b.widget, b.text = b.of->text);
+    if (const std::string tooltip = tooltipof(*b.of); b.tooltip != tooltip) settooltip(*b.widget, b.tooltip = tooltip);
+    if (const boxtint tint = tintof(*b.of); b.tint != tint) settint(*b.widget, b.tint = tint);
     setselection(*b.of, *b.widget);
     if (b.widget->isHidden() != b.of->shown) return;
     b.widget->setVisible(b.of->shown);
+    if (b.of->shown && b.of->kind == controlkind::page) scrolltotop(*frameof(*b.of->in));
     if (comestofront(*b.of)) b.widget->raise();
 }
 
@@ -182,6 +199,7 @@ void openwindows(void (*decoratewindow)(windowframe&)) {
         if (QWidget* picture = widgetof(viewport)) picture->update();
     };
     usespokenroles();
+    filterkeyrepeats();
     ending = false;
     runevent(startprogram);
 }

@@ -7,6 +7,7 @@
 #include "windows/qt/canvas.h"
 #include "windows/qt/style.h"
 
+#include <QAbstractItemView>
 #include <QComboBox>
 #include <QKeyEvent>
 #include <QLabel>
@@ -23,6 +24,7 @@ namespace tessaly {
 namespace {
 
 const QColor buttonface(226, 226, 226);
+const QColor editedpaper(255, 232, 150), warningpaper(255, 170, 150);
 constexpr int tallestrow = 17;  // pixels of a list's row; less where the items of a fixed list fit only so
 constexpr int multiline = 60;   // pixels: a text box from this height on has several lines
 
@@ -96,10 +98,63 @@ class list : public QListWidget {
     bool marking = false;
 };
 
+// ---- boxes -------------------------------------------------------------------------------------------------
+
+// A box whose text is there to be typed over: the first click selects all of it, as Tab does, the next one sets the
+// cursor.
+class linebox : public QLineEdit {
+  public:
+    explicit linebox(QWidget* plan) : QLineEdit(plan) {
+        setTextMargins(-1, 0, -1, 0);  // the narrowest boxes are 33 pixels wide
+    }
+
+  protected:
+    void focusInEvent(QFocusEvent* event) override {
+        QLineEdit::focusInEvent(event);
+        fresh = true;
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        fresh = false;
+        QLineEdit::keyPressEvent(event);
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        QLineEdit::mouseReleaseEvent(event);
+        if (fresh && !hasSelectedText()) selectAll();
+        fresh = false;
+    }
+    void mouseDoubleClickEvent(QMouseEvent*) override { selectAll(); }
+
+  private:
+    bool fresh = false;  // since it has the focus, no key and no click
+};
+
+// The wheel turns past it unless it has the focus, and its list is as wide as its entries.
+class snipbox : public QComboBox {
+  public:
+    explicit snipbox(QWidget* plan) : QComboBox(plan) {
+        setEditable(true);
+        setCompleter(nullptr);  // what is typed stays as typed
+        setInsertPolicy(QComboBox::NoInsert);
+    }
+    void showPopup() override {
+        view()->setMinimumWidth(view()->sizeHintForColumn(0) + 2 * view()->frameWidth());
+        QComboBox::showPopup();
+    }
+
+  protected:
+    void wheelEvent(QWheelEvent* event) override {
+        if (hasFocus())
+            QComboBox::wheelEvent(event);
+        else
+            event->ignore();
+    }
+};
+
 // ---- the kinds ---------------------------------------------------------------------------------------------
 
 QWidget* makebutton(const control& c, QWidget* plan) {
     auto* made = new button(c.back ? screencolour(*c.back) : buttonface, plan);
+    made->setAutoRepeat(c.repeats);
     if (c.kind == controlkind::picturebutton) made->setpicture(QString::fromStdString(c.name));
     return made;
 }
@@ -112,11 +167,7 @@ QWidget* makelabel(QWidget* plan) {
 }
 
 QWidget* maketextbox(const control& c, QWidget* plan) {
-    if (inpixels(c.bounds.height) < multiline) {
-        auto* box = new QLineEdit(plan);
-        box->setTextMargins(-1, 0, -1, 0);  // the narrowest boxes are 33 pixels wide
-        return box;
-    }
+    if (inpixels(c.bounds.height) < multiline) return new linebox(plan);
     auto* box = new QPlainTextEdit(plan);
     box->setLineWrapMode(QPlainTextEdit::NoWrap);
     box->setTabChangesFocus(true);
@@ -130,14 +181,6 @@ QWidget* makepage(QWidget* plan) {
     page->setTabChangesFocus(true);
     page->setFont(pagefont());
     return page;
-}
-
-QWidget* makecombobox(QWidget* plan) {
-    auto* box = new QComboBox(plan);
-    box->setEditable(true);
-    box->setCompleter(nullptr);  // what is typed stays as typed
-    box->setInsertPolicy(QComboBox::NoInsert);
-    return box;
 }
 
 // A picture box without an image of the engine shows a picture of its own name, and its text upon that.
@@ -185,7 +228,7 @@ QWidget* makekind(const control& c, QWidget* plan) {
     case controlkind::page: return makepage(plan);
     case controlkind::list:
     case controlkind::filelist: return new list(c, plan);
-    case controlkind::combobox: return makecombobox(plan);
+    case controlkind::combobox: return new snipbox(plan);
     case controlkind::picturebox: return makepicturebox(c, plan);
     case controlkind::frame: return makeframe(plan);
     }
@@ -202,9 +245,7 @@ QWidget* makewidget(const control& c, QWidget* plan) {
     widget->setObjectName(QString::fromStdString(c.name));
     widget->setGeometry(inpixels(c.bounds.left), inpixels(c.bounds.top), inpixels(c.bounds.width),
                         inpixels(c.bounds.height));
-    widget->setToolTip(QString::fromStdString(c.tooltip));
     widget->setAccessibleName(c.accessiblename.empty() ? caption : QString::fromStdString(c.accessiblename));
-    widget->setAccessibleDescription(widget->toolTip().section(": ", -1));  // what the name does not say already
     if (auto* box = qobject_cast<QComboBox*>(widget)) box->lineEdit()->setAccessibleName(box->accessibleName());
     widget->hide();
     return widget;
@@ -248,6 +289,17 @@ void settext(QWidget& widget, const std::string& text) {
         push->setText(shown);
 }
 
+void settooltip(QWidget& widget, const std::string& text) {
+    widget.setToolTip(QString::fromStdString(text));
+    widget.setAccessibleDescription(widget.toolTip().section(": ", -1));  // what the name does not say already
+}
+
+void settint(QWidget& widget, boxtint tint) {
+    QPalette palette;  // of no colours: those of the window hold
+    if (tint != boxtint::none) palette.setColor(QPalette::Base, tint == boxtint::edited ? editedpaper : warningpaper);
+    widget.setPalette(palette);
+}
+
 void setitems(QWidget& widget, const std::vector<std::string>& items) {
     QStringList names;
     for (const std::string& item : items) names << QString::fromStdString(item);
@@ -268,7 +320,7 @@ void setitems(QWidget& widget, const std::vector<std::string>& items) {
 
 void setselection(const control& c, QWidget& widget) {
     if (auto* rows = dynamic_cast<list*>(&widget)) rows->mark(c.selected);
-    if (auto* push = dynamic_cast<button*>(&widget)) push->setchosen(&c == chosenelement);
+    if (auto* push = dynamic_cast<button*>(&widget)) push->setchosen(c.chosen || &c == chosenelement);
     if (auto* box = qobject_cast<QComboBox*>(&widget)) {
         const QString text = box->currentText();
         const int row = box->findText(text, Qt::MatchExactly);  // its list opens at this one

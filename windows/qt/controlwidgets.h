@@ -7,8 +7,8 @@
 
 namespace tessaly {
 
-// Makes the widget at its control's place, with name, tooltip and spoken name. It is hidden and empty until its
-// control's state is carried to it. A list says clicked of each row that is picked.
+// Makes the widget at its control's place, with its names. It is hidden and empty until its control's state is carried
+// to it. A list says clicked of each row that is picked.
 QWidget* makewidget(const control& c, QWidget* plan);
 
 // In front of each other stand, from the back: pictures and frames, labels, buttons, what is typed in or picked from,
@@ -24,6 +24,10 @@ bool typable(const control& c);
 // The text that stands in a box, and the setting of a caption's or box's text; UTF-8.
 std::string typedtext(const QWidget& widget);
 void settext(QWidget& widget, const std::string& text);
+
+// The tooltip, which assistive technology reads as the description, and the tint of a box.
+void settooltip(QWidget& widget, const std::string& text);
+void settint(QWidget& widget, boxtint tint);
 
 void setitems(QWidget& widget, const std::vector<std::string>& items);
 // What is marked: the picked row of a list, the row of a combination box that is its text, the element button chosen

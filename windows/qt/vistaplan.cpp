@@ -5,6 +5,7 @@
 #include "windows/qt/binding.h"
 #include "windows/qt/decoration.h"
 #include "windows/qt/style.h"
+#include "windows/qt/windowposition.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -19,6 +20,20 @@ namespace {
 // The seven boxes over the picture have no labels beside them: each carries its tag at its right end.
 constexpr int tagpixels = 9;
 const QColor hintpaper(255, 255, 225);
+
+// Runs what a key does. A box that has the focus is then ready to be typed over.
+void presskey(const std::function<void()>& procedure) {
+    runevent(procedure);
+    if (auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget())) line->selectAll();
+}
+
+// Makes Return in a box a press of a button.
+void pressonreturn(const control& box, control& button) {
+    auto* line = qobject_cast<QLineEdit*>(widgetof(box));
+    QObject::connect(line, &QLineEdit::returnPressed, line, [&button] {
+        if (button.shown) presskey([&button] { clickcontrol(button); });
+    });
+}
 
 class tag : public QWidget {
   public:
@@ -65,13 +80,11 @@ void decoratevistaplan(windowframe& f) {
     for (const programkey& k : programkeys()) {
         auto* shortcut = new QShortcut(QKeySequence(k.name), &f);
         shortcut->setContext(Qt::ApplicationShortcut);
-        shortcut->setAutoRepeat(false);
-        QObject::connect(shortcut, &QShortcut::activated, &f, [&k] { runevent(k.press); });
+        QObject::connect(shortcut, &QShortcut::activated, &f, [&k] { presskey(k.press); });
     }
-    QObject::connect(qobject_cast<QLineEdit*>(widgetof(capbox)), &QLineEdit::returnPressed, &f, [] {
-        if (screencapenter.shown) runevent([] { clickcontrol(screencapenter); });
-    });
-    f.firstshowing = [](windowframe& first) { first.setWindowState(first.windowState() | Qt::WindowMaximized); };
+    pressonreturn(capbox, screencapenter);
+    for (const viewvalue& v : viewvalues) pressonreturn(v.box, cventerbtn);
+    f.firstshowing = openmaximised;
 }
 
 }  // namespace tessaly

@@ -8,7 +8,8 @@
 #include <QStyle>
 #include <QWindow>
 
-#include <vector>
+#include <algorithm>
+#include <iterator>
 
 namespace tessaly {
 
@@ -30,56 +31,22 @@ QSize firstsize(const windowframe& f) {
     return size.boundedTo(room.size());
 }
 
-// ---- beside the main window ----------------------------------------------------------------------------------
-
-// What a window should rather not lie over, and how much it matters by the pixel.
-struct obstacle {
-    QRect place;
-    int weight;
-};
-
-QRect placeonscreen(const QWidget& widget) { return {widget.mapToGlobal(QPoint(0, 0)), widget.size()}; }
-
-// The controls of the main window, the boxes over its picture also while they are hidden; the picture itself; and the
-// other windows that stand beside it, with the bars that the desktop puts above them.
-std::vector<obstacle> obstaclesto(const windowframe& f) {
-    constexpr int picture = 4, otherwindow = 1, control = 40;
-    std::vector<obstacle> found;
-    for (const tessaly::control* c : vistaplan.controls) {
-        const bool counts = c->shown ? c->kind != controlkind::frame : c->kind == controlkind::textbox;
-        if (counts && widgetof(*c)) found.push_back({placeonscreen(*widgetof(*c)), c == &viewport ? picture : control});
-    }
-    for (const window* w : allwindows())
-        if (const windowframe* other = frameof(*w); other && other != &f && w != &vistaplan && other->isVisible())
-            found.push_back({placeonscreen(*other).adjusted(0, -titlebar, 0, 0), otherwindow});
-    return found;
+// How much lower than the one before each layout window opens: of those that lie behind, a border can be seen.
+int lowering(const tessaly::window& w) {
+    constexpr int step = 110;
+    const window* const layouts[] = {&layoutgirder, &layoutpanels, &layoutroof};
+    const auto* const found = std::find(std::begin(layouts), std::end(layouts), &w);
+    return found == std::end(layouts) ? 0 : step * static_cast<int>(found - layouts);
 }
 
-qint64 hidden(const QRect& place, const std::vector<obstacle>& obstacles) {
-    qint64 sum = 0;
-    for (const obstacle& o : obstacles) {
-        const QRect shared = place & o.place;
-        sum += qint64{o.weight} * shared.width() * shared.height();
-    }
-    return sum;
-}
-
-// Of the places where it hides the least, the uppermost, and of these the one farthest to the left.
-QRect freestplace(const windowframe& f) {
-    constexpr int step = 8;
+// At the right of the picture, from its top on, as far as the screen reaches.
+QRect besidepicture(const windowframe& f) {
     const QRect room = roomfor(f);
-    const std::vector<obstacle> obstacles = obstaclesto(f);
-    QRect best(room.topLeft(), firstsize(f));
-    qint64 least = -1;
-    for (int top = room.bottom() + 1 - best.height(); top >= room.top(); top -= step)
-        for (int left = room.right() + 1 - best.width(); left >= room.left(); left -= step) {
-            const QRect place({left, top}, best.size());
-            const qint64 cost = hidden(place.adjusted(-edge, -titlebar, edge, edge), obstacles);
-            if (least >= 0 && cost > least) continue;
-            least = cost;
-            best = place;
-        }
-    return best;
+    const QSize size = firstsize(f);
+    const QWidget& picture = *widgetof(viewport);
+    const QPoint wanted = picture.mapToGlobal(QPoint(picture.width() + edge, lowering(f.of)));
+    const QPoint last = QPoint(room.right() + 1 - size.width(), room.bottom() + 1 - size.height());
+    return {{std::clamp(wanted.x(), room.left(), last.x()), std::clamp(wanted.y(), room.top(), last.y())}, size};
 }
 
 }  // namespace
@@ -88,8 +55,13 @@ void openincentre(windowframe& f) {
     f.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, firstsize(f), roomfor(f)));
 }
 
+void openmaximised(windowframe& f) {
+    f.resize(firstsize(f));  // where there is no desktop to maximise it, and when the user takes the size back
+    f.setWindowState(f.windowState() | Qt::WindowMaximized);
+}
+
 void openbesidemain(windowframe& f) {
-    f.setGeometry(freestplace(f));
+    f.setGeometry(besidepicture(f));
     f.setWindowFlags(Qt::Dialog);  // the kind that desktops keep in front of another
     f.winId();                     // makes the desktop's own window, which is told so
     if (const windowframe* main = frameof(vistaplan)) f.windowHandle()->setTransientParent(main->windowHandle());

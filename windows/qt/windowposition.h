@@ -8,8 +8,11 @@ namespace tessaly {
 // In the middle of the screen.
 void openincentre(windowframe& f);
 
-// Beside the main window, where it hides the least of what it is used with, and in front of it from then on, whichever
-// of the two the user works in.
+// Over the whole screen; no larger than it also where no desktop does that.
+void openmaximised(windowframe& f);
+
+// At the right of the main window's picture or, where the screen ends before, over it; in front of the main window from
+// then on, whichever of the two the user works in.
 void openbesidemain(windowframe& f);
 
 }  // namespace tessaly

@@ -1,0 +1,61 @@
+// Repeats are known by their mark, and on X11 also by their time: there a key that repeats is released and pressed in
+// the same millisecond, and the toolkit marks this only where both events have arrived together.
+
+#include "windows/qt/keyrepeat.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+namespace tessaly {
+
+namespace {
+
+// Whether a press of the key acts on what has the focus, or on the whole window, and so must not repeat.
+bool acts(int key) {
+    const QWidget* const focused = QApplication::focusWidget();
+    const auto* const button = qobject_cast<const QAbstractButton*>(focused);
+    switch (key) {
+    case Qt::Key_Space: return button ? !button->autoRepeat() : !qobject_cast<const QLineEdit*>(focused);
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return !button || !button->autoRepeat();
+    case Qt::Key_Escape: return true;
+    default: return key >= Qt::Key_F1 && key <= Qt::Key_F35;
+    }
+}
+
+class repeatfilter : public QObject {
+  public:
+    using QObject::QObject;
+
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::KeyRelease) release(*static_cast<QKeyEvent*>(event));
+        if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride) return false;
+        const auto& press = *static_cast<QKeyEvent*>(event);
+        if (!repeated(press) || !acts(press.key())) return false;
+        event->accept();  // of a shortcut: the press that follows comes here, too
+        return true;
+    }
+
+  private:
+    void release(const QKeyEvent& event) {
+        key = event.key();
+        time = event.timestamp();
+    }
+    bool repeated(const QKeyEvent& press) const {
+        return press.isAutoRepeat() || (time != 0 && press.key() == key && press.timestamp() == time);
+    }
+
+    int key = 0;  // released last
+    quint64 time = 0;
+};
+
+}  // namespace
+
+void filterkeyrepeats() {
+    static repeatfilter* const filter = new repeatfilter(qApp);
+    qApp->installEventFilter(filter);
+}
+
+}  // namespace tessaly
