@@ -24,10 +24,9 @@ void painterimage::line(float x1, float y1, float x2, float y2, colour c) {
 
 void pixelcounter::line(float x1, float y1, float x2, float y2, colour) {
     ++lines;
+    static bitmap image{viewportwidth, viewportheight, std::vector<std::uint32_t>(viewportwidth * viewportheight)};
     pixelline l;
-    linepart part;
-    if (wholepixels(x1, y1, x2, y2, l) && visiblepart(l, viewportwidth, viewportheight, part))
-        pixels += part.last - part.first + 1;
+    if (topixels(x1, y1, x2, y2, l)) pixels += drawpixels(l, image, 0);
 }
 
 }  // namespace tessaly

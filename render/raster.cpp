@@ -1,4 +1,4 @@
-// The image in memory. A line's pixels are worked out in whole numbers only, see render/lineclip.
+// The image in memory. drawbetween draws only the lines whose pixels differ from those of the line before.
 
 #include "render/raster.h"
 
@@ -7,9 +7,9 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <iterator>
-#include <span>
 
 namespace tessaly {
 
@@ -23,75 +23,49 @@ std::uint32_t pixelof(colour c) {
     return opaque | static_cast<std::uint32_t>(c.red) << 16 | static_cast<std::uint32_t>(c.green) << 8 | c.blue;
 }
 
-// The lines of a sweep are rounded a block at a time, coordinate by coordinate, so that the compiler works on several
-// at once; in front of a block stands the last line of the one before.
-constexpr std::size_t block = 8;
-constexpr int maxdivisions = 4096;     // lines of a sweep
-constexpr double maxpixels = 1 << 26;  // of its corners
-using pixelblock = std::array<int, block + 1>;
+constexpr int maxdivisions = 2047;                                 // more are drawn line by line
+using stepset = std::array<std::uint64_t, maxdivisions / 64 + 1>;  // one bit for each t
 
-// t / n for t = 0..n, and on to the end of the last block.
-const double* sharesof(int n) {
-    static std::vector<double> shares;
-    static int sharesn = 0;
-    if (n != sharesn) {
-        shares.clear();
-        for (int t = 0; t < n + static_cast<int>(block); ++t) shares.push_back(static_cast<double>(t) / n);
-        sharesn = n;
+// Returns the table of t / n for t = 0..n. The next call overwrites it.
+const double* fractionsof(int n) {
+    static std::vector<double> fractions;
+    if (fractions.size() != static_cast<std::size_t>(n) + 1) {
+        fractions.clear();
+        for (int t = 0; t <= n; ++t) fractions.push_back(static_cast<double>(t) / n);
     }
-    return shares.data();
+    return fractions.data();
 }
 
-// Ends at their shares of an edge, as nearestpixel would give them. The bias makes every sum positive, so that cutting
-// it rounds down; up to maxpixels the sum is exact wherever the half matters.
-void roundends(double from, double to, const double* shares, pixelblock& pixels) {
-    constexpr double bias = 2 * maxpixels;
-    const double across = to - from;
-    pixels[0] = pixels[block];
-    for (std::size_t i = 0; i < block; ++i) {
-        const auto narrowed = static_cast<float>(from + shares[i] * across);
-        pixels[i + 1] = static_cast<int>(static_cast<double>(narrowed) + (bias + 0.5)) - static_cast<int>(bias);
-    }
-}
+// One coordinate of the points at t / n along an edge of a face.
+struct edgecoordinate {
+    static constexpr int maxpixels = 1 << 26;  // maximum of abs(start) and abs(start + delta)
+    double start, delta;
+    const double* fractions;
 
-// The lines of a sweep in whole pixels; one that repeats the one before is left out. The next call overwrites them.
-std::span<const pixelline> distinctlines(const facecorners& f, int n) {
-    static std::array<pixelline, maxdivisions + 2 * block> lines;
-    const double* const shares = sharesof(n);
-    pixelblock x1{}, y1{}, x2{}, y2{};
-    std::size_t found = 0;
-    const auto count = static_cast<std::size_t>(n) + 1;
-    for (std::size_t t = 0; t < count; t += block) {
-        roundends(f.x1, f.x2, shares + t, x1);
-        roundends(f.y1, f.y2, shares + t, y1);
-        roundends(f.x3, f.x4, shares + t, x2);
-        roundends(f.y3, f.y4, shares + t, y2);
-        std::array<int, block> differs;
-        for (std::size_t i = 0; i < block; ++i)
-            differs[i] = (x1[i] ^ x1[i + 1]) | (y1[i] ^ y1[i + 1]) | (x2[i] ^ x2[i + 1]) | (y2[i] ^ y2[i + 1]);
-        if (t == 0) differs[0] = 1;
-        // Each line is stored, and the place is taken where it differs: no branch to guess.
-        for (std::size_t i = 0; i < std::min(block, count - t); ++i) {
-            lines[found] = {x1[i + 1], y1[i + 1], x2[i + 1], y2[i + 1]};
-            found += differs[i] != 0;
-        }
+    // Equal to nearestpixel of the coordinate in single precision. The bias makes the sum positive, so that the cast
+    // rounds down; within maxpixels the sum is exact wherever the half matters.
+    int pixelat(int t) const {
+        constexpr int bias = 2 * maxpixels;
+        const auto coordinate = static_cast<float>(start + fractions[t] * delta);
+        return static_cast<int>(static_cast<double>(coordinate) + (bias + 0.5)) - bias;
     }
-    return {lines.data(), found};
-}
+};
 
-void paintpart(const linepart& part, std::uint32_t* image, int wide, std::uint32_t pixel) {
-    const std::ptrdiff_t along = part.steep ? wide : 1, across = (part.steep ? 1 : wide) * part.direction;
-    std::uint32_t* at = image + (part.steep ? static_cast<std::ptrdiff_t>(part.first) * wide + part.minor
-                                            : static_cast<std::ptrdiff_t>(part.minor) * wide + part.first);
-    std::int64_t rest = part.rest;
-    for (int left = part.last - part.first; left >= 0; --left) {
-        *at = pixel;
-        at += along;
-        rest += part.step;
-        if (rest >= part.whole) {
-            rest -= part.whole;
-            at += across;
-        }
+// Adds each t at which the pixel of the coordinate changes. Every rounding keeps the order, so the pixel moves one way
+// only. The slope gives a guess of the next change. If it is late, it is moved back; if it is early, the t added is one
+// too many, which does no harm, and the loop goes on from there.
+void addchanges(const edgecoordinate& c, int n, stepset& steps) {
+    const int last = c.pixelat(n);
+    int pixel = c.pixelat(0);
+    if (pixel == last) return;
+    // The pixels differ, so delta is not 0, but the first guess may be any size if delta is tiny.
+    const double slope = n / c.delta, stepsperpixel = std::abs(slope);
+    double guess = (pixel - c.start) * slope + stepsperpixel / 2 + 1;
+    for (int t = 0; pixel != last; guess += stepsperpixel) {
+        t = std::max(t + 1, static_cast<int>(std::clamp<double>(guess, 1, n)));
+        while (t > 1 && c.pixelat(t - 1) != pixel) --t;
+        pixel = c.pixelat(t);
+        steps[static_cast<std::size_t>(t) / 64] |= std::uint64_t{1} << (t % 64);
     }
 }
 
@@ -102,21 +76,25 @@ raster::raster(int width, int height)
 
 void raster::line(float x1, float y1, float x2, float y2, colour c) {
     pixelline l;
-    linepart part;
-    if (wholepixels(x1, y1, x2, y2, l) && visiblepart(l, image.width, image.height, part))
-        paintpart(part, image.pixels.data(), image.width, pixelof(c));
+    if (topixels(x1, y1, x2, y2, l)) drawpixels(l, image, pixelof(c));
 }
 
 void raster::drawbetween(const facecorners& f, int n, colour c) {
     const double corners[] = {f.x1, f.y1, f.x2, f.y2, f.x3, f.y3, f.x4, f.y4};
-    // A corner that is no number is not near either.
-    const auto isnear = [](double at) { return std::abs(at) <= maxpixels; };
+    const auto isnear = [](double at) { return std::abs(at) <= edgecoordinate::maxpixels; };  // false for NaN
     if (noshortcuts || n > maxdivisions || !std::all_of(std::begin(corners), std::end(corners), isnear))
         return surface::drawbetween(f, n, c);
+    const double* const fractions = fractionsof(n);
+    const edgecoordinate x1{f.x1, f.x2 - f.x1, fractions}, y1{f.y1, f.y2 - f.y1, fractions},
+        x2{f.x3, f.x4 - f.x3, fractions}, y2{f.y3, f.y4 - f.y3, fractions};
+    stepset steps{1};  // the line at t = 0 is always drawn
+    for (const edgecoordinate* each : {&x1, &y1, &x2, &y2}) addchanges(*each, n, steps);
     const std::uint32_t pixel = pixelof(c);
-    linepart part;
-    for (const pixelline& l : distinctlines(f, n))
-        if (visiblepart(l, image.width, image.height, part)) paintpart(part, image.pixels.data(), image.width, pixel);
+    for (int first = 0; first <= n; first += 64)
+        for (std::uint64_t left = steps[static_cast<std::size_t>(first) / 64]; left != 0; left &= left - 1) {
+            const int t = first + std::countr_zero(left);
+            drawpixels({x1.pixelat(t), y1.pixelat(t), x2.pixelat(t), y2.pixelat(t)}, image, pixel);
+        }
 }
 
 void raster::save(const std::string& path) { writebitmap(image, path); }

@@ -1,6 +1,6 @@
-// The persistent image in memory behind a picture box, with exact lines: the end points are rounded to the nearest
-// pixel (halves up), the line between them lights on each column (or row, where it is steep) the pixel nearest to it
-// (halves up), whichever end comes first, and clipping never moves a pixel.
+// The persistent image in memory behind a picture box, with exact lines. The ends are rounded to the nearest pixel
+// (halves up). Of each column, or row if the line is steep, a line lights the pixel nearest to it (halves up). Neither
+// the order of the ends nor clipping changes a pixel.
 #pragma once
 
 #include "render/bitmap.h"
@@ -13,10 +13,10 @@ namespace tessaly {
 
 class raster : public surface {
   public:
-    raster(int width, int height);  // white
+    raster(int width, int height);  // fills the image with white
 
     void line(float x1, float y1, float x2, float y2, colour c) override;
-    void drawbetween(const facecorners& f, int n, colour c) override;  // no line twice in a row
+    void drawbetween(const facecorners& f, int n, colour c) override;  // omits lines that repeat the one before
     void save(const std::string& path) override;
     void setpicture(const std::string& path) override;
 
@@ -26,14 +26,14 @@ class raster : public surface {
     std::uint32_t* pixels() { return image.pixels.data(); }
     const bitmap& picture() const { return image; }
     colour at(int x, int y) const;
-    void clear();  // white again
+    void clear();  // fills the image with white
 
   private:
     bitmap image;
 };
 
-// Reads a picture file; fails as surface::setpicture does. By itself the engine reads bitmaps as it writes them; the
-// program lends it a library that knows more kinds.
+// Reads a picture file. Failures: see surface::setpicture. The engine alone reads only the bitmaps that it writes; the
+// program replaces this function by one for more formats.
 extern std::function<bitmap(const std::string& path)> readpicture;
 
 }  // namespace tessaly

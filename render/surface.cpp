@@ -1,4 +1,4 @@
-// The surface's compound operations, line by line.
+// The surface's compound operations, drawn line by line.
 
 #include "render/surface.h"
 
@@ -9,9 +9,10 @@ surface* progresssurface = nullptr;
 
 void surface::drawbetween(const facecorners& f, int n, colour c) {
     for (int t = 0; t <= n; ++t) {
-        const double share = static_cast<double>(t) / n;
-        line(static_cast<float>(f.x1 + share * (f.x2 - f.x1)), static_cast<float>(f.y1 + share * (f.y2 - f.y1)),
-             static_cast<float>(f.x3 + share * (f.x4 - f.x3)), static_cast<float>(f.y3 + share * (f.y4 - f.y3)), c);
+        const double fraction = static_cast<double>(t) / n;
+        line(static_cast<float>(f.x1 + fraction * (f.x2 - f.x1)), static_cast<float>(f.y1 + fraction * (f.y2 - f.y1)),
+             static_cast<float>(f.x3 + fraction * (f.x4 - f.x3)), static_cast<float>(f.y3 + fraction * (f.y4 - f.y3)),
+             c);
     }
 }
 

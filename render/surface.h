@@ -1,5 +1,5 @@
-// The drawing surface: a picture box with a persistent image, one drawing unit a pixel, x right and y down, origin at
-// the top left corner. What falls outside is discarded. The logic draws on it and never asks what is behind it.
+// The drawing surface: a picture box with a persistent image. Units are pixels, x to the right and y down from the top
+// left corner. Pixels outside are discarded. The logic draws on this interface and does not know its implementation.
 #pragma once
 
 #include "core/colour.h"
@@ -17,26 +17,26 @@ class surface {
   public:
     virtual ~surface() = default;
 
-    // One straight line, 1 pixel wide, opaque, both ends included.
+    // Draws a straight line, 1 pixel wide, opaque, both ends included.
     virtual void line(float x1, float y1, float x2, float y2, colour c) = 0;
 
-    // The lines between edge 1-2 and edge 3-4 at t/n for t = 0..n.
+    // Draws the n + 1 lines between the points at t / n of edge 1-2 and of edge 3-4, t = 0..n. n is at least 1.
     virtual void drawbetween(const facecorners& f, int n, colour c);
 
-    // Saves the image as an uncompressed bitmap file; path as users write it. Fails with file access error.
+    // Saves the image as an uncompressed bitmap file. path has the user's spelling. Fails with file access error.
     virtual void save(const std::string& path) = 0;
 
-    // Makes a bitmap file the background picture: unscaled at the top left, later drawing goes on top of it.
-    // Fails with file not found, with invalid call where the file is no picture.
+    // Draws a bitmap file as the background picture, unscaled at the top left. Later lines are drawn over it.
+    // Fails with file not found, or with invalid call if the file is not a picture.
     virtual void setpicture(const std::string& path) = 0;
 
-    // Brings what was drawn to the screen at once, in the middle of an event.
+    // Shows the image on the screen at once, in the middle of an event.
     virtual void flush() {}
 
-    // Horizontal lines from x1 to x2, one for each y from y1 to y2 ascending.
+    // Draws horizontal lines from x1 to x2, one for each y from y1 to y2 ascending.
     void fillrows(int x1, int x2, int y1, int y2, colour c);
 
-    // The fill of a face: a sweep between edges 1-2 and 3-4, then one between edges 1-3 and 2-4.
+    // Fills a face: draws between edges 1-2 and 3-4, then between edges 1-3 and 2-4.
     void fillface(const facecorners& f, int n, colour c);
 };
 

@@ -1,5 +1,5 @@
-// Every shortcut against the plain way that it stands for: the same random elements are read and painted both ways, and
-// after each all tables, all scalars, all pixels and the report of a failure are the same.
+// Compares every shortcut with the plain method that it replaces: the same random elements are read and painted with
+// both, and after each the tables, scalars, pixels and the report of a failure are the same.
 #include "data/elements.h"
 #include "player/checksum.h"
 #include "render/painter.h"
@@ -23,8 +23,8 @@ std::string sumof(const std::vector<value>& all) {
     return sum.text();
 }
 
-// What can be seen of the program at one moment: a checksum for each table, each scalar and the picture.
-std::string thismoment(const raster& image) {
+// Returns the state of the program: a checksum of each table, each scalar and the picture.
+std::string statesums(const raster& image) {
     std::string all;
     for (const tablebase* t = tablebase::first; t != nullptr; t = t->next)
         all += std::string(t->name) + ' ' + sumof(t->elements()) + '\n';
@@ -44,7 +44,7 @@ std::string row(std::initializer_list<std::string> fields) {
 std::string whole(dice& d, int from, int to) { return std::to_string(d.whole(from, to)); }
 
 std::string coordinate(dice& d) {
-    if (d.once(200)) return "1.5e6";  // beyond what the painter can choose
+    if (d.once(200)) return "1.5e6";  // too far away for the painter's sort
     if (d.once(400)) return "lost";
     return whole(d, -40, 90) + (d.once(4) ? ".375" : "0");
 }
@@ -72,8 +72,8 @@ std::string element(dice& d) {
     return e;
 }
 
-// Reads and paints an element of a few that come again, some of them written anew; turned faces that are painted again
-// change their colour again.
+// Reads and paints one of a few elements, some of them rewritten first. Rotated faces change their colour each time
+// they are painted.
 void drawsome(dice& d) {
     setview(d.whole(-90, 90) * 10, d.whole(-90, 90) * 10, d.whole(-9, 90) * 10, d.whole(1, 6) / 20.0);
     horizshift = -600;
@@ -89,18 +89,18 @@ void drawsome(dice& d) {
     rotz = 90 * d.whole(0, 3);
     panelcode = d.whole(18, 22);
     readelements();
-    for (int wild = d.whole(0, 5); wild > 0; --wild) {  // corners near, far, in one place, at no figure at all
-        const double figures[] = {0, 0.5, 100, 9999, std::ldexp(1, d.whole(10, 130)), std::nan("")};
-        screenx.set(d.whole(1, 20), d.of(figures));
-        screeny.set(d.whole(1, 20), d.of(figures));
+    for (int wild = d.whole(0, 5); wild > 0; --wild) {  // corners near, far, equal, not a number
+        const double coordinates[] = {0, 0.5, 100, 9999, std::ldexp(1, d.whole(10, 130)), std::nan("")};
+        screenx.set(d.whole(1, 20), d.of(coordinates));
+        screeny.set(d.whole(1, 20), d.of(coordinates));
     }
-    if (d.once(5)) quad4.set(0, d.whole(0, 1));  // then all slots are measured
+    if (d.once(5)) quad4.set(0, d.whole(0, 1));  // if 1, the painter measures all slots
     for (int times = d.whole(1, 2); times > 0; --times) paintsolids();
 }
 
 }  // namespace
 
-// A slot that was not cleared, a quad in another place of the order, a figure that is read as another.
+// Finds a slot that was not cleared, a quad at another position of the order, a number read wrongly.
 TEST(shortcuts, elementsLeaveTheSameTablesAndPixels) {
     for (unsigned seed = 1; seed <= 8; ++seed) {
         std::vector<std::string> seen[2];
@@ -113,7 +113,7 @@ TEST(shortcuts, elementsLeaveTheSameTablesAndPixels) {
             for (int step = 0; step < 24; ++step) {
                 const auto f = failureof([&] { drawsome(d); });
                 if (f) resetchannels();
-                seen[plain].push_back(thismoment(image) + (f ? f->report() : ""));
+                seen[plain].push_back(statesums(image) + (f ? f->report() : ""));
             }
         }
         for (std::size_t step = 0; step < seen[0].size(); ++step)
