@@ -2,35 +2,26 @@
 
 #include "bench/measure.h"
 #include "building/layouts.h"
-#include "core/controls.h"
-#include "core/world.h"
+#include "player/commands.h"
+
+#include <algorithm>
 
 namespace tessaly {
 
-namespace {
-
-// The middle one of a family's positions.
-const buttonposition& middleof(const buttonfamily& f) {
-    const buttonposition* found = nullptr;
-    const int middle = f.first + f.cols * f.rows / 2;
-    for (const buttonposition& p : allbuttonpositions())
-        if (p.of == &f && p.number == middle) found = &p;
-    return *found;
-}
-
-}  // namespace
-
 void addclicks() {
-    for (const buttonfamily& f : allbuttonfamilies())
-        for (const way w : {way::program, way::plain})
-            addmeasure(std::string("click/") + f.word, w, 1, [&f] {
-                panelprefix = "st-panels-1or-";
-                clickposition(middleof(f));
-            });
-    for (const way w : {way::program, way::plain, way::plainqpainter}) {
-        addmeasure("view/step", w, 0, [] { click("horizinc"); });
-        addmeasure("view/full clear", w, 0, [] { click("fillscreen"); });
-        addmeasure("start/start-up display", w, 0, [] { click("groupbtn"); });
+    for (const buttonfamily& f : allbuttonfamilies()) {
+        const auto middle = [&f](const buttonposition& p) {
+            return p.of == &f && p.number == f.first + f.cols * f.rows / 2;
+        };
+        const auto& positions = allbuttonpositions();
+        const std::string name = positionname(*std::find_if(positions.begin(), positions.end(), middle));
+        for (const method m : {method::program, method::plain})
+            addmeasure(std::string("click/") + f.word, m, 1, [name] { playline("click " + name); });
+    }
+    for (const method m : {method::program, method::plain, method::qpainter}) {
+        addmeasure("view/step", m, 0, [] { playline("click horizinc"); });
+        addmeasure("view/full clear", m, 0, [] { playline("click fillscreen"); });
+        addmeasure("start/start-up display", m, 0, [] { playline("click groupbtn"); });
     }
 }
 

@@ -1,5 +1,5 @@
-// The benchmark program: checks that the quick way and the plain way come to the same, runs what was asked for, and
-// ends with the ratios of the run.
+// The benchmark program: checks that the program and the plain method have the same results, runs the benchmarks and
+// prints the ratios of the run.
 
 #include "bench/measure.h"
 #include "core/world.h"
@@ -14,7 +14,7 @@ using namespace tessaly;
 
 namespace {
 
-// The best time of each benchmark, in nanoseconds of the processor: other work on the machine counts for little there.
+// Collects the best time of each benchmark, in nanoseconds of processor time, which other programs hardly affect.
 class ratios : public benchmark::ConsoleReporter {
   public:
     ratios() : ConsoleReporter(OO_Tabular) {}
@@ -30,12 +30,12 @@ class ratios : public benchmark::ConsoleReporter {
     }
     void print() const {
         std::puts("\nRatios of this run:");
-        const std::string replay = std::string(measuredreplay) + "/", program = replay + nameof(way::program);
-        for (const way w : {way::plain, way::plainqpainter, way::plainclippedqpainter})
-            one(std::string("  times faster than ") + nameof(w), replay + nameof(w), program);
-        one("  of the whole is not drawing", replay + nameof(way::nodrawing), program);
+        const std::string replay = std::string(measuredreplay) + "/", program = replay + nameof(method::program);
+        for (const method m : {method::plain, method::qpainter})
+            one(std::string("  times faster than ") + nameof(m), replay + nameof(m), program);
+        one("  of the whole is not drawing", replay + nameof(method::nodrawing), program);
         one("  times the time of 100 records for 1000", program,
-            std::string(tenthofreplay) + "/" + nameof(way::program));
+            std::string(tenthofreplay) + "/" + nameof(method::program));
         one("  times the limit", program, limitofreplay);
     }
 
@@ -47,9 +47,9 @@ class ratios : public benchmark::ConsoleReporter {
     std::map<std::string, double> best;
 };
 
-// The picture and all tables after the measured replay.
-std::vector<std::string> outcomeof(way w) {
-    building b(w);
+// Returns all tables and the picture after the measured replay.
+std::vector<std::string> outcomeof(method m) {
+    building b(m);
     replaycombined(mixedfile(500), mixedfile(500));
     std::vector<std::string> seen;
     for (const tablebase* t = tablebase::first; t != nullptr; t = t->next)
@@ -62,11 +62,11 @@ std::vector<std::string> outcomeof(way w) {
 int run(int argc, char** argv) {
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
-    if (outcomeof(way::program) != outcomeof(way::plain)) {
-        std::puts("The quick way and the plain way differ in a table or in the picture.");
+    if (outcomeof(method::program) != outcomeof(method::plain)) {
+        std::puts("The program and the plain method differ in a table or in the picture.");
         return 1;
     }
-    std::puts("1000 records solid: pictures and tables of the quick way and of the plain way are the same.");
+    std::puts("1000 records solid: the program and the plain method have the same tables and picture.");
     addclicks();
     addreplays();
     addlimit();

@@ -1,7 +1,8 @@
-// What all benchmarks report: time for one action, elements and pixels a second.
+// What all benchmarks report: the time of one action, elements and pixels per second.
 #pragma once
 
 #include "bench/scene.h"
+#include "bench/surfaces.h"
 
 #include <benchmark/benchmark.h>
 #include <functional>
@@ -9,32 +10,38 @@
 
 namespace tessaly {
 
-// Runs action again and again in a building that goes this way. elements: how many it draws. Pixels are those that the
-// plain lines light, so that the ways can be compared by them.
-inline void measure(benchmark::State& state, way w, double elements, const std::function<void()>& action) {
-    building b(w);
+inline benchmark::Counter persecond(double n) { return {n, benchmark::Counter::kIsIterationInvariantRate}; }
+
+// Returns the number of pixels that the lines of an action light if they are drawn one by one.
+inline double pixelsof(const std::function<void()>& action) {
+    surface* const before = viewportsurface;
+    pixelcounter counter;
+    viewportsurface = &counter;
     action();
-    const double pixels = drawnby(action).pixels;
-    for (auto _ : state) action();
-    const auto rate = [](double n) { return benchmark::Counter(n, benchmark::Counter::kIsIterationInvariantRate); };
-    if (elements > 0) state.counters["elements/s"] = rate(elements);
-    if (pixels > 0) state.counters["pixels/s"] = rate(pixels);
+    viewportsurface = before;
+    return static_cast<double>(counter.pixels);
 }
 
-// Adds a benchmark that goes one way.
-inline void addmeasure(const std::string& name, way w, double elements, const std::function<void()>& action) {
-    benchmark::RegisterBenchmark((name + "/" + nameof(w)).c_str(), [=](benchmark::State& state) {
-        measure(state, w, elements, action);
+// Adds a benchmark of an action with a method. elements: the number of elements drawn. The pixels are those of the
+// plain method, so that the methods can be compared.
+inline void addmeasure(const std::string& name, method m, double elements, const std::function<void()>& action) {
+    benchmark::RegisterBenchmark((name + "/" + nameof(m)).c_str(), [=](benchmark::State& state) {
+        building b(m);
+        action();
+        const double pixels = pixelsof(action);
+        for (auto _ : state) action();
+        if (elements > 0) state.counters["elements/s"] = persecond(elements);
+        if (pixels > 0) state.counters["pixels/s"] = persecond(pixels);
     })->Unit(benchmark::kMicrosecond);
 }
 
-// The benchmarks of the four files, added by main.
+// Register the benchmarks of the four files.
 void addclicks();
 void addreplays();
 void addlimit();
 void addshortcuts();
 
-// The replay by which the ways are compared, and the same of a tenth of its records.
+// The replay that the methods are compared with, and the same with a tenth of the records.
 constexpr const char* measuredreplay = "replay/combined 1000";
 constexpr const char* tenthofreplay = "replay/combined 100";
 constexpr const char* limitofreplay = "replay/combined 1000/limit";

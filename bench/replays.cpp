@@ -1,4 +1,4 @@
-// Replays of design files: one file and two, wire and solid, up to the whole tower.
+// Replays of one and two design files, wire and solid, up to the whole tower.
 
 #include "bench/measure.h"
 
@@ -6,7 +6,8 @@ namespace tessaly {
 
 namespace {
 
-constexpr int floors = 10, storeygirders = 130, storeypanels = 100;  // all girders of the plan, and panels around
+constexpr int floors = 10, storeygirders = 130,
+              storeypanels = 100;  // all girders of the plan, and panels around
 
 void replaystorey(int onfloor) {
     replaycombined(girdersfile(storeygirders, onfloor), panelsfile(storeypanels, onfloor));
@@ -17,18 +18,18 @@ void replaymixed(int n) { replaycombined(mixedfile(n / 2), mixedfile(n - n / 2))
 }  // namespace
 
 void addreplays() {
-    for (const way w : {way::program, way::plain}) {
+    for (const method m : {method::program, method::plain}) {
         for (const int n : {10, 100, 1000}) {
-            addmeasure("replay/wire " + std::to_string(n), w, n, [n] { replaywire(girdersfile(n)); });
-            addmeasure("replay/solid " + std::to_string(n), w, n, [n] { replaysolid(girdersfile(n)); });
+            addmeasure("replay/wire " + std::to_string(n), m, n, [n] { replaywire(girdersfile(n)); });
+            addmeasure("replay/solid " + std::to_string(n), m, n, [n] { replaysolid(girdersfile(n)); });
         }
-        addmeasure("replay/storey", w, storeygirders + storeypanels, [] { replaystorey(1); });
-        addmeasure("replay/tower", w, floors * (storeygirders + storeypanels), [] {
+        addmeasure("replay/storey", m, storeygirders + storeypanels, [] { replaystorey(1); });
+        addmeasure("replay/tower", m, floors * (storeygirders + storeypanels), [] {
             for (int onfloor = 1; onfloor <= floors; ++onfloor) replaystorey(onfloor);
         });
     }
-    addmeasure(tenthofreplay, way::program, 100, [] { replaymixed(100); });
-    for (const way w : allways) addmeasure(measuredreplay, w, 1000, [] { replaymixed(1000); });
+    addmeasure(tenthofreplay, method::program, 100, [] { replaymixed(100); });
+    for (const method m : allmethods) addmeasure(measuredreplay, m, 1000, [] { replaymixed(1000); });
 }
 
 }  // namespace tessaly

@@ -1,4 +1,4 @@
-// The scratch folder, the program in it, and design files of any length.
+// The started program, and design files of any length.
 
 #include "bench/scene.h"
 
@@ -7,6 +7,7 @@
 #include "building/records.h"
 #include "core/textfiles.h"
 #include "core/world.h"
+#include "player/commands.h"
 #include "windows/handlers.h"
 
 #include <filesystem>
@@ -22,13 +23,7 @@ namespace {
 
 raster progress(progresswidth, progressheight);
 
-control& named(const std::string& name) {
-    control* const c = findcontrol(name);
-    if (c == nullptr) throw std::logic_error("no control " + name);
-    return *c;
-}
-
-// The positions of a kind of record, in the order of the layouts.
+// Returns the positions of a kind of record, in the order of the layouts.
 std::vector<const buttonposition*> positionsof(const char* kind) {
     std::vector<const buttonposition*> found;
     for (const buttonposition& p : allbuttonpositions())
@@ -36,10 +31,10 @@ std::vector<const buttonposition*> positionsof(const char* kind) {
     return found;
 }
 
-// Panels of eleven to sixteen faces: orange 1 and yellow 1, all four parts.
+// Panels with eleven to sixteen faces: orange 1 and yellow 1, with each of the four snip parts.
 constexpr int panelcodes[] = {1, 10, 2, 11, 3, 12, 31, 34};
 
-// The i-th record of a kind: its positions in turn, spread over the plan.
+// Returns record i of a kind. The positions follow each other spread over the plan.
 std::string recordof(const char* kind, std::size_t i) {
     const auto positions = positionsof(kind);
     const buttonposition& p = *positions[i * 29 % positions.size()];
@@ -49,7 +44,8 @@ std::string recordof(const char* kind, std::size_t i) {
 
 const char* mixedkind(std::size_t i) { return i % 10 == 9 ? "roof" : i % 2 == 0 ? "panel" : "girder"; }
 
-// front's class of file, in which the floor's digit has its place; the letters before it are free and tell n.
+// Returns the name of a design file of n records. front selects the class of file, digitat is the index of the floor's
+// digit; the letters between them only have to differ for each n.
 std::string designname(std::string front, std::size_t digitat, int n, int onfloor) {
     front += {static_cast<char>('a' + n / 100), static_cast<char>('a' + n % 100 / 10)};
     front.resize(digitat, 's');
@@ -64,12 +60,11 @@ std::string designfile(const std::string& name, int n, kinds kindof) {
     return name;
 }
 
-std::unique_ptr<surface> surfaceof(way w) {
-    switch (w) {
-    case way::program:
-    case way::plain: return std::make_unique<raster>(viewportwidth, viewportheight);
-    case way::plainqpainter: return std::make_unique<painterimage>(false);
-    case way::plainclippedqpainter: return std::make_unique<painterimage>(true);
+std::unique_ptr<surface> surfaceof(method m) {
+    switch (m) {
+    case method::program:
+    case method::plain: return std::make_unique<raster>(viewportwidth, viewportheight);
+    case method::qpainter: return std::make_unique<painterimage>();
     default: return std::make_unique<nosurface>();
     }
 }
@@ -86,62 +81,43 @@ std::string panelsfile(int n, int onfloor) {
 
 std::string mixedfile(int n) { return designfile(designname("girdm", 7, n, 1), n, mixedkind); }
 
-const char* nameof(way w) {
-    switch (w) {
-    case way::program: return "program";
-    case way::nodrawing: return "program,nothing drawn";
-    case way::plain: return "plain";
-    case way::plainnodrawing: return "plain,nothing drawn";
-    case way::plainqpainter: return "plain,QPainter";
-    case way::plainclippedqpainter: return "plain,clipped QPainter";
+const char* nameof(method m) {
+    switch (m) {
+    case method::program: return "program";
+    case method::nodrawing: return "program,nothing drawn";
+    case method::plain: return "plain";
+    case method::qpainter: return "plain,QPainter";
     }
     return "";
 }
 
-building::building(way w) : viewport(surfaceof(w)) {
-    noshortcuts = w != way::program && w != way::nodrawing;
+building::building(method m) : viewport(surfaceof(m)) {
+    noshortcuts = m == method::plain || m == method::qpainter;
     viewportsurface = viewport.get();
     progresssurface = &progress;
     resetchannels();
     startprogram();
-    click("startprogrambtn");
+    for (const char* button : {"startprogrambtn", "postbeambtn", "orange1btn", "roofbtn"})
+        playline(std::string("click ") + button);
     wiresolid.text = "solid";
 }
 
 building::~building() { noshortcuts = false; }
 
-void click(const std::string& name) { clickcontrol(named(name)); }
-
-void pick(const std::string& list, const std::string& item) {
-    control& c = named(list);
-    for (std::size_t i = 0; i < c.items.size(); ++i)
-        if (c.items[i] == item) return pickitem(c, static_cast<int>(i));
-    throw std::logic_error(list + " has no item " + item);
-}
-
 void replaywire(const std::string& file) {
-    click("autowiresingle");
-    pick("autofile", file);
+    playline("click autowiresingle");
+    playline("pick autofile \"" + file + '"');
 }
 
 void replaysolid(const std::string& file) {
-    click("autosolidsingle");
-    pick("autofile5", file);
+    playline("click autosolidsingle");
+    playline("pick autofile5 \"" + file + '"');
 }
 
 void replaycombined(const std::string& first, const std::string& second) {
-    click("autosolidbtn");
-    pick("autofile3", first);
-    pick("autofile4", second);
-}
-
-drawn drawnby(const std::function<void()>& action) {
-    surface* const before = viewportsurface;
-    pixelcounter counter;
-    viewportsurface = &counter;
-    action();
-    viewportsurface = before;
-    return {static_cast<double>(counter.lines), static_cast<double>(counter.pixels)};
+    playline("click autosolidbtn");
+    playline("pick autofile3 \"" + first + '"');
+    playline("pick autofile4 \"" + second + '"');
 }
 
 }  // namespace tessaly

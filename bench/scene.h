@@ -1,48 +1,43 @@
-// A scratch working folder with the program started in it, acted on as a user does.
+// The program, acted on with lines of a player's script, and the design files of the benchmarks.
 #pragma once
 
 #include "render/raster.h"
 
-#include <functional>
 #include <memory>
 #include <string>
 
 namespace tessaly {
 
-// ---- design files of the scene --------------------------------------------------------------------------
-// The name of a file in designs\ of n records of one floor, 1..10, their positions in turn all over the plan. A mixed
-// file is part of a house: of ten records four are girders, five panels and one a roof, about ten faces each.
+// ---- design files of the scene
+// --------------------------------------------------------------------------
+// Writes a file to designs\ if it does not exist, and returns its name. It has n records of one floor, 1..10, spread
+// over the plan. Of ten records of a mixed file four are girders, five panels and one a roof, with about ten faces
+// each.
 std::string girdersfile(int n, int onfloor = 1);
 std::string panelsfile(int n, int onfloor = 1);
 std::string mixedfile(int n);
 
-// ---- ways of drawing and working ------------------------------------------------------------------------
-enum class way { program, nodrawing, plain, plainnodrawing, plainqpainter, plainclippedqpainter };
-constexpr way allways[] = {way::program,        way::nodrawing,     way::plain,
-                           way::plainnodrawing, way::plainqpainter, way::plainclippedqpainter};
-const char* nameof(way w);
+// ---- methods of drawing and working
+// -----------------------------------------------------------------------
+enum class method { program, nodrawing, plain, qpainter };
+constexpr method allmethods[] = {method::program, method::nodrawing, method::plain, method::qpainter};
+const char* nameof(method m);
 
-// The program from its first state on, going this way until the next one is begun: started, and solid.
+// The program, started with the drawing mode solid and its layout windows open. Works with this method until it is
+// destroyed.
 class building {
   public:
-    explicit building(way w);
+    explicit building(method m);
     ~building();
     building(const building&) = delete;
+    building& operator=(const building&) = delete;
 
     std::unique_ptr<surface> viewport;
 };
 
-// Acts as a user does.
-void click(const std::string& control);
-void pick(const std::string& list, const std::string& item);
+// Replay design files, with the same clicks as a user's.
 void replaywire(const std::string& file);
 void replaysolid(const std::string& file);
 void replaycombined(const std::string& first, const std::string& second);
-
-// What an action's lines come to when they are drawn one by one.
-struct drawn {
-    double lines, pixels;
-};
-drawn drawnby(const std::function<void()>& action);
 
 }  // namespace tessaly

@@ -1,25 +1,14 @@
-// Each shortcut by itself beside the plain way that it stands for.
+// Parts of an action, with the shortcuts and with the plain methods that they replace.
 
 #include "bench/measure.h"
-#include "bench/surfaces.h"
-#include "building/layouts.h"
 #include "core/world.h"
 #include "data/elements.h"
-#include "render/quadsort.h"
-
-#include <array>
 
 namespace tessaly {
 
 namespace {
 
-// A shortcut's name, what has to be done before each run of it, and the work itself.
-struct shortcut {
-    const char* name;
-    void (*prepare)();
-    void (*work)();
-};
-
+// Clears the tables, reads a panel into them and draws its wires.
 void readpanel() {
     datafile = "st-panels-1or-full.txt";
     placemode = 3;
@@ -28,31 +17,13 @@ void readpanel() {
     readelements();
 }
 
-constexpr shortcut shortcuts[] = {
-    // clang-format off
-    {"clear the tables", readpanel,  resetworld},
-    {"read an element",  [] {},      readpanel},
-    {"order its quads",  readpanel,  orderquads},
-    // clang-format on
-};
-
-void measureshortcut(benchmark::State& state, way w, const shortcut& s) {
-    building b(w);
-    for (auto _ : state) {
-        state.PauseTiming();
-        s.prepare();
-        state.ResumeTiming();
-        s.work();
-    }
-}
-
-// Faces as they stand on the screen, in viewport pixels: a post's side, a panel's front, a roof's top, a near wall.
-struct seenface {
+// Faces as they appear on the screen, in viewport pixels.
+struct screenface {
     const char* name;
     facecorners corners;
     int n;
 };
-constexpr seenface faces[] = {
+constexpr screenface faces[] = {
     // clang-format off
     {"a post's side",   {400.2, 300.7, 408.9, 302.1, 401.0, 236.3, 409.8, 237.0}, 200},
     {"a panel's front", {300.4, 310.2, 372.6, 330.9, 299.8, 250.1, 373.3, 266.0}, 200},
@@ -61,25 +32,16 @@ constexpr seenface faces[] = {
     // clang-format on
 };
 
-void measureface(benchmark::State& state, way w, const seenface& f) {
-    building b(w);
-    for (auto _ : state) b.viewport->fillface(f.corners, f.n, {180, 90, 20});
-    const double pixels = drawnby([&] { viewportsurface->fillface(f.corners, f.n, {}); }).pixels;
-    state.counters["pixels/s"] = benchmark::Counter(pixels, benchmark::Counter::kIsIterationInvariantRate);
-}
-
 }  // namespace
 
 void addshortcuts() {
-    const auto add = [](const std::string& group, const auto& rows, auto measureone, auto ways) {
-        for (const auto& row : rows)
-            for (const way w : ways)
-                benchmark::RegisterBenchmark((group + row.name + "/" + nameof(w)).c_str(),
-                                             [=](benchmark::State& state) { measureone(state, w, row); })
-                    ->Unit(benchmark::kMicrosecond);
-    };
-    add("shortcut/", shortcuts, measureshortcut, std::array{way::nodrawing, way::plainnodrawing});
-    add("face/", faces, measureface, std::array{way::program, way::plain, way::plainqpainter});
+    for (const method m : {method::program, method::plain, method::qpainter}) {
+        addmeasure("shortcut/read an element", m, 1, readpanel);
+        for (const screenface& f : faces)
+            addmeasure(std::string("face/") + f.name, m, 0, [&f] {
+                viewportsurface->fillface(f.corners, f.n, {180, 90, 20});
+            });
+    }
 }
 
 }  // namespace tessaly

@@ -1,5 +1,4 @@
-// The surfaces that a benchmark draws on beside the program's own: the same lines through QPainter, none at all, and
-// what the limit is made of.
+// The other surfaces that a benchmark draws on: lines through QPainter, nothing at all, and a count of pixels.
 #pragma once
 
 #include "render/raster.h"
@@ -7,13 +6,14 @@
 #include <QImage>
 #include <QPainter>
 #include <cstdint>
+#include <vector>
 
 namespace tessaly {
 
-// Every line one call of QPainter, without antialiasing. clipped: with the painter's clip rectangle set.
+// Draws every line with one call of QPainter, without antialiasing.
 class painterimage : public surface {
   public:
-    explicit painterimage(bool clipped);
+    painterimage();
     void line(float x1, float y1, float x2, float y2, colour c) override;
     void save(const std::string&) override {}
     void setpicture(const std::string&) override {}
@@ -24,7 +24,7 @@ class painterimage : public surface {
     colour pencolour;
 };
 
-// Draws nothing: what remains is the cost of everything but drawing.
+// Draws nothing, so that only the cost of everything else remains.
 class nosurface : public surface {
   public:
     void line(float, float, float, float, colour) override {}
@@ -33,12 +33,15 @@ class nosurface : public surface {
     void setpicture(const std::string&) override {}
 };
 
-// Counts the pixels that the lines light one by one, those lit twice twice.
+// Counts the pixels that the lines light one by one. A pixel lit twice counts twice.
 class pixelcounter : public nosurface {
   public:
     void line(float x1, float y1, float x2, float y2, colour c) override;
     void drawbetween(const facecorners& f, int n, colour c) override { surface::drawbetween(f, n, c); }
-    std::int64_t pixels = 0, lines = 0;
+    std::int64_t pixels = 0;
+
+  private:
+    bitmap image{viewportwidth, viewportheight, std::vector<std::uint32_t>(viewportwidth* viewportheight)};
 };
 
 }  // namespace tessaly
