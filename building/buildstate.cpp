@@ -5,8 +5,6 @@
 #include "core/controls.h"
 #include "core/world.h"
 
-#include <cmath>
-
 namespace tessaly {
 
 namespace {
@@ -15,7 +13,7 @@ constexpr double floorheight = 128;  // layout units
 constexpr int lowestfloor = 1, highestfloor = 10;
 
 void openlayout(window& layout) {
-    chosenelement = usedcontrol;
+    layout.openedby = usedcontrol;
     showwindow(layout);
 }
 
@@ -34,11 +32,16 @@ const textchoice panels[] = {
 const textchoice snips[] = {
     {snipleftbtn, "snip left side"}, {sniprighbtn, "snip right side"}, {snipbothbtn, "snip both sides"}};
 
+// The floor of a number, 0 for a number that is no floor's.
+int floorin(double level) {
+    for (int number = lowestfloor; number <= highestfloor; ++number)
+        if (level == number) return number;
+    return 0;
+}
+
 // What is odd about the texts of the three boxes that the layouts read; nullptr: nothing.
 const char* oddfloor(const std::string& text) {
-    const double level = Val(text);
-    const bool known = level >= lowestfloor && level <= highestfloor && level == std::floor(level);
-    return known ? nullptr : "no known floor, clicks build on the one before";
+    return floorin(Val(text)) != 0 ? nullptr : "no known floor, clicks build on the one before";
 }
 const char* odddrawmode(const std::string& text) {
     return text == "solid" || text == "wireframe" ? nullptr : "no known mode, the one before stays in force";
@@ -70,11 +73,21 @@ void readbuildstate() {
 }
 
 void setfloor(const value& level) {
-    for (int number = lowestfloor; number <= highestfloor; ++number) {
-        if (level != number) continue;
-        floorname = std::to_string(number);
-        placez = floorheight * (number - 1);
-    }
+    const int number = floorin(level);
+    if (number == 0) return;
+    floorname = std::to_string(number);
+    placez = floorheight * (number - 1);
+}
+
+value nextfloorname() {
+    const int number = floorin(Val(floor.text));
+    return number == 0 ? floorname : value(std::to_string(number));
+}
+
+const control* nextpanel() {
+    for (const textchoice& c : panels)
+        if (panelprefix.is(c.text)) return &c.button;
+    return nullptr;
 }
 
 void definechoice() {

@@ -5,12 +5,20 @@
 
 namespace tessaly {
 
+struct control;
+
 // Takes record mode, draw mode and floor from their boxes. reads: writefilebox, wiresolid, floor;
 // writes: recordtext, recordmode, drawtext, drawmode, floornum, floorname, placez.
 void readbuildstate();
 
 // Sets floorname and placez for floor numbers 1..10; any other number leaves them.
 void setfloor(const value& level);
+
+// The floorname that the next click on a plan will set, by the floor box as it is now; changes nothing.
+value nextfloorname();
+
+// The button of the panel type that the next click on the panel layout places; nullptr before the first choice.
+const control* nextpanel();
 
 // Gives the ten element buttons and the three snip buttons what they do: the panel buttons set panelprefix, all ten
 // open their layout window, the snip buttons set the text of panelsnipper. Lets the three boxes that readbuildstate

@@ -62,10 +62,12 @@ std::string_view firstcharacters(std::string_view text, int n) {
 }  // namespace
 
 void recordelement(const char* family, int number, int x, int y, const value& code) {
-    textoutput& out = openappend(1, designpath(family + floorname.text() + ".txt"), "design file");
+    textoutput& out = openappend(1, designpath(recordfile(family, floorname)), "design file");
     out.write(recordline({elementkind, number, x, y, code, rotx, rotz, placex, placey, facecode, recordtrailer}));
     out.close();
 }
+
+std::string recordfile(const char* family, const value& floorsname) { return family + floorsname.text() + ".txt"; }
 
 int panelcodefor(const std::string& prefix, const std::string& part) {
     for (const panelrow& row : panelrows)

@@ -14,6 +14,9 @@ struct control;
 // file access error, file not found (folder).
 void recordelement(const char* family, int number, int x, int y, const value& code);
 
+// The bare name of the file that a click records in: the family's word and the floor.
+std::string recordfile(const char* family, const value& floorsname);
+
 // The code of a panel's prefix and part ("full", "left", "righ", "both"); 0 for a pair that is not in the table.
 int panelcodefor(const std::string& prefix, const std::string& part);
 

@@ -4,6 +4,7 @@
 
 #include "core/textfiles.h"
 
+#include <algorithm>
 #include <map>
 
 namespace tessaly {
@@ -44,7 +45,6 @@ window instructions("instructions", "Tessaly Panel and Girder", 19200, 12990, {1
 #undef CONTROL
 
 control* usedcontrol = nullptr;
-control* chosenelement = nullptr;
 control* wantedfocus = nullptr;
 std::function<void()> repaintmainwindow;
 bool programended = false;
@@ -86,12 +86,13 @@ void resetcontrols() {
         w->created = w->shown = false;
         w->raised = 0;
         w->controls.clear();
+        w->openedby = nullptr;
     }
     for (firststate& f : first) {
         *f.c = f.state;
         addcontrol(*f.c);
     }
-    usedcontrol = chosenelement = wantedfocus = nullptr;
+    usedcontrol = wantedfocus = nullptr;
     programended = false;
 }
 
@@ -115,6 +116,11 @@ const std::string& selectedtext(const control& list) {
     static const std::string nothing;
     const auto index = static_cast<std::size_t>(list.selected);
     return list.selected >= 0 && index < list.items.size() ? list.items[index] : nothing;
+}
+
+bool opensshownwindow(const control& c) {
+    const auto& windows = allwindows();
+    return std::any_of(windows.begin(), windows.end(), [&c](const window* w) { return w->shown && w->openedby == &c; });
 }
 
 void showwindow(window& w) {

@@ -36,6 +36,7 @@ struct window {
     bool shown = false;
     int raised = 0;                  // grows at each showing: the window with the highest stands in front
     std::vector<control*> controls;  // in the order of the tables
+    control* openedby = nullptr;     // the element button that opened it last
 };
 
 struct control {
@@ -120,8 +121,8 @@ void refresh(control& filelist);
 // The control whose event runs, or ran last.
 extern control* usedcontrol;
 
-// The element button pressed last, which goes on looking pressed.
-extern control* chosenelement;
+// Whether a window that is shown was opened by this button last.
+bool opensshownwindow(const control& c);
 
 // The control that is to get the keyboard focus after this event; nullptr: the focus stays.
 extern control* wantedfocus;

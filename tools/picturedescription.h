@@ -20,7 +20,7 @@ inline std::string descriptionof(const control& c) {
     std::snprintf(bounds, sizeof bounds, " %d %d %d %d #%02x%02x%02x ", c.bounds.left, c.bounds.top, c.bounds.width,
                   c.bounds.height, back.red, back.green, back.blue);
     std::string words = c.name + bounds + c.text;
-    if (&c == chosenelement) words += "(pressed) ";
+    if (opensshownwindow(c)) words += "(pressed) ";
     if (QFile shown(QString::fromStdString(":/pictures/" + c.name + ".png")); shown.open(QIODevice::ReadOnly)) {
         checksum bytes;
         bytes.add(shown.readAll().toStdString());

@@ -71,6 +71,7 @@ void buildwindow(window& w, boundwindow& bound) {
     bound.frame = std::make_unique<windowframe>(w);
     bound.frame->whenclosed = [&w] { runevent([&w] { closewindow(w); }); };
     bound.frame->whenescaped = [&w] { runevent([&w] { pressescape(w, focusedcontrol(w)); }); };
+    bound.frame->whenactivated = [] { runevent([] {}); };  // files may have been edited meanwhile
     for (control* c : w.controls) {
         QWidget* widget = makewidget(*c, bound.frame->plan());
         listento(widget, *c);
@@ -134,6 +135,7 @@ void carrytowindow(window& w) {
     if (!bound.frame) buildwindow(w, bound);
     takefocusback(w, bound);
     for (boundcontrol& b : bound.controls) carrytowidget(b);
+    if (w.shown && bound.frame->follow) bound.frame->follow();
     if (!w.shown) bound.frame->hide();
 }
 

@@ -61,6 +61,12 @@ QFont buttonfont(int pixels, bool bold) {
     return font;
 }
 
+// Takes so many percent from another colour.
+QColor mixed(const QColor& colour, const QColor& other, int percent) {
+    const auto mean = [percent](int a, int b) { return (a * (100 - percent) + b * percent) / 100; };
+    return {mean(colour.red(), other.red()), mean(colour.green(), other.green()), mean(colour.blue(), other.blue())};
+}
+
 QPushButton* nearestbutton(const QWidget& plan, QPoint from, QPoint direction) {
     QPushButton* nearest = nullptr;
     int least = 0;
@@ -148,6 +154,12 @@ void button::setchosen(bool itis) {
     update();
 }
 
+void button::setmarked(bool itis) {
+    if (itis == marked) return;
+    marked = itis;
+    update();
+}
+
 void button::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     paintface(painter);
@@ -156,14 +168,14 @@ void button::paintEvent(QPaintEvent*) {
         shows->paint(painter, QRectF(seen()).adjusted(2, 2, -2, -2));
     else
         paintcaption(painter);
+    if (marked) paintmark(painter);
 }
 
 QRect button::seen() const { return rect() & parentWidget()->rect().translated(-pos()); }
 
 void button::paintface(QPainter& painter) const {
-    const bool dark = inkupon(background) != QColor(0, 0, 0);  // where a little lighter or darker would not be seen
-    const QColor base = lookspressed() ? background.darker(dark ? 200 : 115)
-                        : underMouse() ? background.lighter(dark ? 165 : 106)
+    const QColor base = lookspressed() ? mixed(background, QColor(0, 0, 0), 35)
+                        : underMouse() ? mixed(background, QColor(255, 255, 255), 50)
                                        : background;
     QLinearGradient shade(0, 0, 0, height());
     shade.setColorAt(0, lookspressed() ? base.darker(106) : base.lighter(108));
@@ -205,6 +217,15 @@ void button::paintcaption(QPainter& painter) const {
         painter.drawText((width() - metrics.horizontalAdvance(line) + 1) / 2, base, line);
         base += linepitch(metrics);
     }
+}
+
+// White within black can be read on every colour.
+void button::paintmark(QPainter& painter) const {
+    constexpr double radius = 3.5;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(0, 0, 0), 1.5));
+    painter.setBrush(QColor(255, 255, 255));
+    painter.drawEllipse(QRectF(rect()).center(), radius, radius);
 }
 
 void button::keyPressEvent(QKeyEvent* event) {

@@ -43,6 +43,7 @@ class button : public QPushButton {
     button(const QColor& itsbackground, QWidget* parent);
     void setpicture(const QString& name);
     void setchosen(bool itis);  // whether it looks pressed all the time
+    void setmarked(bool itis);  // with a mark in the middle
 
   protected:
     void paintEvent(QPaintEvent*) override;
@@ -53,11 +54,12 @@ class button : public QPushButton {
     QRect seen() const;
     void paintface(QPainter& painter) const;
     void paintcaption(QPainter& painter) const;
+    void paintmark(QPainter& painter) const;
 
     bool lookspressed() const { return chosen || isDown(); }
 
     QColor background;
-    bool chosen = false;
+    bool chosen = false, marked = false;
     std::unique_ptr<picture> shows;
 };
 

@@ -320,7 +320,7 @@ void setitems(QWidget& widget, const std::vector<std::string>& items) {
 
 void setselection(const control& c, QWidget& widget) {
     if (auto* rows = dynamic_cast<list*>(&widget)) rows->mark(c.selected);
-    if (auto* push = dynamic_cast<button*>(&widget)) push->setchosen(c.chosen || &c == chosenelement);
+    if (auto* push = dynamic_cast<button*>(&widget)) push->setchosen(c.chosen || opensshownwindow(c));
     if (auto* box = qobject_cast<QComboBox*>(&widget)) {
         const QString text = box->currentText();
         const int row = box->findText(text, Qt::MatchExactly);  // its list opens at this one

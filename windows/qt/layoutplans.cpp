@@ -1,7 +1,10 @@
 // What the three layout windows show behind their buttons: the grid, posts and beams as decoration, and the axes. All
 // coordinates are twips of the window unless said otherwise; x of the plan runs down, y runs across.
 
+#include "building/buildstate.h"
+#include "building/builtelements.h"
 #include "windows/qt/binding.h"
+#include "windows/qt/button.h"
 #include "windows/qt/decoration.h"
 #include "windows/qt/style.h"
 
@@ -73,6 +76,20 @@ void setbold(const control& label) {
     widget->setFont(font);
 }
 
+// Marks the positions whose element is built on the present floor.
+void showbuilt(const window& plan) {
+    const builtelements& built = builton(plan);
+    for (const control* c : plan.controls) {
+        if (c->elementnumber == 0) continue;
+        auto* const position = dynamic_cast<button*>(widgetof(*c));
+        const QString tip = QString::fromStdString(builttooltip(*c, built));
+        if (position->toolTip() == tip) continue;
+        position->setmarked(built.timesof(*c) > 0);
+        position->setToolTip(tip);
+        position->setAccessibleDescription(tip);
+    }
+}
+
 void decoratelayout(windowframe& f, const control& labelx, const control& labely, void (*draw)(QPainter&)) {
     setbold(labelx);
     setbold(labely);
@@ -80,6 +97,7 @@ void decoratelayout(windowframe& f, const control& labelx, const control& labely
         painter.setRenderHint(QPainter::Antialiasing);
         draw(painter);
     };
+    f.follow = [&f] { showbuilt(f.of); };
 }
 
 constexpr grid girdergrid{607, 607, 1200, 420}, panelgrid{637, 1117, 960, 360}, roofgrid{667, 667, 840, 300};
@@ -89,7 +107,20 @@ void drawgirderplan(QPainter& painter) {
     drawaxes(painter, 190, 190, 4200, 3200, QColor(128, 0, 0));
 }
 
+// The panel type of the next click, in the corner above the axes.
+const QRect nextpanelplace(6, 2, 74, 40);
+
+void shownextpanel(windowframe& f) {
+    const control* const next = nextpanel();
+    const QString description = next ? "The next click places: " + QString::fromStdString(next->accessiblename) : "";
+    if (f.accessibleDescription() == description) return;
+    f.setAccessibleDescription(description);
+    f.plan()->update(nextpanelplace);
+}
+
 void drawpanelplan(QPainter& painter) {
+    if (const control* const next = nextpanel())
+        picture(QString::fromStdString(next->name)).paint(painter, nextpanelplace);
     drawgrid(painter, panelgrid, QColor(140, 140, 210));
     drawbeams(painter, panelgrid, 105, QColor(170, 170, 225));
     drawposts(painter, panelgrid, 165, QColor(96, 96, 150));
@@ -106,7 +137,13 @@ void drawroofplan(QPainter& painter) {
 }  // namespace
 
 void decoratelayoutgirder(windowframe& f) { decoratelayout(f, girderlabelx, girderlabely, drawgirderplan); }
-void decoratelayoutpanels(windowframe& f) { decoratelayout(f, panellabelx, panellabely, drawpanelplan); }
+void decoratelayoutpanels(windowframe& f) {
+    decoratelayout(f, panellabelx, panellabely, drawpanelplan);
+    f.follow = [&f] {
+        showbuilt(f.of);
+        shownextpanel(f);
+    };
+}
 void decoratelayoutroof(windowframe& f) { decoratelayout(f, rooflabelx, rooflabely, drawroofplan); }
 
 }  // namespace tessaly

@@ -64,6 +64,11 @@ windowframe::windowframe(const tessaly::window& itswindow) : of(itswindow) {
 
 QSize windowframe::designedsize() const { return {inpixels(of.widthtwips), inpixels(of.heighttwips)}; }
 
+void windowframe::changeEvent(QEvent* event) {
+    QScrollArea::changeEvent(event);
+    if (event->type() == QEvent::ActivationChange && isActiveWindow() && whenactivated) whenactivated();
+}
+
 void windowframe::closeEvent(QCloseEvent* event) {
     event->ignore();
     whenclosed();

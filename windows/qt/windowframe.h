@@ -22,15 +22,20 @@ class windowframe : public QScrollArea {
 
     // Paints behind the controls, in pixels of the plan.
     std::function<void(QPainter&)> decoration;
+    // Shows the state that belongs to no control; called after each event while the window is shown.
+    std::function<void()> follow;
     // The first showing: where it stands and how large.
     std::function<void(windowframe&)> firstshowing;
 
     // The user closes it, or presses Escape in it: whether it goes is the program's to say.
     std::function<void()> whenclosed, whenescaped;
+    // It becomes the active window.
+    std::function<void()> whenactivated;
 
     const tessaly::window& of;
 
   protected:
+    void changeEvent(QEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
 };
