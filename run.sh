@@ -6,6 +6,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh
 
 wantpackages "${runpackages[@]}"
+mkdir -p designs bmps nonuser
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     build release tessaly-app

@@ -33,6 +33,8 @@ std::vector<recordcolumn> tempcolumns(recordcolumn first, recordcolumn last) {
 const std::vector<recordcolumn> wirecolumns = tempcolumns({&placez, nullptr}, {nullptr, &rdtrailer});
 const std::vector<recordcolumn> solidcolumns = tempcolumns({}, {&placez, &rdplacez});
 
+constexpr int tempfirstfield = 0;  // the record's fields follow the line's first one
+
 // A line for the temporary files, of record r in the tables.
 std::string templine(const value& first, const value& r, const value& last) {
     return keptline(first, recordcolumns(bothcolumns).first(bothcolumns.size() - 1), r, last);
@@ -41,35 +43,46 @@ std::string wireline(int i) { return templine(placez, i, rdtrailer[i]); }
 std::string solidline(int i) { return templine(i, i, placez); }
 std::string sortedline(int slot) { return templine(slot, rdorder[slot], rdplacez[rdorder[slot]]); }
 
+recordorigin sortedorigin(int slot) {
+    const auto record = static_cast<std::size_t>(double(rdorder[slot]));
+    return record - 1 < tempfile.origins.size() ? tempfile.origins[record - 1] : recordorigin{};
+}
+
 // Reads a design file into the record tables, and adds its records to combinedcount and to tempfile.
 template <class form>
 void addfile(const replayfile& file, form line) {
     clearrecords();
-    const int n = keepdesignfile(1, file.name, bothcolumns);
+    const std::vector<recordorigin> records = keepdesignfile(1, file.name, bothcolumns);
+    const int n = static_cast<int>(records.size());
     combinedcount = combinedcount + n;
     floorfromname(file.floorby);
-    addlines(tempfile, n, line);
+    addlines(tempfile, n, line, [&records](int i) { return records[static_cast<std::size_t>(i - 1)]; });
 }
 
 // Both files from tempfile into the record tables, which end at 1000. The scalars are left for the sorted order.
 void keepbothfiles(int n) {
     std::vector<recordcolumn> keptonly = solidcolumns;
     for (recordcolumn& c : keptonly) c.scalar = nullptr;
-    textinput& in = openinput(2, tempfile, "temporary file");
-    for (int k = 1; k <= n; ++k) keeprecord(k, keptonly, readrecord(in, keptonly));
+    textinput& in = opentemporary(tempfile);
+    for (int k = 1; k <= n; ++k) {
+        locaterecord(in, tempfile, k, tempfirstfield);
+        keeprecord(k, keptonly, readrecord(in, keptonly));
+    }
     in.close();
 }
 
 // Draws the records of tempfile as wires, the first file's and then the second's. reads: combinedcount.
 void replaycombined() {
     const int n = indexof(combinedcount, "combinedcount", 2 * lastrecord);
-    textinput& in = openinput(2, tempfile, "temporary file");
+    textinput& in = opentemporary(tempfile);
     for (int k = 1; k <= n; ++k) {
+        locaterecord(in, tempfile, k, tempfirstfield);
+        const fieldlocation record = {in.next.line, 1};
         readrecord(in, wirecolumns);
-        drawrecord(elementkind, anycode);
+        drawrecord(elementkind, anycode, in, record);
     }
     in.close();
-    deletefile(tempfile);
+    deletetemporary(tempfile);
 }
 
 void offerfirst(control& list) {
@@ -122,11 +135,11 @@ void replaysorted() {
     makeeyeabsolute();
     measurerecords(n);
     sortrecords(rdnumber, n);
-    addlines(sortedtempfile, n, sortedline);
+    addlines(sortedtempfile, n, sortedline, sortedorigin);
     drawprogress(n);
-    paintrecords(sortedtempfile, n, solidcolumns, elementkind, anycode);
-    deletefile(tempfile);
-    deletefile(sortedtempfile);
+    paintrecords(sortedtempfile, tempfirstfield, n, solidcolumns, elementkind, anycode);
+    deletetemporary(tempfile);
+    deletetemporary(sortedtempfile);
     hide(progressbar);
 }
 

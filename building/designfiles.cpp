@@ -40,8 +40,8 @@ struct girderrow {
 };
 constexpr girderrow girderrows[] = {{41, 2, "st-post.txt"}, {42, 3, "st-beam.txt"}, {43, 4, "st-beam.txt"}};
 
-// The code as a number; 0, which is no element's, for a text that is none.
-double codenumber(const value& code) { return code.istext() ? strictnumber(code.text()).value_or(0) : double(code); }
+// The code as a number; 0, the code of no element, for a text, whatever it looks like.
+double codenumber(const value& code) { return code.isnumber() ? double(code) : 0; }
 
 void panelfile(double code) {
     for (const panelrow& row : panelrows)
@@ -92,6 +92,19 @@ void elementfileforcode(const value& kind, const value& code) {
     }
 }
 
+void noelementfile(const value& kind, const value& code, const textinput& in, fieldlocation record) {
+    constexpr int codefield = 4;  // after the record's first, its kind
+    const bool girder = kind.is("girder"), known = girder || kind.is("panel");
+    const value& wrong = known ? code : kind;
+    if (known) record.field += codefield;
+    throw failure(failurekind::invalidcall,
+                  (wrong.isnumber() ? wrong.text() : '"' + excerpt(wrong.text()) + '"') + " is not " +
+                      (girder  ? "the code of a girder (41, 42, 43)"
+                       : known ? "the code of a panel (1 to 24, 31 to 38)"
+                               : "a kind of element (girder, panel, roof)"),
+                  in.location(record));
+}
+
 int floordigit(const std::string& name) {
     const std::string letters = name.substr(0, 4);
     const int length = letters == "gird" ? 8 : letters == "pane" ? 7 : letters == "roof" ? 6 : 0;
@@ -105,10 +118,10 @@ replayfile pickedfile(const control& filelist) { return {selectedtext(filelist),
 void floorfromname(const std::string& name) {
     const int digit = floordigit(name);
     if (digit < 0)
-        throw failure(failurekind::typemismatch,
-                      "no reader knows this name; girders1.txt, panels1.txt and roofs1.txt would do, or names as long "
-                      "with the same first four letters and the floor's digit in the place of the 1",
-                      designpath(name));
+        throw failure(
+            failurekind::typemismatch, "no reader knows this name", shortpath(designpath(name)),
+            "rename it like girders1.txt, panels1.txt or roofs1.txt, with the same first four letters, the same "
+            "length, and the floor's digit in the place of the 1");
     floornum = digit;
     setfloor(floornum == 0 ? value(10) : floornum);
 }

@@ -1,6 +1,7 @@
 // Design files: the lasting form of a building, one record of eleven fields a click, in the order of the clicks.
 #pragma once
 
+#include "core/textfiles.h"
 #include "core/value.h"
 
 #include <string>
@@ -33,6 +34,9 @@ struct replayfile {
     std::string name, floorby;
 };
 replayfile pickedfile(const control& filelist);
+
+// Fails with invalid call: a record's kind and code determine no element file. record: its location in the file.
+[[noreturn]] void noelementfile(const value& kind, const value& code, const textinput& in, fieldlocation record);
 
 // Sets floornum, floorname and placez from a design file's name. Fails with type mismatch if it has no floor digit.
 void floorfromname(const std::string& name);

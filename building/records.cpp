@@ -47,7 +47,8 @@ std::string keptline(const value& first, recordcolumns kept, const value& r, con
 std::vector<value> readrecord(textinput& in, recordcolumns form) {
     std::vector<value> fields;
     for (const recordcolumn& c : form) {
-        constexpr const char* what = "a field of a design record";
+        const bool online = fields.empty() || in.next.field > 1;
+        const char* const what = online ? "a field of a design record" : "is there an empty line above?";
         fields.push_back(c.text ? value(readrecordtext(in, what)) : readrecordfield(in, what));
         if (c.scalar) *c.scalar = fields.back();
     }

@@ -38,11 +38,13 @@ double squared(double d) { return d * d; }
 
 }  // namespace
 
-int keepdesignfile(int channel, const value& name, recordcolumns form) {
-    textinput& in = openinput(channel, designpath(name), "design file");
-    const int n = untilfailure(lastrecord, [&](int i) { keeprecord(i, form, readrecord(in, form)); });
-    in.close();
-    return n;
+textinput& opentemporary(const temporaryfile& file) { return openinput(2, file.path, "temporary file"); }
+
+void locaterecord(textinput& in, const temporaryfile& file, int k, int firstfield) {
+    const auto index = static_cast<std::size_t>(k - 1);
+    if (index >= file.origins.size() || file.origins[index].path.empty()) return;
+    in.path = file.origins[index].path;
+    in.next = {file.origins[index].line, firstfield};
 }
 
 int countrecords(const value& name) {
@@ -51,8 +53,29 @@ int countrecords(const value& name) {
     return untilfailure(lastrecord, [&](int) { readrecord(in, form); });
 }
 
-void drawrecord(const value& kind, const value& code) {
+void deletetemporary(temporaryfile& file) {
+    deletefile(file.path);
+    file = {file.path};
+}
+
+std::vector<recordorigin> keepdesignfile(int channel, const value& name, recordcolumns form) {
+    textinput& in = openinput(channel, designpath(name), "design file");
+    std::vector<recordorigin> origins;
+    untilfailure(lastrecord, [&](int i) {
+        const int line = in.next.line;
+        keeprecord(i, form, readrecord(in, form));
+        origins.push_back({in.path, line});
+    });
+    in.close();
+    return origins;
+}
+
+void drawrecord(const value& kind, const value& code, const textinput& in, fieldlocation record) {
     elementfileforcode(kind, code);
+    if (datafile.empty()) {
+        resetworld();
+        noelementfile(kind, code, in, record);
+    }
     readelements();
     rotx = 0;
 }
@@ -83,12 +106,15 @@ void sortrecords(const table<value, lastrecord>& number, int n) {
     }
 }
 
-void paintrecords(const char* file, int n, recordcolumns form, const value& kind, const value& code) {
-    textinput& in = openinput(2, file, "temporary file");
+void paintrecords(const temporaryfile& file, int firstfield, int n, recordcolumns form, const value& kind,
+                  const value& code) {
+    textinput& in = opentemporary(file);
     for (int k = 1; k <= n; ++k) {
+        locaterecord(in, file, k, firstfield);
+        const fieldlocation record = {in.next.line, 1};
         readrecord(in, form);
         stepprogress();
-        drawrecord(kind, code);
+        drawrecord(kind, code, in, record);
         paintsolids();
     }
     in.close();

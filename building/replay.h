@@ -13,8 +13,26 @@ namespace tessaly {
 
 // A replay's temporary files, gone when it has run to its end. They are opened for appending: what a broken replay or
 // an abandoned choice left behind stands in front of the new records and is replayed in their place. It stays so.
-inline constexpr const char* tempfile = "nonuser\\temp.txt";
-inline constexpr const char* sortedtempfile = "nonuser\\temp2.txt";
+// For reports each line's record in a design file is remembered; what was left behind has none.
+struct recordorigin {
+    std::string path;  // of the design file; "": unknown
+    int line;
+};
+struct temporaryfile {
+    const char* path;
+    bool own = false;  // created by this program
+    std::vector<recordorigin> origins = {};
+};
+inline temporaryfile tempfile{"nonuser\\temp.txt"}, sortedtempfile{"nonuser\\temp2.txt"};
+
+// Opens a temporary file for reading, on channel 2. fails: as openinput.
+textinput& opentemporary(const temporaryfile& file);
+
+// Makes reports of line k, which is read next, name its record's design file. firstfield: the number of the line's
+// first field in the record.
+void locaterecord(textinput& in, const temporaryfile& file, int k, int firstfield);
+
+void deletetemporary(temporaryfile& file);
 
 // Runs step(1), step(2) .. step(most) until one fails, whatever the failure, and returns how many ran whole: the end of
 // a file is never tested for, the failed read is the end. This is the one trap of a replay.
@@ -29,18 +47,18 @@ int untilfailure(int most, procedure step) {
     return done;
 }
 
-// Keeps the records of a design file, 1000 at most, and returns how many they are. The first failure ends the file.
+// Keeps the records of a design file, 1000 at most, and returns their origins. The first failure ends the file.
 // fails: as openinput.
-int keepdesignfile(int channel, const value& name, recordcolumns form);
+std::vector<recordorigin> keepdesignfile(int channel, const value& name, recordcolumns form);
 
 // The number of complete records of a design file, 1000 at most, by the same rules; stores nothing. fails: as
 // keepdesignfile.
 int countrecords(const value& name);
 
-// Places, reads and draws the element of the record just read, by the recordcolumn of kind and its code. rotx is 0
+// Places, reads and draws the element of the record just read, by its kind and code. record: its location. rotx is 0
 // afterwards, for placement leaves radians in it. reads: rotx, rotz, placex, placey, placez; writes, fails: as
 // readelements.
-void drawrecord(const value& kind, const value& code);
+void drawrecord(const value& kind, const value& code, const textinput& in, fieldlocation record);
 
 // Makes the eye absolute; only the next plotgroups makes it relative again, so that after a replay of nothing the next
 // view step goes on from the absolute eye. reads: focusx..; writes: perpx..
@@ -57,17 +75,23 @@ void measurerecords(int n);
 // text.
 void sortrecords(const table<value, lastrecord>& number, int n);
 
-// Adds line(1) .. line(n) to a temporary file, on channel 2. fails: as openappend, type mismatch, subscript.
-template <class form>
-void addlines(const char* file, int n, form line) {
-    textoutput& out = openappend(2, file, "temporary file");
-    for (int i = 1; i <= n; ++i) out.write(line(i));
+// Adds line(1) .. line(n) to a temporary file, on channel 2; origin(i) is the origin of line(i). fails: as openappend,
+// type mismatch, subscript.
+template <class form, class locating>
+void addlines(temporaryfile& file, int n, form line, locating origin) {
+    textoutput& out = openappend(2, file.path, "temporary file");
+    if (out.created) file = {file.path, true};
+    for (int i = 1; i <= n; ++i) {
+        out.write(line(i));
+        if (file.own) file.origins.push_back(origin(i));
+    }
     out.close();
 }
 
 // Reads n records of a temporary file and draws and paints each, a step of the strip before it. kind, code: as
-// drawrecord. fails: as drawrecord and paintsolids; the file stays open on channel 2.
-void paintrecords(const char* file, int n, recordcolumns form, const value& kind, const value& code);
+// drawrecord; firstfield: as locaterecord. fails: as drawrecord and paintsolids; the file stays open on channel 2.
+void paintrecords(const temporaryfile& file, int firstfield, int n, recordcolumns form, const value& kind,
+                  const value& code);
 
 // Shows the progress strip for n records: cleared to dark, four light rows a record and four over, from the bottom up.
 void drawprogress(int n);

@@ -70,8 +70,9 @@ void pickautofile() {
     const std::vector<recordcolumn> form = columnsof(c);
     textinput& in = openinput(2, designpath(secondfilename), "design file");
     untilfailure(maxwirerecords, [&](int) {
+        const fieldlocation record = in.next;
         readrecord(in, form);
-        drawrecord(c.kind, *c.code.scalar);
+        drawrecord(c.kind, *c.code.scalar, in, record);
     });
     in.close();
 }
@@ -82,18 +83,23 @@ void replaysolid(const replayfile& file) {
     const recordclass& c = takename(file);
     std::vector<recordcolumn> form = columnsof(c);
     for (int i = 1; i <= lastrecord; ++i) c.number.kept->set(i, 0);
-    const int n = keepdesignfile(2, secondfilename, form);
+    const std::vector<recordorigin> records = keepdesignfile(2, secondfilename, form);
+    const int n = static_cast<int>(records.size());
     makeeyeabsolute();
     measurerecords(n);
     sortrecords(*c.number.kept, n);
     form.front() = {};  // in the temporary file the sorted position stands in the kind's place
-    addlines(tempfile, n, [&form](int slot) {
+    const auto sortedline = [&form](int slot) {
         const value& r = rdorder[slot];
         return keptline(slot, recordcolumns(form).subspan(1, form.size() - 2), r, rdtrailer[r]);
+    };
+    addlines(tempfile, n, sortedline, [&records](int slot) {
+        const auto r = static_cast<std::size_t>(double(rdorder[slot]));
+        return r - 1 < records.size() ? records[r - 1] : recordorigin{};
     });
     drawprogress(n);
-    paintrecords(tempfile, n, form, c.kind, *c.code.scalar);
-    deletefile(tempfile);
+    paintrecords(tempfile, 1, n, form, c.kind, *c.code.scalar);
+    deletetemporary(tempfile);
     hide(progressbar);
 }
 

@@ -59,9 +59,9 @@ ranking countfiles() {
 
 // What an interrupted replay left would be replayed in place of the last records.
 void deletetemporaryfiles() {
-    for (const char* file : {tempfile, sortedtempfile}) {
+    for (temporaryfile* file : {&tempfile, &sortedtempfile}) {
         std::error_code ignored;
-        if (std::filesystem::exists(systempath(file), ignored)) deletefile(file);
+        if (std::filesystem::exists(systempath(file->path), ignored)) deletetemporary(*file);
     }
 }
 

@@ -22,7 +22,8 @@ std::string viewrecord() {
 // Fails with file access error if name would lead out of the folder or could not be the name of a file.
 void expectbarename(const std::string& name) {
     if (name.find_first_of(std::string_view("/\0", 2)) != std::string::npos)
-        throw failure(failurekind::fileaccess, "a name without / was expected", "bmps\\" + excerpt(name));
+        throw failure(failurekind::fileaccess, "a name without / was expected", shortpath("bmps\\" + name),
+                      "type a name such as tower.bmp");
 }
 
 void closedialog() {
@@ -62,7 +63,8 @@ std::string stemof(const value& name) {
     for (int dropped = 0; dropped < 4; ++dropped) {
         if (end == 0)
             throw failure(failurekind::invalidcall,
-                          "\"" + whole + "\" as a file name in bmps, four characters or more were expected");
+                          "\"" + whole + "\" as a file name in bmps: four characters or more were expected", {},
+                          "type a name such as tower.bmp");
         for (--end; end > 0 && continuescharacter(whole[end]);) --end;  // a UTF-8 character
     }
     return whole.substr(0, end);

@@ -1,8 +1,9 @@
-// Failures: one exception type for everything that can go wrong while the building set runs.
-// A failure is thrown once, by the operation that finds it. The few traps of the program are try/catch
-// exactly where the behaviour has a trap; everything else reaches the top of the event, is shown and ends the program.
+// Failures: one exception type for everything that can go wrong while the building set runs. The operation that detects
+// a failure throws it. The few traps of the program are try/catch exactly where the behaviour has a trap; every other
+// exception reaches the top of the event, is reported and ends the program.
 #pragma once
 
+#include <cstddef>
 #include <exception>
 #include <string>
 #include <string_view>
@@ -13,38 +14,51 @@ enum class failurekind {
     filenotfound,     // no such file or folder
     fileaccess,       // the system refuses to read, write or delete it
     filealreadyopen,  // the channel is still in use
-    inputpastend,     // a read behind the last field of a file
-    overflow,         // a number outside the range of its place
+    inputpastend,     // a read after the last field of a file
+    overflow,         // a number outside its range
     subscript,        // an index outside a table
-    typemismatch,     // a text met arithmetic and is no number
+    typemismatch,     // a text that is not a number met arithmetic
     divisionbyzero,   // a quotient with divisor 0
     invalidcall,      // an operation given something it cannot work on
 };
 
-// The words of a kind as reports show them, such as "file not found".
+// The name of a kind in reports, such as "file not found".
 std::string_view kindname(failurekind kind);
 
-struct failure : std::exception {
-    failure(failurekind failed, std::string why, std::string where = {});
+class failure : public std::exception {
+  public:
+    // why: what was found and what was expected. where: file, line and field, or text box; empty if there is none.
+    // remedy: what the user can do; without it, the usual remedy of the kind.
+    failure(failurekind failed, std::string why, std::string where = {}, std::string remedy = {});
 
-    // Tells the location, for whoever knows it on the failure's way up: the first one's counts, which is the nearest.
+    // Adds the location unless the failure has one already.
     void addlocation(const std::string& where);
 
-    // Place and detail, and all three, in one line, as shown.
-    std::string message() const { return location.empty() ? detail : location + ": " + detail; }
-    std::string report() const { return std::string(kindname(kind)) + ": " + message(); }
-
-    const char* what() const noexcept override { return detail.c_str(); }
+    // The report in one line: "location: detail: remedy (kind)".
+    const char* what() const noexcept override { return report.c_str(); }
 
     failurekind kind;
-    std::string detail;    // what was found and what was expected
-    std::string location;  // where to mend it: file, line and field, or text box; empty where it is no location's fault
+    std::string detail, location, remedy;
+
+  private:
+    void compose();
+    std::string report;
 };
 
-// The location of a row's number 1..10, such as "LINEG3:, row 4, second number".
-std::string numberin(const std::string& row, int number);
+// Runs step; returns the report of the exception that ends it, of whatever type, and "" without one.
+template <class procedure>
+std::string reportof(procedure step) {
+    try {
+        step();
+        return {};
+    } catch (const std::exception& e) {
+        return e.what();
+    } catch (...) {
+        return "an unknown exception";
+    }
+}
 
-// Runs step. An index outside a table was named by a figure of a data file, at location().
+// Runs step. If a number of a data file is a bad subscript in it, adds that number's location().
 template <class locating, class procedure>
 void locatesubscript(locating location, procedure step) {
     try {
@@ -54,5 +68,16 @@ void locatesubscript(locating location, procedure step) {
         throw;
     }
 }
+
+// ---- texts of reports ----
+
+// The location of a row's number 1..10, such as "LINEG3:, row 4, second number".
+std::string numberin(const std::string& row, int number);
+
+// The text, or the front of a long one and its count of characters.
+std::string excerpt(std::string_view text);
+
+// The path; a long one without its middle, so that folder and ending can be read.
+std::string shortpath(std::string_view path);
 
 }  // namespace tessaly

@@ -55,6 +55,12 @@ struct scanner {
             skipblanks();
         }
     }
+    // Blanks, and the line end of a row that is broken after a comma.
+    void skipbreak() {
+        skipblanks();
+        if (in.next.field > 1 && !atend() && islineend(next())) takelineend();
+        skipblanks();
+    }
     // From the opening quote to the next one, line ends included; then the separator.
     std::string_view takequoted() {
         const std::size_t from = ++in.at;
@@ -161,9 +167,7 @@ int readlabel(textinput& in, const char* what) {
 }
 
 std::string_view readtextfield(textinput& in, const char* what) {
-    scanner s(in, what);
-    s.skipblanks();
-    if (in.next.field > 1 && !s.atend() && islineend(s.next())) s.takelineend();  // the row is broken after a comma
+    scanner(in, what).skipbreak();
     return readrecordtext(in, what);
 }
 
@@ -178,7 +182,15 @@ std::string_view readrecordtext(textinput& in, const char* what) {
 }
 
 void findkey(textinput& in, const char* key) {
-    while (readtextfield(in, key) != key) continue;
+    const int from = in.next.line;
+    for (scanner s(in, key);;) {
+        s.skipbreak();
+        if (s.atend())
+            throw failure(failurekind::inputpastend,
+                          "the key " + std::string(key) + " is missing from line " + std::to_string(from) + " on",
+                          shortpath(in.path));
+        if (readrecordtext(in, key) == key) return;
+    }
 }
 
 fieldlocation nextfield(textinput& in) {

@@ -6,6 +6,7 @@
 #include "core/failure.h"
 #include "core/openflags.h"
 #include "core/value.h"
+#include "core/wholefile.h"
 
 #include <algorithm>
 #include <array>
@@ -36,16 +37,23 @@ channelstate& channelof(int channel) { return channels.at(static_cast<std::size_
 
 [[noreturn]] void systemfailure(const std::string& path, const char* what, int error) {
     const auto kind = error == ENOENT || error == ENOTDIR ? failurekind::filenotfound : failurekind::fileaccess;
-    constexpr std::size_t maxofpath = 300;  // more than any file's
-    throw failure(kind, std::strerror(error), excerpt(path, maxofpath) + " (" + what + ")");
+    const std::string where = shortpath(path) + " (" + what + ")";
+    const std::size_t folderend = path.find('\\');
+    std::error_code ignored;
+    if (kind == failurekind::filenotfound && folderend != std::string::npos) {
+        const std::string folder = path.substr(0, folderend);
+        if (!std::filesystem::is_directory(folder, ignored))
+            throw failure(kind, "the folder " + folder + " is missing", where, "make it");
+    }
+    throw failure(kind, error == ENOENT ? "this file does not exist" : std::strerror(error), where);
 }
 
 void expectfree(int channel, std::string_view path) {
     const channelstate& c = channelof(channel);
     if (!c.input && !c.output) return;
-    throw failure(failurekind::filealreadyopen, "channel " + std::to_string(channel) + " still holds " +
-                                                    (c.input ? c.input->path : c.output->path) + " while opening " +
-                                                    std::string(path));
+    const std::string& open = c.input ? c.input->path : c.output->path;
+    throw failure(failurekind::filealreadyopen,
+                  shortpath(open) + " is still open on channel " + std::to_string(channel), shortpath(path));
 }
 
 // Opens a file as flags say: a regular one, for a pipe may never answer and a device never end.
@@ -56,7 +64,8 @@ int openregular(const std::string& path, const char* what, int flags) {
     const int error = handle < 0 ? errno : ENXIO;
     if (handle >= 0) ::close(handle);
     if (error != ENXIO) systemfailure(path, what, error);  // which is also what a pipe without a reader says
-    throw failure(failurekind::fileaccess, "this is no regular file", path + " (" + what + ")");
+    throw failure(failurekind::fileaccess, "this is not a regular file", shortpath(path) + " (" + what + ")",
+                  "move it away");
 }
 
 // Reads up to the end or a little more than maxbytes; 0, or the system's error.
@@ -71,8 +80,10 @@ int readwhole(int handle, std::string& bytes) {
     return 0;
 }
 
-// Writes all of text at the end of the file behind handle, or leaves the file at its length and tells the error.
-int appendwhole(int handle, const std::string& text) {
+// Writes all of text at the end of a file. Returns 0, or the system's error after a try to restore the file's length;
+// changed is false if the file is as before.
+int appendwhole(int handle, const std::string& text, bool& changed) {
+    changed = false;
     struct stat before {};
     if (::fstat(handle, &before) != 0) return errno;
     std::size_t done = 0;
@@ -81,11 +92,12 @@ int appendwhole(int handle, const std::string& text) {
         if (wrote < 0 && errno == EINTR) continue;
         if (wrote <= 0) {
             const int error = wrote < 0 ? errno : ENOSPC;
-            if (done > 0 && ::ftruncate(handle, before.st_size) != 0) return errno;
+            changed = done > 0 && ::ftruncate(handle, before.st_size) != 0;
             return error;
         }
         done += static_cast<std::size_t>(wrote);
     }
+    changed = done > 0;
     return 0;
 }
 
@@ -99,7 +111,7 @@ std::string systempath(std::string_view path) {
 }
 
 std::string textinput::location(fieldlocation of) const {
-    return path + ", line " + std::to_string(of.line) + ", field " + std::to_string(of.field);
+    return shortpath(path) + ", line " + std::to_string(of.line) + ", field " + std::to_string(of.field);
 }
 
 void textinput::close() {
@@ -121,7 +133,7 @@ std::string filebytes(std::string_view path, const char* what) {
     throw failure(failurekind::fileaccess,
                   "the file has " + std::to_string(found) + " bytes, " + std::to_string(maxbytes) +
                       " at most were expected",
-                  name + " (" + what + ")");
+                  shortpath(name) + " (" + what + ")");
 }
 
 textinput& openinput(int channel, std::string_view path, const char* what) {
@@ -149,13 +161,18 @@ textoutput::~textoutput() {
 }
 
 void textoutput::close() {
-    int error = appendwhole(handle, unwritten);
-    if (::close(std::exchange(handle, -1)) != 0 && error == 0) error = errno;
-    if (error != 0 && created) ::unlink(systempath(path).c_str());
+    bool changed = false;
+    int error = appendwhole(handle, unwritten, changed);
+    if (::close(std::exchange(handle, -1)) != 0 && error == 0 && errno != EINTR) error = errno;
+    if (error != 0 && created && !changed) ::unlink(systempath(path).c_str());
     const std::string closed = path;
     for (channelstate& c : channels)
         if (c.output && &*c.output == this) c.output.reset();
-    if (error != 0) systemfailure(closed, "could not be written, it stands as it was", error);
+    if (error != 0)
+        systemfailure(closed,
+                      changed ? "could not be written completely: look at the end of the file"
+                              : "could not be written, it is unchanged",
+                      error);
 }
 
 textinput& channelinput(int channel) {
@@ -183,7 +200,7 @@ std::vector<std::string> filesin(std::string_view folder) {
     for (; !error && files != end; files.increment(error)) {
         const std::string name = files->path().filename().string();
         std::error_code ignored;
-        if (name.front() != '.' && !files->is_directory(ignored)) names.push_back(name);
+        if (name != unfinishedname && !files->is_directory(ignored)) names.push_back(name);
     }
     if (error) systemfailure(std::string(folder), "folder", error.value());
     std::sort(names.begin(), names.end());

@@ -51,15 +51,15 @@ class textoutput {
     void write(std::string_view text) { unwritten += text; }
 
     // Writes the text, complete or not at all, and frees the channel. Fails with file access error if it cannot be
-    // written; the file then has its old length, and a file that did not exist before is deleted. The object must not
-    // be used after it.
+    // written: the file then has its old length if possible, and a file that did not exist before is deleted. If the
+    // closing fails, the text may be in the file, and the report says so. The object must not be used after it.
     void close();
 
     const std::string path;
+    bool created;  // by the constructor
 
   private:
     int handle;
-    bool created;  // by the constructor
     std::string unwritten;
 };
 
@@ -79,7 +79,7 @@ void resetchannels();
 // Deletes a file; fails with file not found or file access error.
 void deletefile(std::string_view path);
 
-// The bare names of the visible files of a folder, sorted; fails with file not found where there is no such folder.
+// The bare names of the files of a folder, sorted; fails with file not found where there is no such folder.
 std::vector<std::string> filesin(std::string_view folder);
 
 }  // namespace tessaly

@@ -98,14 +98,19 @@ std::string value::text() const {
 
 double value::converted() const {
     const pooled& held = pool()[form];
+    std::string pointed = held.text;
+    std::replace(pointed.begin(), pointed.end(), ',', '.');
     try {
         if (const auto number = strictnumber(held.text)) return *number;
-    } catch (failure& beyond) {
-        beyond.addlocation(held.origin);
+        if (strictnumber(pointed))
+            throw failure(failurekind::typemismatch, held.text + " is not a number", {},
+                          "type " + pointed + " (with a point)");
+        throw failure(failurekind::typemismatch,
+                      held.text.empty() ? "this is empty" : '"' + excerpt(held.text) + "\" is not a number");
+    } catch (failure& f) {
+        f.addlocation(held.origin);
         throw;
     }
-    const std::string found = held.text.empty() ? "nothing" : '"' + excerpt(held.text) + '"';
-    throw failure(failurekind::typemismatch, found + " where a number was expected", held.origin);
 }
 
 std::optional<double> strictnumber(std::string_view text) {
@@ -154,16 +159,18 @@ std::string plaintext(double number) {
     return written.ec == std::errc() ? std::string(digits, written.ptr) : shortesttext(number);
 }
 
-std::string excerpt(std::string_view text, std::size_t most) {
-    const auto begins = [](char c) { return !continuescharacter(c); };
-    const auto characters = static_cast<std::size_t>(std::count_if(text.begin(), text.end(), begins));
-    if (characters <= most) return std::string(text);
-    std::size_t end = 0;
-    for (std::size_t begun = 0; end < text.size() && (begun += begins(text[end])) <= most;) ++end;
-    return std::string(text.substr(0, end)) + "... (" + std::to_string(characters) + " characters)";
+std::string plaindigits(double number) {
+    const std::string text = generaltext(number);
+    const std::size_t power = text.find("E-");
+    if (power == std::string::npos) return text;
+    std::string digits = text.substr(0, power);
+    const bool negative = digits.front() == '-';
+    std::erase_if(digits, [](char c) { return c == '.' || c == '-'; });
+    const auto zeros = static_cast<std::size_t>(std::stoi(text.substr(power + 2)) - 1);
+    return (negative ? "-0." : "0.") + std::string(zeros, '0') + digits;
 }
 
-std::string boxtext(const value& v, std::size_t n) { return (v.istext() ? generaltext(v) : v.text()).substr(0, n); }
+std::string boxtext(const value& v, std::size_t n) { return (v.empty() ? "" : plaindigits(v)).substr(0, n); }
 
 double nearestwhole(double number) { return std::nearbyint(number); }
 

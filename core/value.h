@@ -63,11 +63,11 @@ std::string shortesttext(double number);
 // A number as reports tell it: the digits that a file would have.
 std::string plaintext(double number);
 
-// A text as reports quote it: of a long one the front, and how many characters it has.
-std::string excerpt(std::string_view text, std::size_t most = 60);
+// A number's general text, but without an exponent if it is near zero: "-0.00003087".
+std::string plaindigits(double number);
 
-// The general text of v's number cut to its first n characters, as the boxes show figures; it cuts, it never rounds. A
-// figure that is still the text that was typed or read ("1234.") shows as its number does ("1234"); fails with type
+// The plain digits of v's number cut to the first n characters, as the boxes show numbers; it cuts, it never rounds. A
+// number that is still the text that was typed or read ("1234.") shows as its number does ("1234"); fails with type
 // mismatch where it is none. Without n: the whole text.
 std::string boxtext(const value& v, std::size_t n = std::string::npos);
 

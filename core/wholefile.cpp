@@ -77,14 +77,13 @@ void replacefile(std::string_view path, std::string_view bytes, const char* what
     const fs::path file = replacedfile(path, error);
     const fs::file_status old = fs::status(file, ignored);
     if (fs::exists(old) && !fs::is_regular_file(old))  // opening a pipe could block
-        throw failure(failurekind::fileaccess, "this is no regular file", std::string(path));
+        throw failure(failurekind::fileaccess, "this is not a regular file", shortpath(path));
     if (!error && fs::exists(old)) error = errorofopening(file);
     if (!error) error = writeaside(file, bytes);
     if (fs::exists(old) && refusesnames(error)) error = writeandclose(openforwriting(file, 0), bytes);
     if (!error) return;
     throw failure(failurekind::fileaccess,
-                  std::string("the ") + what + " could not be written completely: " + error.message(),
-                  std::string(path));
+                  std::string("the ") + what + " could not be written completely: " + error.message(), shortpath(path));
 }
 
 }  // namespace tessaly

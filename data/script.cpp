@@ -9,7 +9,7 @@
 #include "core/world.h"
 #include "data/pointtransforms.h"
 
-#include <algorithm>
+#include <cmath>
 #include <string>
 #include <string_view>
 
@@ -66,15 +66,26 @@ void translatesteps(const value* row, int step) {
 void translate(const value* row) { translatesteps(row, 1); }
 void step10translate(const value* row) { translatesteps(row, 10); }
 
+// The angle added up once a pass of a wrap that moves no points; beyond ten million passes the product.
+double summed(double angle, double copies) {
+    constexpr double maxpasses = 1e7;
+    if (copies > maxpasses) return angle * std::floor(copies);
+    double sum = 0;
+    for (int k = 1; k <= copies; ++k) sum += angle;
+    return sum;
+}
+
 // A wrap: copies passes over a run of points, ten indexes further on each, with an angle and a rise that grow; the rise
 // along the axis in pass k is (base + k) k rise. axis tells which of dx, dy, dz the rise is.
 void wrap(const value* row, value& running, turn about, int axis) {
     const double first = row[0], last = row[1], angle = radians(row[2]), copies = row[3], base = row[4], rise = row[5];
-    // A run of points leaves the tables after so many passes, which fails; an empty one only turns the angle.
-    const double passes = first > last ? std::min<double>(copies, lastpoint / 10) : copies;
-    double factor = base, risen = 0;
     running = 0;
-    for (int k = 1; k <= passes; ++k) {
+    if (first > last) {
+        running = summed(angle, copies);
+        return;
+    }
+    double factor = base, risen = 0;
+    for (int k = 1; k <= copies; ++k) {  // after a thousand passes the run of points has left the tables, which fails
         risen += rise;
         running = running + angle;
         factor += 1;

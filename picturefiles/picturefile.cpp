@@ -73,7 +73,7 @@ void writepng(const raster& image, const std::string& path) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     if (!viewof(image).save(&buffer, "png"))
-        throw failure(failurekind::fileaccess, "the picture could not be made a PNG", path);
+        throw failure(failurekind::fileaccess, "the picture could not be made a PNG", shortpath(path));
     replacefile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())}, "picture");
 }
 
@@ -132,7 +132,7 @@ void usepicturefiles() {
 void savepicture(const raster& image, const std::string& path) {
     if (endswithnocase(path, ".png")) return writepng(image, path);
     if (endswithnocase(path, ".bmp")) return writebitmap(image.picture(), path);
-    throw failure(failurekind::fileaccess, "a name that ends in .png or .bmp was expected", path);
+    throw failure(failurekind::fileaccess, "a name that ends in .png or .bmp was expected", shortpath(path));
 }
 
 }  // namespace tessaly

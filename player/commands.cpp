@@ -116,7 +116,7 @@ void picture(scriptline& line) {
     try {
         savepicture(playedsurface.image, path);
     } catch (const failure& f) {
-        throw scripterror(f.report());  // the player's own file: nothing of the program failed
+        throw scripterror(f.what());  // the player's own file: nothing of the program failed
     }
 }
 
@@ -274,7 +274,7 @@ void playline(std::string_view text, std::string_view recorded) {
     try {
         known->run(line);
     } catch (const failure& f) {
-        expectwritten(recordfailure(recorded, f.report()));
+        expectwritten(recordfailure(recorded, f.what()));
         throw;
     }
     if (known->record != nullptr) expectwritten(known->record(recorded));

@@ -44,14 +44,15 @@ int play(std::istream& script, const std::string& name) {
         startprogram();
         playscript(script, number);
         return 0;
-    } catch (const failure& f) {
-        std::fflush(stdout);
-        std::fprintf(stderr, "failure %s\n", f.report().c_str());
-        return programfailed;
     } catch (const scripterror& error) {
         std::fflush(stdout);
         std::fprintf(stderr, "%s, line %d: %s\n", name.c_str(), number, error.what());
         return scriptfailed;
+    } catch (...) {
+        const std::string report = reportof([] { throw; });
+        std::fflush(stdout);
+        std::fprintf(stderr, "failure %s\n", report.c_str());
+        return programfailed;
     }
 }
 

@@ -60,12 +60,13 @@ bitmap readbitmap(const std::string& path) {
     const auto number = [&](std::size_t at, int count) { return numberat(bytes, at, count); };
     if (bytes.size() < headbytes || !bytes.starts_with("BM") || number(infoat, 4) != infobytes ||
         number(depthat, 2) != 8 * pixelbytes || number(packedat, 4) != 0)
-        throw failure(failurekind::invalidcall, "a bitmap of 24 bits per pixel was expected", path + " (picture)");
+        throw failure(failurekind::invalidcall, "a bitmap of 24 bits per pixel was expected",
+                      shortpath(path) + " (picture)");
     const std::size_t width = number(widthat, 4), height = number(heightat, 4), start = number(startat, 4);
     // Dividing, because a product may overflow on 32 bits.
     if (std::max(width, height) > maxside || start > bytes.size() ||
         (height > 0 && rowbytes(width) > (bytes.size() - start) / height))
-        throw failure(failurekind::invalidcall, "the file is not complete", path + " (picture)");
+        throw failure(failurekind::invalidcall, "the file is not complete", shortpath(path) + " (picture)");
     bitmap picture{static_cast<int>(width), static_cast<int>(height), std::vector<std::uint32_t>(width * height)};
     for (std::size_t y = 0; y < height; ++y)
         for (std::size_t x = 0; x < width; ++x)

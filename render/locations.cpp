@@ -22,7 +22,7 @@ bool holdscubes() {
     return name.starts_with("datah\\ax") || name.starts_with("datah\\ay") || name.starts_with("datah\\az");
 }
 
-std::string insection(const std::string& section) { return shapefile.text() + ", " + section; }
+std::string insection(const std::string& section) { return shortpath(shapefile.text()) + ", " + section; }
 
 std::string inrow(const std::string& section, int row, int number) {
     return numberin(insection(section) + ", row " + std::to_string(row), number);

@@ -15,7 +15,10 @@ struct facecorners {
 
 class surface {
   public:
+    surface() = default;
     virtual ~surface() = default;
+    surface(const surface&) = delete;
+    surface& operator=(const surface&) = delete;
 
     // Draws a straight line, 1 pixel wide, opaque, both ends included.
     virtual void line(float x1, float y1, float x2, float y2, colour c) = 0;

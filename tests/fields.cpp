@@ -85,8 +85,9 @@ TEST(fields, keysAreFoundByWholeFields) {
     textinput& in = openinput(1, "f.txt", "test");
     findkey(in, "KEY:");
     EXPECT_EQ(readvalue(in, "it"), 1);
-    EXPECT_EQ(failureof([&] { findkey(in, "OTHER:"); })->report(),
-              "input past end of file: f.txt, line 5, field 1: the file ends while looking for OTHER:");
+    EXPECT_EQ(std::string(failureof([&] { findkey(in, "OTHER:"); })->what()),
+              "f.txt: the key OTHER: is missing from line 3 on: complete the file, or put the shipped one back "
+              "(input past end of file)");
 }
 
 // What is open or not there; a pipe, which may never answer; a device, which may never end; a file that is too large to
@@ -106,8 +107,8 @@ TEST(channels, refuseWhatTheyCannotOpen) {
     } cases[] = {
         {2, "datah\\st-post.txt", failurekind::filealreadyopen, "datah\\st-beam.txt"},
         {1, "none\\x.txt", failurekind::filenotfound, "none\\x.txt"},
-        {1, "designs\\pipe", failurekind::fileaccess, "no regular file"},
-        {1, "designs\\endless", failurekind::fileaccess, "no regular file"},
+        {1, "designs\\pipe", failurekind::fileaccess, "not a regular file"},
+        {1, "designs\\endless", failurekind::fileaccess, "not a regular file"},
     };
     for (const auto& c : cases) {
         expectfailure(failureof([&] { openinput(c.channel, c.path, "test"); }), c.kind, c.told);
@@ -119,10 +120,11 @@ TEST(channels, refuseWhatTheyCannotOpen) {
     expectfailure(failureof([] { writebitmap(bitmap(), "designs\\pipe"); }), failurekind::fileaccess, "pipe");
 }
 
-TEST(channels, fileListsHoldVisibleFilesOnly) {
+TEST(channels, fileListsHoldAllButFoldersAndUnfinishedCaptures) {
     session s(ownfolder);
-    for (const char* name : {"designs/b.txt", "designs/a.txt", "designs/.gitkeep"}) session::write(name, "");
+    for (const char* name : {"designs/b.txt", "designs/a.txt", "designs/.bmp", "designs/.unfinished"})
+        session::write(name, "");
     std::filesystem::create_directory("designs/folder");
-    EXPECT_EQ(filesin("designs\\"), (std::vector<std::string>{"a.txt", "b.txt"}));
+    EXPECT_EQ(filesin("designs\\"), (std::vector<std::string>{".bmp", "a.txt", "b.txt"}));
     EXPECT_EQ(failureof([] { filesin("gone\\"); })->kind, failurekind::filenotfound);
 }

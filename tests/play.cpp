@@ -41,7 +41,7 @@ TEST(play, endsWithItsStatusAndTellsWhatWasWrong) {
         {"close startform\nnonsense", 0, ""},
         {start + "close vistaplan\nnonsense", 0, ""},
         {start + "click screencapbtn\ntype capbox \"abc\"\nsay named\nclick screencapenter\nsay never", 1,
-         "failure invalid call: ", "named\n"},
+         "failure \"abc\" as a file name in bmps", "named\n"},
         {"", 2, "the script none.play cannot be read", "", "none.play"},
         {"", 2, "datah, line 0: the script cannot be read", "", "datah"},
         {"", 2, "usage: play SCRIPT", "", ""},
@@ -65,7 +65,7 @@ TEST(play, endsWithItsStatusAndTellsWhatWasWrong) {
         {start + "close mainwindow", 2, "s.play, line 2: there is no window mainwindow"},
         {start + "show all", 2, "s.play, line 2: nothing more was expected"},
         {start + "picture", 2, "s.play, line 2: a file name was expected"},
-        {start + "picture none/view.png", 2, "s.play, line 2: file access error: none/view.png"},
+        {start + "picture none/view.png", 2, "s.play, line 2: none/view.png"},
         {start + "lines none/x", 2, "s.play, line 2: the file none/x cannot be written"},
     };
     session s;

@@ -83,12 +83,65 @@ TEST(readers, cubesThatNoGroupShows) {
                   "AUTOFRAMING1:, face 1: framing");
 }
 
-// No folder of designs or bitmaps: the load of the main window fails before anything is drawn.
-TEST(readers, foldersMustExist) {
-    for (const char* folder : {"designs", "bmps"}) {
+// A record that cannot be drawn is found in the user's own file, although a replay reads it from a temporary copy.
+TEST(readers, reportsOfRecordsNameTheDesignFile) {
+    const std::string post = "\"girder\",1,8,8,41,90,0,0,16,4,64\r\n";
+    const struct {
+        const char *bad, *button, *firstlist, *secondlist, *report;
+    } cases[] = {
+        {"\"girder\",2,8,8,41,90,0,far,16,4,64", "autosolidsingle", "autofile5", "",
+         "designs\\girders1.txt, line 2, field 8"},
+        {"\"girder\",2,8,8,41,90,0,far,16,4,64", "autosolidbtn", "autofile3", "autofile4",
+         "designs\\girders1.txt, line 2, field 8"},
+        {"\"girder\",2,8,8,41,90,0,0,\"low\",4,64", "autowirebtn", "autofile1", "autofile2",
+         "designs\\girders1.txt, line 2, field 9"},
+        {"\"girder\",2,8,8,99,90,0,0,16,4,64", "autosolidsingle", "autofile5", "",
+         "designs\\girders1.txt, line 1, field 5: 99 is not the code of a girder (41, 42, 43)"},
+        {"\"panel\",2,8,8,\"19\",90,0,0,16,4,64", "autowirebtn", "autofile1", "autofile2",
+         "line 1, field 5: \"19\" is not the code of a panel"},
+        {"\"tower\",2,8,8,41,90,0,0,16,4,64", "autosolidbtn", "autofile3", "autofile4",
+         "line 1, field 1: \"tower\" is not a kind of element"},
+    };
+    for (const auto& c : cases) {
+        const bool unknown = std::string(c.report).find("is not") != std::string::npos;
         session s;
-        std::filesystem::remove(folder);
-        expectfailure(failureof([&] { s.start(); }), failurekind::filenotfound, "is no working folder: ./run.sh");
+        session::write("designs/girders1.txt", (unknown ? "" : post) + c.bad + "\r\n");
+        session::write("designs/panels1.txt", "");
+        s.start();
+        s.click(c.button);
+        const auto pick = [&] {
+            s.pick(c.firstlist, "girders1.txt");
+            if (*c.secondlist) s.pick(c.secondlist, "panels1.txt");
+        };
+        expectfailure(failureof(pick), unknown ? failurekind::invalidcall : failurekind::typemismatch, c.report);
+    }
+}
+
+// A start in a wrong or damaged folder: the load of the main window fails with a report before anything is drawn.
+TEST(readers, foldersMustExist) {
+    namespace fs = std::filesystem;
+    const struct {
+        void (*damage)();
+        failurekind kind;
+        const char* report;
+    } cases[] = {
+        {[] { fs::remove("designs"); }, failurekind::filenotfound, "the folder designs is missing: make it"},
+        {[] { fs::remove("bmps"); }, failurekind::filenotfound, "the folder bmps is missing: make it"},
+        {[] {
+             fs::remove("designs");
+             fs::create_symlink("designs", "designs");
+         },
+         failurekind::fileaccess, "designs\\ (folder)"},
+        {[] {
+             for (const char* folder : {"designs", "datah"}) fs::remove_all(folder);
+         },
+         failurekind::filenotfound, "is no working folder: ./run.sh"},
+        {[] { fs::remove_all(fs::current_path()); }, failurekind::filenotfound, "the working folder was deleted"},
+    };
+    for (const auto& c : cases) {
+        session s;
+        c.damage();
+        expectfailure(failureof([&] { s.start(); }), c.kind, c.report);
         EXPECT_TRUE(s.lines().empty());
     }
 }

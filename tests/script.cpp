@@ -77,6 +77,9 @@ TEST(transforms, leaveAnglesAndOffsetsBehind) {
         block("XWRAP:", "1,1,90,0,0,0"));
     EXPECT_EQ(rotz, 180 * 3.14159 / 180);
     EXPECT_EQ(rotx, 0);  // a wrap of no copies has reset its running angle
+    run(block("ZWRAP:", "2,1,180,2000,0,0") + block("XWRAP:", "2,1,180,1e300,0,0"));  // no points, but the angles
+    EXPECT_NEAR(rotz, 2000 * 3.14159, 1e-6);
+    EXPECT_EQ(rotx, 180 * 3.14159 / 180 * 1e300);
     EXPECT_TRUE(placex == 4 && placey == 5 && placez == 6);
 }
 

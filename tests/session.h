@@ -94,8 +94,8 @@ std::optional<failure> failureof(procedure run) {
 
 inline void expectfailure(const std::optional<failure>& f, failurekind kind, const std::string& told) {
     ASSERT_TRUE(f) << told;
-    EXPECT_EQ(f->kind, kind) << f->report();
-    EXPECT_NE(f->report().find(told), std::string::npos) << f->report() << "\nwhere expected: " << told;
+    EXPECT_EQ(f->kind, kind) << f->what();
+    EXPECT_NE(std::string(f->what()).find(told), std::string::npos) << f->what() << "\nwhere expected: " << told;
 }
 
 // A text with its first occurrence of something put otherwise; that it is there is the test's affair.

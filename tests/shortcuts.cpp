@@ -113,7 +113,7 @@ TEST(shortcuts, elementsLeaveTheSameTablesAndPixels) {
             for (int step = 0; step < 24; ++step) {
                 const auto f = failureof([&] { drawsome(d); });
                 if (f) resetchannels();
-                seen[plain].push_back(statesums(image) + (f ? f->report() : ""));
+                seen[plain].push_back(statesums(image) + (f ? f->what() : ""));
             }
         }
         for (std::size_t step = 0; step < seen[0].size(); ++step)

@@ -54,7 +54,12 @@ TEST_F(windowsession, endsWithStatus0WhereTheUserWishesAndWith1AfterAReport) {
     std::filesystem::remove("datah/st-post.txt");
     QTimer::singleShot(0, [] { click(*findcontrol("postx0y16")); });
     EXPECT_EQ(QApplication::exec(), 1);
-    EXPECT_NE(report.find("st-post.txt"), std::string::npos) << report;
+    EXPECT_EQ(report.find("datah\\st-post.txt"), 0) << report;
+    start();
+    fillscreen.run = [] { throw std::runtime_error("an odd exception"); };
+    QTimer::singleShot(0, [] { click(fillscreen); });
+    EXPECT_EQ(QApplication::exec(), 1);
+    EXPECT_EQ(report, "an odd exception");
 }
 
 }  // namespace tessaly

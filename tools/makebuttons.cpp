@@ -9,13 +9,13 @@
 #include "picturefiles/picturefile.h"
 #include "render/projector.h"
 #include "render/raster.h"
+#include "tools/generator.h"
 #include "windows/handlers.h"
 
 #include <QImage>
 
 #include <algorithm>
 #include <cstdio>
-#include <exception>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -149,7 +149,7 @@ QImage made(const picture& p, int density) {
     return result;
 }
 
-void makeall(const std::string& folder) {
+void makeall(const std::filesystem::path& folder) {
     raster image(viewportwidth, viewportheight), progress(progresswidth, progressheight);
     viewportsurface = &image;
     progresssurface = &progress;
@@ -158,7 +158,7 @@ void makeall(const std::string& folder) {
     writefilebox.text = "off";
     for (const picture& p : pictures())
         for (const auto& [density, ending] : {std::pair{1, ".png"}, std::pair{2, "@2x.png"}})
-            if (!made(p, density).save(QString::fromStdString(folder + "/" + p.button + ending))) std::exit(1);
+            saveimage(made(p, density), folder / (p.button + std::string(ending)));
 }
 
 }  // namespace
@@ -170,13 +170,9 @@ int main(int argc, char** argv) {
         std::fputs("usage: makebuttons WORKINGFOLDER FOLDER\n", stderr);
         return 2;
     }
-    try {
-        const std::string folder = std::filesystem::absolute(argv[2]).string();
+    return tessaly::generate("makebuttons", [argv] {
+        const std::filesystem::path folder = std::filesystem::absolute(argv[2]);
         std::filesystem::current_path(argv[1]);
         tessaly::makeall(folder);
-    } catch (const std::exception& failed) {
-        std::fprintf(stderr, "makebuttons: %s\n", failed.what());
-        return 1;
-    }
-    return 0;
+    });
 }

@@ -4,6 +4,7 @@
 
 #include "building/layouts.h"
 #include "core/controls.h"
+#include "tools/generator.h"
 #include "tools/picturedescription.h"
 
 #include <QGuiApplication>
@@ -135,7 +136,7 @@ std::string descriptionof(const sheet& of) {
     return words;
 }
 
-void drawsheet(const sheet& of, const QString& folder) {
+void drawsheet(const sheet& of, const std::filesystem::path& folder) {
     QImage image(sheetwidth, sheetheight, QImage::Format_RGB32);
     image.setDotsPerMeterX(dotspermetre);
     image.setDotsPerMeterY(dotspermetre);
@@ -152,7 +153,7 @@ void drawsheet(const sheet& of, const QString& folder) {
     drawlegend(p, *of.of);
     p.end();
     setdescription(image, descriptionof(of));
-    if (!image.save(folder + "/" + of.file)) std::exit(1);
+    saveimage(image, folder / of.file);
 }
 
 }  // namespace
@@ -176,6 +177,7 @@ int main(int argc, char** argv) {
         {&tessaly::layoutroof, "roofs.png", "Tessaly: roofs of a floor",
          "the first number of a line in designs\\roofs1.txt .. roofs10.txt"},
     };
-    for (const tessaly::sheet& of : sheets) tessaly::drawsheet(of, argv[1]);
-    return 0;
+    return tessaly::generate("makemaps", [&] {
+        for (const tessaly::sheet& of : sheets) tessaly::drawsheet(of, argv[1]);
+    });
 }

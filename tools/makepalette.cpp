@@ -1,8 +1,9 @@
 // Generates a palette from an editable list: any text, then one line per colour, "entry red green blue name".
 // makepalette LIST FOLDER writes FOLDER/<name of the list>.pal with eight bytes per entry. The entries of the list must
 // be numbered 1, 2, 3 and so on.
+#include "tools/generator.h"
+
 #include <cstdio>
-#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -48,11 +49,5 @@ int main(int argc, char** argv) {
         std::fputs("usage: makepalette LIST FOLDER\n", stderr);
         return 2;
     }
-    try {
-        make(argv[1], argv[2]);
-    } catch (const std::exception& failed) {
-        std::fprintf(stderr, "makepalette: %s\n", failed.what());
-        return 1;
-    }
-    return 0;
+    return tessaly::generate("makepalette", [argv] { make(argv[1], argv[2]); });
 }

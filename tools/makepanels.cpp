@@ -3,11 +3,11 @@
 // at the left to 208 at the right, Z from 0 to 128, in model units. The tiles touch and do not overlap, so their
 // drawing order does not matter. The outer 16 units at each end are one vertical strip: neighbouring panels overlap
 // there, at the post. makepanels FOLDER writes the 32 files st-panels-<type>-<ends>.txt.
+#include "tools/generator.h"
 #include "tools/shape.h"
 
 #include <algorithm>
 #include <cstdio>
-#include <exception>
 #include <fstream>
 #include <utility>
 
@@ -278,11 +278,5 @@ int main(int argc, char** argv) {
         std::fputs("usage: makepanels FOLDER\n", stderr);
         return 2;
     }
-    try {
-        tessaly::makeall(argv[1]);
-    } catch (const std::exception& failed) {
-        std::fprintf(stderr, "makepanels: %s: %s\n", argv[1], failed.what());
-        return 1;
-    }
-    return 0;
+    return tessaly::generate("makepanels", [argv] { tessaly::makeall(argv[1]); });
 }

@@ -6,6 +6,7 @@
 #include "core/controls.h"
 #include "core/world.h"
 #include "picturefiles/picturefile.h"
+#include "tools/generator.h"
 #include "tools/picturedescription.h"
 #include "tools/workingfolder.h"
 #include "windows/qt/binding.h"
@@ -19,7 +20,6 @@
 #include <algorithm>
 #include <clocale>
 #include <cstdio>
-#include <exception>
 #include <filesystem>
 #include <fstream>
 #include <initializer_list>
@@ -114,7 +114,7 @@ QImage markedplan(const window& w, const fs::path& guide) {
 // Saves a picture of a region of a window.
 void save(QImage image, const window& w, const twips& region, const fs::path& folder, const char* name) {
     setdescription(image, descriptionof(w, region));
-    if (!image.save(QString::fromStdString((folder / (std::string(name) + ".png")).string()))) std::exit(1);
+    saveimage(image, folder / (std::string(name) + ".png"));
 }
 
 void savewindow(const window& w, const fs::path& folder, const char* name) {
@@ -218,15 +218,11 @@ int main(int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     tessaly::setlook(app);
     tessaly::usepicturefiles();
-    try {
+    return tessaly::generate("makewindowpictures", [argv] {
         const fs::path help = fs::absolute(argv[2]), documents = fs::absolute(argv[3]);
         const fs::path root = fs::absolute(argv[1]);
         const tessaly::workingfolder scratch(root);
         tessaly::copysamples(root / "samples", "designs");
         tessaly::makeall(root / "docs" / "guide.play", help, documents);
-    } catch (const std::exception& failed) {
-        std::fprintf(stderr, "makewindowpictures: %s\n", failed.what());
-        return 1;
-    }
-    return 0;
+    });
 }

@@ -31,6 +31,7 @@ class workingfolder {
         std::filesystem::remove_all(path, ignored);
     }
     workingfolder(const workingfolder&) = delete;
+    workingfolder& operator=(const workingfolder&) = delete;
 
   private:
     std::filesystem::path camefrom = std::filesystem::current_path(), path;

@@ -49,10 +49,10 @@ void stepmag(int sign, double by) {
     writebox(magtxt, boxtext(magshown, 6));
 }
 
-// What five characters hold of a shift: what stands behind them is lost, whatever it is. Where they end within an
-// exponent, the digits in front of it count; a shift that does not begin as a number fails.
+// The number in the first five characters of a shift's text: the rest is lost. If they end within the exponent of a
+// large number, the digits before it count; a shift that does not begin as a number fails.
 double frontof(const value& shift) {
-    const std::string front = shift.text().substr(0, 5);
+    const std::string front = (shift.isnumber() ? plaindigits(shift) : shift.text()).substr(0, 5);
     if (!strictnumber(front)) static_cast<void>(static_cast<double>(shift));
     return Val(front);
 }

@@ -47,10 +47,13 @@ void readfolders() {
     startdisplay();
 }
 
-bool inworkingfolder() {
-    for (const char* folder : {"designs", "bmps", "datah"})
-        if (!std::filesystem::is_directory(folder)) return false;
-    return true;
+// Why the program cannot run where it was started; "" if it can.
+std::string misplaced() {
+    std::error_code failed;
+    if (std::filesystem::is_directory("datah", failed)) return {};
+    const std::string here = std::filesystem::current_path(failed).string();
+    return (failed ? "the working folder was deleted" : here + " is no working folder") +
+           ": ./run.sh where the sources are, or the installed command tessaly, starts the program in one";
 }
 
 // Load of the main window, which is visible only once this has returned.
@@ -59,12 +62,9 @@ void loadvistaplan() {
     filllists();
     try {
         readfolders();
-    } catch (failure& f) {
-        if (!inworkingfolder())
-            f.detail += "; " + std::filesystem::current_path().string() +
-                        " is no working folder: ./run.sh where the sources are, or the installed command tessaly, "
-                        "starts the program in one";
-        throw;
+    } catch (const failure& f) {
+        const std::string why = misplaced();
+        throw failure(f.kind, f.detail, f.location, why.empty() ? f.remedy : why);
     }
 }
 

@@ -174,17 +174,15 @@ void endprogram(int status) {
     QCoreApplication::exit(status);
 }
 
-void reportfailure(const failure& f) {
-    ending = true;  // behind the message nothing moves on
-    std::fprintf(stderr, "failure %s\n", f.report().c_str());
+void showreport(const std::string& report) {
+    ending = true;  // no event runs while the message is shown
+    std::fprintf(stderr, "failure %s\n", report.c_str());
     std::fflush(stderr);
-    const QString kind = QString::fromUtf8(kindname(f.kind).data());
-    QMessageBox box(QMessageBox::Critical, "Tessaly",
-                    "Tessaly has met a failure and ends: " + kind + ".\n\n" + QString::fromStdString(f.message()),
-                    QMessageBox::Ok, QApplication::activeWindow());
+    QMessageBox box(QMessageBox::Critical, "Tessaly", QString::fromStdString(report), QMessageBox::Ok,
+                    QApplication::activeWindow());
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    box.setInformativeText("Everything recorded in the design files is kept.");
+    box.setInformativeText("Tessaly ends now. Everything recorded is safe in the design files.");
     box.exec();
     endprogram(1);
 }
@@ -214,14 +212,12 @@ void dropwindows() {
 void runevent(const std::function<void()>& procedure) {
     if (running || ending) return;
     running = true;
-    try {
+    const std::string failed = reportof([&procedure] {
         carrytostate();
         procedure();
-        carrytowidgets();
-    } catch (const failure& f) {
-        carrytowidgets();  // what the event had done before it failed stands behind the message
-        reportfailure(f);
-    }
+    });
+    const std::string unshown = reportof(carrytowidgets);  // what the event did before it failed is shown, too
+    if (!failed.empty() || !unshown.empty()) showreport(failed.empty() ? unshown : failed);
     running = false;
     if (programended && !ending) endprogram(0);
 }
