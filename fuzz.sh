@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the fuzzed program under the sanitizers and feeds it inputs: ./fuzz.sh TARGET SECONDS
-# The targets are the play files of fuzz/. A run begins with the shipped files of its kind and with fuzz/seeds/TARGET, and
-# goes on from what the runs before it have gathered in build-fuzz/gathered/TARGET. A finding ends it and is left in
-# build-fuzz as crash-.., timeout-.. or oom-..; once it is mended it goes to the seeds. What follows goes to libFuzzer.
+# Installs missing packages, builds the fuzzed program with the sanitizers and runs it on inputs: ./fuzz.sh TARGET SECONDS
+# The targets are the play files of fuzz/. A run starts with the shipped files of its kind, fuzz/seeds/TARGET and the
+# inputs that earlier runs collected in build-fuzz/gathered/TARGET. It ends at the first finding and saves it in
+# build-fuzz as crash-.., timeout-.. or oom-..; when the fault is fixed, the file belongs in the seeds. Further arguments
+# are passed to libFuzzer.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh
@@ -15,7 +16,7 @@ palette) shipped=(pals/*.pal) ;;
 start) shipped=(datah/start.txt) ;;
 designs) shipped=(samples/*.txt) ;;
 player) shipped=(docs/*.play tools/*.play) ;;
-*) shipped=() ;; # their seeds are made by hand
+*) shipped=() ;; # only seeds made by hand
 esac
 
 wantpackages "${fuzzpackages[@]}"
@@ -29,7 +30,7 @@ mkdir -p "$gathered" "$TMPDIR/seeds"
 for seed in "${shipped[@]}" fuzz/seeds/"$target"/*; do
     [ ! -e "$seed" ] || cp "$seed" "$TMPDIR/seeds/"
 done
-# What was freed is kept from being given out again for 10 MB only, so that an input that takes 512 MB shows.
+# A small quarantine of freed memory, so that an input that takes 512 MB is noticed.
 export ASAN_OPTIONS=quarantine_size_mb=10 TESSALY_FUZZ=$PWD/fuzz/$target.play
 "$PWD/build-fuzz/fuzz" -max_total_time="$seconds" -timeout=60 -rss_limit_mb=512 -malloc_limit_mb=512 \
     -dict="$PWD/fuzz/keywords.txt" -artifact_prefix="$PWD/build-fuzz/" -close_fd_mask=1 -print_final_stats=1 \

@@ -1,11 +1,11 @@
-// Feeds the program inputs that nobody would write. What is done with an input is told by a play file of this folder,
-// which the environment names: its paragraphs are ways, and the input's length chooses one. A way is played, and
-//   # input FILE     makes the input this file
-//   # script FILE    makes it the script of this element file, behind the sections that stand there
-//   # typed          types its lines into the boxes; each byte of the next one presses or picks what is in reach
-//   # played         plays its lines, until one is nothing that a user could do
-// A failure is the right answer to any input; whatever else ends a way (a crash, a sanitizer's report, another
-// exception, two seconds of work) is a finding.
+// Runs the program on inputs that nobody would write. A play file of this folder, named by the environment, defines the
+// target: each of its paragraphs is one way to use an input, and the input's length selects one. Its lines are played;
+//   # input FILE     writes the input to this file
+//   # script FILE    appends the input, as the script of this element file, to its sections
+//   # typed          types the input's lines into the boxes; each byte of the next line clicks a button or picks an
+//   entry # played         plays the input's lines until one asks for something that no user could do
+// Every input may end in a failure. Anything else is a finding: a crash, a sanitizer's report, another exception, or
+// more than two seconds of work.
 
 #include "core/controls.h"
 #include "core/failure.h"
@@ -28,8 +28,8 @@ namespace fs = std::filesystem;
 
 void write(const fs::path& path, const std::string& bytes) { std::ofstream(path, std::ios::binary) << bytes; }
 
-// What the process's own working folder holds before each input. The elements have one face, and the scene has only its
-// axes: how they look is the input's affair, and a start is short work.
+// Returns the files of the working folder before each input. Elements have a single face and the scene only its axes,
+// so that a start takes little time.
 std::map<fs::path, std::string> filesatstart() {
     static const workingfolder folder(TESSALY_SOURCE_DIR);
     const std::string face = filebytes(TESSALY_SOURCE_DIR "/fuzz/face.txt", "element");
@@ -55,11 +55,12 @@ void startanew() {
     for (const auto& [path, bytes] : files) write(path, bytes);
     viewportsurface = &playedsurface;
     progresssurface = &playedstrip;
-    readpicture = [](const std::string&) { return bitmap(); };
+    playedsurface.image = raster(90, 58);  // a tenth of the program's sides: clearing that took half of the time
     startprogram();
 }
 
-// A name with this may lead out of the working folder, where nothing is the input's to touch.
+// Returns whether text, as part of a file name, could lead out of the working folder, where an input may change
+// nothing.
 bool leavesfolder(const std::string& text) { return text.find("..") != text.npos || text.find('/') != text.npos; }
 
 std::string nextline(std::istream& input) {
@@ -82,7 +83,7 @@ void act(std::size_t choice) {
 
 void typed(std::istream& input) {
     for (control* box : {&perptxtx, &perptxty, &perptxtz, &focustxtx, &focustxty, &focustxtz, &magtxt, &verttxt,
-                         &horiztxt, &floor, &writefilebox, &wiresolid, &panelsnipper, &capbox})
+                         &horiztxt, &tessaly::floor, &writefilebox, &wiresolid, &panelsnipper, &capbox})
         typetext(*box, nextline(input));
     for (const char choice : nextline(input))
         if (!programended) act(static_cast<unsigned char>(choice));
@@ -110,7 +111,7 @@ void play(const std::string& way, const std::string& input) {
     }
 }
 
-// The paragraphs of the play file.
+// Returns the paragraphs of the play file.
 std::vector<std::string> allways() {
     std::vector<std::string> ways(1);
     std::ifstream file(std::getenv("TESSALY_FUZZ"));
@@ -126,7 +127,7 @@ std::vector<std::string> allways() {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     static const std::vector<std::string> ways = allways();
-    // Work, not time by the clock on the wall, which a busy machine lets run on.
+    // Processor time: on a busy machine more time passes.
     constexpr std::clock_t maxwork = 2 * CLOCKS_PER_SEC;
     const std::clock_t before = std::clock();
     try {
