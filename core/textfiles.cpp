@@ -122,10 +122,11 @@ void textinput::close() {
 std::string filebytes(std::string_view path, const char* what) {
     const std::string name(path);
     const int handle = openregular(name, what, O_RDONLY);
-    const auto size = static_cast<std::size_t>(::lseek(handle, 0, SEEK_END));
+    struct stat s {};
+    int error = ::fstat(handle, &s) == 0 ? 0 : errno;
+    const auto size = static_cast<std::size_t>(s.st_size);
     std::string bytes;
-    ::lseek(handle, 0, SEEK_SET);
-    const int error = size > maxbytes ? 0 : readwhole(handle, bytes);
+    if (error == 0 && size <= maxbytes) error = readwhole(handle, bytes);
     ::close(handle);
     if (error != 0) systemfailure(name, what, error);
     const std::size_t found = std::max(size, bytes.size());
@@ -153,7 +154,9 @@ textoutput::textoutput(std::string_view filepath, const char* what) : path(filep
     constexpr int flags = O_WRONLY | O_APPEND | O_CREAT;
     handle = ::open(systempath(path).c_str(), flags | O_EXCL | openflags, 0666);
     created = handle >= 0;
-    if (!created) handle = openregular(path, what, flags);
+    if (created) return;
+    if (errno != EEXIST) systemfailure(path, what, errno);  // a second try could create the file unnoticed
+    handle = openregular(path, what, flags);
 }
 
 textoutput::~textoutput() {

@@ -1,15 +1,9 @@
 // Captures in the real windows: the files that other programs open, and pictures that are not as they should be.
 
-#include "core/failure.h"
 #include "picturefiles/rasterview.h"
 #include "tests/windowsession.h"
 #include "windows/qt/canvas.h"
 
-#include <gmock/gmock.h>
-
-#include <csignal>
-
-#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace tessaly {
@@ -69,21 +63,6 @@ TEST_F(windowcaptures, otherPicturesAreSetAtTheUpperLeftAndBrokenOnesAreNot) {
     std::filesystem::remove("bmps/kept.bmp");
     ASSERT_EQ(::mkfifo("bmps/kept.bmp", 0666), 0);  // nobody will ever write to it
     expectnopicture(0);
-}
-
-// The picture that was there before stays whole where the new one cannot be written.
-TEST_F(windowcaptures, aFailedCaptureKeepsTheOldPicture) {
-    const std::string before = session::file("bmps/kept.bmp");
-    rlimit usual{};
-    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &usual), 0);
-    const rlimit full{1000, usual.rlim_max};  // bytes of a file
-    ::signal(SIGXFSZ, SIG_IGN);
-    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &full), 0);
-    EXPECT_THAT([] { savepicture(viewportimage(), "bmps/kept.bmp"); },
-                testing::ThrowsMessage<failure>(testing::HasSubstr("File too large")));
-    ::setrlimit(RLIMIT_FSIZE, &usual);
-    EXPECT_EQ(session::file("bmps/kept.bmp"), before);
-    EXPECT_EQ(std::distance(std::filesystem::directory_iterator("bmps"), {}), 2);  // the picture and its record
 }
 
 }  // namespace tessaly
