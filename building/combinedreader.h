@@ -11,8 +11,8 @@ void clickautowirebtn();   // shows autofile1, refreshed, with its prompt, the h
 void clickautosolidbtn();  // the same with autofile3
 
 // The first file, for wires and for solid: its records, at most 1000, go to tempfile; then the second list is shown.
-// writes: firstfilename, combinedcount, floorname, placez, placement, record tables; fails: file not found, file
-// already open, file access error, type mismatch (a name without class or floor).
+// writes: firstfilename, combinedcount, floorname, floornum, placez, placement, record tables; fails: file not found,
+// file already open, file access error, type mismatch (a name without class or floor).
 void pickautofile1();
 void pickautofile3();
 

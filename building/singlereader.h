@@ -9,10 +9,11 @@ namespace tessaly {
 void clickautowiresingle();   // shows autofile, refreshed, and the button that closes it
 void clickautosolidsingle();  // the same with autofile5
 
-// Replays the file picked in autofile as wires, at most 10000 records. The first failure ends it without a word, be it
-// the file's end or an element file's; an element file that broke while open stays open on channel 1. writes:
-// secondfilename, floorname, placez, the placement, the world tables; draws on viewport; fails: type mismatch (a name
-// without class or floor), file not found.
+// Replays the file picked in autofile as wires, at most 10000 records. The first failure after the file is open ends
+// the replay without a message, such as the end of the file or a failure in an element file; an element file that
+// failed while it was open stays open on channel 1. writes: secondfilename, floorname, floornum, placez, the placement,
+// the world tables; draws on viewport; fails: type mismatch (a name without class or floor), file not found, file
+// access error, file already open (channel 2).
 void pickautofile();
 
 // Replays the file picked in autofile5 solid, at most 1000 records, through tempfile. Only the reading of the file is

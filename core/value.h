@@ -47,11 +47,12 @@ static_assert(sizeof(value) <= 16);
 // Blanks may stand around a number and before a field.
 inline bool isblank(char c) { return c == ' ' || c == '\t'; }
 
-// A text that is a number as a whole: blanks around it, sign, digits with one point, exponent. Nothing for any
-// other text; fails with overflow where the number is beyond double precision.
+// Returns the number if text is nothing but one: blanks around it, sign, digits with one point, exponent. Returns
+// nothing for any other text. Fails with overflow if the number is too large for double precision.
 std::optional<double> strictnumber(std::string_view text);
 
-// The numeric value of a text by its leading digits (blanks before, sign, point, exponent); 0 when there are none.
+// Returns the number at the start of text (blanks before, sign, digits with one point, exponent), 0 if there is none. A
+// number too large for double precision becomes the largest one. Never fails.
 double Val(std::string_view text);
 
 // A number's general text: at most 15 significant digits, no leading blank, no separators.
@@ -60,7 +61,8 @@ std::string generaltext(double number);
 // A number's shortest text that reads back as the same number.
 std::string shortesttext(double number);
 
-// A number as reports tell it: the digits that a file would have.
+// Returns a number as reports show it: all its digits, as a file would hold them; with an exponent from 1e20 up, and
+// where the digits would be more than 40.
 std::string plaintext(double number);
 
 // A number's general text, but without an exponent if it is near zero: "-0.00003087".

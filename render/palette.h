@@ -3,8 +3,9 @@
 
 namespace tessaly {
 
-// Fills palette indexes 1..236 from the file named by palname. What lies behind the end of a short or missing file is
-// zero. writes: palred, palgreen, palblue; fails: file already open (channel 1), file access error.
+// Fills palette indices 1..236 from the file named by palname. Entries beyond the end of a short or missing file are
+// zero. writes: palred, palgreen, palblue; fails: file not found (the folder pals is missing), file already open
+// (channel 1), file access error.
 void loadpalette();
 
 }  // namespace tessaly
