@@ -30,7 +30,7 @@ std::string nameof(scriptline& line) {
     return name;
 }
 
-// The control of the next word, which must be one of the kinds that the action works on and in a user's reach.
+// Returns the control of the next word, which must be of one of these kinds and visible.
 control& reachablecontrol(scriptline& line, std::initializer_list<controlkind> kinds, const char* wanted) {
     const std::string name = nameof(line);
     control* const c = findcontrol(name);
@@ -88,10 +88,14 @@ void writeline(const std::string& text) {
     std::putchar('\n');
 }
 
+void expectwritten(bool written) {
+    if (!written) throw scripterror("the record of the session cannot be written");
+}
+
 // Writes to standard output, and under the step played last in the record of the session.
 void writenote(const std::string& text) {
     writeline(text);
-    recordnote(text);
+    expectwritten(recordnote(text));
 }
 
 void showstate(scriptline& line) {
@@ -105,7 +109,7 @@ void showstate(scriptline& line) {
 }
 
 void lines(scriptline& line) {
-    playedsurface.endlog();
+    if (!playedsurface.endlog()) throw scripterror("the file of the drawn lines cannot be written");
     if (line.atend()) return;
     const std::string path = line.filename();
     if (!playedsurface.startlog(path)) throw scripterror("the file " + path + " cannot be written");
@@ -120,7 +124,7 @@ void picture(scriptline& line) {
     }
 }
 
-// A file that a user may take in hand: below the working folder.
+// Returns the path of a file that scripts may change: one in the working folder.
 std::filesystem::path ownfile(const std::string& name) {
     const std::filesystem::path path = std::filesystem::path(name).lexically_normal();
     if (path.empty() || path.is_absolute() || *path.begin() == "..")
@@ -209,7 +213,7 @@ std::size_t indexin(std::string_view word) {
     return index;
 }
 
-// A part of a table, into the record as well: what can only be seen by its checksum otherwise.
+// Writes a part of a table, to the record too, which otherwise shows tables by their checksums only.
 void table(scriptline& line) {
     const std::string name = nameof(line);
     const std::size_t from = indexin(line.word()), to = indexin(line.word());
@@ -219,7 +223,6 @@ void table(scriptline& line) {
     writenote(name + ' ' + std::to_string(from) + ".." + std::to_string(to) + ':' + *text);
 }
 
-// How windows and controls are laid out: a line each, into the record as well.
 void layout(scriptline& line) {
     line.expectend();
     for (const std::string& text : programlayout()) writenote(text);
@@ -258,10 +261,6 @@ constexpr command commands[] = {
     {"say",     say,        nullptr},
     // clang-format on
 };
-
-void expectwritten(bool written) {
-    if (!written) throw scripterror("the record of the session cannot be written");
-}
 
 // Plays a line; the record shows it as recorded.
 void playline(std::string_view text, std::string_view recorded) {

@@ -1,5 +1,5 @@
-// While lines are logged or counted a sweep is drawn line by line, so that none of them is missing from the log; the
-// image comes out the same.
+// While lines are logged or counted, drawbetween draws them one by one, so that each of them is in the log. The image
+// is the same.
 
 #include "player/loggedsurface.h"
 
@@ -11,7 +11,7 @@ loggedsurface playedsurface(viewportwidth, viewportheight), playedstrip(progress
 
 namespace {
 
-// A coordinate with nine significant digits, which tell every single-precision value, and a blank.
+// Writes a coordinate with nine significant digits, which distinguish all single-precision numbers, and a blank.
 char* writecoordinate(char* at, char* end, float coordinate) {
     at = std::to_chars(at, end, static_cast<double>(coordinate), std::chars_format::general, 9).ptr;
     *at = ' ';
@@ -25,7 +25,15 @@ bool loggedsurface::startlog(const std::string& path) {
     return log != nullptr;
 }
 
-bool loggedsurface::flushlog() { return log == nullptr || std::fflush(log.get()) == 0; }
+// A failed write is remembered by ferror only: a later flush has nothing left to write and succeeds.
+bool loggedsurface::flushlog() {
+    return log == nullptr || (std::fflush(log.get()) == 0 && std::ferror(log.get()) == 0);
+}
+
+bool loggedsurface::endlog() {
+    const bool written = flushlog();
+    return (log == nullptr || std::fclose(log.release()) == 0) && written;
+}
 
 void loggedsurface::line(float x1, float y1, float x2, float y2, colour c) {
     image.line(x1, y1, x2, y2, c);

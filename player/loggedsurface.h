@@ -1,4 +1,4 @@
-// The player's pictures: an image in memory that, while asked to, also writes each drawn line to a file and counts it.
+// The player's pictures: an image in memory that can also write each drawn line to a log file and count it.
 #pragma once
 
 #include "player/checksum.h"
@@ -11,7 +11,7 @@
 
 namespace tessaly {
 
-// What was drawn: how many lines, the checksum of their ends and colours, and the picture set as the background.
+// The number of lines drawn, the checksum of their ends and colours, and the picture set as the background.
 struct linetally {
     long lines = 0;
     checksum sum;
@@ -24,12 +24,13 @@ class loggedsurface : public surface {
   public:
     loggedsurface(int width, int height) : image(width, height) {}
 
-    // From here on each line goes to this file as well; false where it cannot be written.
+    // Writes each line drawn from here on to this file. Returns false if the file cannot be written.
     bool startlog(const std::string& path);
-    void endlog() { log.reset(); }
-    bool flushlog();  // false where the disk does not take it
+    // Both return false if a line could not be written. Without a log they do nothing and return true.
+    bool flushlog();
+    bool endlog();
 
-    // From here on each line is counted; what was counted since, and the count begins anew.
+    // Counts each line drawn from here on; returns the count and starts again from 0.
     void starttally() { tally.emplace(); }
     linetally taketally() { return std::exchange(*tally, {}); }
 

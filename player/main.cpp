@@ -1,7 +1,8 @@
 // The program without its windows: plays a script of user actions in the working folder.
 //   play SCRIPT        "-" is standard input
-// Status 0: played to its end or to exitbtn; 1: the program failed; 2: the script asks for what no user could do.
-// All output is flushed after every line of the script, so that another program can hold a talk with it over a pipe.
+// Status 0: played to its end or to exitbtn; 1: the program failed; 2: the script asks for something that no user
+// could do, or output could not be written.
+// All output is flushed after each line of the script, so that another program can send a line and wait for its answer.
 
 #include "core/controls.h"
 #include "core/failure.h"
@@ -21,7 +22,7 @@ using namespace tessaly;
 constexpr int programfailed = 1, scriptfailed = 2;
 
 void flushall() {
-    if (std::fflush(stdout) != 0) throw scripterror("standard output cannot be written");
+    if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) throw scripterror("standard output cannot be written");
     if (!playedsurface.flushlog()) throw scripterror("the file of the drawn lines cannot be written");
 }
 
@@ -32,7 +33,9 @@ void playscript(std::istream& script, int& number) {
         playline(line);
         flushall();
     }
-    if (script.bad()) throw scripterror("the script cannot be read");
+    // A failed read of standard input, such as of a folder, looks like its end to the stream.
+    if (script.bad() || std::ferror(stdin) != 0) throw scripterror("the script cannot be read");
+    if (!playedsurface.endlog()) throw scripterror("the file of the drawn lines cannot be written");
 }
 
 int play(std::istream& script, const std::string& name) {

@@ -113,9 +113,7 @@ bool startrecord(const std::string& path) {
     return record.is_open();
 }
 
-void recordnote(std::string_view line) {
-    if (record.is_open()) record << "  " << line << std::endl;
-}
+bool recordnote(std::string_view line) { return !record.is_open() || (record << "  " << line << std::endl).good(); }
 
 bool recordstep(std::string_view step) {
     if (!record.is_open()) return true;

@@ -21,11 +21,12 @@ namespace tessaly {
 // Starts recording each step in this file. Returns false if it cannot be written.
 bool startrecord(const std::string& path);
 
-// Writes a line under the step played last, as it is given. Does nothing if no record was started.
-void recordnote(std::string_view line);
+// The following do nothing if no record was started, and return false if the record could not be written.
 
-// Write a step: with what it changed; without that; and with what is left of one that ended the program. Do nothing if
-// no record was started. Return false if the file could not be written.
+// Writes a line under the step played last, as it is given.
+bool recordnote(std::string_view line);
+
+// Write a step: with what it changed; without that; with the lines, files and report of one that ended the program.
 bool recordstep(std::string_view step);
 bool recordunseen(std::string_view step);
 bool recordfailure(std::string_view step, std::string_view report);

@@ -78,6 +78,36 @@ TEST(play, endsWithItsStatusAndTellsWhatWasWrong) {
     }
 }
 
+// Output that is lost is an error, not silence: of the first write that fails no later one knows. Nor is a script that
+// cannot be read an empty one.
+TEST(play, reportsLostOutputAndUnreadableScripts) {
+    const struct {
+        std::string script, how, err;
+    } cases[] = {
+        {"show\n", "s.play 2>err.txt >/dev/full", "s.play, line 1: standard output cannot be written"},
+        {start + "lines /dev/full\nclick fillscreen\n", "s.play", "s.play, line 3: the file of the drawn lines cannot"},
+        {start + "record /dev/full\nclick fillscreen\n", "s.play", "s.play, line 3: the record of the session cannot"},
+        {"record /dev/full\ntable basex 1 2\n", "s.play", "s.play, line 2: the record of the session cannot"},
+        {"", "- <datah", "standard input, line 0: the script cannot be read"},
+    };
+    session s;
+    for (const auto& c : cases) {
+        SCOPED_TRACE(c.err);
+        session::write("s.play", c.script);
+        const int result = std::system((playcommand + " 2>err.txt " + c.how).c_str());
+        EXPECT_EQ(WEXITSTATUS(result), 2);
+        EXPECT_TRUE(session::file("err.txt").starts_with(c.err)) << session::file("err.txt");
+    }
+}
+
+// A record reads the files of the working folder: one that never ends, such as a pipe, would hold it up.
+TEST(play, recordsBesideAPipe) {
+    session s;
+    ASSERT_EQ(std::system("mkfifo designs/pipe"), 0);
+    session::write("s.play", "record r.txt\n" + start);
+    EXPECT_EQ(std::system(("timeout 60 " + playcommand + " s.play").c_str()), 0);
+}
+
 // A line for each window, control and scalar that a report shows.
 TEST(play, showsWindowsControlsAndValues) {
     session s;

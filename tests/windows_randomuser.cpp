@@ -4,6 +4,7 @@
 // TESSALY_ACTIONS: how many actions in all; TESSALY_SEED: of the first session, which the others follow.
 
 #include "render/raster.h"
+#include "tests/commandline.h"
 #include "tests/windowsession.h"
 #include "windows/handlers.h"
 #include "windows/qt/canvas.h"
@@ -181,10 +182,10 @@ class randomuser : public windowsession {
         const std::string here = std::filesystem::current_path();
         workingfolder played(TESSALY_SOURCE_DIR);
         std::ofstream("actions.play") << script << (ended() ? "" : "picture screen.png\n");
-        EXPECT_EQ(std::system(TESSALY_PLAY " actions.play 2>report.txt") != 0, !report.empty());
+        EXPECT_EQ(std::system((playcommand + " actions.play 2>report.txt").c_str()) != 0, !report.empty());
         EXPECT_EQ(session::file("report.txt"), told);
         for (const std::string kept : {"designs", "bmps", "nonuser"})
-            EXPECT_EQ(std::system(("diff -r " + kept + " " + here + "/" + kept).c_str()), 0) << "after\n" << script;
+            EXPECT_EQ(std::system(("diff -r " + kept + " " + shellquoted(here + "/" + kept)).c_str()), 0) << "after\n" << script;
         if (ended()) return;
         const QImage seen((here + "/screen.png").c_str()), wanted("screen.png");  // a pixel stays a pixel
         EXPECT_EQ(seen, wanted.scaled(seen.size()).convertToFormat(seen.format())) << "after\n" << script;
