@@ -83,7 +83,7 @@ void expectclosed(const std::vector<face>& faces) {
 
 // Placement moves points 1 to 100 only; a corner that ends no line has no place on the screen; an end row with corners
 // would be painted.
-TEST(shippeddata, elementsAreWholeAndKeepToTheRulesOfTheReader) {
+TEST(data, elementsAreWholeAndKeepToTheRulesOfTheReader) {
     session s;
     s.start();
     int elements = 0;
@@ -118,7 +118,7 @@ TEST(shippeddata, elementsAreWholeAndKeepToTheRulesOfTheReader) {
 
 // Steel that does not meet, walls beside the grid, a roof that leaves a gap; a place whose record is another than the
 // one kept, and replayed elsewhere.
-TEST(shippeddata, elementsStandOnTheirPlacesAndAreRecordedThere) {
+TEST(data, elementsStandOnTheirPlacesAndAreRecordedThere) {
     const std::map<std::string, box> extents{
         {"postx", {0, -16, 0, 16, 0, 128}},     {"beamx", {0, 0, 112, 16, 176, 128}},
         {"vbeamx", {0, -16, 112, 176, 0, 128}}, {"roofx", {0, 0, 128, 208, 208, 136}},
@@ -137,7 +137,7 @@ TEST(shippeddata, elementsStandOnTheirPlacesAndAreRecordedThere) {
 
 // A point above or below the plan's middle, where the focus stands, would have no direction on the picture. The grid's
 // lines must run through the middles of the posts.
-TEST(shippeddata, theOpeningSceneKeepsClearOfTheMiddleAndLiesUnderThePosts) {
+TEST(data, theOpeningSceneKeepsClearOfTheMiddleAndLiesUnderThePosts) {
     session s;
     s.start();
     for (const char* name : {"st-land.txt", "st-axes.txt", "st-grid.txt"}) {

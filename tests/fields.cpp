@@ -92,7 +92,7 @@ TEST(fields, keysAreFoundByWholeFields) {
 
 // What is open or not there; a pipe, which may never answer; a device, which may never end; a file that is too large to
 // be held whole.
-TEST(channels, refuseWhatTheyCannotOpen) {
+TEST(fields, refuseWhatTheyCannotOpen) {
     session s;
     ASSERT_EQ(::mkfifo("designs/pipe", 0666), 0);
     std::filesystem::create_symlink("/dev/zero", "designs/endless");
@@ -120,7 +120,7 @@ TEST(channels, refuseWhatTheyCannotOpen) {
     expectfailure(failureof([] { writebitmap(bitmap(), "designs\\pipe"); }), failurekind::fileaccess, "pipe");
 }
 
-TEST(channels, fileListsHoldAllButFoldersAndUnfinishedCaptures) {
+TEST(fields, fileListsHoldAllButFoldersAndUnfinishedCaptures) {
     session s(ownfolder);
     for (const char* name : {"designs/b.txt", "designs/a.txt", "designs/.bmp", "designs/.unfinished"})
         session::write(name, "");

@@ -9,7 +9,7 @@
 using namespace tessaly;
 
 // The bytes of the file, its 3780 dots a metre among them; what is read for another's.
-TEST(bitmap, isOneFileAndComesBackWhole) {
+TEST(formats, isOneFileAndComesBackWhole) {
     session s;
     raster made(3, 2), read(2, 3);
     for (std::uint32_t i = 0; i < 6; ++i) made.pixels()[i] = 0xff000000 | (0x010203 * (i + 1));
@@ -20,8 +20,9 @@ TEST(bitmap, isOneFileAndComesBackWhole) {
         "\0\0\0\0\0\0\0\0\xC\x8\4\xF\xA\5\x12\xC\6\0\0\0\3\2\1\6\4\2\x9\6\3\0\0";
     EXPECT_EQ(bytes, std::string(expected, sizeof expected));
     read.setpicture("bmps\\a.bmp");
-    EXPECT_TRUE(read.at(0, 1) == made.at(0, 1) && read.at(1, 0) == made.at(1, 0) &&
-                read.at(0, 2) == (colour{255, 255, 255}));
+    EXPECT_TRUE(read.at(0, 1) == made.at(0, 1));
+    EXPECT_TRUE(read.at(1, 0) == made.at(1, 0));
+    EXPECT_TRUE(read.at(0, 2) == (colour{255, 255, 255}));
     for (const std::string& other : {bytes.substr(0, 77), bytes.substr(0, 20), replaced(bytes, "\x18", "\x20")}) {
         s.write("bmps/a.bmp", other);
         expectfailure(failureof([] { readbitmap("bmps\\a.bmp"); }), failurekind::invalidcall, "bmps\\a.bmp");
@@ -32,7 +33,7 @@ TEST(bitmap, isOneFileAndComesBackWhole) {
 
 // Pictures of other programs are read as far as viewport shows them. Refused, whatever its name: a file that could
 // refer to others (SVG), that is truncated, or that would take gigabytes or hours.
-TEST(pictures, areReadIfTheyAreBitmapsOfReasonableSize) {
+TEST(formats, areReadIfTheyAreBitmapsOfReasonableSize) {
     const session s;
     usepicturefiles();
     const auto read = [] { return readpicture("bmps\\a.bmp"); };

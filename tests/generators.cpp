@@ -1,5 +1,6 @@
-// What is made and committed is what its maker makes: panels, palette, maps, samples, pictures.
+// Committed files are what their generators make: panels, palette, maps, samples, pictures.
 
+#include "tests/commandline.h"
 #include "tools/workingfolder.h"
 
 #include <gtest/gtest.h>
@@ -16,6 +17,7 @@
 namespace {
 
 namespace fs = std::filesystem;
+using tessaly::playcommand, tessaly::shellquoted;
 
 const fs::path source = TESSALY_SOURCE_DIR;
 const fs::path pictures = source / "windows/qt/pictures", documents = source / "docs/pictures";
@@ -41,59 +43,67 @@ bool looksalike(const QImage& a, const QImage& b) {
 
 std::string descriptionof(const QImage& picture) { return picture.text("Shows").toStdString(); }
 
-// A picture that tells in words what it shows is compared by them to the letter, and only roughly by its pixels. All
+// A picture with a description of what it shows is compared by the description, and only roughly by its pixels. All
 // others come from the engine's arithmetic alone and are the same to the pixel.
-void expectsame(const fs::path& made, const fs::path& kept) {
-    SCOPED_TRACE(kept.string() + " is not what is made now: run its maker again");
+void expectsame(const fs::path& made, const fs::path& committed) {
+    SCOPED_TRACE(committed.string() + " differs from what is made now: run its generator again");
     if (made.extension() != ".png") {
-        EXPECT_TRUE(bytesof(made) == bytesof(kept));
+        EXPECT_TRUE(bytesof(made) == bytesof(committed));
         return;
     }
-    const QImage now(made.c_str()), before(kept.c_str());
+    const QImage now(made.c_str()), before(committed.c_str());
     ASSERT_FALSE(now.isNull());
     EXPECT_EQ(descriptionof(now), descriptionof(before));
     EXPECT_TRUE(descriptionof(now).empty() ? now == before : looksalike(now, before));
 }
 
-// Runs a maker in a working folder and compares each file that it writes with the one kept in one of these folders.
-void expectkept(std::string maker, const std::vector<fs::path>& kept, int files) {
+// Runs a generator in a working folder and compares each file that it writes with the committed one in these folders.
+void expectcommitted(const fs::path& generator, const std::string& arguments, const std::vector<fs::path>& folders,
+                     int files) {
     const tessaly::workingfolder scratch(source);
     fs::create_directory("made");
-    for (std::size_t n = 0; n < kept.size(); ++n) maker += " made";
-    EXPECT_EQ(std::system(("timeout 60 " + maker).c_str()), 0);  // a window that tells a failure waits
+    std::string command = "timeout 60 " + shellquoted(generator) + ' ' + arguments;  // a failure's window would wait
+    for (std::size_t n = 0; n < folders.size(); ++n) command += " made";
+    EXPECT_EQ(std::system(command.c_str()), 0);
     for (const auto& file : fs::directory_iterator("made")) {
         const fs::path name = file.path().filename();
-        expectsame(file.path(), (fs::exists(kept.front() / name) ? kept.front() : kept.back()) / name);
+        expectsame(file.path(), (fs::exists(folders.front() / name) ? folders.front() : folders.back()) / name);
         --files;
     }
-    EXPECT_EQ(files, 0) << maker;
+    EXPECT_EQ(files, 0) << command;
 }
 
-const std::string makers = fs::path(TESSALY_PLAY).parent_path() / "make", scripts = source / "tools/make-";
+const fs::path programs = fs::path(TESSALY_PLAY).parent_path(), scripts = source / "tools";
 
 // Catches a panel changed by hand, or in its description with the files left as they were: the four ends of a type and
 // the types among themselves would no longer agree.
-TEST(makers, panelsarekept) { expectkept(makers + "panels", {source / "datah"}, 32); }
+TEST(generators, panelsAreCommitted) { expectcommitted(programs / "makepanels", "", {source / "datah"}, 32); }
 
 // Catches a colour changed in the list alone or in the palette alone.
-TEST(makers, paletteiskept) { expectkept(makers + "palette pals/tessaly.txt", {source / "pals"}, 1); }
+TEST(generators, paletteIsCommitted) {
+    expectcommitted(programs / "makepalette", "pals/tessaly.txt", {source / "pals"}, 1);
+}
 
 // Catches a layout changed with the maps of el-numbers left as they were.
-TEST(makers, mapsarekept) { expectkept(makers + "maps", {source / "el-numbers"}, 3); }
+TEST(generators, mapsAreCommitted) { expectcommitted(programs / "makemaps", "", {source / "el-numbers"}, 3); }
 
 // Catches an element changed with its button's picture left as it was.
-TEST(makers, buttonpicturesarekept) { expectkept(makers + "buttons .", {pictures}, 26); }
+TEST(generators, buttonPicturesAreCommitted) { expectcommitted(programs / "makebuttons", ".", {pictures}, 26); }
 
 // Catches a control moved, added or renamed, or an element changed, with the pictures of it left as they were.
-TEST(makers, windowpicturesarekept) {
-    expectkept(makers + "windowpictures " + source.string(), {pictures, documents}, 12);
+TEST(generators, windowPicturesAreCommitted) {
+    expectcommitted(programs / "makewindowpictures", shellquoted(source), {pictures, documents}, 12);
 }
 
 // Catches a layout, a record or the script changed with the sample buildings left as they were.
-TEST(makers, samplesarekept) { expectkept(scripts + "samples.sh " TESSALY_PLAY, {source / "samples"}, 27); }
+TEST(generators, samplesAreCommitted) {
+    expectcommitted(scripts / "make-samples.sh", playcommand, {source / "samples"}, 27);
+}
 
 // Catches a change of buttons, data, colours or drawing that the guide does not follow; a replay that loses, moves or
 // adds an element; a capture that does not bring its picture back.
-TEST(makers, buildingpicturesarekept) { expectkept(scripts + "pictures.sh " TESSALY_PLAY, {documents}, 7); }
+TEST(generators, buildingPicturesAreCommitted) {
+    expectcommitted(scripts / "make-pictures.sh", playcommand, {documents}, 7);
+}
 
 }  // namespace

@@ -136,7 +136,7 @@ TEST(projector, aPointInThePlaneCountsAsFar) {
     setview(1000, 0, 0, 0.1);
     setoneline({940, 40, 16}, {1, 1, 1});
     plotgroups();
-    EXPECT_TRUE(planecentrex == 940 && walkcount == 299);
+    EXPECT_EQ(joined(planecentrex, walkcount), "940 299");
 }
 
 // Equal figures, and equal ratios, of eye and focus; a figure of 0 becomes 0.1 before. What is nudged is told by its
@@ -159,7 +159,7 @@ TEST(projector, fixUpNudgesDegenerateViews) {
         vertshift = 123.456;
         viewprompt = "AUTOMA";
         plotgroups();
-        EXPECT_TRUE(viewprompt.is("AUTOMA") && mag == 0.056);  // a plot of the view in force passes over it
+        EXPECT_EQ(joined(viewprompt, mag), "\"AUTOMA\" 0.056");  // a plot of the view in force passes over it
         perprelative = plotstate = 0;
         plotgroups();
         const vec focus{notzero(f[0]), notzero(f[1]), notzero(f[2])};
@@ -167,8 +167,8 @@ TEST(projector, fixUpNudgesDegenerateViews) {
         EXPECT_EQ((vec{focusx, focusy, focusz}), focus);
         EXPECT_EQ((vec{perpx, perpy, perpz}), eye) << e[0] << ' ' << f[0];
         EXPECT_EQ((vec{perprelx, perprely, perprelz}), eye);
-        EXPECT_TRUE(viewprompt.is("PROMPT") && perprelative == 1 && mag == 0.56 && refready == 1);
-        EXPECT_TRUE(magtxt.text == "0.056" && verttxt.text == "123.4");
+        EXPECT_EQ(joined(viewprompt, perprelative, mag, refready), "\"PROMPT\" 1 0.56 1");
+        EXPECT_EQ(magtxt.text + " " + verttxt.text, "0.056 123.4");
     }
 }
 

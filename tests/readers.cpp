@@ -30,14 +30,14 @@ TEST(readers, sectionsWithoutAnEndRowStopAtTheirLimit) {
     setview(1850, -1850, 550);
     const std::string cubes = rows(201, "1,10,20,30,11,21,31,0,5\n");
     readfile(elementtext{.cubes400 = cubes, .cubes600 = cubes, .planes = rows(7001, "1,1,1,1,1,1,5\n")}, 3);
-    EXPECT_TRUE(ptcount3 == 2000 && linecount6 == 2400 && ptcount4 == 2000 && linecount7 == 2400);
-    EXPECT_TRUE(quad1[7000] == 1 && quad1[7001] == 7001);
+    EXPECT_EQ(joined(ptcount3, linecount6, ptcount4, linecount7), "2000 2400 2000 2400");
+    EXPECT_EQ(joined(quad1[7000], quad1[7001]), "1 7001");
     readfile(elementtext{.points = rows(10001, "1,0,0,0\n"), .lines = {rows(20001, "1,2\n")}}, 3);
-    EXPECT_TRUE(ptcount1 == 0 && linecount1 == 0 && drawset == 1);
+    EXPECT_EQ(joined(ptcount1, linecount1, drawset), "0 0 1");
     readfile(elementtext{.script = "TRAN\nXTRANSFORMATIONS:\n" + rows(10000, "3,5\n") + "3,6\nTRAN\nTRANSLATE:\n" +
                                    rows(7001, "4,4,1,0,0\n") + "TRAN\nSTOP\n"},
              0);
-    EXPECT_TRUE(basex[3] == 5 && basex[4] == 7000);
+    EXPECT_EQ(joined(basex[3], basex[4]), "5 7000");
 }
 
 // A placement that nobody knows leaves the file open: the element after it fails.
@@ -48,7 +48,7 @@ TEST(readers, placementsThatNoPressAsksFor) {
                         .lines = {"1,2\n"},
                         .script = "TRAN\nTRANSLATE:\n1,1,10,0,0\n9999,0,0,0,0\nTRAN\nSTOP\n"};
     readfile(e, 0);
-    EXPECT_TRUE(basex[1] == 11 && s.takelines().size() == 1);
+    EXPECT_EQ(joined(basex[1], s.takelines().size()), "11 1");
     readfile(e, 6);
     EXPECT_TRUE(s.lines().empty());
     EXPECT_EQ(failureof([&] { readfile(e, 3); })->kind, failurekind::filealreadyopen);
@@ -75,7 +75,7 @@ TEST(readers, cubesThatNoGroupShows) {
     for (const auto readcubes : {readcubex, readcubey, readcubez}) {
         drawset = 1;
         paint(readcubes, text);
-        EXPECT_TRUE(basex[1] == 11 && drawset == 2 && ptz[2009] == -0.5);
+        EXPECT_EQ(joined(basex[1], drawset, ptz[2009]), "11 2 -0.5");
     }
     expectfailure(failureof([&] { paint(readcubez, replaced(text, "100,4,60", "100,4,300")); }), failurekind::subscript,
                   "AUTOCUBE100:, tenth number: palette");

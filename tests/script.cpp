@@ -28,7 +28,7 @@ void run(const std::string& script) {
 
 }  // namespace
 
-TEST(transforms, keywords) {
+TEST(script, keywords) {
     const double truncated = 1e-4;  // what the pi of five decimals may shift these figures by
     struct {
         std::string script;
@@ -65,12 +65,12 @@ TEST(transforms, keywords) {
         run(c.script);
         for (const auto& [i, at] : c.after) {
             EXPECT_LT(length(vec{basex[i], basey[i], basez[i]} - at), truncated) << c.script << i;
-            EXPECT_TRUE(ptx[i] == basex[i] && pty[i] == basey[i] && ptz[i] == basez[i]) << c.script << i;
+            EXPECT_EQ(joined(ptx[i], pty[i], ptz[i]), joined(basex[i], basey[i], basez[i])) << c.script << i;
         }
     }
 }
 
-TEST(transforms, leaveAnglesAndOffsetsBehind) {
+TEST(script, leaveAnglesAndOffsetsBehind) {
     session s(ownfolder);
     rotz = rotx = 5;
     run(block("ZROTATETRANSLATE:", "1,1,180,1,2,3") + block("YROTATETRANSLATE:", "1,1,90,4,5,6") +
@@ -80,11 +80,11 @@ TEST(transforms, leaveAnglesAndOffsetsBehind) {
     run(block("ZWRAP:", "2,1,180,2000,0,0") + block("XWRAP:", "2,1,180,1e300,0,0"));  // no points, but the angles
     EXPECT_NEAR(rotz, 2000 * 3.14159, 1e-6);
     EXPECT_EQ(rotx, 180 * 3.14159 / 180 * 1e300);
-    EXPECT_TRUE(placex == 4 && placey == 5 && placez == 6);
+    EXPECT_EQ(joined(placex, placey, placez), "4 5 6");
 }
 
 // Degrees at which libraries and processors round differently, and the usual ones; worked out with 120 figures.
-TEST(sine, isRoundedToTheNearest) {
+TEST(script, isRoundedToTheNearest) {
     constexpr double rows[][3] = {
         // degrees, cosine, sine
         {0, 1, 0},

@@ -8,6 +8,7 @@
 #include "core/value.h"
 #include "core/world.h"
 #include "player/commands.h"
+#include "player/programstate.h"
 #include "render/surface.h"
 #include "tools/workingfolder.h"
 #include "windows/handlers.h"
@@ -80,6 +81,17 @@ class session {
   private:
     workingfolder folder;
 };
+
+// The values with blanks between them, to compare several at once: a failure shows which of them differs.
+template <class... values>
+std::string joined(const values&... all) {
+    std::string text;
+    ((text += (text.empty() ? "" : " ") + statetext(value(all))), ...);
+    return text;
+}
+
+// Messages of failed tests show a value as the state of the program does.
+inline void PrintTo(const value& v, std::ostream* out) { *out << statetext(v); }
 
 // The failure that a procedure ends with, none where it does not fail.
 template <class procedure>

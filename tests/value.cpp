@@ -23,7 +23,7 @@ TEST(value, textsAreNumbersAsAWholeOrByTheirLeadingDigits) {
         EXPECT_EQ(Val(text), number) << '"' << text << '"';
     }
     EXPECT_EQ(failureof([] { strictnumber("-1e999"); })->kind, failurekind::overflow);
-    EXPECT_TRUE(std::isfinite(Val("1e999")) && std::isfinite(Val("-1e999")));
+    for (const char* text : {"1e999", "-1e999"}) EXPECT_TRUE(std::isfinite(Val(text))) << text;
 }
 
 // Fifteen digits, cut and not rounded by a box; whole numbers take the even half.
@@ -44,8 +44,8 @@ TEST(value, numbersBecomeTextsAndWholes) {
 // A text box's figure is kept as text and converted at its first use; the report names where it came from, and can be
 // read whatever a file holds.
 TEST(value, textMeetsArithmetic) {
-    EXPECT_TRUE(value() + 1 == 1 && value("12") * 2 == 24 && !value("12").isnumber());
-    EXPECT_TRUE(value("a").is("a") && value().is("") && !value(0).is("0") && !value("a").is("A"));
+    EXPECT_EQ(joined(value() + 1, value("12") * 2, value("12").isnumber()), "1 24 0");
+    EXPECT_EQ(joined(value("a").is("a"), value().is(""), value(0).is("0"), value("a").is("A")), "1 1 0 0");
     const std::tuple<std::string, const char*, std::string> mistakes[] = {
         {"ten", "datah\\x.txt, line 3, field 2",
          "datah\\x.txt, line 3, field 2: \"ten\" is not a number: a number such as 12.5 belongs here (type mismatch)"},
@@ -69,7 +69,7 @@ TEST(value, textMeetsArithmetic) {
 }
 
 // resetworld clears 1..7000 (700 of cubecolour) and nothing above; a miss names the table.
-TEST(world, resetClearsItsRangeOnly) {
+TEST(value, resetClearsItsRangeOnly) {
     session s(ownfolder);
     for (const int i : {0, 1, 7000, 7001}) {
         basex.set(i, 5);
@@ -80,9 +80,9 @@ TEST(world, resetClearsItsRangeOnly) {
     cubecolour.set(701, 5);
     linecount7 = ptcount2 = 5;
     resetworld();
-    EXPECT_TRUE(basex[1] == 0 && basex[7000] == 0 && quad4[7000] == 0 && cubecolour[700] == 0);
-    EXPECT_TRUE(linecount7 == 0 && ptcount2 == 0);
-    EXPECT_TRUE(basex[0] == 5 && basex[7001] == 5 && quad4[7001] == 5 && savex[1] == 5 && cubecolour[701] == 5);
+    EXPECT_EQ(joined(basex[1], basex[7000], quad4[7000], cubecolour[700]), "0 0 0 0");
+    EXPECT_EQ(joined(linecount7, ptcount2), "0 0");
+    EXPECT_EQ(joined(basex[0], basex[7001], quad4[7001], savex[1], cubecolour[701]), "5 5 5 5 5");
     expectfailure(failureof([] { basex.set(10001, 1); }), failurekind::subscript,
                   "basex has no index 10001, an index 0..10000 was expected");
     expectfailure(failureof([] { return lineend1[value(-2.75)]; }), failurekind::subscript,

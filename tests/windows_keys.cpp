@@ -45,7 +45,8 @@ TEST_F(windowsession, escapeClosesWhatIsOpenAndNothingElse) {
         fastchange Return =easyviews Escape -easyviews
         instructionsbtn Return =instructions Escape -instructions
         screencapbtn Return =capbox floorbtn Return =floorlist Down Escape =floorbtn)");
-    EXPECT_TRUE(floorlist.shown && capbox.shown);  // only a pick closes this list
+    EXPECT_TRUE(floorlist.shown);  // only a pick closes this list
+    EXPECT_TRUE(capbox.shown);
     EXPECT_EQ(floor.text, "1");
     keys("capbox \"no.bmp\" Escape -capbox -screencapenter");
     EXPECT_TRUE(std::filesystem::is_empty("bmps"));
@@ -59,6 +60,7 @@ TEST_F(windowsession, arrowsWalkThePlans) {
         roofbtn Return roofx0y0 Left =roofx0y0
         fastchange Return focusx0y0 Up =perpxm1800y0)");
     for (const window* plan : {&layoutgirder, &layoutpanels, &layoutroof, &easyviews}) {
+        ASSERT_TRUE(frameof(*plan)) << plan->name;
         std::set<const QWidget*> reached;
         std::vector<QWidget*> ways{frameof(*plan)->plan()};
         while (!ways.empty()) {
@@ -88,6 +90,7 @@ TEST_F(windowsession, aBuildingByTheKeyboardAlone) {
     keys("fastchange Return perpx0y1800 Return F5 =perpx0y1800");
     EXPECT_EQ(perptxtx.text + " " + perptxty.text, "0.1 1800");
     keys("F1 =instructions");
+    ASSERT_TRUE(frameof(instructions));
     const windowframe& help = *frameof(instructions);  // larger than the screen
     EXPECT_LE(help.height(), help.screen()->availableSize().height());
     EXPECT_GT(help.verticalScrollBar()->maximum(), 0);

@@ -172,8 +172,8 @@ class randomuser : public windowsession {
     static void expectfocus(const window& w, const control* used, const control* before) {
         const control *const now = focusedcontrol(w), *const had = used && used->in == &w ? used : before;
         if (now && now->openedby == used && (now == &capbox || islist(*now))) return;
-        EXPECT_EQ(now, had && !had->shown ? focusafter(*had) : had)
-            << "the focus is on " << (now ? now->name : "nothing") << ", was on " << (had ? had->name : "nothing");
+        const auto nameof = [](const control* c) { return c ? c->name : "nothing"; };
+        EXPECT_EQ(nameof(now), nameof(had && !had->shown ? focusafter(*had) : had)) << "was on " << nameof(had);
     }
 
     // The player's status and report, and what it leaves.
@@ -185,7 +185,8 @@ class randomuser : public windowsession {
         EXPECT_EQ(std::system((playcommand + " actions.play 2>report.txt").c_str()) != 0, !report.empty());
         EXPECT_EQ(session::file("report.txt"), told);
         for (const std::string kept : {"designs", "bmps", "nonuser"})
-            EXPECT_EQ(std::system(("diff -r " + kept + " " + shellquoted(here + "/" + kept)).c_str()), 0) << "after\n" << script;
+            EXPECT_EQ(std::system(("diff -r " + kept + " " + shellquoted(here + "/" + kept)).c_str()), 0) << "after\n"
+                                                                                                          << script;
         if (ended()) return;
         const QImage seen((here + "/screen.png").c_str()), wanted("screen.png");  // a pixel stays a pixel
         EXPECT_EQ(seen, wanted.scaled(seen.size()).convertToFormat(seen.format())) << "after\n" << script;
@@ -200,6 +201,7 @@ class randomuser : public windowsession {
 TEST_F(randomuser, leavesWhatThePlayerLeaves) {
     unsigned actions = fromenvironment("TESSALY_ACTIONS", 400);
     for (unsigned seed = fromenvironment("TESSALY_SEED", 1); actions > 0 && !HasFailure(); ++seed) {
+        SCOPED_TRACE("TESSALY_SEED=" + std::to_string(seed));
         testing::internal::CaptureStderr();
         use(seed, actions);
         const std::string told = testing::internal::GetCapturedStderr();

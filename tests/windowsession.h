@@ -78,7 +78,7 @@ class windowsession : public testing::Test {
             if (const auto key = QKeySequence(word.c_str())[0].key(); key != Qt::Key_unknown)
                 press(key);
             else if (word.front() == '"')
-                QTest::keyClicks(frameof(*has)->focusWidget(), word.substr(1, word.size() - 2).c_str());
+                type(word.substr(1, word.size() - 2));
             else
                 look(word.front(), word.find_first_of("=-") == 0 ? word.substr(1) : word);
         }
@@ -88,7 +88,13 @@ class windowsession : public testing::Test {
     std::string report;  // of a failure, read on the screen and closed
 
   private:
+    void type(const std::string& text) {
+        ASSERT_TRUE(frameof(*has)->focusWidget()) << "nothing has the focus in " << has->name;
+        QTest::keyClicks(frameof(*has)->focusWidget(), text.c_str());
+    }
+
     void press(Qt::Key key) {
+        ASSERT_TRUE(frameof(*has)->focusWidget()) << "nothing has the focus in " << has->name;
         QTest::keyClick(frameof(*has)->focusWidget(), key);
         const auto* line = qobject_cast<QLineEdit*>(frameof(*has)->focusWidget());
         EXPECT_TRUE(key != Qt::Key_Tab || !line || line->selectedText() == line->text());  // to be typed over
@@ -98,6 +104,7 @@ class windowsession : public testing::Test {
         const control* const c = findcontrol(name);
         const window* const w = c ? c->in : findwindow(name);
         ASSERT_TRUE(w) << "no control and no window";
+        ASSERT_TRUE(frameof(*w)) << w->name << " was not opened";
         if (mark == '-') {
             EXPECT_FALSE(c ? widgetof(*c)->isVisible() : frameof(*w)->isVisible());
             return;
@@ -106,9 +113,10 @@ class windowsession : public testing::Test {
         frameof(*w)->activateWindow();
         ASSERT_TRUE(QTest::qWaitFor([w] { return QApplication::activeWindow() == frameof(*w); }));
         for (int tabs = 0; mark != '=' && focusedcontrol(*w) != c && tabs < 400; ++tabs) press(Qt::Key_Tab);
-        const QWidget* const focused = frameof(*w)->focusWidget();
-        EXPECT_EQ(focused, c ? widgetof(*c) : frameof(*w)->plan())
-            << (focused ? qPrintable(focused->objectName()) : "");
+        const QWidget *const focused = frameof(*w)->focusWidget(), *const wanted =
+                                                                       c ? widgetof(*c) : frameof(*w)->plan();
+        EXPECT_TRUE(focused == wanted) << "the focus is on "
+                                       << (focused ? qPrintable(focused->objectName()) : "nothing");
     }
 
     const window* has = &vistaplan;  // the keyboard, as the desktop gives it
