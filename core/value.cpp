@@ -6,11 +6,17 @@
 #include "core/windows1252.h"
 
 #include <algorithm>
+#include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <deque>
 #include <limits>
 #include <unordered_map>
+
+#ifndef __cpp_lib_to_chars
+#include <locale.h>
+#include <stdlib.h>
+#endif
 
 namespace tessaly {
 
@@ -71,12 +77,23 @@ bool vanishes(std::string_view number) {
     return static_cast<double>(point) - static_cast<double>(number.find_first_of("123456789")) + exponent < 0;
 }
 
+// Reads the number that text consists of. Returns false if it is too large or too small for a double.
+bool readdouble(std::string_view text, double& number) {
+#ifdef __cpp_lib_to_chars
+    if (text.front() == '+') text.remove_prefix(1);
+    return std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc();
+#else  // slower, and rounds to the same double
+    static const locale_t decimalpoint = ::newlocale(LC_ALL_MASK, "C", nullptr);
+    errno = 0;
+    number = ::strtod_l(std::string(text).c_str(), nullptr, decimalpoint);
+    return errno != ERANGE || (number != 0 && std::isfinite(number));
+#endif
+}
+
 // text holds a number and nothing else. Beyond double precision: infinity with its sign, or 0.
 double parsed(std::string_view text) {
-    if (text.front() == '+') text.remove_prefix(1);
     double number = 0;
-    const auto result = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (result.ec != std::errc::result_out_of_range) return number;
+    if (readdouble(text, number)) return number;
     if (vanishes(text)) return 0;
     const double huge = std::numeric_limits<double>::infinity();
     return text.front() == '-' ? -huge : huge;
