@@ -20,6 +20,14 @@ class paintcounter : public QObject {
 
 }  // namespace
 
+// Catches an icon that only a plugin of the toolkit can draw: it has no sizes.
+TEST_F(windowsession, theIconNeedsNoPlugin) {
+    const QIcon icon = QApplication::windowIcon();
+    EXPECT_TRUE(icon.availableSizes().contains(QSize(16, 16)) && icon.availableSizes().contains(QSize(256, 256)));
+    const QImage drawn = icon.pixmap(QSize(48, 48), 1.0).toImage();
+    EXPECT_EQ(drawn.pixelColor(24, 24).alpha(), 255);
+}
+
 TEST_F(windowsession, theProgressStripMovesWhileThePictureWaits) {
     QTest::qWait(20);
     paintcounter counter;

@@ -39,7 +39,6 @@ class windowsession : public testing::Test {
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!box) return;
             report = box->text().toStdString();
-            EXPECT_FALSE(box->windowIcon().isNull());
             runevent([] { ADD_FAILURE() << "an event behind the message"; });
             box->accept();
         });

@@ -4,8 +4,11 @@
 
 #include <QFontDatabase>
 #include <QIcon>
+#include <QPainter>
 #include <QPalette>
+#include <QPixmap>
 #include <QStyleFactory>
+#include <QSvgRenderer>
 #include <QToolTip>
 
 namespace tessaly {
@@ -34,13 +37,28 @@ QPalette housepalette() {
     return palette;
 }
 
+// Draws the icon at the sizes that desktops use. QIcon could read SVG only with a plugin that may not be installed.
+QIcon programicon() {
+    QSvgRenderer drawing(QString(":/pictures/tessaly.svg"));
+    QIcon icon;
+    for (const int pixels : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        QPixmap picture(pixels, pixels);
+        picture.fill(Qt::transparent);
+        QPainter painter(&picture);
+        drawing.render(&painter);
+        painter.end();
+        icon.addPixmap(picture);
+    }
+    return icon;
+}
+
 }  // namespace
 
 void setlook(QApplication& app) {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setPalette(housepalette());
     QApplication::setFont(captionfont());
-    QApplication::setWindowIcon(QIcon(":/pictures/tessaly.svg"));  // of windows and messages alike
+    QApplication::setWindowIcon(programicon());  // of windows and messages alike
     QToolTip::setPalette(housepalette());
     QToolTip::setFont(captionfont());
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
