@@ -5,6 +5,6 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh
 
-wantpackages "${runpackages[@]}" "${benchpackages[@]}"
-build bench bench
+wantpackages "$runpackages" "$benchpackages"
+build release bench
 QT_QPA_PLATFORM=offscreen exec build/bench "$@"

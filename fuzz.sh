@@ -19,8 +19,8 @@ player) shipped=(docs/*.play tools/*.play) ;;
 *) shipped=() ;; # only seeds made by hand
 esac
 
-wantpackages "${fuzzpackages[@]}"
-build fuzz fuzz
+wantpackages "$fuzzpackages"
+build fuzz
 
 gathered=$PWD/build-fuzz/gathered/$target
 TMPDIR=$(mktemp -d -p "$([ -w /dev/shm ] && echo /dev/shm || echo "${TMPDIR:-/tmp}")")

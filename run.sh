@@ -5,7 +5,7 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh
 
-wantpackages "${runpackages[@]}"
+wantpackages "$runpackages"
 mkdir -p designs bmps nonuser
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds everything with warnings as errors and runs every test.
+# Installs what is missing, builds everything and runs every test.
 # What follows the command goes to ctest: ./test.sh -R projector
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh
 
-wantpackages "${runpackages[@]}" "${testpackages[@]}"
-build tests
-ctest --preset tests "$@"
+wantpackages "$runpackages" "$testpackages"
+build release
+ctest --preset release "$@"

@@ -9,7 +9,7 @@ int main(int argc, char** argv) {
     if (argc != 2) return 2;
     QGuiApplication::setDesktopFileName("tessaly");
     QApplication::setWindowIcon(
-        QIcon(QCoreApplication::applicationDirPath() + "/../../share/icons/hicolor/128x128/apps/tessaly.png"));
+        QIcon(QCoreApplication::applicationDirPath() + "/" TESSALY_ICONS "/128x128/apps/tessaly.png"));
     QMessageBox box(QMessageBox::Critical, "Tessaly", QString::fromLocal8Bit(argv[1]));
     box.setTextFormat(Qt::PlainText);
     box.setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);

@@ -19,7 +19,7 @@ export STARTED=$scratch/started REPORTED=$scratch/reported HOME="$scratch/some h
 unset TESSALY_HOME DISPLAY WAYLAND_DISPLAY
 work=$HOME/Tessaly
 mkdir -p "$HOME" "$prefix"/{bin,libexec/tessaly} "$share"/{datah,pals,samples,el-numbers}
-cp "$root/packaging/tessaly" "$launcher"
+cp "$build/packaging/tessaly" "$launcher"
 printf '#!/bin/sh\n{ pwd; printf "<%%s>" "$@"; } >"$STARTED"\nexit 3\n' >"$prefix/libexec/tessaly/tessaly"
 printf '#!/bin/sh\nprintf "%%s" "$@" >"$REPORTED"\n' >"$prefix/libexec/tessaly/report"
 printf '#!/bin/sh\nfor to; do :; done\necho half >"$to"\nkill -9 $PPID\n' >"$scratch/cp"
@@ -85,4 +85,21 @@ echo "in the way" >"$scratch/file"
 start 1 env DISPLAY=:7 TESSALY_HOME="$scratch/file" "$launcher"
 grep -q "$scratch/file" "$scratch/errors" && [ ! -e "$STARTED" ] || fail "started with a file as its folder"
 grep -q "$scratch/file" "$REPORTED" || fail "no window says why nothing starts"
+[ "$(wc -l <"$scratch/errors")" -eq 2 ] || fail "the report is too long: $(cat "$scratch/errors")"
+mkdir "$scratch/deleted"
+start 1 sh -c 'cd deleted && rmdir ../deleted && TESSALY_HOME=.tessaly-launcher-test exec "$0"' "$launcher"
+[ ! -e /.tessaly-launcher-test ] || fail "a working folder in the root"
+
+# A folder that cannot be written is reported once. So are files that cannot be copied, but the program starts.
+chmod 777 "$scratch"
+user=()
+[ "$(id -u)" -ne 0 ] || user=(setpriv --reuid=65534 --regid=65534 --clear-groups) # root can write everywhere
+rm "$TESSALY_HOME"/datah/*
+chmod a-w "$TESSALY_HOME"/{designs,datah}
+start 1 "${user[@]}" "$launcher"
+[ "$(grep -c designs "$scratch/errors")" -eq 1 ] && [ ! -e "$STARTED" ] || fail "no clear report: $(cat "$scratch/errors")"
+chmod a+w "$TESSALY_HOME"/{designs,bmps,nonuser}
+start 3 "${user[@]}" "$launcher"
+[ "$(grep -c . "$scratch/errors")" -eq 2 ] || fail "no report, or a long one: $(cat "$scratch/errors")"
+chmod u+w "$TESSALY_HOME/datah"
 echo "The launcher makes its folder and leaves what is there."

@@ -23,7 +23,7 @@ for name in "$@"; do
     fi
 done
 
-wantpackages "${runpackages[@]}"
+wantpackages "$runpackages"
 build release play
 scratch=$(mktemp -d)
 trap 'rm -r "$scratch"' EXIT
