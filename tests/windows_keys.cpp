@@ -4,6 +4,7 @@
 #include "core/world.h"
 #include "tests/windowsession.h"
 
+#include <QKeyEvent>
 #include <QScreen>
 #include <QScrollBar>
 
@@ -52,6 +53,32 @@ TEST_F(windowsession, escapeClosesWhatIsOpenAndNothingElse) {
     EXPECT_TRUE(std::filesystem::is_empty("bmps"));
 }
 
+// Escape closes that which the focus belongs to, whatever else is open.
+TEST_F(windowsession, escapeOnEachControlClosesWhatItBelongsTo) {
+    session::write("designs/girders1.txt", "");
+    session::write("bmps/house.bmp", "");
+    const std::vector<std::vector<control*>> groups{
+        {&capbox, &screencapenter, &capescapebtn},
+        {&autofile, &autofile1, &autofile3, &autofile5, &escapefilelistbtn},
+        {&designfileslist, &killfilebtn, &closefilelistbtn},
+        {&bmplistbox, &displayimagebtn, &delbmpbtn, &closebmpbtn},
+    };
+    for (const auto& group : groups)
+        for (const control* focused : group) {
+            runevent([] {
+                for (control* opener : {&screencapbtn, &autowiresingle, &autosolidsingle, &autowirebtn, &autosolidbtn,
+                                        &displayfilelistbtn, &retrieveimagetbtn})
+                    clickcontrol(*opener);
+                for (control* list : {&designfileslist, &bmplistbox}) pickitem(*list, 0);
+            });
+            widgetof(*focused)->setFocus();
+            QTest::keyClick(widgetof(*focused), Qt::Key_Escape);
+            for (const auto& other : groups)
+                for (const control* c : other)  // the box for a name is common to both kinds of captures
+                    EXPECT_TRUE(c == &capbox || c->shown == (other != group)) << focused->name << ": " << c->name;
+        }
+}
+
 // Every place of a plan is reached by arrow keys, and the nearest in a direction first.
 TEST_F(windowsession, arrowsWalkThePlans) {
     keys(R"(postbeambtn Return postx0y16 Right =beamx0y16 postx0y16 Down =vbeamx16y16
@@ -97,6 +124,59 @@ TEST_F(windowsession, aBuildingByTheKeyboardAlone) {
     EXPECT_EQ(session::file("designs/girders1.txt"),
               "\"girder\",1,8,8,41,90,0,0,16,4,64\r\n\"girder\",9,200,8,41,90,0,192,16,4,64\r\n");
     EXPECT_EQ(session::file("designs/panels1.txt"), "\"panel\",1,0,104,2,0,270,0,208,2,64\r\n");
+}
+
+// A key that is held is one press; only the buttons that step go on.
+TEST_F(windowsession, aHeldKeyIsOnePressButForSteps) {
+    const auto hold = [](const control& c, Qt::Key key) {
+        QWidget& widget = *widgetof(c);
+        widget.setFocus();
+        quint64 time = 1000;  // ms
+        const auto send = [&](QEvent::Type type, bool repeats) {
+            QKeyEvent event(type, key, Qt::NoModifier, key == Qt::Key_Space ? " " : "", repeats);
+            event.setTimestamp(time);
+            QApplication::sendEvent(&widget, &event);
+        };
+        send(QEvent::KeyPress, false);
+        for (int repeat = 0; repeat < 3; ++repeat) {  // with their mark, and as X11 has them where they lose it
+            send(QEvent::KeyPress, true);
+            time += 40;
+            send(QEvent::KeyRelease, false);
+            send(QEvent::KeyPress, false);
+        }
+        time += 40;
+        send(QEvent::KeyRelease, false);
+    };
+    const auto records = [] {
+        const std::string file = session::file("designs/girders1.txt");
+        return std::count(file.begin(), file.end(), '\n');
+    };
+    keys("postbeambtn Return =layoutgirder");
+    hold(*findcontrol("postx0y16"), Qt::Key_Return);
+    EXPECT_EQ(records(), 1);
+    hold(*findcontrol("postx0y16"), Qt::Key_Space);
+    EXPECT_EQ(records(), 2);
+    QTest::mousePress(widgetof(*findcontrol("postx0y16")), Qt::LeftButton);
+    QTest::qWait(700);
+    QTest::mouseRelease(widgetof(*findcontrol("postx0y16")), Qt::LeftButton);
+    EXPECT_EQ(records(), 3);
+    hold(*findcontrol("postx0y16"), Qt::Key_Escape);
+    keys("-layoutgirder =postbeambtn");
+    hold(autosolidsingle, Qt::Key_Return);
+    keys("=autofile5");
+    hold(autofile5, Qt::Key_Return);
+    keys("-autofile5");
+
+    keys("magplusbtn");
+    const double before = mag;
+    hold(magplusbtn, Qt::Key_Return);
+    EXPECT_NEAR(mag - before, 7 * 0.01, 1e-9);
+    QTest::mousePress(widgetof(magminusbtn), Qt::LeftButton);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return mag < before; }));
+    QTest::mouseRelease(widgetof(magminusbtn), Qt::LeftButton);
+    click(floor);
+    hold(floor, Qt::Key_Space);
+    EXPECT_GT(floor.text.size(), 4);
 }
 
 }  // namespace tessaly

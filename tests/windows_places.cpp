@@ -6,7 +6,9 @@
 
 #include <QLabel>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QScrollBar>
+#include <QWindow>
 
 namespace tessaly {
 
@@ -66,6 +68,60 @@ TEST_F(windowsession, controlsStandAtTheirPlacesAndAreSeenWhole) {
         const auto* text = qobject_cast<const QPlainTextEdit*>(widgetof(*page.on));
         EXPECT_EQ(text->verticalScrollBar()->maximum() + text->horizontalScrollBar()->maximum(), 0) << page.on->name;
     }
+}
+
+// Beside the picture as far as the screen reaches, in front of the main window, and whole on the screen.
+TEST_F(windowsession, windowsOpenAtTheRightAndOnTheScreen) {
+    constexpr int border = 2;  // pixels: by which the desktop moves the interior
+    const QRect screen = frameof(vistaplan)->screen()->availableGeometry().adjusted(0, 0, border, border);
+    EXPECT_TRUE(screen.contains(frameof(vistaplan)->geometry()));
+    int above = -1;
+    runevent([] {
+        for (control* opener : {&postbeambtn, &orange1btn, &roofbtn, &fastchange, &instructionsbtn})
+            clickcontrol(*opener);
+    });
+    for (const window* w : {&layoutgirder, &layoutpanels, &layoutroof, &easyviews, &instructions}) {
+        const windowframe& f = *frameof(*w);
+        SCOPED_TRACE(w->name);
+        EXPECT_TRUE(screen.contains(f.geometry()));
+        EXPECT_NEAR(f.geometry().right(), screen.right(), border);
+        EXPECT_EQ(f.windowHandle()->transientParent(), frameof(vistaplan)->windowHandle());
+        EXPECT_EQ(f.windowFlags() & Qt::WindowType_Mask, Qt::Dialog);
+        EXPECT_TRUE(screen.height() < 600 || w == &easyviews || w == &instructions || f.geometry().top() > above);
+        above = f.geometry().top();
+    }
+    frameof(layoutgirder)->showMinimized();
+    runevent([] { clickcontrol(postbeambtn); });
+    EXPECT_FALSE(frameof(layoutgirder)->isMinimized());
+    EXPECT_TRUE(frameof(layoutgirder)->isVisible());
+}
+
+TEST_F(windowsession, helpPagesOpenAtTheirTopAndTheirRegionStaysMarked) {
+    keys("=vistaplan F1 =instructions");
+    QScrollBar& bar = *frameof(instructions)->verticalScrollBar();
+    for (const helpregion& region : helpregions) {
+        keys(region.button->name);  // by Tab, wherever it is
+        const QRect seen = widgetof(*region.button)->visibleRegion().boundingRect();
+        EXPECT_GT(seen.height(), 100) << region.button->name;
+        bar.setValue(bar.maximum());
+        keys("Return");
+        EXPECT_EQ(bar.value(), 0);
+        for (const helpregion& other : helpregions) EXPECT_EQ(other.button->chosen, &other == &region);
+        const QImage marked = widgetof(*region.button)->grab().toImage();
+        region.button->chosen = false;
+        runevent([] {});
+        EXPECT_NE(widgetof(*region.button)->grab().toImage(), marked) << region.button->name;
+    }
+}
+
+// A desktop finds the entry of a running window by this name.
+TEST(desktopentry, namesTheWindowsAsTheProgramDoes) {
+    const std::string root = TESSALY_SOURCE_DIR;
+    const std::string entry = session::file(root + "/packaging/tessaly.desktop"),
+                      program = session::file(root + "/windows/qt/program/main.cpp");
+    EXPECT_NE(entry.find("\nStartupWMClass=tessaly\n"), std::string::npos);
+    EXPECT_NE(program.find("setDesktopFileName(\"tessaly\")"), std::string::npos);
+    EXPECT_NE(program.find("setApplicationName(\"tessaly\")"), std::string::npos);
 }
 
 }  // namespace tessaly

@@ -3,6 +3,7 @@
 // same actions, has left the same files and the same picture, or has ended with the same report.
 // TESSALY_ACTIONS: how many actions in all; TESSALY_SEED: of the first session, which the others follow.
 
+#include "core/viewvalues.h"
 #include "render/raster.h"
 #include "tests/commandline.h"
 #include "tests/windowsession.h"
@@ -129,6 +130,12 @@ class randomuser : public windowsession {
             runevent([] {});
         });
         EXPECT_EQ(c->text, text);
+        const bool ofview =
+            std::any_of(std::begin(viewvalues), std::end(viewvalues), [c](const viewvalue& v) { return &v.box == c; });
+        if (!ofview || oneof(2) == 0) return;
+        script += "click cventerbtn\n";
+        event(nullptr, [&] { QTest::keyClick(widgetof(*c), Qt::Key_Return); });
+        EXPECT_EQ(usedcontrol, &cventerbtn);
     }
 
     void closeany() {
@@ -156,6 +163,8 @@ class randomuser : public windowsession {
     static void expectsame(const control& c, const QWidget& widget) {
         SCOPED_TRACE(c.name);
         EXPECT_EQ(widget.isHidden(), !c.shown);
+        EXPECT_TRUE(c.elementnumber > 0 || widget.toolTip().toStdString() == tooltipof(c))
+            << qPrintable(widget.toolTip());
         const auto* const box = qobject_cast<const QComboBox*>(&widget);
         const auto* const rows = qobject_cast<const QListWidget*>(&widget);
         EXPECT_TRUE(c.kind == controlkind::picturebox || rows || shownby(widget) == c.text) << shownby(widget);

@@ -176,8 +176,8 @@ control* closerof(const window& w, const control* focused) {
     control* first = nullptr;
     for (const closer& c : closers) {
         if (c.button->in != &w || !c.button->shown) continue;
-        if (focused && std::find(std::begin(c.closes), std::end(c.closes), focused) != std::end(c.closes))
-            return c.button;
+        const bool belongs = std::find(std::begin(c.closes), std::end(c.closes), focused) != std::end(c.closes);
+        if (focused && (focused == c.button || belongs)) return c.button;
         if (!first) first = c.button;
     }
     return first;

@@ -169,6 +169,10 @@ void button::paintEvent(QPaintEvent*) {
     else
         paintcaption(painter);
     if (marked) paintmark(painter);
+    if (!chosen) return;
+    painter.setPen(QPen(ringcolour, 3));  // a picture may cover the face
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(seen()).adjusted(1, 1, -3, -3));
 }
 
 QRect button::seen() const { return rect() & parentWidget()->rect().translated(-pos()); }

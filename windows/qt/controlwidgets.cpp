@@ -35,6 +35,7 @@ constexpr int multiline = 60;   // pixels: a text box from this height on has se
 class list : public QListWidget {
   public:
     list(const control& itscontrol, QWidget* plan) : QListWidget(plan), of(itscontrol) {
+        setFocusPolicy(Qt::StrongFocus);  // not by the wheel
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setTextElideMode(Qt::ElideMiddle);
         setUniformItemSizes(true);
@@ -135,6 +136,8 @@ class snipbox : public QComboBox {
         setEditable(true);
         setCompleter(nullptr);  // what is typed stays as typed
         setInsertPolicy(QComboBox::NoInsert);
+        lineEdit()->setTextMargins(-2, 0, -2, 0);  // so that the longest entry fits
+        setFocusPolicy(Qt::StrongFocus);           // not by the wheel
     }
     void showPopup() override {
         view()->setMinimumWidth(view()->sizeHintForColumn(0) + 2 * view()->frameWidth());

@@ -77,8 +77,6 @@ void decoratevistaplan(windowframe& f) {
     for (const control* c : {&Label4, &Label5, &Label6, &vert, &horizlabel})
         qobject_cast<QLabel*>(widgetof(*c))->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     for (const control* c : {&selectgirderfile, &selectpanelfile, &selectedbox, &autohintbox}) makereadonly(*c);
-    // The marks on the plans follow the floor while it is typed.
-    QObject::connect(qobject_cast<QLineEdit*>(widgetof(floor)), &QLineEdit::textEdited, &f, [] { runevent([] {}); });
     for (const programkey& k : programkeys()) {
         auto* shortcut = new QShortcut(QKeySequence(k.name), &f);
         shortcut->setContext(Qt::ApplicationShortcut);

@@ -1,0 +1,156 @@
+// Boxes in the real windows: what is typed replaces what is there, Return is SET, the tint says what is not in force;
+// tooltips of steps; and the wheel.
+
+#include "core/viewvalues.h"
+#include "tests/windowsession.h"
+
+#include <QAbstractItemView>
+#include <QAccessible>
+#include <QComboBox>
+#include <QWheelEvent>
+
+#include <set>
+
+namespace tessaly {
+
+namespace {
+
+const QColor usualpaper(255, 255, 255);
+
+QColor paper(const control& box) { return widgetof(box)->palette().color(QPalette::Base); }
+
+void expecttinted(const std::set<const control*>& tinted) {
+    for (const window* w : {&vistaplan, &easyviews})
+        for (const control* c : w->controls)
+            if (c->kind == controlkind::textbox && frameof(*w) && widgetof(*c)->focusPolicy() != Qt::NoFocus) {
+                EXPECT_EQ(paper(*c) != usualpaper, tinted.contains(c)) << c->name << " " << c->text;
+                EXPECT_EQ(widgetof(*c)->toolTip().toStdString(), tooltipof(*c));
+            }
+}
+
+void turnwheel(QWidget& over) {
+    const QPointF middle = over.rect().center();
+    QWheelEvent turn(middle, over.mapToGlobal(middle), {}, {0, -120}, Qt::NoButton, Qt::NoModifier, Qt::NoScrollPhase,
+                     false);
+    QApplication::sendEvent(&over, &turn);
+}
+
+}  // namespace
+
+TEST_F(windowsession, typingAfterAClickReplacesTheNumberAndReturnSetsIt) {
+    keys("=vistaplan shopfm Return");
+    int number = 700;
+    for (const viewvalue& v : viewvalues) {
+        const std::string typed = &v.box == &magtxt ? "0.08" : std::to_string(++number);
+        click(v.box);
+        keys("=" + v.box.name + " \"" + typed + '"');
+        EXPECT_EQ(v.box.text, typed) << v.box.name;
+        expecttinted({&v.box});
+        keys("Return =" + v.box.name);
+        expecttinted({});
+        keys("\"5\"");
+        EXPECT_EQ(v.box.text, "5") << v.box.name;
+        QTest::mouseDClick(widgetof(v.box), Qt::LeftButton);
+        keys('"' + typed + "\" F5");
+        EXPECT_EQ(v.box.text, typed) << v.box.name;
+    }
+    EXPECT_EQ(perpx + focusx, 701);
+    EXPECT_EQ(perpz + focusz, 703);
+    EXPECT_EQ(focusy, 705);
+    EXPECT_EQ(mag, 0.8);
+    EXPECT_EQ(horizshift, 708);
+    click(perptxtx);
+    QTest::mouseClick(widgetof(perptxtx), Qt::LeftButton, {}, {3, 10});  // the second click sets the cursor
+    keys("\"1\"");
+    EXPECT_EQ(perptxtx.text, "1701");
+}
+
+TEST_F(windowsession, numbersOfQuickViewsAreTintedUntilTheyAreInForce) {
+    click(fastchange);
+    click(*findcontrol("perpz600"));
+    expecttinted({&perptxtz, &eperpzbox});
+    click(*findcontrol("perpx1800y0"));
+    click(fastchange);  // copies what is not in force
+    expecttinted({&perptxtx, &perptxty, &perptxtz, &eperpxbox, &eperpybox, &eperpzbox});
+    click(magplusbtn);  // writes no box but its own
+    expecttinted({&perptxtx, &perptxty, &perptxtz, &eperpxbox, &eperpybox, &eperpzbox});
+    keys("=magplusbtn F5");
+    expecttinted({});
+    click(*findcontrol("perpz600"));
+    click(vertperpplusbtn);  // writes the box by itself
+    expecttinted({});
+}
+
+TEST_F(windowsession, boxesWarnOfWhatClicksWouldNotDo) {
+    const struct {
+        const control& box;
+        const char* text;
+        bool warns;
+    } rows[] = {
+        {floor, "10", false},        {floor, "0", true},
+        {floor, "11", true},         {floor, "1.5", true},
+        {floor, "3x", false},        {floor, "", true},
+        {wiresolid, "Solid", true},  {wiresolid, "wireframe", false},
+        {writefilebox, "off", true}, {writefilebox, "ON", true},
+        {writefilebox, "on", false},
+    };
+    for (const auto& row : rows) {
+        qobject_cast<QLineEdit*>(widgetof(row.box))->setText(row.text);
+        EXPECT_EQ(paper(row.box) != usualpaper, row.warns) << row.box.name << " " << row.text;
+        EXPECT_EQ(widgetof(row.box)->toolTip().toStdString() != row.box.tooltip, row.warns) << row.text;
+    }
+}
+
+TEST_F(windowsession, tooltipsSayByHowMuchStepsGo) {
+    const auto tip = [](const control& c) { return widgetof(c)->toolTip().toStdString(); };
+    EXPECT_EQ(tip(vertperpplusbtn), "Raise the eye by 100");
+    runevent([] { pickitem(incrementlist, 8); });
+    EXPECT_EQ(tip(vertperpplusbtn), "Raise the eye by 0.01, picked in \"Increment\"");
+    EXPECT_EQ(tip(horizdec), "Move the picture left by 0.01, picked in \"Increment\"");
+    EXPECT_EQ(tip(magplusbtn), "Magnify by 0.001");
+    EXPECT_EQ(widgetof(rotleftbtn)->accessibleDescription(), "Walk to the left around the building by 100");
+    runevent([] { pickitem(incrementlist, 9); });
+    EXPECT_EQ(tip(vertfocusminusbtn), "Lower the point looked at by 50");
+}
+
+TEST_F(windowsession, theWheelLeavesTheSnipAloneUnlessItHasTheFocus) {
+    click(orange1btn);
+    auto* const box = qobject_cast<QComboBox*>(widgetof(panelsnipper));
+    turnwheel(*box);
+    EXPECT_EQ(panelsnipper.text, "Full panel");
+    EXPECT_EQ(focusedcontrol(layoutpanels), nullptr);
+    keys("panelsnipper");
+    turnwheel(*box);
+    EXPECT_EQ(panelsnipper.text, "snip left side");
+    for (const std::string& entry : panelsnipper.items)
+        EXPECT_LE(box->fontMetrics().horizontalAdvance(entry.c_str()), box->lineEdit()->width()) << entry;
+    box->showPopup();
+    EXPECT_GE(box->view()->viewport()->width(), box->view()->sizeHintForColumn(0));
+    box->hidePopup();
+    QAccessibleInterface* const line = QAccessible::queryAccessibleInterface(box->lineEdit());
+    EXPECT_EQ(line->text(QAccessible::Name).toStdString(), panelsnipper.accessiblename);
+}
+
+TEST_F(windowsession, longNamesInAListHaveATooltip) {
+    const std::string longname = "girders1-of-the-house-behind-the-mill.txt";
+    for (const std::string& name : {longname, std::string("girders1.txt")}) session::write("designs/" + name, "");
+    click(autosolidsingle);
+    const auto* rows = qobject_cast<QListWidget*>(widgetof(autofile5));
+    for (const QListWidgetItem* row : {rows->item(0), rows->item(1)})
+        EXPECT_EQ(row->toolTip(), row->text().size() > 20 ? row->text() : QString());
+}
+
+TEST_F(windowsession, promptsAndHintsAreOnlyRead) {
+    click(autosolidbtn);
+    for (const control* c : {&selectgirderfile, &selectpanelfile, &selectedbox, &autohintbox}) {
+        SCOPED_TRACE(c->name);
+        EXPECT_TRUE(widgetof(*c)->property("readOnly").toBool());
+        EXPECT_EQ(widgetof(*c)->focusPolicy(), Qt::NoFocus);
+        if (!c->shown) continue;
+        widgetof(*c)->setFocus(Qt::MouseFocusReason);
+        QTest::keyClicks(widgetof(*c), "x");
+        EXPECT_NE(c->text.front(), 'x');
+    }
+}
+
+}  // namespace tessaly
