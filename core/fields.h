@@ -1,8 +1,8 @@
-// The field reader: files are read field by field, and it makes no difference how fields are spread over lines: a row
-// may be broken after a comma. A comma or a line end closes a field, blanks before it are skipped, double quotes
-// delimit a text, a number also ends at a blank and takes one separator with it. In design and view records, which are
-// lines, a comma at the end of a line has an empty field behind it. Reading past the end fails with input past end of
-// file. what: the field's role, for reports ("x of a STANDARD: row").
+// The field reader reads files field by field; a row may continue on the next line after a comma. A comma or a line end
+// closes a field, blanks before it are skipped, and double quotes delimit a text. A number also ends at a blank, and
+// the separator after it is skipped. In design and view records a comma at the end of a line is followed by an empty
+// field. Reading past the end fails with input past end of file. what: the role of the field, for reports ("x of a
+// STANDARD: row").
 #pragma once
 
 #include "core/failure.h"
@@ -14,25 +14,25 @@
 
 namespace tessaly {
 
-// A field as a value: a number if it reads as one, otherwise the text; empty between two separators. Blank lines
-// before it are skipped. A quoted field is a text always.
+// Reads a field as a value: a number if possible, otherwise a text; empty between two separators. A quoted field is
+// always a text. Skips blank lines before it.
 value readvalue(textinput& in, const char* what);
 
-// A field of a design record: as readvalue, but a blank line is one empty field.
+// Reads a field of a design record: as readvalue, but a blank line is an empty field.
 value readrecordfield(textinput& in, const char* what);
 
-// A field as a label: a signed 16-bit whole number, halves to the even one; a text that is no number is 0. Blank lines
-// before it are skipped. Fails with overflow outside -32768..32767.
+// Reads a label: a 16-bit whole number, rounded with halves to even; 0 for a text that is not a number. Skips blank
+// lines before it. Fails with overflow outside -32768..32767.
 int readlabel(textinput& in, const char* what);
 
-// A field as a text, to the comma or the line end, trailing blanks included. It points into the file's bytes: do not
-// use it after the file is closed.
+// Reads a field as a text up to the comma or line end, with trailing blanks. The result points into the bytes of the
+// file and is valid until the file is closed.
 std::string_view readtextfield(textinput& in, const char* what);
 
-// A text field of a design record or view record.
+// Reads a text field of a design or view record.
 std::string_view readrecordtext(textinput& in, const char* what);
 
-// Reads text fields until one equals key exactly.
+// Reads text fields until one equals key exactly. Fails with input past end of file if none does.
 void findkey(textinput& in, const char* key);
 
 // Skips blanks, blank lines and the line end of a broken row; returns the location of the field that follows.

@@ -30,7 +30,7 @@ struct channelstate {
 };
 
 constexpr int lastchannel = 2;
-constexpr std::size_t maxbytes = 64 << 20;  // of a file that is held whole
+constexpr std::size_t maxbytes = 64 << 20;  // of a file that is read
 std::array<channelstate, lastchannel + 1> channels;
 
 channelstate& channelof(int channel) { return channels.at(static_cast<std::size_t>(channel)); }
@@ -56,19 +56,19 @@ void expectfree(int channel, std::string_view path) {
                   shortpath(open) + " is still open on channel " + std::to_string(channel), shortpath(path));
 }
 
-// Opens a file as flags say: a regular one, for a pipe may never answer and a device never end.
+// Opens a regular file. Anything else is refused: a pipe may block, and a device may never end.
 int openregular(const std::string& path, const char* what, int flags) {
     const int handle = ::open(systempath(path).c_str(), flags | openflags, 0666);
     struct stat s {};
     if (handle >= 0 && ::fstat(handle, &s) == 0 && S_ISREG(s.st_mode)) return handle;
     const int error = handle < 0 ? errno : ENXIO;
     if (handle >= 0) ::close(handle);
-    if (error != ENXIO) systemfailure(path, what, error);  // which is also what a pipe without a reader says
+    if (error != ENXIO) systemfailure(path, what, error);  // a pipe without a reader also gives ENXIO
     throw failure(failurekind::fileaccess, "this is not a regular file", shortpath(path) + " (" + what + ")",
                   "move it away");
 }
 
-// Reads up to the end or a little more than maxbytes; 0, or the system's error.
+// Reads up to the end or slightly more than maxbytes. Returns 0 or the error number.
 int readwhole(int handle, std::string& bytes) {
     char block[1 << 16];
     while (bytes.size() <= maxbytes) {
@@ -80,8 +80,8 @@ int readwhole(int handle, std::string& bytes) {
     return 0;
 }
 
-// Writes all of text at the end of a file. Returns 0, or the system's error after a try to restore the file's length;
-// changed is false if the file is as before.
+// Appends text to a file. On an error, tries to restore the length of the file. Returns 0 or the error number; sets
+// changed to whether the file may have changed.
 int appendwhole(int handle, const std::string& text, bool& changed) {
     changed = false;
     struct stat before {};
@@ -149,7 +149,7 @@ textoutput& openappend(int channel, std::string_view path, const char* what) {
 
 textoutput::textoutput(std::string_view filepath, const char* what) : path(filepath) {
 #ifdef SIGXFSZ
-    std::signal(SIGXFSZ, SIG_IGN);  // a limit on the size of files is a failed write, not the end of the process
+    std::signal(SIGXFSZ, SIG_IGN);  // exceeding the file size limit then fails the write instead of ending the process
 #endif
     constexpr int flags = O_WRONLY | O_APPEND | O_CREAT;
     handle = ::open(systempath(path).c_str(), flags | O_EXCL | openflags, 0666);

@@ -1,8 +1,7 @@
-// Text files as the building set uses them: read from the front, or appended to. Each is open on a numbered channel,
-// which holds one file at a time: channel 1 serves element, scene and start files and design files being written;
-// channel 2 a design file during replay and its temporary files.
-// Paths are written as users know them ("designs\girders1.txt") and go through one procedure here: the first backslash
-// ends the folder, and in the name behind it a backslash is a letter like any other, as it is on this system.
+// Text files, read sequentially or appended to. Each is open on a numbered channel, which holds one file at a time:
+// channel 1 for element, scene and start files and for design files being written, channel 2 for design files and
+// temporary files during a replay. Paths are written as users see them ("designs\girders1.txt"). systempath converts
+// them: the first backslash ends the folder; any other backslash is part of the name.
 #pragma once
 
 #include <cstddef>
@@ -12,11 +11,11 @@
 
 namespace tessaly {
 
-// The path as this system opens it, relative to the working folder.
+// Returns the path in the notation of the system, relative to the working folder.
 std::string systempath(std::string_view path);
 
-// The bytes of a file as they stand on disk now: nothing is kept from an earlier reading. Fails with file not found,
-// with file access error also where it is no regular file or has more than 64 MB.
+// Returns the present bytes of a file; nothing is cached. Fails with file not found, and with file access error, also
+// if it is not a regular file or has more than 64 MB. what: the role of the file, for reports.
 std::string filebytes(std::string_view path, const char* what);
 
 // The location of a field in its file; line and field count from 1.
@@ -26,7 +25,7 @@ struct fieldlocation {
 
 // A file open for reading. Its bytes are read into memory when it is opened.
 struct textinput {
-    std::string path;         // as users know it
+    std::string path;         // as users see it
     std::string bytes;        // at the time of opening
     std::size_t at = 0;       // index of the next field's first byte
     fieldlocation next = {};  // of that field
@@ -79,7 +78,8 @@ void resetchannels();
 // Deletes a file; fails with file not found or file access error.
 void deletefile(std::string_view path);
 
-// The bare names of the files of a folder, sorted; fails with file not found where there is no such folder.
+// Returns the names of the files in a folder, sorted, without the unfinished file of a capture. Fails with file not
+// found if the folder does not exist.
 std::vector<std::string> filesin(std::string_view folder);
 
 }  // namespace tessaly

@@ -28,17 +28,17 @@ struct pooled {
 };
 
 std::deque<pooled>& pool() {
-    static std::deque<pooled> texts(2);  // the first two places stand for empty and number
+    static std::deque<pooled> texts(2);  // the first two indexes mean empty and number
     return texts;
 }
 
-std::uint32_t poolplace(std::string_view text, std::string_view origin) {
-    static std::unordered_map<std::string, std::uint32_t> places;
+std::uint32_t poolindex(std::string_view text, std::string_view origin) {
+    static std::unordered_map<std::string, std::uint32_t> indexes;
     std::string key(text);
     key += '\0';
     key += origin;
     const auto next = static_cast<std::uint32_t>(pool().size());
-    const auto [found, fresh] = places.emplace(std::move(key), next);
+    const auto [found, fresh] = indexes.emplace(std::move(key), next);
     if (fresh) pool().push_back({std::string(text), std::string(origin)});
     return found->second;
 }
@@ -101,24 +101,24 @@ double parsed(std::string_view text) {
 
 }  // namespace
 
-value::value(std::string_view text, std::string_view origin) : form(poolplace(text, origin)) {}
+value::value(std::string_view text, std::string_view origin) : kind(poolindex(text, origin)) {}
 
 bool value::is(std::string_view text) const {
-    if (istext()) return pool()[form].text == text;
+    if (istext()) return pool()[kind].text == text;
     return empty() && text.empty();
 }
 
 std::string value::text() const {
-    if (istext()) return pool()[form].text;
-    return empty() ? std::string() : generaltext(figure);
+    if (istext()) return pool()[kind].text;
+    return empty() ? std::string() : generaltext(number);
 }
 
 double value::converted() const {
-    const pooled& held = pool()[form];
+    const pooled& held = pool()[kind];
     std::string pointed = held.text;
     std::replace(pointed.begin(), pointed.end(), ',', '.');
     try {
-        if (const auto number = strictnumber(held.text)) return *number;
+        if (const auto strict = strictnumber(held.text)) return *strict;
         if (strictnumber(pointed))
             throw failure(failurekind::typemismatch, held.text + " is not a number", {},
                           "type " + pointed + " (with a point)");

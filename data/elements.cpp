@@ -1,5 +1,5 @@
-// The element reader: the sections of an element file in their fixed order, the cube expansion, and the placement.
-// The row that ends a section is stored like any other, in the slot behind the last real row.
+// The element reader: the sections of an element file in their fixed order, the expansion of cubes, and the placement.
+// The row that ends a section is also stored, in the slot after the last real row.
 
 #include "data/elements.h"
 
@@ -16,7 +16,7 @@ namespace tessaly {
 
 namespace {
 
-constexpr int lastplaced = 100;  // points that a placement moves
+constexpr int lastplaced = 100;  // a placement moves the points 1 to lastplaced
 constexpr int lastplane = 7000;
 constexpr int cubesinsection = 200;
 
@@ -40,7 +40,7 @@ void readpoints(textinput& in) {
     }
 }
 
-// Reads one LINEG section from line index first on; gives its count of lines. A section without an end row counts none.
+// Reads a LINEG section into the lines starting at first and returns its number of lines: 0 if it has no end row.
 int readlines(textinput& in, const char* key, int first) {
     findkey(in, key);
     for (int n = first; n <= lastline; ++n) {
@@ -103,13 +103,14 @@ void readsections(textinput& in) {
     readframing(in, "AUTOFRAMING2:", framing2);
 }
 
-void toworldplace() {
+// Converts placex and placey from layout to world units.
+void placetoworld() {
     placex = placex - planoriginx;
     placey = placey - planoriginy;
 }
 
-// Runs the placement of placemode; false for a mode that places nothing.
-bool place() {
+// Runs the placement that placemode selects. Returns false if it selects none.
+bool tryplace() {
     const double mode = placemode;
     if (mode == 0)
         runtransforms();
@@ -126,21 +127,21 @@ bool place() {
 
 }  // namespace
 
-void readelements() { readshape({1, "element file", readsections, place, 1}); }
+void readelements() { readshape({1, "element file", readsections, tryplace, 1}); }
 
 void rotzplace() {
-    toworldplace();
-    turnpoints(1, lastplaced, radians(rotz), turnz);
+    placetoworld();
+    rotatepoints(1, lastplaced, radians(rotz), rotatez);
 }
 
 void rotxplace() {
-    toworldplace();
+    placetoworld();
     rotx = radians(rotx);
-    turnpoints(1, lastplaced, rotx, turnx);
+    rotatepoints(1, lastplaced, rotx, rotatex);
 }
 
 void shiftplace() {
-    toworldplace();
+    placetoworld();
     shiftpoints(1, lastplaced, 1);
 }
 
@@ -151,7 +152,7 @@ void readshape(const shapereader& r) {
     shapefile = in.path;
     locatesubscript([&in] { return in.location(); }, [&] { r.readsections(in); });
     if (opened) return;
-    // A placemode that nothing sets leaves the file open on channel 1, so that the next element fails.
+    // If placemode selects no placement, the file stays open on channel 1, so that the next element fails.
     if (!r.place()) return;
     in.close();
     drawset = r.drawset;

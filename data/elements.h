@@ -1,5 +1,5 @@
-// Element files: points, lines in five groups, cubes and flat quads of one element, read into the world, placed and
-// drawn as wires.
+// Element files: the points, lines, cubes and quads of one element. The readers store them in the world tables, place
+// them and draw them as wires.
 #pragma once
 
 #include "core/textfiles.h"
@@ -9,48 +9,50 @@
 
 namespace tessaly {
 
-// Reads "datah\" + datafile into the world, places it by placemode and plots it; with preopened 1 reads the file open
-// on channel 1 up to its framing and returns. reads: datafile, preopened, placemode, placex.., rotx, rotz; writes: the
-// world tables, placex, placey, rotx, drawset; draws on viewport; fails: file not found, input past end of file,
-// overflow, subscript, type mismatch, division by zero. A failure leaves channel 1 open.
+// Reads "datah\" + datafile into the world tables, places it by placemode and plots it. If preopened is 1, the file is
+// already open on channel 1: reads it up to the end of its framing sections and returns.
+// reads: datafile, preopened, placemode, placex.., rotx, rotz; writes: the world tables, placex, placey, rotx, drawset;
+// draws on viewport; fails: file not found, file already open, input past end of file, overflow, subscript, type
+// mismatch, division by zero. A failure after the opening leaves channel 1 open.
 void readelements();
 
-// The placement routines: points 1..100 from the base tables, turned by rotz or rotx degrees and moved to the place.
-void rotzplace();   // about Z
-void rotxplace();   // about X; leaves radians in rotx
-void shiftplace();  // moved only
+// Move the points 1..100 from their base positions to placex, placey, placez and rotate them.
+// reads: placex.., rotz or rotx; writes: ptx.., basex.., placex and placey (in world units afterwards).
+void rotzplace();   // rotates by rotz degrees about Z
+void rotxplace();   // rotates by rotx degrees about X; leaves radians in rotx
+void shiftplace();  // does not rotate
 
-// What the readers of element files and of axis-cube files keep apart.
+// What differs between the readers of element files and of axis-cube files.
 struct shapereader {
-    int preopened;     // at which the reader finds its file open on channel 1
-    const char* role;  // of its file, for reports
+    int preopened;     // value of the scalar preopened that means the file is already open on channel 1
+    const char* role;  // what reports call the file
     void (*readsections)(textinput& in);
-    bool (*place)();  // false: nothing placed it
+    bool (*place)();  // returns false if placemode selects no placement
     int drawset;
 };
 
-// Clears the tables, reads a file's sections and, where it opened the file itself, places and plots them.
+// Clears the tables and reads the sections of a file. If it opened the file itself, also places and plots the element.
 void readshape(const shapereader& r);
 
-// Ends the reading of a scene whose file was opened for its reader: runs its script, and plots it with the view of a
-// new scene. writes: preopened, palette, viewprompt, plotstate and as plotgroups; draws on viewport; fails: as
+// Finishes a scene whose file the caller opened: runs its script, closes the file, loads the palette and plots.
+// writes: preopened, palette, viewprompt, plotstate, and everything plotgroups writes; draws on viewport; fails: as
 // readelements.
 void showscene();
 
-// Where the next cube goes.
+// Indexes for the next cube.
 struct cubeslots {
     int point, quad, line;
 };
 
-// Two opposite corners of a cube, x, y and z of each, as a row gives them.
+// Two opposite corners of a cube in the order of a row: x, y, z of one, then of the other.
 using cubecorners = std::array<value, 6>;
 cubecorners readcorners(textinput& in);
 
-// Expands a cube into eight points, twelve lines and six faces.
+// Expands a cube into eight points, twelve lines and six faces; advances next by ten points and quads and twelve lines.
 void expandcube(cubeslots& next, const cubecorners& opposite, const value& grade, const value& colour);
 
-// Reads rows of one cube each, up to the end row or maxrows of them, and expands them into the slots from next on.
-// writes: cubegrade, cubecolour from firstcube on and what expandcube writes; fails: as readelements.
+// Reads rows of one cube each, up to the end row but at most maxrows, and expands them into the slots starting at next.
+// writes: cubegrade and cubecolour starting at firstcube, and everything expandcube writes; fails: as readelements.
 void readcuberows(textinput& in, int firstcube, int maxrows, cubeslots& next);
 
 }  // namespace tessaly

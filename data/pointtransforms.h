@@ -1,4 +1,4 @@
-// Points from their base place: turned about an axis and moved, by placements and scripts alike.
+// Rotates points about an axis and moves them, starting from their base positions, for placements and scripts.
 #pragma once
 
 #include "core/world.h"
@@ -7,38 +7,40 @@
 
 namespace tessaly {
 
-// Degrees to radians with the truncated pi that shows in the coordinates.
+// Converts degrees to radians. Deliberately uses a truncated pi, which affects the coordinates.
 constexpr double radians(double degrees) { return degrees * 3.14159 / 180; }
 
-// This is where point i stands from now on, and its base place.
+// Sets the position and the base position of point i.
 void placepoint(int i, const value& x, const value& y, const value& z);
 
-// Moves point i: its base place, turned about an axis by the angle whose cosine and sine are c and s, then shifted.
-// That is its base place from then on. fails: subscript, type mismatch.
-using turn = void (*)(int i, double c, double s, double dx, double dy, double dz);
-void turnx(int i, double c, double s, double dx, double dy, double dz);
-void turny(int i, double c, double s, double dx, double dy, double dz);
-void turnz(int i, double c, double s, double dx, double dy, double dz);
+// Rotate the base position of point i about an axis by the angle with cosine c and sine s, then shift it. The result is
+// the new position and base position. Fail with subscript, type mismatch.
+using rotation = void (*)(int i, double c, double s, double dx, double dy, double dz);
+void rotatex(int i, double c, double s, double dx, double dy, double dz);
+void rotatey(int i, double c, double s, double dx, double dy, double dz);
+void rotatez(int i, double c, double s, double dx, double dy, double dz);
 
-// Runs visit(i) for every step-th point from first to last; for none where first is the greater figure. Either may lie
-// outside the tables, only the points that are touched count: the first one that is none ends it. fails: subscript.
+// Calls visit(i) for every step-th point from first to last; for none if first > last. Fails with subscript at the
+// first point outside the tables.
 template <class procedure>
-void overpoints(double first, double last, int step, procedure visit);
+void foreachpoint(double first, double last, int step, procedure visit);
 
-// Moves the points first..last, turned by an angle in radians and shifted by placex..; every step-th, only shifted.
-void turnpoints(double first, double last, double angle, turn about);
+// Rotates the points first..last by an angle in radians and shifts them by placex, placey, placez.
+void rotatepoints(double first, double last, double angle, rotation rotate);
+
+// Shifts every step-th point of first..last by placex, placey, placez.
 void shiftpoints(double first, double last, int step);
 
-[[noreturn]] void runfailure(double first, double last);
+[[noreturn]] void failpointrange(double first, double last);
 
 template <class procedure>
-void overpoints(double first, double last, int step, procedure visit) {
+void foreachpoint(double first, double last, int step, procedure visit) {
     if (first > last) return;
     const double from = nearestwhole(first), to = nearestwhole(last);
-    if (from < 0 || from > lastpoint) runfailure(first, last);
+    if (from < 0 || from > lastpoint) failpointrange(first, last);
     int i = static_cast<int>(from);
     for (; i <= std::min<double>(to, lastpoint); i += step) visit(i);
-    if (i <= to) runfailure(first, last);
+    if (i <= to) failpointrange(first, last);
 }
 
 }  // namespace tessaly

@@ -3,8 +3,8 @@
 
 namespace tessaly {
 
-// Obeys the script on channel 1 up to its STOP. writes: ptx.., basex.., and as leftovers placex.., rotx, rotz;
-// fails: input past end of file, subscript, type mismatch.
+// Runs the script of the file open on channel 1 up to its STOP. writes: ptx.., basex..; side effects on placex.., rotx
+// and rotz; fails: input past end of file, subscript, type mismatch, overflow.
 void runtransforms();
 
 }  // namespace tessaly

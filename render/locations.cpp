@@ -1,4 +1,5 @@
-// Rows by the order in which the readers stored them. Element files and axis-cube files have different sections.
+// Computes rows from the order in which the readers stored them. Element files and axis-cube files differ in their
+// sections.
 
 #include "render/locations.h"
 
@@ -28,7 +29,7 @@ std::string inrow(const std::string& section, int row, int number) {
     return numberin(insection(section) + ", row " + std::to_string(row), number);
 }
 
-// The last number of a cube's row.
+// Returns the location of the last number in a cube's row.
 std::string locationofcubecolour(int face) {
     if (holdscubes() && face < firstlastface)
         return numberin(insection("AUTOCUBE" + std::to_string((face - 1) / 1000) + "00:"), cuberowfields);

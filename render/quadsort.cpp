@@ -1,4 +1,4 @@
-// Measuring and sorting of the quads, over the pages of the tables that were written.
+// Computes distances and sorts, over the written pages of the tables only.
 
 #include "render/quadsort.h"
 
@@ -13,16 +13,16 @@ namespace tessaly {
 
 namespace {
 
-constexpr int lastsorted = 7000;                          // quads that take part in the sort
-constexpr double farthest = 1000000, takenout = 2000000;  // model units
-static_assert(lastsorted == clearedpoints);               // a slot that was not written since a clear is empty
+constexpr int lastsorted = 7000;                               // highest slot that the sort considers
+constexpr double farthest = 1000000, alreadychosen = 2000000;  // model units
+static_assert(lastsorted == clearedpoints);  // so that a slot not written since the last clear is empty
 
 double eyedistance(const value& point) {
     const double x = perpx - ptx[point], y = perpy - pty[point], z = perpz - ptz[point];
     return std::sqrt((x * x + y * y) + z * z);
 }
 
-// The distances of a quad's corners from the eye; the nearest is its key.
+// Sets the distances of a quad's corners from the eye; the smallest is its key.
 void measurecorners(int i) {
     quadcornerdist1.set(i, eyedistance(quad1[i]));
     quadcornerdist2.set(i, eyedistance(quad3[i]));
@@ -36,16 +36,16 @@ void measurecorners(int i) {
 }
 
 void measurequad(int i) {
-    // The fourth corner is slot 0's, not slot i's: three corners decide whether a quad counts as empty here.
+    // Deliberately tests quad4[0], not quad4[i]: here three corners decide whether a quad is empty.
     if (quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[0] == 0) return;
     locatesubscript([i] { return locationofcorner(i); }, [i] { measurecorners(i); });
 }
 
-// The slots that a sort has to look at, ascending.
+// Returns the slots that may hold quads, ascending.
 std::vector<int> writtenslots() {
     writtenpages pages = quad1.written();
     for (const auto* corner : {&quad2, &quad3, &quad4}) pages |= corner->written();
-    if (quad4[0] != 0) pages.markall();  // then no slot counts as empty when the quads are measured
+    if (quad4[0] != 0) pages.markall();  // then measurequad treats no slot as empty
     std::vector<int> slots;
     pages.visit(lastsorted, [&slots](int first, int last) {
         for (int i = first; i <= last; ++i) slots.push_back(i);
@@ -67,7 +67,7 @@ void orderquads() {
             best = quaddist[j];
             quadorder.set(i, j);
         }
-        quaddist.set(quadorder[i], takenout);
+        quaddist.set(quadorder[i], alreadychosen);
     }
 }
 

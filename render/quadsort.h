@@ -1,15 +1,15 @@
-// The order in which the painter takes the quads of the element in the tables: nearest corner first.
+// Sorts the quads of the element in the tables by their nearest corners, for the painter.
 #pragma once
 
 namespace tessaly {
 
-// Measures the quads of slots 1..7000 and sorts them into quadorder. A quad with a key of 1000000 or more is never
-// chosen: the position then keeps what it held. Ties go to the lower slot. Only slots that were written are looked at.
-// reads: quads, perpx.., ptx..; writes: quaddist (used up: 2000000 for what was taken), quadcornerdist1..4, quadorder;
+// Sorts the quads of slots 1..7000 into quadorder, nearest first; the lower slot wins a tie. A quad with a distance of
+// 1000000 or more is never chosen, and its entry of quadorder is unchanged.
+// reads: quads, perpx.., ptx..; writes: quaddist (2000000 for each quad chosen), quadcornerdist1..4, quadorder;
 // fails: subscript, type mismatch.
 void orderquads();
 
-// Whether a slot of the quad tables holds no quad.
+// Returns whether a slot of the quad tables is empty.
 bool emptyquad(int slot);
 
 }  // namespace tessaly
