@@ -11,12 +11,12 @@ namespace tessaly {
 void addclicks() {
     for (const buttonfamily& f : allbuttonfamilies()) {
         const auto middle = [&f](const buttonposition& p) {
-            return p.of == &f && p.number == f.first + f.cols * f.rows / 2;
+            return p.family == &f && p.number == f.first + f.cols * f.rows / 2;
         };
         const auto& positions = allbuttonpositions();
         const std::string name = positionname(*std::find_if(positions.begin(), positions.end(), middle));
         for (const method m : {method::program, method::plain})
-            addmeasure(std::string("click/") + f.word, m, 1, [name] { playline("click " + name); });
+            addmeasure(std::string("click/") + f.nameprefix, m, 1, [name] { playline("click " + name); });
     }
     for (const method m : {method::program, method::plain, method::qpainter}) {
         addmeasure("view/step", m, 0, [] { playline("click horizinc"); });

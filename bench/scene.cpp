@@ -27,7 +27,7 @@ raster progress(progresswidth, progressheight);
 std::vector<const buttonposition*> positionsof(const char* kind) {
     std::vector<const buttonposition*> found;
     for (const buttonposition& p : allbuttonpositions())
-        if (std::string(p.of->kind) == kind) found.push_back(&p);
+        if (std::string(p.family->record.kind) == kind) found.push_back(&p);
     return found;
 }
 
@@ -38,8 +38,9 @@ constexpr int panelcodes[] = {1, 10, 2, 11, 3, 12, 31, 34};
 std::string recordof(const char* kind, std::size_t i) {
     const auto positions = positionsof(kind);
     const buttonposition& p = *positions[i * 29 % positions.size()];
-    const int code = p.of->code < 0 ? panelcodes[i % std::size(panelcodes)] : p.of->code;
-    return recordline({kind, p.number, p.middlex, p.middley, code, p.of->rotx, p.of->rotz, p.x, p.y, p.of->face, 64});
+    const int code = p.family->code < 0 ? panelcodes[i % std::size(panelcodes)] : p.family->code;
+    return recordline(
+        {kind, p.number, p.middlex, p.middley, code, p.family->rotx, p.family->rotz, p.x, p.y, p.family->facecode, 64});
 }
 
 const char* mixedkind(std::size_t i) { return i % 10 == 9 ? "roof" : i % 2 == 0 ? "panel" : "girder"; }

@@ -1,9 +1,8 @@
-// Element choice and the state of building: all of it lives in the text of four boxes, read at each click.
+// The buttons that choose what the next click on a plan builds.
 
 #include "building/buildstate.h"
 
-#include "core/controls.h"
-#include "core/world.h"
+#include "core/elementtypes.h"
 
 namespace tessaly {
 
@@ -17,29 +16,14 @@ void openlayout(window& layout) {
     showwindow(layout);
 }
 
-// A button and the text that it chooses.
-struct textchoice {
-    control& button;
-    const char* text;
-};
-const textchoice panels[] = {
-    // clang-format off
-    {orange1btn, "st-panels-1or-"},   {orange2btn, "st-panels-2or-"},  {orange3btn, "st-panels-3or-"},
-    {yellow1btn, "st-panels-1yel-"},  {yellow2btn, "st-panels-2yel-"}, {yellow3btn, "st-panels-3yel-"},
-    {door2btn,   "st-panels-2door-"}, {door4btn,   "st-panels-4door-"},
-    // clang-format on
-};
-const textchoice snips[] = {
-    {snipleftbtn, "snip left side"}, {sniprighbtn, "snip right side"}, {snipbothbtn, "snip both sides"}};
-
-// The floor of a number, 0 for a number that is no floor's.
+// Returns the floor of a number, 0 for a number that is not a floor.
 int floorin(double level) {
     for (int number = lowestfloor; number <= highestfloor; ++number)
         if (level == number) return number;
     return 0;
 }
 
-// What is odd about the texts of the three boxes that the layouts read; nullptr: nothing.
+// Return the warning for the text of a box that readbuildstate reads; nullptr: no warning.
 const char* oddfloor(const std::string& text) {
     return floorin(Val(text)) != 0 ? nullptr : "no known floor, clicks build on the one before";
 }
@@ -51,7 +35,7 @@ const char* oddrecordmode(const std::string& text) {
     return text == "on" ? nullptr : "no known mode, the one before stays in force";
 }
 
-// Turns one of two texts into the other; any third text is left alone.
+// Replaces one of two texts with the other; any third text is unchanged.
 void toggle(control& box, const char* one, const char* other) {
     if (box.text == one)
         box.text = other;
@@ -85,23 +69,29 @@ value nextfloorname() {
 }
 
 const control* nextpanel() {
-    for (const textchoice& c : panels)
-        if (panelprefix.is(c.text)) return &c.button;
+    for (const paneltype& t : paneltypes)
+        if (panelprefix.is(t.prefix)) return t.button;
     return nullptr;
 }
 
-void definechoice() {
-    for (const textchoice& c : panels)
-        c.button.run = [&c] {
-            panelprefix = c.text;
-            openlayout(layoutpanels);
-        };
-    postbeambtn.run = [] { openlayout(layoutgirder); };
-    roofbtn.run = [] { openlayout(layoutroof); };
+void setboxwarnings() {
     floor.warningof = oddfloor;
     wiresolid.warningof = odddrawmode;
     writefilebox.warningof = oddrecordmode;
-    for (const textchoice& c : snips) c.button.run = [&c] { panelsnipper.text = c.text; };
+}
+
+void clickpanelbtn() {
+    for (const paneltype& t : paneltypes)
+        if (t.button == usedcontrol) panelprefix = t.prefix;
+    openlayout(layoutpanels);
+}
+
+void clickpostbeambtn() { openlayout(layoutgirder); }
+void clickroofbtn() { openlayout(layoutroof); }
+
+void clicksnipbtn() {
+    for (const snippart& s : snipparts)
+        if (s.button == usedcontrol) panelsnipper.text = s.text;
 }
 
 void clickfloorbtn() { show(floorlist); }

@@ -29,14 +29,14 @@ struct planpositions {
     int maxnumber = 0;
 };
 
-double codeof(const buttonfamily& f) { return std::string_view(f.kind) == "girder" ? f.code : 0; }
+double codeof(const buttonfamily& f) { return &f.record == &girderfiles ? f.code : 0; }
 
 planpositions positionsof(const window& plan) {
     planpositions found{};
     for (const buttonposition& p : allbuttonpositions()) {
-        if (p.of->on != &plan) continue;
-        found.family = p.of;
-        found.numbers[{codeof(*p.of), double(p.of->rotz), double(p.x), double(p.y)}] = p.number;
+        if (p.family->layout != &plan) continue;
+        found.family = p.family;
+        found.numbers[{codeof(*p.family), double(p.family->rotz), double(p.x), double(p.y)}] = p.number;
         found.maxnumber = std::max(found.maxnumber, p.number);
     }
     return found;
@@ -54,7 +54,7 @@ std::optional<double> numberin(const value& field) {
 
 // The element number of a record's position, 0 if it is at none.
 int elementof(const std::vector<value>& record, const planpositions& plan) {
-    if (!record[kindfield].is(plan.family->kind)) return 0;
+    if (!record[kindfield].is(plan.family->record.kind)) return 0;
     placement at{};
     constexpr std::size_t fields[] = {codefield, rotzfield, xfield, yfield};
     for (std::size_t k = codeof(*plan.family) == 0 ? 1 : 0; k < at.size(); ++k) {
@@ -105,7 +105,7 @@ const builtelements& builton(const window& plan) {
     const auto [found, fresh] = plans.try_emplace(&plan);
     remembered& r = found->second;
     if (fresh) r.positions = positionsof(plan);
-    const std::string file = recordfile(r.positions.family->files, nextfloorname());
+    const std::string file = recordfile(r.positions.family->record, nextfloorname());
     const filestamp stamp = stampof(file);
     if (fresh || file != r.built.file || stamp != r.stamp) {
         r.built.file = file;

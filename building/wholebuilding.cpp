@@ -31,10 +31,10 @@ replayfile withfloor(const std::string& name) {
     return {name, name};
 }
 
-ranking filesof(const ranking& files, const char* firstletters, int floornumber) {
+ranking filesof(const ranking& files, const fileclass& wanted, int floornumber) {
     ranking found;
     for (const countedfile& f : files)
-        if (f.records > 0 && f.name.starts_with(firstletters) &&
+        if (f.records > 0 && classofname(f.name) == &wanted &&
             floordigit(withfloor(f.name).floorby) == floornumber % topfloor)
             found.push_back(f);
     return found;
@@ -71,13 +71,14 @@ std::vector<replaystep> replaysteps(std::vector<countedfile> files) {
     std::sort(files.begin(), files.end(), [](const auto& a, const auto& b) { return a.name < b.name; });
     std::vector<replaystep> steps;
     for (int floornumber = 1; floornumber <= topfloor; ++floornumber) {
-        const ranking girders = filesof(files, "gird", floornumber), panels = filesof(files, "pane", floornumber);
+        const ranking girders = filesof(files, girderfiles, floornumber),
+                      panels = filesof(files, panelfiles, floornumber);
         for (std::size_t rank = 0; rank < std::max(girders.size(), panels.size()); ++rank)
             if (rank < girders.size() && rank < panels.size())
                 addpair(steps, girders[rank], panels[rank]);
             else
                 steps.push_back({(rank < girders.size() ? girders : panels)[rank].name, ""});
-        for (const countedfile& roofs : filesof(files, "roof", floornumber)) steps.push_back({roofs.name, ""});
+        for (const countedfile& roofs : filesof(files, rooffiles, floornumber)) steps.push_back({roofs.name, ""});
     }
     return steps;
 }

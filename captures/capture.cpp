@@ -15,7 +15,7 @@ namespace {
 // Returns the record: nine fields in quotation marks. Nothing in them is escaped, not even a quotation mark.
 std::string viewrecord() {
     std::string record;
-    for (const viewvalue& f : viewvalues) record += (record.empty() ? "\"" : ",\"") + towindows1252(f.box.text) + '"';
+    for (const viewvalue& v : viewvalues) record += (record.empty() ? "\"" : ",\"") + towindows1252(v.box.text) + '"';
     return record + "\r\n";
 }
 

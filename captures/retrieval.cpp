@@ -4,12 +4,12 @@
 #include "captures/retrieval.h"
 
 #include "captures/capture.h"
-#include "core/colour.h"
 #include "core/failure.h"
 #include "core/fields.h"
 #include "core/textfiles.h"
 #include "core/viewvalues.h"
 #include "core/windows1252.h"
+#include "render/palette.h"
 #include "render/projector.h"
 #include "render/redraw.h"
 #include "render/surface.h"
@@ -35,20 +35,10 @@ std::vector<value> readviewrecord() {
     const std::string path = "bmps\\" + bmpsidecar.text();
     std::vector<value> fields;
     textinput& in = openinput(1, path, "view record");
-    for (const viewvalue& f : viewvalues)
-        fields.emplace_back(fromwindows1252(readrecordtext(in, f.word)), path + " (" + f.word + ")");
+    for (const viewvalue& v : viewvalues)
+        fields.emplace_back(fromwindows1252(readrecordtext(in, v.name)), path + " (" + v.name + ")");
     in.close();
     return fields;
-}
-
-void writenineboxes() {
-    constexpr std::size_t cut = 9;
-    sumabsoluteeye();
-    writeeyeboxes(perpabsx, perpabsy, perpabsz, cut);
-    writeboxes(focusvalues, cut);
-    writebox(magtxt, boxtext(mag / 10, cut));
-    writeboxes(shiftvalues, cut);
-    copyboxestoeasyviews();
 }
 
 void restorecapture() {
@@ -57,12 +47,13 @@ void restorecapture() {
     perprelative = 0;
     restorepoints();
     auto field = fields.begin();
-    for (const viewvalue& f : viewvalues) f.figure = *field++;
+    for (const viewvalue& v : viewvalues) v.number = *field++;
     keepeye();
     // A smaller area than other clears: the rest remains visible unless the bitmap covers it.
     viewportsurface->fillrows(1, 1125, 1, 829, backgroundcolour());
     projectdraw();
-    writenineboxes();
+    writeviewboxes(retrievalcuts, mag / 10);
+    copyboxestoeasyviews();
     viewportsurface->setpicture("bmps\\" + bmpimage.text());
 }
 

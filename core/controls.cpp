@@ -1,11 +1,12 @@
-// The windows and named controls as the tables give them, and the few operations on them.
+// The windows and the named controls with their first state, and the operations on them.
 
 #include "core/controls.h"
 
 #include "core/textfiles.h"
 
 #include <algorithm>
-#include <map>
+#include <deque>
+#include <utility>
 
 namespace tessaly {
 
@@ -17,15 +18,9 @@ constexpr colour darkgrey{64, 64, 64};
 constexpr colour red{255, 0, 0};
 constexpr colour white{255, 255, 255};
 
-std::map<std::string, control*, std::less<>>& controlsbyname() {
-    static std::map<std::string, control*, std::less<>> byname;
-    return byname;
-}
+std::deque<control> addedcontrols;  // does not move its elements when it grows
 
 }  // namespace
-
-window::window(const char* itsname, const char* itstitle, int itswidth, int itsheight, colour itsback)
-    : name(itsname), title(itstitle), widthtwips(itswidth), heighttwips(itsheight), back(itsback) {}
 
 // clang-format off
 window startform   ("startform",    "Tessaly Girder and Panel", 12540,  8520, darkgrey);
@@ -70,40 +65,36 @@ std::string tooltipof(const control& c) {
 }
 
 void resetcontrols() {
-    struct firststate {
-        control* c;
-        control state;
-    };
-    static std::vector<firststate> first;
-    if (first.empty()) {
-#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, accessiblename)                  \
-    first.push_back({&name, name});
+#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, accessiblename) {&name, name},
+    static const std::pair<control*, control> firststates[] = {
 #include "core/controls.def"
+    };
 #undef CONTROL
-    }
-    controlsbyname().clear();
+    addedcontrols.clear();
     for (window* w : allwindows()) {
-        w->created = w->shown = false;
+        w->shown = false;
         w->raised = 0;
         w->controls.clear();
         w->openedby = nullptr;
     }
-    for (firststate& f : first) {
-        *f.c = f.state;
-        addcontrol(*f.c);
+    for (const auto& [named, state] : firststates) {
+        *named = state;
+        named->in->controls.push_back(named);
     }
     usedcontrol = wantedfocus = nullptr;
     programended = false;
 }
 
-void addcontrol(control& added) {
-    added.in->controls.push_back(&added);
-    controlsbyname()[added.name] = &added;
+void addcontrol(control added) {
+    addedcontrols.push_back(std::move(added));
+    addedcontrols.back().in->controls.push_back(&addedcontrols.back());
 }
 
 control* findcontrol(std::string_view name) {
-    const auto found = controlsbyname().find(name);
-    return found == controlsbyname().end() ? nullptr : found->second;
+    for (const window* w : allwindows())
+        for (control* c : w->controls)
+            if (c->name == name) return c;
+    return nullptr;
 }
 
 window* findwindow(std::string_view name) {
@@ -125,13 +116,8 @@ bool opensshownwindow(const control& c) {
 
 void showwindow(window& w) {
     static int showings = 0;
-    w.created = w.shown = true;
+    w.shown = true;
     w.raised = ++showings;
-}
-
-void hidewindow(window& w) {
-    w.created = true;
-    w.shown = false;
 }
 
 void show(control& c) {
@@ -158,11 +144,6 @@ void writebox(control& box, std::string text) {
     box.written = box.text;
 }
 
-void typetext(control& c, std::string_view text) {
-    c.text = text;
-    if (c.kind == controlkind::combobox) c.selected = -1;
-}
-
 void setfolder(control& filelist, std::string_view folder) {
     filelist.folder = folder;
     refresh(filelist);
@@ -174,7 +155,7 @@ void refresh(control& filelist) {
 }
 
 control* focusafter(const control& c) {
-    constexpr int longestchain = 8;  // controls that show each other in turn make a ring
+    constexpr int longestchain = 8;  // controls that show each other in turn form a ring
     control* back = c.openedby;
     for (int step = 0; back != nullptr && !back->shown && step < longestchain; ++step) back = back->openedby;
     return back != nullptr && back->shown ? back : nullptr;

@@ -1,6 +1,6 @@
-// Windows and controls as plain state. The logic reads and writes this state and never sees a widget; a window layer
-// carries it to the screen and back, and the player drives it with no screen at all. One string is a control's name
-// here, in the tables and on its widget.
+// Windows and controls as plain state. The logic reads and writes this state and never sees a widget; the window layer
+// copies it to the screen and back, and the player uses it without a screen. A control has one name: here, in the
+// tables and as the object name of its widget.
 #pragma once
 
 #include "core/colour.h"
@@ -15,7 +15,7 @@ namespace tessaly {
 
 enum class controlkind { button, picturebutton, label, textbox, page, list, filelist, combobox, picturebox, frame };
 
-struct twips {  // of the window's design grid; 15 twips are one pixel
+struct twips {  // bounds on the window's design grid; 15 twips are one pixel
     int left, top, width, height;
 };
 constexpr int twipsperpixel = 15;
@@ -26,17 +26,14 @@ struct control;
 enum class boxtint { none, edited, warning };
 
 struct window {
-    window(const char* itsname, const char* itstitle, int itswidth, int itsheight, colour itsback);
-
     const char* name;
     const char* title;
     int widthtwips, heighttwips;  // of the interior
     colour back;
-    bool created = false;  // made on first use, kept until exit
     bool shown = false;
-    int raised = 0;                  // grows at each showing: the window with the highest stands in front
-    std::vector<control*> controls;  // in the order of the tables
-    control* openedby = nullptr;     // the element button that opened it last
+    int raised = 0;                       // grows with each showwindow: the window with the highest number is in front
+    std::vector<control*> controls = {};  // in the order of the tables
+    control* openedby = nullptr;          // the element button that opened it last
 };
 
 struct control {
@@ -46,12 +43,12 @@ struct control {
     twips bounds;
     std::string text = {};  // caption, or text of a box; UTF-8
     bool shown;
-    std::optional<colour> back;      // its own; the kind's where there is none
+    std::optional<colour> back;      // if empty, the usual colour of the kind
     std::string tooltip;             // the part that never changes
-    std::string accessiblename;      // for screen readers; the caption where empty
+    std::string accessiblename;      // for screen readers; if empty, they read the caption
     int elementnumber = 0;           // of a layout button
-    std::function<void()> run = {};  // what a click, or a pick of an item, does; set at the start of the program
-    std::string folder = {};         // of a file list, as users write it
+    std::function<void()> run = {};  // procedure of a click or a picked item; set when the program starts
+    std::string folder = {};         // of a file list, with backslashes
     std::vector<std::string> items = {};
     int selected = -1;                        // index into items, -1: none
     control* openedby = nullptr;              // the control whose event showed it last
@@ -66,75 +63,78 @@ struct control {
 extern window startform, vistaplan, layoutgirder, layoutpanels, layoutroof, easyviews, instructions;
 const std::vector<window*>& allwindows();
 
-// The controls with a name of their own; position buttons of layouts and quick views come from their families.
+// The named controls. The buttons of the layouts and the quick views are generated and have no variables.
 #define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, accessiblename)                  \
     extern control name;
 #include "core/controls.def"
 #undef CONTROL
 
-// The tint of a box by its text; the whole tooltip, with what holds at the moment.
+// Returns the tint of a box for its present text.
 boxtint tintof(const control& box);
+
+// Returns the complete tooltip of a control, with its note or the warning for its text.
 std::string tooltipof(const control& c);
 
-// Puts windows and controls back to their first state: the named controls in their windows' lists, nothing shown.
+// Resets windows and controls: each window's list holds its named controls, all windows are hidden, controls that
+// addcontrol added are gone.
 void resetcontrols();
 
-// Adds a control to the end of its window's list; it must outlive the program's run.
-void addcontrol(control& added);
+// Adds a copy of a control to the end of its window's list; it exists until the next resetcontrols.
+void addcontrol(control added);
 
-// The control of that name in any window, or nullptr.
+// Find a control in any window, or a window, by its name; nullptr if no such name exists.
 control* findcontrol(std::string_view name);
 window* findwindow(std::string_view name);
 
-// The text of the selected item, "" where nothing is selected.
+// Returns the text of the selected item, "" if nothing is selected.
 const std::string& selectedtext(const control& list);
 
 inline bool islist(const control& c) { return c.kind == controlkind::list || c.kind == controlkind::filelist; }
 
-// Makes a window visible and puts it in front, creating it on first use; hides it, creating it on first use.
+// Shows a window in front of the others.
 void showwindow(window& w);
-void hidewindow(window& w);
+inline void hidewindow(window& w) { w.shown = false; }
 
-// Show and hide a control. The control that is used now is remembered as the one that opened it, and the keyboard goes
-// to a list that is opened.
+// Show and hide a control. show also stores the control whose event runs in openedby, and asks for the keyboard focus
+// if c is a list.
 void show(control& c);
 inline void hide(control& c) { c.shown = false; }
 
-// A click on a button, and on an item of a list, file list or combination box, which selects it: runs the control's
-// procedure. One without a procedure does nothing but look like a button; a list without one only selects.
-// fails: as the procedure does.
+// Runs the procedure of a control as a click does; a control without a procedure ignores the click.
+// fails: as the procedure.
 void clickcontrol(control& c);
+
+// Selects an item of a list, file list or combination box, then runs its procedure. fails: as the procedure.
 void pickitem(control& c, int item);
 
-// Writes a value into a box of the view. Only the program's own values are written so: a text that did not come this
-// way is not in force yet.
+// Writes a number of the program to a box of the view. A text that does not come this way is tinted as not applied yet.
 void writebox(control& box, std::string text);
 
-// The user's text in a text box or combination box.
-void typetext(control& c, std::string_view text);
+// Enters the user's text in a text box or combination box.
+inline void typetext(control& c, std::string_view text) { c.text = text; }
 
-// Points a file list at its folder, or reads that folder again: every visible file by bare name, nothing selected.
-// Fails with file not found where there is no such folder.
+// setfolder sets the folder of a file list and reads it; refresh reads it again. The items are the bare names of its
+// visible files, nothing is selected. fails: file not found if the folder is missing.
 void setfolder(control& filelist, std::string_view folder);
 void refresh(control& filelist);
 
-// The control whose event runs, or ran last.
+// The control whose event runs or ran last.
 extern control* usedcontrol;
 
-// Whether a window that is shown was opened by this button last.
+// Returns whether a window that is shown was opened by this button last.
 bool opensshownwindow(const control& c);
 
-// The control that is to get the keyboard focus after this event; nullptr: the focus stays.
+// The control that gets the keyboard focus after this event; nullptr: the focus does not move.
 extern control* wantedfocus;
 
-// Where the focus goes when c is hidden: to what opened it, or, where that is hidden too, to what opened that; nullptr
-// where nothing did that is still there.
+// Returns the control that gets the focus when c is hidden: the control that opened c; if that is hidden too, the one
+// that opened it, and so on; nullptr if none of them is shown.
 control* focusafter(const control& c);
 
-// Asks the main window for a repaint of its own surface; set by the window layer.
+// Repaints the surface of the main window; set by the window layer.
 extern std::function<void()> repaintmainwindow;
 
-// Set by exitbtn: the program is to end with status 0 once the event is over.
+// Set by exitbtn: the program ends with status 0 after the event.
 extern bool programended;
 
 }  // namespace tessaly

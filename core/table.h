@@ -104,8 +104,6 @@ class table final : public tablebase {
     }
     std::vector<value> elements() const override { return {held.begin(), held.end()}; }
 
-    static constexpr int lastindex = last;
-
   private:
     static_assert(cleared < writtenpages::pagesize * writtenpages::maxpages);
 

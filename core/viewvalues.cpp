@@ -1,28 +1,41 @@
-// The boxes of the view, written by cutting.
+// The boxes of the view values.
 
 #include "core/viewvalues.h"
 
 namespace tessaly {
 
-void writeeyeboxes(const value& x, const value& y, const value& z, std::size_t n) {
-    writebox(perptxtx, boxtext(x, n));
-    writebox(perptxty, boxtext(y, n));
-    writebox(perptxtz, boxtext(z, n));
+namespace {
+
+void writecut(control& box, const value& number, std::size_t cut) {
+    if (cut > 0) writebox(box, boxtext(number, cut));
 }
 
-void writeboxes(viewvaluespan figures, std::size_t n) {
-    for (const viewvalue& f : figures) writebox(f.box, boxtext(f.figure, n));
+}  // namespace
+
+void readbox(const viewvalue& v) {
+    v.number = value(v.box.text, std::string("the box \"") + (v.tag ? v.tag : v.name) + '"');
 }
 
-void copytoeasyviews(const viewvalue& f) {
-    easyviews.created = true;
-    f.copy->text = f.box.text;
-    f.copy->written = f.box.written;
+void writeviewboxes(const boxcuts& cuts, const value& shownmag) {
+    if (cuts.eyesource == summedeye) {
+        perpsumx = perpx + focusx;
+        perpsumy = perpy + focusy;
+        perpsumz = perpz + focusz;
+    }
+    for (std::size_t i = 0; i < 3; ++i) writecut(eyevalues[i].box, *cuts.eyesource[i], cuts.eye);
+    for (const viewvalue& v : focusvalues) writecut(v.box, v.number, cuts.focus);
+    writecut(magtxt, shownmag, cuts.mag);
+    for (const viewvalue& v : shiftvalues) writecut(v.box, v.number, cuts.shifts);
+}
+
+void copytoeasyviews(const viewvalue& v) {
+    v.copy->text = v.box.text;
+    v.copy->written = v.box.written;
 }
 
 void copyboxestoeasyviews() {
-    for (const viewvalue& f : viewvalues)
-        if (f.copy) copytoeasyviews(f);
+    for (const viewvalue& v : viewvalues)
+        if (v.copy) copytoeasyviews(v);
 }
 
 }  // namespace tessaly

@@ -1,5 +1,5 @@
-// The nine figures of a view, in the one order of SET, captures and the start file, each with its box on the main
-// window and its copy on easyviews. Who writes boxes has its own cuts and its own choice of them; neither is a slip.
+// The nine values of a view, each with its box on the main window, and the one procedure that writes the boxes. Boxes
+// hold texts: a writer cuts its numbers to a few characters, and SET reads back what is left of them.
 #pragma once
 
 #include "core/controls.h"
@@ -10,12 +10,13 @@
 namespace tessaly {
 
 struct viewvalue {
-    value& figure;
+    value& number;
     control& box;
-    control* copy;     // on easyviews; nullptr: there is none
-    const char* word;  // for reports
-    const char* tag;   // in the box, where no label stands beside it
+    control* copy;     // of the box, on easyviews; nullptr: none
+    const char* name;  // for reports
+    const char* tag;   // shown in the box; nullptr: a label is beside it
 };
+// In the order of SET, of view records and of the start file.
 inline constexpr viewvalue viewvalues[] = {
     // clang-format off
     {perpx,      perptxtx,  &eperpxbox,  "eye X",            "persp X"},
@@ -32,18 +33,45 @@ inline constexpr viewvalue viewvalues[] = {
 using viewvaluespan = std::span<const viewvalue>;
 inline constexpr viewvaluespan eyevalues = viewvaluespan(viewvalues).first(3);
 inline constexpr viewvaluespan focusvalues = viewvaluespan(viewvalues).subspan(3, 3);
+inline constexpr const viewvalue& magvalue = viewvalues[6];
 inline constexpr viewvaluespan shiftvalues = viewvaluespan(viewvalues).last(2);
-inline constexpr viewvaluespan taggedvalues = viewvaluespan(viewvalues).first(7);  // over the picture
+inline constexpr viewvaluespan taggedvalues = viewvaluespan(viewvalues).first(7);  // boxes in front of the picture
 
-// Write boxes, each figure cut to its first n characters: the eye's from x, y, z, since perpx.. may be relative to the
-// focus; others from their own figures.
-void writeeyeboxes(const value& x, const value& y, const value& z, std::size_t n);
-void writeboxes(viewvaluespan figures, std::size_t n);
+// Sets a view value to the text of its box. It stays a text until arithmetic converts it; a failure then names the box.
+void readbox(const viewvalue& v);
 
-// Copies a box's text to its copy on easyviews, which is created, not shown, where it does not exist yet.
-void copytoeasyviews(const viewvalue& f);
+// Where a writer of the boxes takes the eye from: perpabsx.., which the projector computes, or perpsumx.., which
+// writeviewboxes computes.
+inline constexpr const value* absoluteeye[] = {&perpabsx, &perpabsy, &perpabsz};
+inline constexpr const value* summedeye[] = {&perpsumx, &perpsumy, &perpsumz};
 
-// Copies the six boxes of focus and eye to easyviews.
+// The number of characters to which a writer cuts each number; 0: it does not write these boxes. The differences are
+// intended: SET on a shift of -1270 leaves "-127" in its box, and the next SET reads that.
+struct boxcuts {
+    const value* const* eyesource;
+    std::size_t eye, focus, mag, shifts;
+};
+// clang-format off
+inline constexpr std::size_t uncut = std::string::npos;
+inline constexpr boxcuts
+//  written after        eye          eye    focus  mag    shifts
+    projectioncuts     { absoluteeye, uncut, uncut, uncut, 5 },
+    setcuts            { absoluteeye, 5,     5,     5,     4 },
+    retrievalcuts      { absoluteeye, 9,     9,     9,     9 },
+    relativeviewcuts   { summedeye,   5,     5,     6,     5 },  // Default view, start of the rotation
+    eyestepcuts        { summedeye,   5,     5,     6,     0 },  // steps of the focus too
+    rotationcuts       { summedeye,   5,     0,     0,     0 },
+    magstepcuts        { summedeye,   0,     0,     6,     0 };
+// clang-format on
+
+// Writes the nine boxes with these cuts; magtxt gets shownmag. writes: perpsumx.. if the cuts name them; fails: type
+// mismatch.
+void writeviewboxes(const boxcuts& cuts, const value& shownmag = magshown);
+
+// Copies the text of a box to its copy on easyviews.
+void copytoeasyviews(const viewvalue& v);
+
+// Copies the six boxes of eye and focus to easyviews.
 void copyboxestoeasyviews();
 
 }  // namespace tessaly

@@ -3,7 +3,6 @@
 
 #include "data/cubes.h"
 
-#include "core/controls.h"
 #include "core/failure.h"
 #include "core/fields.h"
 #include "core/textfiles.h"
@@ -100,8 +99,7 @@ void readcubex() { readshape({2, "axis-cube file", readcubesections<alongx>, pla
 void readcubey() { readshape({3, "axis-cube file", readcubesections<alongy>, placecubes, 2}); }
 void readcubez() { readshape({4, "axis-cube file", readcubesections<alongz>, placecubes, 2}); }
 
-void clickdisplaycubebtn() {
-    for (window* layout : {&layoutgirder, &layoutpanels, &layoutroof}) hidewindow(*layout);
+void displaycube() {
     openinput(1, "datah\\az-cube.txt", "axis-cube file");
     preopened = 4;
     readcubez();

@@ -9,7 +9,7 @@ void readcubex();
 void readcubey();
 void readcubez();
 
-// "Display cube": hides the layout windows and shows the nine-storey cube of "az-cube.txt". Fails as readelements.
-void clickdisplaycubebtn();
+// Shows the nine-storey cube of "az-cube.txt". fails: as readelements.
+void displaycube();
 
 }  // namespace tessaly

@@ -22,7 +22,7 @@ constexpr int viewvaluecount = std::size(viewvalues);
 
 void readdefaultview(textinput& in) {
     findkey(in, "DEFAULTVIEW:");
-    for (const viewvalue& f : viewvalues) f.figure = readvalue(in, "a figure of DEFAULTVIEW:");
+    for (const viewvalue& v : viewvalues) v.number = readvalue(in, "a figure of DEFAULTVIEW:");
 }
 
 // A preset's eye is kept relative to its focus.
@@ -90,12 +90,6 @@ void startdisplay() {
         opengroup(*name, step++);
         readgroup();
     }
-}
-
-void clickgroupbtn() {
-    for (window* layout : {&layoutpanels, &layoutgirder, &layoutroof}) hidewindow(*layout);
-    startdone = 1;
-    startdisplay();
 }
 
 }  // namespace tessaly

@@ -8,7 +8,4 @@ namespace tessaly {
 // writes: view state, viewpreset, palette, background, the world tables; draws on viewport; fails as readelements.
 void startdisplay();
 
-// "Display markers": hides the layout windows and shows the start groups again.
-void clickgroupbtn();
-
 }  // namespace tessaly

@@ -2,10 +2,11 @@
 
 #include "render/painter.h"
 
-#include "core/colour.h"
+#include "core/elementtypes.h"
 #include "core/failure.h"
 #include "core/world.h"
 #include "render/locations.h"
+#include "render/palette.h"
 #include "render/projector.h"
 #include "render/quadsort.h"
 #include "render/surface.h"
@@ -16,11 +17,17 @@ namespace {
 
 constexpr int maxpainted = 100;  // nearest quads that are painted
 
-bool isroof(const value& filename) { return filename.text().substr(0, 4) == "roof"; }
+bool isroof(const value& filename) { return classofname(filename.text()) == &rooffiles; }
+
+// A two-door panel cut on both sides gets the 200 of the other panels. This is intended.
+bool istwodoorpanel() {
+    const auto& codes = twodoorpanel.codes;
+    return panelcode.isnumber() && (panelcode == codes[0] || panelcode == codes[1] || panelcode == codes[2]);
+}
 
 int choosedivisions() {
-    if (panelcode.isnumber() && (panelcode == 19 || panelcode == 20 || panelcode == 21)) return 400;
-    if (isroof(firstfilename) || isroof(secondfilename) || elementkind.is("roof")) return 1500;
+    if (istwodoorpanel()) return 400;
+    if (isroof(firstfilename) || isroof(secondfilename) || elementkind.is(rooffiles.kind)) return 1500;
     return 200;
 }
 

@@ -1,4 +1,4 @@
-// Palette files, read by record number; there is nothing to fail on but the file itself.
+// The palette file and the colours that drawing uses.
 
 #include "render/palette.h"
 
@@ -6,6 +6,7 @@
 #include "core/textfiles.h"
 #include "core/world.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tessaly {
@@ -15,11 +16,28 @@ namespace {
 constexpr int recordbytes = 8;
 constexpr int lastrecordread = 236;
 
-// The signed 16-bit little-endian figure at a byte of the file, 0 behind its end.
-int figureat(const std::string& bytes, std::size_t at) {
+// Returns the signed 16-bit little-endian number that starts at a byte of the file, 0 after its end.
+int numberat(const std::string& bytes, std::size_t at) {
     if (at + 1 >= bytes.size()) return 0;
     const auto low = static_cast<unsigned char>(bytes[at]), high = static_cast<unsigned char>(bytes[at + 1]);
     return static_cast<std::int16_t>(low | (high << 8));
+}
+
+// Returns a component as a byte. fails: as palettecolour, with location().
+template <class locating>
+std::uint8_t component(const value& number, locating location) {
+    try {
+        const double rounded = nearestwhole(number);
+        if (!(rounded >= -32768 && rounded <= 32767))
+            throw failure(failurekind::overflow,
+                          "colour component " + plaintext(number) + ", a whole number -32768..32767 was expected");
+        if (rounded < 0)
+            throw failure(failurekind::invalidcall, "colour component " + plaintext(number) + ", 0..255 was expected");
+        return static_cast<std::uint8_t>(std::min(rounded, 255.0));
+    } catch (failure& f) {
+        f.addlocation(location());
+        throw;
+    }
 }
 
 }  // namespace
@@ -32,17 +50,27 @@ void loadpalette() {
         bytes = std::move(in.bytes);
         in.close();
     } catch (const failure& f) {
-        // A record file is opened for reading and writing alike: a missing one is merely empty. Its folder has to be
-        // there.
+        // A missing palette counts as an empty one, but its folder must exist: filesin fails if it does not.
         if (f.kind != failurekind::filenotfound) throw;
         filesin("pals\\");
     }
     for (int k = 1; k <= lastrecordread; ++k) {
         const auto record = static_cast<std::size_t>((k - 1) * recordbytes);
-        palblue.set(k, figureat(bytes, record + 2));
-        palgreen.set(k, figureat(bytes, record + 4));
-        palred.set(k, figureat(bytes, record + 6));
+        palblue.set(k, numberat(bytes, record + 2));
+        palgreen.set(k, numberat(bytes, record + 4));
+        palred.set(k, numberat(bytes, record + 6));
     }
+}
+
+colour palettecolour(const value& index) {
+    const int entry = indexof(index, "palette", lastcolour);
+    const auto record = [entry] { return "pals\\" + palname.text() + ".pal, record " + std::to_string(entry); };
+    return {component(palred[entry], record), component(palgreen[entry], record), component(palblue[entry], record)};
+}
+
+colour backgroundcolour() {
+    const auto row = [](int i) { return [i] { return "datah\\start.txt, " + numberin("BACKGROUNDCOLOR:", i); }; };
+    return {component(backred, row(1)), component(backgreen, row(2)), component(backblue, row(3))};
 }
 
 }  // namespace tessaly

@@ -6,6 +6,7 @@
 #include "core/failure.h"
 #include "core/viewvalues.h"
 #include "render/locations.h"
+#include "render/palette.h"
 #include "render/surface.h"
 
 #include <cmath>
@@ -142,12 +143,11 @@ void prepareview() {
 
 void writeviewback() {
     rebasedone = 0;
-    sumabsoluteeye();
+    perpabsx = perprelx + focusx;
+    perpabsy = perprely + focusy;
+    perpabsz = perprelz + focusz;
     magshown = mag * 0.1;
-    writeeyeboxes(perpabsx, perpabsy, perpabsz, std::string::npos);
-    writeboxes(focusvalues, std::string::npos);
-    writebox(magtxt, boxtext(magshown));
-    writeboxes(shiftvalues, 5);
+    writeviewboxes(projectioncuts);
 }
 
 }  // namespace
@@ -251,12 +251,6 @@ void relateeye() {
     perpz = perpz - focusz;
     perprelative = 1;
     keepeye();
-}
-
-void sumabsoluteeye() {
-    perpabsx = perprelx + focusx;
-    perpabsy = perprely + focusy;
-    perpabsz = perprelz + focusz;
 }
 
 void nudgeview(bool (*same)(const value& focus, const value& eye)) {

@@ -46,9 +46,6 @@ void keepeye();
 // Turns an absolute eye relative to the focus, once, and keeps it.
 void relateeye();
 
-// perpabsx.. = perprelx.. + focusx..
-void sumabsoluteeye();
-
 // Moves eye and focus out of the positions in which the projection would divide by zero or see a line end on, step by
 // step in a fixed order; same tells how the first three steps compare. fails: type mismatch.
 void nudgeview(bool (*same)(const value& focus, const value& eye));

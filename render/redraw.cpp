@@ -3,6 +3,7 @@
 #include "render/redraw.h"
 
 #include "core/world.h"
+#include "render/palette.h"
 #include "render/projector.h"
 #include "render/surface.h"
 

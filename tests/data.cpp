@@ -129,7 +129,7 @@ TEST(data, elementsStandOnTheirPlacesAndAreRecordedThere) {
     for (const char* button : {"wiresolidbtn", "postbeambtn", "roofbtn", "orange1btn"}) s.click(button);
     for (const buttonposition& p : allbuttonpositions()) {
         s.click(positionname(p));
-        EXPECT_EQ(extentfrom(p.x, p.y), extents.at(p.of->word)) << positionname(p);
+        EXPECT_EQ(extentfrom(p.x, p.y), extents.at(p.family->nameprefix)) << positionname(p);
     }
     for (const std::string file : {"girders1.txt", "panels1.txt", "roofs1.txt"})
         EXPECT_EQ(session::file("designs/" + file), session::file(TESSALY_SOURCE_DIR "/tests/places/" + file));

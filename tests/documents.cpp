@@ -42,14 +42,14 @@ TEST(documents, noLinkLeadsNowhereAndNoPictureIsLeftOut) {
 // A line too long is cut or wrapped on the screen, and the tables drawn with blanks fall apart.
 TEST(documents, everyPageOfTheHelpFitsItsControl) {
     constexpr int cellwidth = 8, cellheight = 16, rim = 16;  // pixels of a fixed-pitch character, and around the page
-    for (const helppage& page : helppages) {
-        SCOPED_TRACE(page.on->name);
-        EXPECT_LE(page.columns * cellwidth, page.on->bounds.width / twipsperpixel - rim);
-        EXPECT_LE(helplines * cellheight, page.on->bounds.height / twipsperpixel - rim);
-        std::istringstream text(page.text);
+    for (const helppage& p : helppages) {
+        SCOPED_TRACE(p.page.name);
+        const int columns = (p.page.bounds.width / twipsperpixel - rim) / cellwidth;
+        const int helplines = (p.page.bounds.height / twipsperpixel - rim) / cellheight;
+        std::istringstream text(p.text);
         int lines = 0;
         for (std::string line; std::getline(text, line); ++lines) {
-            EXPECT_LE(static_cast<int>(line.size()), page.columns) << line;
+            EXPECT_LE(static_cast<int>(line.size()), columns) << line;
             for (const char c : line) EXPECT_TRUE(c >= ' ' && c <= '~') << line;
         }
         EXPECT_TRUE(lines > 10 && lines <= helplines) << lines;

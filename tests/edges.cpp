@@ -76,7 +76,7 @@ TEST(set, tellsTheBoxWhoseTextIsNoNumber) {
         s.click("shopfm");
         s.type(f.box.name, "12a");
         expectfailure(failureof([&] { s.click("cventerbtn"); }), failurekind::typemismatch,
-                      "the box \"" + std::string(f.tag ? f.tag : f.word) + "\": \"12a\"");
+                      "the box \"" + std::string(f.tag ? f.tag : f.name) + "\": \"12a\"");
     }
 }
 

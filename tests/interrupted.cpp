@@ -35,7 +35,7 @@ TEST(interrupted, aDesignOutlivesTheProgramsDeathAtAnyMoment) {
     std::string script = "click startprogrambtn\nclick wiresolidbtn\nclick postbeambtn\n", all, walls;
     int clicks = 0;
     for (const buttonposition& p : allbuttonpositions()) {
-        if (p.of->on != &layoutgirder) continue;
+        if (p.family->layout != &layoutgirder) continue;
         script += "click " + positionname(p) + "\nsay " + std::to_string(++clicks) + '\n';
         if (clicks % 50 == 0)
             script += "click autowiresingle\npick autofile \"girders1.txt\"\n"

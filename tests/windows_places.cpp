@@ -62,11 +62,11 @@ TEST_F(windowsession, controlsStandAtTheirPlacesAndAreSeenWhole) {
     EXPECT_EQ(widgetof(*findcontrol("beamx192y400"))->geometry(), QRect(208, 112, 65, 17));
 
     runevent([] {
-        for (const helppage& page : helppages) show(*page.on);
+        for (const helppage& p : helppages) show(p.page);
     });
-    for (const helppage& page : helppages) {  // a bar to scroll by would lie over the page's right edge
-        const auto* text = qobject_cast<const QPlainTextEdit*>(widgetof(*page.on));
-        EXPECT_EQ(text->verticalScrollBar()->maximum() + text->horizontalScrollBar()->maximum(), 0) << page.on->name;
+    for (const helppage& p : helppages) {  // a bar to scroll by would lie over the page's right edge
+        const auto* text = qobject_cast<const QPlainTextEdit*>(widgetof(p.page));
+        EXPECT_EQ(text->verticalScrollBar()->maximum() + text->horizontalScrollBar()->maximum(), 0) << p.page.name;
     }
 }
 

@@ -198,8 +198,8 @@ void playelements(const std::string& mode) {
         for (const buttonfamily& f : allbuttonfamilies()) {
             const std::string position = positionname({&f, 0, f.x0 + 2 * 192, f.y0 + 3 * 192, 0, 0});
             play(std::string("click ") + element);
-            if (!f.on->shown) continue;
-            const bool snipped = f.on == &layoutpanels;
+            if (!f.layout->shown) continue;
+            const bool snipped = f.layout == &layoutpanels;
             for (std::size_t snip = 0; snip < (snipped ? panelsnipper.items.size() : 1); ++snip) {
                 if (snipped) play("type panelsnipper \"" + panelsnipper.items[snip] + '"');
                 play("click " + position);
@@ -225,9 +225,9 @@ void playviews() {
                  tenths(0, 6000), shortesttext(within(5, 105) / 1000.0), tenths(-3000, 3000), tenths(-6000, 3000)});
         const buttonposition& p = allbuttonpositions()[static_cast<std::size_t>(within(0, 328))];
         play(std::string("type wiresolid \"") + (view % 4 == 0 ? "wireframe" : "solid") + '"');
-        play(p.of->on == &layoutpanels ? "click orange2btn"
-             : p.of->on == &layoutroof ? "click roofbtn"
-                                       : "click postbeambtn");
+        play(p.family->layout == &layoutpanels ? "click orange2btn"
+             : p.family->layout == &layoutroof ? "click roofbtn"
+                                               : "click postbeambtn");
         play("click " + positionname(p));
         endstep("view " + std::to_string(view) + ", " + positionname(p));
     }

@@ -91,7 +91,7 @@ void addmark(marks& at, double dot, int coordinate) {
 void drawaxes(QPainter& p, const window& w, const scale& s) {
     marks across, inneracross, down;
     for (const buttonfamily& f : allbuttonfamilies()) {
-        if (f.on != &w) continue;
+        if (f.layout != &w) continue;
         for (int j = 0; j < f.rows; ++j)
             addmark(f.width > f.height ? inneracross : across,
                     s.rect({f.left0 + f.pitch * j, 0, f.width, 0}).center().x(), f.y0 + 192 * j);
@@ -114,15 +114,16 @@ void drawaxes(QPainter& p, const window& w, const scale& s) {
 void drawlegend(QPainter& p, const window& w) {
     int y = planbottom + 36;
     for (const buttonfamily& f : allbuttonfamilies()) {
-        if (f.on != &w) continue;
+        if (f.layout != &w) continue;
         p.setPen(QPen(Qt::black, 1));
         p.setBrush(shade(f.back));
         p.drawRect(QRectF(planleft, y, f.width >= f.height ? 44 : 18, f.height >= f.width ? 30 : 18));
         p.setPen(Qt::black);
         p.setFont(font(21));
         const int last = f.first + f.cols * f.rows - 1;
-        p.drawText(QRectF(planleft + 64, y - 4, 1400, 34), Qt::AlignLeft | Qt::AlignVCenter,
-                   QString("%1 to %2   %3   (buttons %4..y..)").arg(f.first).arg(last).arg(f.accessiblename, f.word));
+        p.drawText(
+            QRectF(planleft + 64, y - 4, 1400, 34), Qt::AlignLeft | Qt::AlignVCenter,
+            QString("%1 to %2   %3   (buttons %4..y..)").arg(f.first).arg(last).arg(f.accessiblename, f.nameprefix));
         y += 38;
     }
 }
@@ -130,7 +131,8 @@ void drawlegend(QPainter& p, const window& w) {
 std::string descriptionof(const sheet& of) {
     std::string words = std::string(of.title) + '\n' + of.designs + '\n';
     for (const buttonfamily& f : allbuttonfamilies())
-        if (f.on == of.of) words += std::string(f.word) + ' ' + std::to_string(f.first) + ' ' + f.accessiblename + '\n';
+        if (f.layout == of.of)
+            words += std::string(f.nameprefix) + ' ' + std::to_string(f.first) + ' ' + f.accessiblename + '\n';
     for (const control* c : of.of->controls)
         if (ispositionof(*of.of, *c)) words += descriptionof(*c);
     return words;
@@ -168,7 +170,7 @@ int main(int argc, char** argv) {
         return 2;
     }
     tessaly::resetcontrols();
-    tessaly::definelayouts();
+    tessaly::addlayoutbuttons();
     const tessaly::sheet sheets[] = {
         {&tessaly::layoutgirder, "girders.png", "Tessaly: posts and beams of a floor",
          "the first number of a line in designs\\girders1.txt .. girders10.txt"},

@@ -1,17 +1,17 @@
-// SET, Default view, and the boxes shown or hidden.
+// SET, Default view, and the buttons that show and hide boxes.
 
 #include "view/manualview.h"
 
+#include "core/viewvalues.h"
 #include "render/projector.h"
 #include "render/redraw.h"
-#include "view/viewboxes.h"
 
 namespace tessaly {
 
 namespace {
 
-// Character by character: "100" is not "100.0", and a number is the same as no text. An eye that has been moved is a
-// number, and so is out of the comparisons that follow.
+// Compares texts character by character: "100" differs from "100.0", and a number differs from every text. An eye that
+// nudgeview has moved is a number, so it is excluded from the comparisons that follow.
 bool sametext(const value& a, const value& b) { return a.istext() && b.istext() && a.text() == b.text(); }
 
 }  // namespace
@@ -19,18 +19,12 @@ bool sametext(const value& a, const value& b) { return a.istext() && b.istext() 
 void clickcventerbtn() {
     perprelative = 0;
     restorepoints();
-    for (const viewvalue& f : viewvalues) f.figure = boxvalue(f.box);
+    for (const viewvalue& v : viewvalues) readbox(v);
     nudgeview(sametext);
     keepeye();
     clearpicture();
     projectdraw();
-    sumabsoluteeye();
-    // A character less for the last three than a step writes: a shift of -1270 reads -127 from here on, and the next
-    // SET takes that. The box is the truth after SET.
-    writeeyeboxes(perpabsx, perpabsy, perpabsz, 5);
-    writeboxes(focusvalues, 5);
-    writebox(magtxt, boxtext(mag / 10, 5));
-    writeboxes(shiftvalues, 4);
+    writeviewboxes(setcuts, mag / 10);
     copyboxestoeasyviews();
 }
 
@@ -52,28 +46,27 @@ void clickdefaultviewbtn() {
 }
 
 void clickhidpfm() {
-    for (const viewvalue& f : taggedvalues) hide(f.box);
+    for (const viewvalue& v : taggedvalues) hide(v.box);
     hide(hidpfm);
     show(shopfm);
 }
 
 void clickshopfm() {
-    for (const viewvalue& f : taggedvalues) show(f.box);
+    for (const viewvalue& v : taggedvalues) show(v.box);
     show(hidpfm);
     hide(shopfm);
 }
 
-// The first picture is off by one focus, for the points stand on the focus already; only the last is seen.
+// The first two pictures are shifted by the focus, because the working points are relative to the focus already; the
+// last one covers them.
 void drawrelativeview() {
     keepeye();
     projectdraw();
     if (repaintmainwindow) repaintmainwindow();
     replot();
-    sumabsoluteeye();
     settle();
     replot();
-    writesteppedview();
-    writeboxes(shiftvalues, 5);
+    writeviewboxes(relativeviewcuts);
 }
 
 }  // namespace tessaly

@@ -1,4 +1,4 @@
-// The places of easyviews, a row each, and what a click on one does. On the plan X grows downward, Y to the right.
+// The quick view buttons, one row per button, and a click on one of them. On the plan X grows downward, Y to the right.
 
 #include "view/quickviews.h"
 
@@ -7,7 +7,6 @@
 #include <iterator>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tessaly {
 
@@ -19,7 +18,7 @@ enum placekind { eyeplace, eyeheight, focusplace, focusheight };
 struct quickview {
     const char* name;  // of the button
     placekind kind;
-    int figures[2];  // model units, absolute: X and Y, or Z
+    int numbers[2];  // model units, absolute: X and Y, or Z
     int left, top;   // twips on easyviews
 };
 
@@ -68,7 +67,7 @@ constexpr int buttonsize = 255;  // twips
 
 // What the places of a kind share: the figures that they stand for, X and Y or Z, and how they look and sound.
 struct kindrow {
-    viewvaluespan figures;
+    viewvaluespan values;
     colour back;
     const char* accessiblename;
 };
@@ -82,20 +81,20 @@ const kindrow kinds[] = {
 };
 
 const kindrow& kindof(const quickview& q) { return kinds[q.kind]; }
-bool isheight(const quickview& q) { return kindof(q).figures.size() == 1; }
+bool isheight(const quickview& q) { return kindof(q).values.size() == 1; }
 
 // "Eye at X 1800, Y 0", "Focus at Z 850": by the figures that the button writes.
 std::string accessiblenameof(const quickview& q) {
-    const std::string first = std::to_string(q.figures[0]), second = std::to_string(q.figures[1]);
+    const std::string first = std::to_string(q.numbers[0]), second = std::to_string(q.numbers[1]);
     return std::string(kindof(q).accessiblename) + " at " +
            (isheight(q) ? "Z " + first : "X " + first + ", Y " + second);
 }
 
 void clickquickview(const quickview& q) {
     int i = 0;
-    for (const viewvalue& f : kindof(q).figures) f.copy->text = std::to_string(q.figures[i++]);
+    for (const viewvalue& v : kindof(q).values) v.copy->text = std::to_string(q.numbers[i++]);
     if (q.name == focuscopier) focustxtx.text = efocusxbox.text;
-    for (const viewvalue& f : kindof(q).figures) f.box.text = f.copy->text;
+    for (const viewvalue& v : kindof(q).values) v.box.text = v.copy->text;
 }
 
 }  // namespace
@@ -107,22 +106,17 @@ void clickfastchange() {
 
 void clickeasysetbtn() { hidewindow(easyviews); }
 
-void definequickviews() {
-    static std::vector<control> buttons;
-    buttons.clear();
-    buttons.reserve(std::size(quickviews));
-    for (const quickview& q : quickviews) {
-        buttons.push_back({.in = &easyviews,
-                           .kind = controlkind::button,
-                           .name = q.name,
-                           .bounds = {q.left, q.top, buttonsize, buttonsize},
-                           .shown = true,
-                           .back = kindof(q).back,
-                           .tooltip = accessiblenameof(q) + ": SET takes it (F5)",
-                           .accessiblename = accessiblenameof(q),
-                           .run = [&q] { clickquickview(q); }});
-        addcontrol(buttons.back());
-    }
+void addquickviewbuttons() {
+    for (const quickview& q : quickviews)
+        addcontrol({.in = &easyviews,
+                    .kind = controlkind::button,
+                    .name = q.name,
+                    .bounds = {q.left, q.top, buttonsize, buttonsize},
+                    .shown = true,
+                    .back = kindof(q).back,
+                    .tooltip = accessiblenameof(q) + ": SET takes it (F5)",
+                    .accessiblename = accessiblenameof(q),
+                    .run = [&q] { clickquickview(q); }});
 }
 
 }  // namespace tessaly

@@ -12,6 +12,6 @@ void clickeasysetbtn();
 
 // Adds the 30 buttons to easyviews. A click on one writes its figures to its boxes on easyviews, then copies those to
 // the main window.
-void definequickviews();
+void addquickviewbuttons();
 
 }  // namespace tessaly

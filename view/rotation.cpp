@@ -1,11 +1,12 @@
-// The walk of the eye. The eye itself is never held to the square: only what was read from the boxes is, so an eye past
-// a limit walks on out there.
+// The walk of the eye. The limits of the square apply to the numbers read from the boxes, not to the eye itself: an eye
+// that is past a limit continues outside the square.
 
 #include "view/rotation.h"
 
+#include "core/viewvalues.h"
 #include "render/redraw.h"
 #include "view/manualview.h"
-#include "view/viewboxes.h"
+#include "view/stepping.h"
 
 namespace tessaly {
 
@@ -13,12 +14,12 @@ namespace {
 
 constexpr double limit = 1800;  // model units, absolute: half the side of the square
 
-// A side of the square, by rotstage: what moves along it and which way, and the stage behind it in each direction.
+// A side of the square, in the order of rotstage: the coordinate that changes along it, and the next stages.
 struct side {
-    value &eye, &relative, &seen;  // seen: as last read from the box
+    value &eye, &relative, &seen;  // seen: the number last read from the box
     control& box;
-    int sign;
-    std::size_t cut;  // of the limit in its box; the Y box loses a digit for the moment that it stands there
+    int sign;         // of a step of the coordinate
+    std::size_t cut;  // of the limit in the box; a Y of -1800 is shown as "-180" until the step that follows
     int nextleft, nextright;
 };
 const side sides[] = {
@@ -30,7 +31,7 @@ const side sides[] = {
     // clang-format on
 };
 
-const side& sideinforce() {
+const side& currentside() {
     for (int stage = 2; stage <= 4; ++stage)
         if (rotstage == stage) return sides[stage - 1];
     return sides[0];
@@ -48,18 +49,17 @@ void step(const side& s, double rotinc) {
     s.relative = s.eye;
     settle();
     replot();
-    sumeye();
-    writeeyeboxes(perpsumx, perpsumy, perpsumz, 5);
+    writeviewboxes(rotationcuts);
     readeyeboxes();
 }
 
-// A click on an arrow: along the side in force, and around the corner where its limit is met before or after the step.
-// It ends, for opposite sides cannot both be met within one step.
+// Moves the eye along the current side by one step. If the limit of the side is reached before or after the step, goes
+// on with the next side. The loop ends because opposite sides cannot both be reached within one step.
 void walk(int side::*next) {
     const double rotinc = pickedstep(rotincbox, usualwalk);
     readeyeboxes();
     for (;;) {
-        const side& s = sideinforce();
+        const side& s = currentside();
         if (!limitmet(s)) {
             step(s, rotinc);
             if (!limitmet(s)) return;
@@ -89,13 +89,12 @@ void clickactivateleftbtn() {
     show(rotincbtn);
     perpx = 1850;
     perpy = -1850;
-    perpz = boxvalue(perptxtz);  // shown absolute, from now on above the focus: the eye rises by the focus' height
+    readbox(eyevalues[2]);  // absolute in the box, relative to the focus from now on: the eye rises by the focus Z
     focusx = 0;
     focusy = 0;
     focusz = 180;
-    mag = boxvalue(magtxt);
-    vertshift = boxvalue(verttxt);
-    horizshift = boxvalue(horiztxt);
+    readbox(magvalue);
+    for (const viewvalue& v : shiftvalues) readbox(v);
     drawrelativeview();
 }
 

@@ -1,19 +1,21 @@
-// A step: the value changes, the points settle, the picture is drawn again, the value's boxes are written.
+// A step changes its value, rebases the points if needed, replots and writes the value's boxes.
 
 #include "view/stepping.h"
 
+#include "core/viewvalues.h"
 #include "render/redraw.h"
-#include "view/rotation.h"
-#include "view/viewboxes.h"
+
+#include <algorithm>
+#include <iterator>
 
 namespace tessaly {
 
 namespace {
 
-constexpr double magscale = 10;  // mag while displaying over its number in magtxt
+constexpr double magscale = 10;  // mag while displaying, divided by the number in magtxt
 
-// The point looked at, down or up. The eye is kept relative to the focus: it moves against it and so stays in its
-// place. writes: focusz, perpz, perprelz, the boxes of eye, focus and magnification, efocuszbox.
+// Moves the focus down or up. The eye is stored relative to the focus: it moves against the focus, so that its absolute
+// position is unchanged.
 void stepfocus(int sign, double by) {
     focusinc = by;
     focusz = focusz + sign * focusinc;
@@ -23,100 +25,99 @@ void stepfocus(int sign, double by) {
     settle();
     focusstep = sign * focusinc;
     shiftz();
-    writesteppedview();
+    writeviewboxes(eyestepcuts);
     copytoeasyviews(focusvalues[2]);
 }
 
-// The eye, down or up. writes: perpz, perprelz, the same boxes, eperpzbox.
+// Moves the eye down or up.
 void stepperp(int sign, double by) {
     focusstep = by;
     perpz = perpz + sign * focusstep;
     perprelz = perpz;
     settle();
     replot();
-    writesteppedview();
+    writeviewboxes(eyestepcuts);
     copytoeasyviews(eyevalues[2]);
 }
 
-// By steps of its box. writes: mag, magshown, magtxt.
 void stepmag(int sign, double by) {
     maginc = by;
     mag = mag + sign * (magscale * maginc);
     magshown = 0.1 * mag;
     settle();
     replot();
-    sumeye();
-    writebox(magtxt, boxtext(magshown, 6));
+    writeviewboxes(magstepcuts);
 }
 
-// The number in the first five characters of a shift's text: the rest is lost. If they end within the exponent of a
-// large number, the digits before it count; a shift that does not begin as a number fails.
+// Returns the number that the first five characters of a shift hold; all others are lost. If they end within the
+// exponent of a large number, the digits before it count. fails: type mismatch if the shift does not begin as a number.
 double frontof(const value& shift) {
     const std::string front = (shift.isnumber() ? plaindigits(shift) : shift.text()).substr(0, 5);
     if (!strictnumber(front)) static_cast<void>(static_cast<double>(shift));
     return Val(front);
 }
 
-// writes: the shift and its box; fails: type mismatch where the shift is no number.
-void stepshift(int sign, double by, value& shift, control& box) {
+void stepshift(int sign, double by, const viewvalue& shift) {
     shiftinc = by;
-    shift = frontof(shift) + sign * shiftinc;
+    shift.number = frontof(shift.number) + sign * shiftinc;
     settle();
     replot();
-    writebox(box, boxtext(shift, 5));
+    writebox(shift.box, boxtext(shift.number, 5));
 }
 
-// A list of steps and the button that shows it.
-struct steplist {
-    control &button, &list;
-};
-constexpr steplist increments{incrementbtn, incrementlist}, magincrements{magincbtn, magincbox},
-    rotincrements{rotincbtn, rotincbox};
-
+// A pair of buttons and the list that selects their step.
 struct steppair {
-    control &down, &up;
-    const steplist& from;
+    control &down, &up, &list, &listbutton;
     double usual;  // step without a pick: model units, units of magtxt, viewport pixels
     void (*step)(int sign, double by);
 };
 const steppair pairs[] = {
     // clang-format off
-    {vertfocusminusbtn, vertfocusplusbtn, increments,    50,        stepfocus},
-    {vertperpminusbtn,  vertperpplusbtn,  increments,    100,       stepperp},
-    {magminusbtn,       magplusbtn,       magincrements, 0.001,     stepmag},
-    {vertdec,           vertinc,          increments,    50,        [](int sign, double by) { stepshift(sign, by, vertshift, verttxt); }},
-    {horizdec,          horizinc,         increments,    50,        [](int sign, double by) { stepshift(sign, by, horizshift, horiztxt); }},
-    {rotleftbtn,        rotrightbtn,      rotincrements, usualwalk, nullptr},  // the rotation's own procedures step
+    {vertfocusminusbtn, vertfocusplusbtn, incrementlist, incrementbtn, 50,        stepfocus},
+    {vertperpminusbtn,  vertperpplusbtn,  incrementlist, incrementbtn, 100,       stepperp},
+    {magminusbtn,       magplusbtn,       magincbox,     magincbtn,    0.001,     stepmag},
+    {vertdec,           vertinc,          incrementlist, incrementbtn, 50,        [](int sign, double by) { stepshift(sign, by, shiftvalues[0]); }},
+    {horizdec,          horizinc,         incrementlist, incrementbtn, 50,        [](int sign, double by) { stepshift(sign, by, shiftvalues[1]); }},
+    {rotleftbtn,        rotrightbtn,      rotincbox,     rotincbtn,    usualwalk, nullptr},  // the rotation has its own procedures
     // clang-format on
 };
 
-// Writes into the tooltip of each step by how much it goes, and the list that this was picked in.
+// Writes the step and the list where it was picked into the tooltips of the buttons.
 void notesteps() {
     for (const steppair& p : pairs) {
-        const double by = pickedstep(p.from.list, p.usual);
-        const bool picked = pickedstep(p.from.list, 0) != 0;
-        const std::string from = picked ? ", picked in \"" + p.from.button.text + '"' : "";
-        p.down.note = p.up.note = " by " + boxtext(by) + from;
+        const bool picked = pickedstep(p.list, 0) != 0;
+        const std::string from = picked ? ", picked in \"" + p.listbutton.text + '"' : "";
+        p.down.note = p.up.note = " by " + boxtext(pickedstep(p.list, p.usual)) + from;
     }
 }
 
 }  // namespace
 
-void definesteps() {
-    for (const steppair& p : pairs) {
-        p.down.repeats = p.up.repeats = true;
-        if (!p.step) continue;
-        p.down.run = [&p] { p.step(-1, pickedstep(p.from.list, p.usual)); };
-        p.up.run = [&p] { p.step(1, pickedstep(p.from.list, p.usual)); };
-    }
-    for (const steplist* l : {&increments, &magincrements, &rotincrements}) {
-        l->button.run = [l] { show(l->list); };
-        l->list.run = [l] {
-            hide(l->list);
-            notesteps();
-        };
-    }
+void preparesteps() {
+    for (const steppair& p : pairs) p.down.repeats = p.up.repeats = true;
     notesteps();
+}
+
+void clickstepbtn() {
+    for (const steppair& p : pairs)
+        if (usedcontrol == &p.down || usedcontrol == &p.up)
+            return p.step(usedcontrol == &p.up ? 1 : -1, pickedstep(p.list, p.usual));
+}
+
+void clicksteplistbtn() {
+    const auto p = std::find_if(std::begin(pairs), std::end(pairs),
+                                [](const steppair& s) { return &s.listbutton == usedcontrol; });
+    show(p->list);
+}
+
+void picksteplist() {
+    hide(*usedcontrol);
+    notesteps();
+}
+
+double pickedstep(const control& list, double usual) {
+    const double step = Val(selectedtext(list));
+    return step == 0 ? usual : step;
 }
 
 }  // namespace tessaly

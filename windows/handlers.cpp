@@ -1,6 +1,5 @@
-// The one table of the named controls' procedures, the start and the end of the program, and the two plain actions of
-// the main window. The families (layouts, element choice, steps, quick views, the help's regions) give their buttons
-// their procedures themselves.
+// The table of the named controls' procedures, the start and the end of the program, and the display buttons. The
+// generated buttons of the layouts and the quick views get their procedures where they are generated.
 
 #include "windows/handlers.h"
 
@@ -22,6 +21,7 @@
 #include "view/quickviews.h"
 #include "view/rotation.h"
 #include "view/stepping.h"
+#include "windows/helppages.h"
 #include "windows/helpwindow.h"
 
 #include <algorithm>
@@ -56,9 +56,8 @@ std::string misplaced() {
            ": ./run.sh where the sources are, or the installed command tessaly, starts the program in one";
 }
 
-// Load of the main window, which is visible only once this has returned.
+// Fills the lists of the main window and draws its opening scene, before the window is shown.
 void loadvistaplan() {
-    vistaplan.created = true;
     filllists();
     try {
         readfolders();
@@ -74,79 +73,77 @@ void clickstartprogrambtn() {
     showwindow(vistaplan);
 }
 
+window* const layouts[] = {&layoutgirder, &layoutpanels, &layoutroof};
+
+void hidelayouts() {
+    for (window* layout : layouts) hidewindow(*layout);
+}
+
+void clickgroupbtn() {
+    hidelayouts();
+    startdone = 1;
+    startdisplay();
+}
+
+void clickdisplaycubebtn() {
+    hidelayouts();
+    displaycube();
+}
+
 void clickfillscreen() { clearpicture(); }
 
 void clickexitbtn() {
-    for (window* w : {&startform, &vistaplan, &easyviews, &instructions, &layoutgirder, &layoutpanels, &layoutroof})
-        w->shown = false;
+    for (window* w : allwindows()) hidewindow(*w);
     programended = true;
 }
 
+// Procedures of the named controls. CLICK(x) is x with clickx; PICK(x) is a list x with pickx.
 struct handler {
     control* of;
     void (*run)();
 };
-
-#define CLICK(name)                                                                                                    \
-    { &name, click##name }
-#define PICK(name)                                                                                                     \
-    { &name, pick##name }
+// clang-format off
+#define CLICK(name) {&name, click##name}
+#define PICK(name) {&name, pick##name}
 const handler handlers[] = {
-    // start, display, general
-    CLICK(startprogrambtn),
-    CLICK(fillscreen),
-    CLICK(groupbtn),
-    CLICK(displaycubebtn),
-    CLICK(exitbtn),
-    // state of building
-    CLICK(floorbtn),
-    PICK(floorlist),
-    CLICK(wiresolidbtn),
-    CLICK(writefilebtn),
+    // start, display, end
+    CLICK(startprogrambtn), CLICK(fillscreen), CLICK(groupbtn), CLICK(displaycubebtn), CLICK(exitbtn),
+    // choice of elements
+    {&orange1btn, clickpanelbtn}, {&orange2btn, clickpanelbtn}, {&orange3btn, clickpanelbtn},
+    {&yellow1btn, clickpanelbtn}, {&yellow2btn, clickpanelbtn}, {&yellow3btn, clickpanelbtn},
+    {&door2btn, clickpanelbtn}, {&door4btn, clickpanelbtn}, CLICK(postbeambtn), CLICK(roofbtn),
+    {&snipleftbtn, clicksnipbtn}, {&sniprighbtn, clicksnipbtn}, {&snipbothbtn, clicksnipbtn},
+    // floor, draw mode, record mode
+    CLICK(floorbtn), PICK(floorlist), CLICK(wiresolidbtn), CLICK(writefilebtn),
     // replay of design files
-    CLICK(autowiresingle),
-    CLICK(autosolidsingle),
-    PICK(autofile),
-    PICK(autofile5),
-    CLICK(autowirebtn),
-    CLICK(autosolidbtn),
-    PICK(autofile1),
-    PICK(autofile2),
-    PICK(autofile3),
-    PICK(autofile4),
-    CLICK(escapefilelistbtn),
+    CLICK(autowiresingle), CLICK(autosolidsingle), PICK(autofile), PICK(autofile5), CLICK(autowirebtn),
+    CLICK(autosolidbtn), PICK(autofile1), PICK(autofile2), PICK(autofile3), PICK(autofile4), CLICK(escapefilelistbtn),
     // list of design files
-    CLICK(displayfilelistbtn),
-    PICK(designfileslist),
-    CLICK(killfilebtn),
-    CLICK(closefilelistbtn),
+    CLICK(displayfilelistbtn), PICK(designfileslist), CLICK(killfilebtn), CLICK(closefilelistbtn),
     // rotation
-    CLICK(activateleftbtn),
-    CLICK(rotleftbtn),
-    CLICK(rotrightbtn),
-    CLICK(activaterightbtn),
-    CLICK(reactivateleftbtn),
+    CLICK(activateleftbtn), CLICK(rotleftbtn), CLICK(rotrightbtn), CLICK(activaterightbtn), CLICK(reactivateleftbtn),
+    // steps of the view
+    {&vertfocusminusbtn, clickstepbtn}, {&vertfocusplusbtn, clickstepbtn}, {&vertperpminusbtn, clickstepbtn},
+    {&vertperpplusbtn, clickstepbtn}, {&magminusbtn, clickstepbtn}, {&magplusbtn, clickstepbtn},
+    {&vertdec, clickstepbtn}, {&vertinc, clickstepbtn}, {&horizdec, clickstepbtn}, {&horizinc, clickstepbtn},
+    {&incrementbtn, clicksteplistbtn}, {&magincbtn, clicksteplistbtn}, {&rotincbtn, clicksteplistbtn},
+    {&incrementlist, picksteplist}, {&magincbox, picksteplist}, {&rotincbox, picksteplist},
     // manual view and quick views
-    CLICK(cventerbtn),
-    CLICK(defaultviewbtn),
-    CLICK(hidpfm),
-    CLICK(shopfm),
-    CLICK(fastchange),
-    CLICK(easysetbtn),
+    CLICK(cventerbtn), CLICK(defaultviewbtn), CLICK(hidpfm), CLICK(shopfm), CLICK(fastchange), CLICK(easysetbtn),
     // captures
-    CLICK(screencapbtn),
-    CLICK(capescapebtn),
-    CLICK(screencapenter),
-    CLICK(retrieveimagetbtn),
-    CLICK(closebmpbtn),
-    CLICK(delbmpbtn),
-    CLICK(displayimagebtn),
+    CLICK(screencapbtn), CLICK(capescapebtn), CLICK(screencapenter), CLICK(retrieveimagetbtn), CLICK(closebmpbtn),
+    CLICK(delbmpbtn), CLICK(displayimagebtn),
     // help
-    CLICK(instructionsbtn),
-    CLICK(returntomainbtn),
+    CLICK(instructionsbtn), CLICK(returntomainbtn),
+    {&elementsbtn, [] { showpages({&elementstext1, &elementstext2}); }},
+    {&filereaderbtn, [] { showpages({&filereadertext, &filereadertext2}); }},
+    {&displaybtn, [] { showpages({&displaytext}); }},
+    {&viewcontrolbtn, [] { showpages({&viewcontrolstext}); }},
+    {&capturesbtn, [] { showpages({&capturetext}); }},
 };
 #undef CLICK
 #undef PICK
+// clang-format on
 
 constexpr programkey keys[] = {
     {"F1", [] { clickcontrol(instructionsbtn); }},
@@ -158,7 +155,7 @@ constexpr programkey keys[] = {
      }},
 };
 
-// The buttons that the Escape key presses, each with what of its own the focus may be on.
+// The buttons that the Escape key presses, each with the controls from which it does so.
 struct closer {
     control* button;
     const control* closes[4];
@@ -189,13 +186,13 @@ void startprogram() {
     resetchannels();
     restartworld();
     resetcontrols();
-    definelayouts();
-    definechoice();
-    definesteps();
-    definequickviews();
-    definehelp();
+    addlayoutbuttons();
+    addquickviewbuttons();
+    setboxwarnings();
+    preparesteps();
     for (const handler& h : handlers) h.of->run = h.run;
-    panelsnipper.items = {"Full panel", "snip left side", "snip right side", "snip both sides"};
+    for (const helppage& p : helppages) p.page.text = p.text;
+    for (const snippart& s : snipparts) panelsnipper.items.push_back(s.text);
     showwindow(startform);
 }
 
@@ -207,7 +204,7 @@ void pressescape(window& w, const control* focused) {
         wantedfocus = focusafter(*focused);
     else if (control* const button = closerof(w, focused))
         clickcontrol(*button);
-    else if (&w == &layoutgirder || &w == &layoutpanels || &w == &layoutroof)
+    else if (std::find(std::begin(layouts), std::end(layouts), &w) != std::end(layouts))
         closewindow(w);
 }
 

@@ -1,5 +1,5 @@
-// The life of the program: its start, which gives every control its procedure, and the closing of its windows. No Qt
-// here: the windows and the player drive the same procedures over the same controls.
+// The start of the program, which connects every control to its procedure, and the closing of its windows. No Qt here:
+// the windows and the player run the same procedures on the same controls.
 #pragma once
 
 #include "core/controls.h"
@@ -8,8 +8,8 @@
 
 namespace tessaly {
 
-// Puts the whole program into its first state: all controls set up with their procedures, startform shown, nothing
-// loaded. viewportsurface and progresssurface are to be set before.
+// Resets the program to its first state: all controls have their procedures, startform is shown, no file has been read.
+// Set viewportsurface and progresssurface before.
 void startprogram();
 
 // The keys that act from any window once the main window is there, and their procedures.
@@ -19,12 +19,12 @@ struct programkey {
 };
 std::span<const programkey> programkeys();
 
-// The Escape key in a window, with the focus on focused (nullptr: on no control). It does what the window's own closing
-// button does: of those of the main window the one that belongs to focused, or else the first that is shown. A list
-// that only a pick closes gives the focus back and stays.
+// Handles the Escape key in window w with the keyboard focus on focused (nullptr: no control has it). Clicks the
+// closing button that belongs to focused, or else the first closing button shown in w. A list that only a pick closes
+// gives the focus back and stays open.
 void pressescape(window& w, const control* focused);
 
-// The user closes a window: the two programs windows end the program as exitbtn does, any other is hidden.
+// Closes a window for the user: startform and vistaplan end the program as exitbtn does, any other window is hidden.
 void closewindow(window& w);
 
 }  // namespace tessaly

@@ -1,13 +1,11 @@
-// The words of the instructions window. A page is written as it is shown: what fits and what does not is counted in
-// characters, columns across and helplines down, so keep to them when you change a sentence.
+// The text of the instructions window. A page appears exactly as it is written here. It holds 40 lines of 130
+// characters; the four pages that share the window in pairs hold lines of 66.
+
 #include "windows/helppages.h"
 
 namespace tessaly {
 
 namespace {
-
-constexpr int half = 66;    // columns of a page that has a neighbour
-constexpr int whole = 130;  // columns of a page alone
 
 const char* const elements1 = R"page(
  CHOOSING AND PLACING ELEMENTS
@@ -311,26 +309,16 @@ const char* const hint = R"page(
 
 }  // namespace
 
-const helppage helppages[helppagecount] = {
+const helppage helppages[8] = {
     // clang-format off
-    {&elementstext1,     half,  elements1 + 1},  // the text begins behind the line end of its opening line
-    {&elementstext2,     half,  elements2 + 1},
-    {&filereadertext,    half,  filereader1 + 1},
-    {&filereadertext2,   half,  filereader2 + 1},
-    {&displaytext,       whole, display + 1},
-    {&viewcontrolstext,  whole, viewcontrols + 1},
-    {&capturetext,       whole, captures + 1},
-    {&hinttext,          whole, hint + 1},
-    // clang-format on
-};
-
-const helpregion helpregions[helpregioncount] = {
-    // clang-format off
-    {&elementsbtn,    &elementstext1,    &elementstext2},
-    {&filereaderbtn,  &filereadertext,   &filereadertext2},
-    {&displaybtn,     &displaytext,      nullptr},
-    {&viewcontrolbtn, &viewcontrolstext, nullptr},
-    {&capturesbtn,    &capturetext,      nullptr},
+    {elementstext1,    elements1 + 1},  // + 1: without the line end of the opening line
+    {elementstext2,    elements2 + 1},
+    {filereadertext,   filereader1 + 1},
+    {filereadertext2,  filereader2 + 1},
+    {displaytext,      display + 1},
+    {viewcontrolstext, viewcontrols + 1},
+    {capturetext,      captures + 1},
+    {hinttext,         hint + 1},  // no button shows this page
     // clang-format on
 };
 

@@ -1,4 +1,4 @@
-// Which pages stand in the instructions window, by the table of its regions.
+// Shows and hides the pages of the instructions window.
 
 #include "windows/helpwindow.h"
 
@@ -9,24 +9,17 @@ namespace tessaly {
 namespace {
 
 void hidepages() {
-    for (const helppage& page : helppages) hide(*page.on);
-    for (const helpregion& region : helpregions) region.button->chosen = false;
-}
-
-// The hint belongs to no region and is never shown.
-void showregion(const helpregion& region) {
-    hide(startpicbox);
-    hidepages();
-    region.button->chosen = true;
-    show(*region.firstpage);
-    if (region.secondpage != nullptr) show(*region.secondpage);
+    for (const helppage& p : helppages) hide(p.page);
+    for (control* c : instructions.controls) c->chosen = false;
 }
 
 }  // namespace
 
-void definehelp() {
-    for (const helppage& page : helppages) page.on->text = page.text;
-    for (const helpregion& region : helpregions) region.button->run = [&region] { showregion(region); };
+void showpages(std::initializer_list<control*> pages) {
+    hide(startpicbox);
+    hidepages();
+    usedcontrol->chosen = true;
+    for (control* page : pages) show(*page);
 }
 
 void clickinstructionsbtn() {

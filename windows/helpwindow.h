@@ -1,16 +1,20 @@
-// The instructions window: its pages, opening, the five picture buttons, the way back. No Qt here.
+// The instructions window. No Qt here.
 #pragma once
+
+#include "core/controls.h"
+
+#include <initializer_list>
 
 namespace tessaly {
 
-// Puts the words on the pages, and gives each picture button its procedure: to show the pages of its region of the main
-// window and no others.
-void definehelp();
+// Shows these pages of the window, hides the others and the start picture, and marks the clicked button as chosen.
+// reads: usedcontrol.
+void showpages(std::initializer_list<control*> pages);
 
-// Opens the help at its start picture.
+// Opens the window with its start picture.
 void clickinstructionsbtn();
 
-// Hides the window; its pages stay as they are until it is opened again.
+// Hides the window.
 void clickreturntomainbtn();
 
 }  // namespace tessaly
