@@ -94,7 +94,8 @@ void scrolltotop(windowframe& f) {
 }
 
 void carrytowidget(boundcontrol& b) {
-    if (b.items != b.of->items) setitems(*b.widget, b.items = b.of->items);
+    // A hidden list is filled when it is shown: measuring 10,000 names takes 50 ms.
+    if (b.of->shown && b.items != b.of->items) setitems(*b.widget, b.items = b.of->items);
     if (b.text != b.of->text) settext(*b.widget, b.text = b.of->text);
     if (const std::string tooltip = tooltipof(*b.of); b.tooltip != tooltip) settooltip(*b.widget, b.tooltip = tooltip);
     if (const boxtint tint = tintof(*b.of); b.tint != tint) settint(*b.widget, b.tint = tint);
