@@ -48,7 +48,7 @@ void restorecapture() {
     restorepoints();
     auto field = fields.begin();
     for (const viewvalue& v : viewvalues) v.number = *field++;
-    keepeye();
+    storeeye();
     // A smaller area than other clears: the rest remains visible unless the bitmap covers it.
     viewportsurface->fillrows(1, 1125, 1, 829, backgroundcolour());
     projectdraw();

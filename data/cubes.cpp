@@ -1,5 +1,5 @@
-// Axis-cube files: seven sections, each with its own first point and quad, in pairs of one line group. A row of more
-// than a hundred cubes runs on into the next section's slots, which overwrites them without notice.
+// Axis-cube files have seven sections. Each has its own first point and quad; two sections share a line group. A row of
+// more than a hundred cubes continues into the slots of the next section, silently overwriting them.
 
 #include "data/cubes.h"
 
@@ -16,19 +16,19 @@ namespace {
 
 enum axis : std::size_t { alongx, alongy, alongz };
 
-// The sections of one cube row each. Their cubes are numbered in hundreds, and each cube has ten points and quads.
-constexpr const char* rows[] = {
+// Sections that hold a single row of cubes. Their cubes are numbered in hundreds; each cube takes ten points and quads.
+constexpr const char* rowkeys[] = {
     "AUTOCUBE000:", "AUTOCUBE100:", "AUTOCUBE200:", "AUTOCUBE300:", "AUTOCUBE400:", "AUTOCUBE500:"};
-constexpr int singlesfirst = 600, maxsingles = 100, singlespoint = 6001;
+constexpr int firstsinglecube = 600, maxsinglecubes = 100, firstsinglepoint = 6001;
 
-void readcuberow(textinput& in, axis stepped, int base, cubeslots& next) {
+void readcuberow(textinput& in, axis stepaxis, int base, cubeslots& next) {
     cubecorners corner = readcorners(in);
     const value step = readvalue(in, "the step of a cube row");
-    const value last = readvalue(in, "the last cube's number of a cube row");
+    const value last = readvalue(in, "the number of the last cube in a row");
     rowgrade = readvalue(in, "the grade of a cube row");
     rowcolour = readvalue(in, "the colour of a cube row");
 
-    value &first = corner[stepped], &second = corner[stepped + 3];
+    value &first = corner[stepaxis], &second = corner[stepaxis + 3];
     first = first - step;
     second = second - step;
     for (int c = base; c <= last; ++c) {
@@ -38,11 +38,11 @@ void readcuberow(textinput& in, axis stepped, int base, cubeslots& next) {
     }
 }
 
-// Rows of first quad, last quad and count: the same face of each cube of a row, ten slots apart. The end row clears the
-// slot at which the walk of the row before it stopped.
+// Each row gives first quad, last quad and count, and sets the count for the same face of every cube in the row, ten
+// slots apart. The end row clears the slot where the loop of the previous row stopped.
 void readcubeframing(textinput& in, const char* key, table<value, lastquad, clearedpoints>& framing) {
     findkey(in, key);
-    double walked = 0;
+    double slot = 0;
     for (;;) {
         const fieldlocation row = nextfield(in);
         const value first = readvalue(in, "the first quad of a framing row");
@@ -50,15 +50,15 @@ void readcubeframing(textinput& in, const char* key, table<value, lastquad, clea
         const value count = readvalue(in, "the count of a framing row");
         const bool end = endsrows(count);
         const auto frame = [&] {
-            if (end) return framing.set(value(walked), 0);
-            for (walked = first; walked <= last; walked += 10) framing.set(value(walked), count);
+            if (end) return framing.set(value(slot), 0);
+            for (slot = first; slot <= last; slot += 10) framing.set(value(slot), count);
         };
         locaterow(in, row, key, frame);
         if (end) return;
     }
 }
 
-template <axis stepped>
+template <axis stepaxis>
 void readcubesections(textinput& in) {
     findkey(in, "WIRECOLORS:");
     for (int group = 6; group <= 9; ++group) wirecolour[group] = readvalue(in, "a wire colour (WIRECOLORS:)");
@@ -71,18 +71,18 @@ void readcubesections(textinput& in) {
         pairstart = next.line;
     };
     int base = 0;
-    for (const char* key : rows) {
+    for (const char* key : rowkeys) {
         findkey(in, key);
         if (base == 200) closepair(6, 1);
         if (base == 400) closepair(7, 2);
         next.point = next.quad = 10 * base + 1;
-        readcuberow(in, stepped, base, next);
+        readcuberow(in, stepaxis, base, next);
         base += 100;
     }
     findkey(in, "AUTOCUBE600:");
     closepair(8, 3);
-    next.point = next.quad = singlespoint;
-    readcuberows(in, singlesfirst, maxsingles, next);
+    next.point = next.quad = firstsinglepoint;
+    readcuberows(in, firstsinglecube, maxsinglecubes, next);
     closepair(9, 4);
     readcubeframing(in, "AUTOFRAMING1:", framing1);
     readcubeframing(in, "AUTOFRAMING2:", framing2);

@@ -1,10 +1,11 @@
-// Axis-cube files: rows of cubes that march along one axis.
+// Axis-cube files: rows of cubes along one axis.
 #pragma once
 
 namespace tessaly {
 
-// Read "datah\" + datafile, run its script and plot it; or, with preopened at the reader's own value (2, 3, 4), read
-// the file open on channel 1 and return. Fail as readelements.
+// Read "datah\" + datafile, run its transformation script and plot the result. If preopened is the number of this
+// reader (2 for x, 3 for y, 4 for z), the file is already open on channel 1: read its sections and return. reads,
+// writes, fails: as readelements(), and cubegrade, cubecolour, rowgrade, rowcolour.
 void readcubex();
 void readcubey();
 void readcubez();

@@ -1,5 +1,5 @@
-// The start-up display. drawset is left as it stands: at first start it is empty, so that block 2 of an axis-cube group
-// is not rebased on the focus, and that is how the start scene is meant to be drawn.
+// The start-up display. It does not set drawset: on the first start it is empty, so that block 2 of an axis-cube group
+// is not rebased on the focus. This is intended.
 
 #include "data/startdisplay.h"
 
@@ -22,17 +22,17 @@ constexpr int viewvaluecount = std::size(viewvalues);
 
 void readdefaultview(textinput& in) {
     findkey(in, "DEFAULTVIEW:");
-    for (const viewvalue& v : viewvalues) v.number = readvalue(in, "a figure of DEFAULTVIEW:");
+    for (const viewvalue& v : viewvalues) v.number = readvalue(in, "a number of DEFAULTVIEW:");
 }
 
-// A preset's eye is kept relative to its focus.
+// Stores the eye of a preset relative to its focus.
 void readpreset(textinput& in, const char* key, int first) {
     findkey(in, key);
-    for (int i = 0; i < viewvaluecount; ++i) viewpreset.set(first + i, readvalue(in, "a figure of a view preset"));
+    for (int i = 0; i < viewvaluecount; ++i) viewpreset.set(first + i, readvalue(in, "a number of a view preset"));
     for (int i = 0; i < 3; ++i) viewpreset.set(first + i, viewpreset[first + i] - viewpreset[first + 3 + i]);
 }
 
-value readname(textinput& in, const char* key) {
+value readtextafter(textinput& in, const char* key) {
     findkey(in, key);
     return value(readtextfield(in, key));
 }
@@ -45,12 +45,12 @@ void readstartfile() {
         readpreset(in, key, first);
         first += viewvaluecount;
     }
-    palname = readname(in, "DEFAULTPAL:");
+    palname = readtextafter(in, "DEFAULTPAL:");
     findkey(in, "BACKGROUNDCOLOR:");
     for (value* v : {&backred, &backgreen, &backblue}) *v = readvalue(in, "a component of BACKGROUNDCOLOR:");
-    startgroup1 = readname(in, "DISPLAYSTARTGROUP1:");
-    startgroup2 = readname(in, "DISPLAYSTARTGROUP2:");
-    startgroup3 = readname(in, "DISPLAYSTARTGROUP3:");
+    startgroup1 = readtextafter(in, "DISPLAYSTARTGROUP1:");
+    startgroup2 = readtextafter(in, "DISPLAYSTARTGROUP2:");
+    startgroup3 = readtextafter(in, "DISPLAYSTARTGROUP3:");
     in.close();
 }
 
@@ -60,8 +60,8 @@ void opengroup(const value& name, int step) {
     startstep = step;
 }
 
-// Reads the group open on channel 1 by the reader that its name asks for, and shows it; any other name leaves the
-// tables to the script.
+// Reads the group open on channel 1 with the reader selected by its prefix, and shows it. With any other prefix only
+// its script runs.
 void readgroup() {
     struct reader {
         const char* prefix;

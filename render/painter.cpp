@@ -1,4 +1,5 @@
-// The solid painter. Nothing but lines: no polygon fill, no depth buffer; the order of painting does the hiding.
+// The solid painter draws only lines. There is no polygon fill and no depth buffer: nearer faces cover farther ones
+// because they are painted later.
 
 #include "render/painter.h"
 
@@ -15,7 +16,7 @@ namespace tessaly {
 
 namespace {
 
-constexpr int maxpainted = 100;  // nearest quads that are painted
+constexpr int maxpainted = 100;  // the nearest quads
 
 bool isroof(const value& filename) { return classofname(filename.text()) == &rooffiles; }
 
@@ -38,8 +39,8 @@ void fillface(int q) {
     viewportsurface->fillface(f, divisions, palettecolour(facecolour));
 }
 
-// One rail of a framing direction: count points from the rail's start, at s / count of its length, and the line ends
-// that stand on them. Model space, so the lines keep their perspective; the last interval's end is the closing edge.
+// Builds one rail of a framing direction: count points at s / count of its length, and line ends at them. The points
+// are in model space, so the lines have the right perspective. The closing edge is the end of the last interval.
 void buildrail(const value& start, const value& end, int firstpoint, int count, table<value, lastline>& ends) {
     for (int s = 0; s < count; ++s) {
         const double share = static_cast<double>(s) / count;
@@ -50,15 +51,16 @@ void buildrail(const value& start, const value& end, int firstpoint, int count, 
     }
 }
 
-// A direction of framing: its rails begin at corner 1 and end at corner 4, and its lines run from rail to rail.
+// A direction of framing. Its rails begin at corners 1 and secondstart and end at firstend and 4; its lines join the
+// rails.
 struct direction {
     int number;
     const table<value, lastquad, clearedpoints>&counts, &firstend, &secondstart;
 };
 const direction directions[] = {{1, framing1, quad2, quad3}, {2, framing2, quad3, quad2}};
 
-// The scratch points have no saved positions and no base of their own: a near-side walk starts from what the tables
-// hold there, and the restore overwrites them.
+// The scratch points have no saved and no base positions: a near-side walk starts from whatever the tables hold there,
+// and the restoring overwrites the points. This is intended.
 void framelines() {
     constexpr int maxlines = (lastpoint - framingscratch + 1) / 2;
     const int count = indexof(framen, "framing", maxlines);
@@ -105,7 +107,8 @@ void paintsolids() {
     orderquads();
     divisions = choosedivisions();
     for (int i = maxpainted; i >= 1; --i) {
-        if (emptyquad(i)) continue;  // the slot at i itself: an element's quads fill the table from 1 upward
+        if (emptyquad(i))
+            continue;  // deliberate: tests slot i itself, since the quads of an element fill the table starting at 1
         const int q = indexof(quadorder[i], "quadorder", lastquad);
         locatesubscript([q] { return locationofcolour(q); }, [q] { paintface(q); });
     }

@@ -1,5 +1,5 @@
 // The solid painter: sorts the quads of the element in the tables by their nearest corner and paints the 100 nearest,
-// farthest first, each as a dense web of lines between its opposite edges, with its framing lines on top.
+// farthest first. It fills each with lines between its opposite edges and draws its framing lines over it.
 #pragma once
 
 namespace tessaly {

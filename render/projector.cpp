@@ -1,5 +1,6 @@
-// The projector. Sums and products run in the order in which they are written: two machines draw the same pixels.
-// E is the eye, D the plane's seed, C its centre, P a point, R the reference point's hit; all relative to the focus.
+// Sums and products are evaluated in the written order, so that all machines draw the same pixels.
+// E is the eye, D the seed of the picture plane, C its centre, P a point, R the reference point's hit; all relative to
+// the focus.
 
 #include "render/projector.h"
 
@@ -19,7 +20,7 @@ namespace {
 constexpr int fullwalk = 299;  // steps into which a near-side walk divides a line
 constexpr double mappingscale = 15.2, mappingx = 730, mappingy = 490;  // viewport pixels
 
-// The eye and the plane as plain numbers, taken once a pass: text meets arithmetic here.
+// Eye, plane and focus as plain numbers, converted once per pass. A text that is not a number fails here.
 struct sight {
     double ex, ey, ez;  // eye
     double dx, dy, dz;  // plane seed
@@ -35,7 +36,7 @@ sight takesight() {
     return s;
 }
 
-// Where the line from the eye through point p meets the picture plane: planex, planey, planez.
+// Sets planex, planey, planez to the intersection of the line from the eye through point p with the picture plane:
 // E + t(P - E) with t = (E.E - E.D) / (E.E - E.P), multiplied out.
 void hitplane(const sight& s, int p) {
     const double px = ptx[p], py = pty[p], pz = ptz[p];
@@ -53,7 +54,8 @@ void hitplane(const sight& s, int p) {
                       t);
 }
 
-// Point p on the picture plane: its hit, then distance, cosine, up and side from the plane's centre.
+// Projects point p onto the picture plane: its hit, then its distance, cosine, up and side from the centre of the
+// plane.
 void projectpoint(const sight& s, int p) {
     hitplane(s, p);
     const double hx = planex[p] - s.cx, hy = planey[p] - s.cy, hz = planez[p] - s.cz;
@@ -62,9 +64,9 @@ void projectpoint(const sight& s, int p) {
     const double distance = std::sqrt((hx * hx + hy * hy) + hz * hz);
     const double reference = std::sqrt(rx * rx + ry * ry + rz * rz), divisor = distance * reference;
     if (divisor == 0)
-        throw failure(failurekind::divisionbyzero,
-                      reference == 0 ? "the eye stands straight above or below the focus"
-                                     : "a point lies on the axis of sight, it has no direction on the picture plane");
+        throw failure(failurekind::divisionbyzero, reference == 0
+                                                       ? "the eye is straight above or below the focus"
+                                                       : "a point lies on the line from the eye to the focus");
     const double cosine = ((hx * rx + hy * ry) + hz * rz) / divisor;
     planedist.set(p, distance);
     planecos.set(p, cosine);
@@ -83,8 +85,8 @@ void restoreposition(const sight& s, int p) {
     setpoint(p, basex[p] - s.focusx, basey[p] - s.focusy, basez[p] - s.focusz);
 }
 
-// Moves p along its line towards o, from the saved position, until it is on the plane's far side. False: given up, the
-// walk's budget (shared by the two ends) is spent and screeny[p] marks the end.
+// Moves p along its line towards o, from the saved position, until it is on the far side of the plane. Returns false if
+// the moves left, which both ends of a line share, are used up; screeny[p] then marks the end.
 bool walktofarside(const sight& s, int p, int o) {
     while (nearside(s, p)) {
         --walkcount;
@@ -113,7 +115,7 @@ void mapend(int e, double scale, double shiftright, double shiftup) {
     screeny.set(e, ((scale * -mappingscale) * planeup[e] + mappingy) - shiftup);
 }
 
-// A line end as a point index, which a row of its group named.
+// Returns a line end as a point index. A report names the row that gave it.
 int lineend(const table<value, lastline>& ends, int line, int end) {
     const value& named = ends[line];
     const double whole = nearestwhole(named);
@@ -133,12 +135,12 @@ void prepareview() {
         refready = 0;
         if (viewprompt.is("AUTOMA")) {
             nudgeview(samenumber);
-            keepeye();
+            storeeye();
             viewprompt = "PROMPT";
         }
         mag = 10 * mag;
     }
-    relateeye();
+    makeeyerelative();
 }
 
 void writeviewback() {
@@ -159,7 +161,7 @@ void plotgroups() {
         sum += linecount[group];
         grouplast.set(group, sum);
     }
-    grouplast.set(linegroups, sum + 1);  // the last group runs one line past its count, and is meant to
+    grouplast.set(linegroups, sum + 1);  // deliberate: the last group has one line more than its count
 
     if (plotstate == 1 || plotstate == 2) {
         perpx = perprelx;
@@ -195,10 +197,10 @@ void setplane() {
     const double ex = perpx, ey = perpy, ez = perpz;
     planeseedx = 0.94 * ex;
     planeseedy = 0.94 * ey;
-    planeseedz = 0.95 * ez;  // not 0.94: the seed lies off the eye axis on purpose
+    planeseedz = 0.95 * ez;  // deliberate: not 0.94, so the seed is not on the eye axis
     const double s = ((ex * planeseedx) + (ey * planeseedy)) + (ez * planeseedz);
     const double q = ((ex * ex) + (ey * ey)) + (ez * ez);
-    if (q == 0) throw failure(failurekind::divisionbyzero, "the eye stands at the focus");
+    if (q == 0) throw failure(failurekind::divisionbyzero, "the eye is at the focus");
     planecentrex = (ex * s) / q;
     planecentrey = (ey * s) / q;
     planecentrez = (ez * s) / q;
@@ -206,13 +208,13 @@ void setplane() {
 
 void referencepass() {
     if (refready != 0) return;
-    projectpoint(takesight(), referencepoint);  // its own hit is the reference that it is measured against
+    projectpoint(takesight(), referencepoint);  // its hit is also the reference
     refready = 1;
 }
 
 void drawlines(int first, int last, const value& palettecolourindex) {
     const sight s = takesight();
-    std::optional<colour> c;  // a wrong index is a failure only once a line is drawn
+    std::optional<colour> c;  // a bad index fails only when a line is drawn
     const double scale = mag, shiftright = horizshift, shiftup = vertshift;
     for (int k = first; k <= last; ++k) {
         walkcount = fullwalk;
@@ -238,28 +240,28 @@ void drawgroups() {
     }
 }
 
-void keepeye() {
+void storeeye() {
     perprelx = perpx;
     perprely = perpy;
     perprelz = perpz;
 }
 
-void relateeye() {
+void makeeyerelative() {
     if (perprelative != 0) return;
     perpx = perpx - focusx;
     perpy = perpy - focusy;
     perpz = perpz - focusz;
     perprelative = 1;
-    keepeye();
+    storeeye();
 }
 
 void nudgeview(bool (*same)(const value& focus, const value& eye)) {
-    constexpr double shares[] = {0.997, 0.998, 0.999}, nearlynothing = 0.1;
+    constexpr double shares[] = {0.997, 0.998, 0.999}, replacement = 0.1;
     if (same(focusx, perpx) && same(focusy, perpy)) perpx = perpx * shares[0];
     if (same(focusx, perpx) && same(focusz, perpz)) perpx = perpx * shares[1];
     if (same(focusy, perpy) && same(focusz, perpz)) perpy = perpy * shares[2];
-    for (value* figure : {&focusy, &focusx, &focusz, &perpx, &perpy, &perpz})
-        if (*figure == 0) *figure = nearlynothing;  // and no divisor is 0 from here on
+    for (value* number : {&focusy, &focusx, &focusz, &perpx, &perpy, &perpz})
+        if (*number == 0) *number = replacement;  // so that no divisor below is 0
     if (perpx / perpy == focusx / focusy) perpx = perpx * shares[0];
     if (perpx / perpz == focusx / focusz) perpx = perpx * shares[1];
     if (perpy / perpz == focusy / focusz) perpy = perpy * shares[2];

@@ -1,27 +1,26 @@
-// The projector: line groups in perspective onto viewport. No matrices: every point is carried by the intersection of
-// its sight line with a picture plane, and by a distance and a cosine measured in that plane.
+// The projector draws line groups in perspective on viewport. It uses no matrices: a point is projected by intersecting
+// its sight line with a picture plane, and then by its distance and a cosine within that plane.
 #pragma once
 
 #include "core/value.h"
 
 namespace tessaly {
 
-// Lays the ten line groups out over the line table, restores the eye of the view in force and draws.
+// Computes the bounds of the ten line groups, restores the eye of the present view and draws.
 // reads: linecount1..10, plotstate, perprelx..; writes: groupfirst, grouplast, perpx.., refready, skipfixup;
 // fails: as projectdraw.
 void plotgroups();
 
-// Prepares the view (fix-up, scale, eye relative to the focus), moves the working points onto the focus, draws the ten
-// groups and writes the view back to the boxes.
-// reads: points, lines, groups, wire colours, palette, drawset, plotstate, view state;
-// writes: ptx.. savex.. plane.. screenx.. view state, the nine view boxes; draws on viewport;
+// Prepares the view (fix-up, scale, eye relative to the focus), makes the working points relative to the focus, draws
+// the ten groups and writes the view to the boxes. reads: points, lines, groups, wire colours, palette, drawset,
+// plotstate, view state; writes: ptx.. savex.. plane.. screenx.. view state, the nine view boxes; draws on viewport;
 // fails: division by zero (eye at the focus, a point at the plane's centre, eye straight above the focus), type
 // mismatch (a text among points or view values), subscript (a line end or colour outside its table).
 void projectdraw();
 
 // ---- the projector's steps, shared with redraw and painter ----------------------------------------------
 
-// One of the point blocks that a projection walks: its first and last point.
+// The first and last point of a block of points in use.
 struct pointblock {
     int first, last;
 };
@@ -30,27 +29,30 @@ template <class procedure>
 void foreachpointinuse(procedure step);
 int blocksinuse(pointblock (&blocks)[4]);
 
-// Sets the reference point, the plane's seed and centre from the eye; with refready 0 projects the reference point.
+// Sets the reference point, and the seed and centre of the picture plane, from the eye. fails: division by zero, type
+// mismatch.
 void setplane();
+
+// Projects the reference point if refready is 0, and sets refready to 1. fails: division by zero.
 void referencepass();
 
 // Draws the lines first..last in the colour of a palette index: near-side walk, projection, restore, mapping, draw.
 void drawlines(int first, int last, const value& palettecolourindex);
 
-// The ten groups one after the other, those with a count.
+// Draws the groups that have lines, in the order 1 to 10.
 void drawgroups();
 
-// Keeps the eye as the view's: perprelx.. = perpx..
-void keepeye();
+// Stores the eye as that of the view: perprelx.. = perpx..
+void storeeye();
 
-// Turns an absolute eye relative to the focus, once, and keeps it.
-void relateeye();
+// If perprelative is 0, makes the eye relative to the focus, stores it and sets perprelative to 1.
+void makeeyerelative();
 
-// Moves eye and focus out of the positions in which the projection would divide by zero or see a line end on, step by
-// step in a fixed order; same tells how the first three steps compare. fails: type mismatch.
+// Moves eye and focus out of positions in which the projection would divide by zero, in a fixed order of steps. same
+// compares focus and eye in the first three steps. fails: type mismatch, overflow.
 void nudgeview(bool (*same)(const value& focus, const value& eye));
 
-// Moves the working points of the blocks of drawset by minus the focus and keeps them in savex...
+// Subtracts the focus from the working points in use and copies them to savex, savey, savez.
 void rebaseonfocus();
 
 template <class procedure>

@@ -1,4 +1,4 @@
-// The quick path of a view change, on the projector's own steps.
+// Redraws with the steps of the projector.
 
 #include "render/redraw.h"
 
@@ -11,14 +11,14 @@ namespace tessaly {
 
 namespace {
 
-constexpr int rightmost = 1450, lowest = 1010;  // of a clear: more than the surface shows
+constexpr int rightmost = 1450, lowest = 1010;  // of a clear, in pixels: beyond the edge of viewport
 
 }  // namespace
 
 void clearpicture() { viewportsurface->fillrows(1, rightmost, 1, lowest, backgroundcolour()); }
 
 void replot() {
-    // From 2 on, unlike every other clear: row 1 and column 1 keep what was drawn there. It stays so.
+    // Deliberately starts at 2, unlike all other clears: row 1 and column 1 stay as they are.
     viewportsurface->fillrows(2, rightmost, 2, lowest, backgroundcolour());
     setplane();
     referencepass();
@@ -26,7 +26,7 @@ void replot() {
 }
 
 void rebasepoints() {
-    relateeye();
+    makeeyerelative();
     rebaseonfocus();
     replot();
 }

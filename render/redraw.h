@@ -1,28 +1,28 @@
-// The quick path of a view change: the picture is wiped and the wires of the tables are drawn again, nothing is read
-// from disk and no face is painted.
+// Redrawing after a view change: clears the picture and draws the wires of the element in the tables. Reads no file and
+// paints no face.
 #pragma once
 
 namespace tessaly {
 
-// Wipes the whole of viewport in the background colour. fails: as backgroundcolour.
+// Clears viewport in the background colour, except row 0 and column 0. fails: as backgroundcolour.
 void clearpicture();
 
-// Wipes viewport from (2, 2) on in the background colour and draws the ten groups from the working points.
+// Clears viewport from (2, 2) on and draws the ten groups from the working points.
 // reads: points, groups, eye, mag, shifts, refready; writes: plane and screen tables, refready; fails: as projectdraw.
 void replot();
 
-// Moves the working points by the focus, once a view, then replots: the picture carries a doubled offset, which the
-// replot that every caller adds puts right. reads, writes, fails: as projectdraw without the boxes.
+// Subtracts the focus from the working points again, then replots with this doubled offset. Callers replot once more,
+// which draws the right picture. reads, writes, fails: as projectdraw without the boxes.
 void rebasepoints();
 
-// Moves the working Z of all points by minus focusstep, then replots.
+// Subtracts focusstep from the working Z of all points in use, then replots.
 void shiftz();
 
-// What every view step runs ahead of its redraw: refready = 0; where rebasedone is 0 it becomes 1 and the points are
-// rebased.
+// Runs before the redraw of each view step: sets refready to 0; if rebasedone is 0, sets it to 1 and rebases the
+// points.
 void settle();
 
-// Copies the base coordinates of the blocks of drawset to the working coordinates.
+// Copies the base coordinates of the points in use to the working coordinates.
 void restorepoints();
 
 }  // namespace tessaly

@@ -21,7 +21,7 @@ void clickcventerbtn() {
     restorepoints();
     for (const viewvalue& v : viewvalues) readbox(v);
     nudgeview(sametext);
-    keepeye();
+    storeeye();
     clearpicture();
     projectdraw();
     writeviewboxes(setcuts, mag / 10);
@@ -60,7 +60,7 @@ void clickshopfm() {
 // The first two pictures are shifted by the focus, because the working points are relative to the focus already; the
 // last one covers them.
 void drawrelativeview() {
-    keepeye();
+    storeeye();
     projectdraw();
     if (repaintmainwindow) repaintmainwindow();
     replot();
