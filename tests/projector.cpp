@@ -176,9 +176,9 @@ TEST(projector, zeroDivisorsAreFailures) {
     struct {
         vec eye, point;
         const char* told;
-    } const cases[] = {{{1850, -1850, 550}, {0, 0, 0}, "a point lies on the axis of sight"},
-                       {{0, 0, 0}, {5, 5, 5}, "the eye stands at the focus"},
-                       {{0, 0, 1024}, {5, 5, 5}, "the eye stands straight above"}};
+    } const cases[] = {{{1850, -1850, 550}, {0, 0, 0}, "a point lies on the line from the eye to the focus"},
+                       {{0, 0, 0}, {5, 5, 5}, "the eye is at the focus"},
+                       {{0, 0, 1024}, {5, 5, 5}, "the eye is straight above"}};
     for (const auto& c : cases) {
         session s;
         setview(c.eye[0], c.eye[1], c.eye[2]);
