@@ -19,12 +19,12 @@ struct viewvalue {
 // In the order of SET, of view records and of the start file.
 inline constexpr viewvalue viewvalues[] = {
     // clang-format off
-    {perpx,      perptxtx,  &eperpxbox,  "eye X",            "persp X"},
-    {perpy,      perptxty,  &eperpybox,  "eye Y",            "persp Y"},
-    {perpz,      perptxtz,  &eperpzbox,  "eye Z",            "persp Z"},
-    {focusx,     focustxtx, &efocusxbox, "focus X",          "focus X"},
-    {focusy,     focustxty, &efocusybox, "focus Y",          "focus Y"},
-    {focusz,     focustxtz, &efocuszbox, "focus Z",          "focus Z"},
+    {perpx,      perptxtx,  &eperpxbox,  "eye X",            "perp X"},
+    {perpy,      perptxty,  &eperpybox,  "eye Y",            "perp Y"},
+    {perpz,      perptxtz,  &eperpzbox,  "eye Z",            "perp Z"},
+    {focusx,     focustxtx, &efocusxbox, "focus X",          "foc X"},
+    {focusy,     focustxty, &efocusybox, "focus Y",          "foc Y"},
+    {focusz,     focustxtz, &efocuszbox, "focus Z",          "foc Z"},
     {mag,        magtxt,    nullptr,     "magnification",    "mag"},
     {vertshift,  verttxt,   nullptr,     "vertical shift",   nullptr},
     {horizshift, horiztxt,  nullptr,     "horizontal shift", nullptr},

@@ -1,4 +1,5 @@
-// What the real windows show of the state that no control holds: what is built, and which element is chosen.
+// What the real windows show of the state that no control holds: what is built, which element is chosen, which
+// row the mouse is on.
 
 #include "tests/windowsession.h"
 
@@ -68,6 +69,24 @@ TEST_F(windowsession, theButtonThatOpenedAShownPlanLooksPressed) {
     EXPECT_EQ(pressed(), "postbeambtn ");
     click(groupbtn);
     EXPECT_EQ(pressed(), "");
+}
+
+// Catches a first row that looks picked, and keys that do not reach the list then.
+TEST_F(windowsession, aListOpenedByTheMouseShowsNoRowUntilAKeyIsPressed) {
+    keys("=vistaplan");
+    click(floorbtn);
+    auto* const rows = qobject_cast<QListWidget*>(widgetof(floorlist));
+    EXPECT_TRUE(rows->hasFocus());
+    const QPoint row = rows->visualItemRect(rows->item(3)).center();
+    const QImage before = rows->viewport()->grab().toImage();
+    EXPECT_EQ(rows->currentRow(), -1);
+    QTest::mouseMove(rows->viewport(), row);
+    EXPECT_NE(rows->viewport()->grab().toImage(), before);
+    QTest::keyClick(rows, Qt::Key_Return);
+    EXPECT_TRUE(floorlist.shown);
+    QTest::keyClick(rows, Qt::Key_Down);
+    QTest::keyClick(rows, Qt::Key_Return);
+    EXPECT_EQ(tessaly::floor.text, "9");
 }
 
 }  // namespace tessaly

@@ -35,8 +35,8 @@ struct viewpoint {
 constexpr viewpoint panelview{260, -900, 210, 3, -104, 62, 0.0425};
 constexpr viewpoint frameview{800, -800, 420, 0, 0, 56, 0.0255};
 constexpr viewpoint roofview{800, -800, 620, 0, 0, 127, 0.0379};
-constexpr viewpoint leftend{0, -900, 0, -84, -104, 84, 0.027};
-constexpr viewpoint rightend{0, -900, 0, 84, -104, 84, 0.027};
+constexpr viewpoint leftend{0, -900, 0, -91.5, -104, 105, 0.052};
+constexpr viewpoint rightend{0, -900, 0, 93.5, -104, 105, 0.052};
 
 // An upright strip of a picture, drawn from a viewpoint of its own.
 struct strip {
@@ -54,7 +54,7 @@ struct form {
 const form panelform{101, 54, 4, {{panelview, 0, 101}}};
 const form frameform{101, 54, 4, {{frameview, 0, 101}}};
 const form roofform{101, 54, 4, {{roofview, 0, 101}}};
-const form endsform{24, 24, 1, {{leftend, 0, 11}, {rightend, 13, 11}}};  // the middle of the panel left out
+const form endsform{24, 24, 1, {{leftend, 0, 12}, {rightend, 12, 12}}};  // what is cut is a third of its end
 
 struct picture {
     const char* button;                  // of the main window or the panel layout

@@ -5,6 +5,7 @@
 #include "windows/qt/accessibility.h"
 #include "windows/qt/button.h"
 #include "windows/qt/canvas.h"
+#include "windows/qt/listrows.h"
 #include "windows/qt/style.h"
 
 #include <QAbstractItemView>
@@ -40,6 +41,7 @@ class list : public QListWidget {
         setTextElideMode(Qt::ElideMiddle);
         setUniformItemSizes(true);
         setVerticalScrollMode(ScrollPerPixel);
+        new rowpainter(*this);
         // A row that something else selects, as assistive technology does, is picked.
         connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this](const QItemSelection& rows) {
             if (!marking && !rows.isEmpty()) pick(rows.front().top());
@@ -77,10 +79,15 @@ class list : public QListWidget {
             QListWidget::keyPressEvent(event);
     }
 
+    // The toolkit would make the first row current. Only a user of the keyboard gets a row on which Return acts at
+    // once.
     void focusInEvent(QFocusEvent* event) override {
+        const bool hadrow = currentRow() >= 0;
         QListWidget::focusInEvent(event);
-        if (currentRow() < 0 && count() > 0 && event->reason() != Qt::MouseFocusReason)
-            selectionModel()->setCurrentIndex(model()->index(0, 0), QItemSelectionModel::NoUpdate);
+        if (hadrow || count() == 0) return;
+        const bool keyboard = window()->testAttribute(Qt::WA_KeyboardFocusChange);
+        selectionModel()->setCurrentIndex(keyboard ? model()->index(0, 0) : QModelIndex(),
+                                          QItemSelectionModel::NoUpdate);
     }
 
     void paintEvent(QPaintEvent* event) override {

@@ -18,7 +18,7 @@ namespace tessaly {
 namespace {
 
 // The seven boxes over the picture have no labels beside them: each carries its tag at its right end.
-constexpr int tagpixels = 9;
+const QColor tagink(80, 80, 80);
 const QColor hintpaper(255, 255, 225);
 
 // Runs what a key does. A box that has the focus is then ready to be typed over.
@@ -39,15 +39,15 @@ class tag : public QWidget {
   public:
     tag(const char* itsword, QWidget* box) : QWidget(box), word(itsword) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
-        setFont(captionfont(tagpixels));
-        const int width = fontMetrics().horizontalAdvance(word) + 6;
+        setFont(captionfont());
+        const int width = fontMetrics().horizontalAdvance(word) + 4;
         setGeometry(box->width() - width, 1, width - 1, box->height() - 2);
     }
 
   protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setPen(palette().color(QPalette::PlaceholderText));
+        painter.setPen(tagink);
         painter.drawText(rect(), Qt::AlignCenter, word);
     }
 
