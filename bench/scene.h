@@ -8,8 +8,7 @@
 
 namespace tessaly {
 
-// ---- design files of the scene
-// --------------------------------------------------------------------------
+// ---- design files of the scene ------------------------------------------------------------------------------
 // Writes a file to designs\ if it does not exist, and returns its name. It has n records of one floor, 1..10, spread
 // over the plan. Of ten records of a mixed file four are girders, five panels and one a roof, with about ten faces
 // each.
@@ -17,8 +16,7 @@ std::string girdersfile(int n, int onfloor = 1);
 std::string panelsfile(int n, int onfloor = 1);
 std::string mixedfile(int n);
 
-// ---- methods of drawing and working
-// -----------------------------------------------------------------------
+// ---- methods of drawing and working -------------------------------------------------------------------------
 enum class method { program, nodrawing, plain, qpainter };
 constexpr method allmethods[] = {method::program, method::nodrawing, method::plain, method::qpainter};
 const char* nameof(method m);

@@ -135,7 +135,7 @@ TEST(readers, foldersMustExist) {
         {[] {
              for (const char* folder : {"designs", "datah"}) fs::remove_all(folder);
          },
-         failurekind::filenotfound, "is no working folder: ./run.sh"},
+         failurekind::filenotfound, "is not a working folder: start the program with ./run.sh"},
         {[] { fs::remove_all(fs::current_path()); }, failurekind::filenotfound, "the working folder was deleted"},
     };
     for (const auto& c : cases) {

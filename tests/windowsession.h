@@ -27,7 +27,7 @@ inline void startapplication() {
     static char name[] = "windowtests", *argv[] = {name, nullptr};
     if (qApp) return;
     QApplication::setDesktopSettingsAware(false);
-    setlook(*new QApplication(argc, argv));
+    setstyle(*new QApplication(argc, argv));
     usepicturefiles();
 }
 
@@ -51,7 +51,7 @@ class windowsession : public testing::Test {
     }
 
     void TearDown() override {
-        dropwindows();
+        destroywindows();
         folder.reset();
     }
 

@@ -193,7 +193,7 @@ void makeall(const fs::path& guide, const fs::path& help, const fs::path& docume
                  "paneto4",  "girdtow5", "paneto5",  "girdtow6", "paneto6",  "girdtow7", "paneto7",
                  "girdtow8", "paneto8",  "girdtow9", "paneto9",  "girdtow0", "paneto0",  "rooft0"});
     savepicture(viewportimage(), (help / "startpicbox.png").string());
-    dropwindows();
+    destroywindows();
 }
 
 void copysamples(const fs::path& from, const fs::path& to) {
@@ -216,7 +216,7 @@ int main(int argc, char** argv) {
     QApplication::setDesktopSettingsAware(false);
     QApplication app(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
-    tessaly::setlook(app);
+    tessaly::setstyle(app);
     tessaly::usepicturefiles();
     return tessaly::generate("makewindowpictures", [argv] {
         const fs::path help = fs::absolute(argv[2]), documents = fs::absolute(argv[3]);

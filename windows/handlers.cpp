@@ -47,13 +47,13 @@ void readfolders() {
     startdisplay();
 }
 
-// Why the program cannot run where it was started; "" if it can.
-std::string misplaced() {
+// Returns why the program cannot run in the current folder; "" if it can.
+std::string unusablefolder() {
     std::error_code failed;
     if (std::filesystem::is_directory("datah", failed)) return {};
     const std::string here = std::filesystem::current_path(failed).string();
-    return (failed ? "the working folder was deleted" : here + " is no working folder") +
-           ": ./run.sh where the sources are, or the installed command tessaly, starts the program in one";
+    return (failed ? "the working folder was deleted" : here + " is not a working folder") +
+           ": start the program with ./run.sh in the folder of its sources, or with the installed command tessaly";
 }
 
 // Fills the lists of the main window and draws its opening scene, before the window is shown.
@@ -62,7 +62,7 @@ void loadvistaplan() {
     try {
         readfolders();
     } catch (const failure& f) {
-        const std::string why = misplaced();
+        const std::string why = unusablefolder();
         throw failure(f.kind, f.detail, f.location, why.empty() ? f.remedy : why);
     }
 }
@@ -97,9 +97,10 @@ void clickexitbtn() {
     programended = true;
 }
 
-// Procedures of the named controls. CLICK(x) is x with clickx; PICK(x) is a list x with pickx.
+// The procedures of the named controls. CLICK(x) is the row of control x and its procedure clickx; PICK(x) that of list
+// x and pickx.
 struct handler {
-    control* of;
+    control* clicked;
     void (*run)();
 };
 // clang-format off
@@ -150,17 +151,17 @@ constexpr programkey keys[] = {
     {"F5", [] { clickcontrol(cventerbtn); }},
     {"F6",
      [] {
-         usedcontrol = wantedfocus = nullptr;  // no control's event
+         usedcontrol = wantedfocus = nullptr;  // this event belongs to no control
          drawwholebuilding();
      }},
 };
 
-// The buttons that the Escape key presses, each with the controls from which it does so.
-struct closer {
+// The buttons that the Escape key clicks. Each belongs to some controls: Escape clicks it if one of them has the focus.
+struct closingbutton {
     control* button;
-    const control* closes[4];
+    const control* controls[4];
 };
-const closer closers[] = {
+const closingbutton closingbuttons[] = {
     {&capescapebtn, {&capbox, &screencapenter}},
     {&escapefilelistbtn, {&autofile, &autofile1, &autofile3, &autofile5}},
     {&closefilelistbtn, {&designfileslist, &killfilebtn}},
@@ -169,11 +170,11 @@ const closer closers[] = {
     {&returntomainbtn, {}},
 };
 
-control* closerof(const window& w, const control* focused) {
+control* closingbuttonof(const window& w, const control* focused) {
     control* first = nullptr;
-    for (const closer& c : closers) {
+    for (const closingbutton& c : closingbuttons) {
         if (c.button->in != &w || !c.button->shown) continue;
-        const bool belongs = std::find(std::begin(c.closes), std::end(c.closes), focused) != std::end(c.closes);
+        const bool belongs = std::find(std::begin(c.controls), std::end(c.controls), focused) != std::end(c.controls);
         if (focused && (focused == c.button || belongs)) return c.button;
         if (!first) first = c.button;
     }
@@ -190,7 +191,7 @@ void startprogram() {
     addquickviewbuttons();
     setboxwarnings();
     preparesteps();
-    for (const handler& h : handlers) h.of->run = h.run;
+    for (const handler& h : handlers) h.clicked->run = h.run;
     for (const helppage& p : helppages) p.page.text = p.text;
     for (const snippart& s : snipparts) panelsnipper.items.push_back(s.text);
     showwindow(startform);
@@ -202,7 +203,7 @@ void pressescape(window& w, const control* focused) {
     wantedfocus = nullptr;
     if (focused && focused->kind == controlkind::list)
         wantedfocus = focusafter(*focused);
-    else if (control* const button = closerof(w, focused))
+    else if (control* const button = closingbuttonof(w, focused))
         clickcontrol(*button);
     else if (std::find(std::begin(layouts), std::end(layouts), &w) != std::end(layouts))
         closewindow(w);

@@ -12,16 +12,17 @@ namespace tessaly {
 // Set viewportsurface and progresssurface before.
 void startprogram();
 
-// The keys that act from any window once the main window is there, and their procedures.
+// The keys that act in any window once the main window has been opened, and their procedures.
 struct programkey {
     const char* name;
     void (*press)();
 };
 std::span<const programkey> programkeys();
 
-// Handles the Escape key in window w with the keyboard focus on focused (nullptr: no control has it). Clicks the
-// closing button that belongs to focused, or else the first closing button shown in w. A list that only a pick closes
-// gives the focus back and stays open.
+// Handles the Escape key in window w. focused is the control with the keyboard focus, nullptr if there is none. Clicks
+// the closing button that belongs to focused, or else the first closing button shown in w; hides a layout window, which
+// has none. A focused list that closes only when an item is picked stays open and loses the focus to the control that
+// opened it.
 void pressescape(window& w, const control* focused);
 
 // Closes a window for the user: startform and vistaplan end the program as exitbtn does, any other window is hidden.

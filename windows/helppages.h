@@ -1,5 +1,5 @@
-// The text of the instructions window. The pages are laid out with blanks and ruled lines for a fixed-pitch font: plain
-// ASCII, '\n' between lines.
+// The text of the instructions window. The pages are laid out with blanks and ruled lines for a fixed-pitch font, in
+// ASCII with '\n' between lines.
 #pragma once
 
 #include "core/controls.h"

@@ -1,4 +1,4 @@
-// The interfaces that stand in for the toolkit's own.
+// The accessibility interfaces that replace Qt's.
 
 #include "windows/qt/accessibility.h"
 
@@ -10,12 +10,12 @@ namespace tessaly {
 
 namespace {
 
-constexpr const char* roleproperty = "spokenrole";
+constexpr const char* roleproperty = "accessiblerole";
 
-// The toolkit tells the text of a combination box for its name.
-class spokencombobox : public QAccessibleWidget {
+// Gives a combination box its accessible name; Qt would give it its text as its name.
+class namedcombobox : public QAccessibleWidget {
   public:
-    explicit spokencombobox(QComboBox* itsbox) : QAccessibleWidget(itsbox, QAccessible::ComboBox), box(itsbox) {}
+    explicit namedcombobox(QComboBox* itsbox) : QAccessibleWidget(itsbox, QAccessible::ComboBox), box(itsbox) {}
 
     QString text(QAccessible::Text kind) const override {
         return kind == QAccessible::Value ? box->currentText() : QAccessibleWidget::text(kind);
@@ -31,7 +31,7 @@ class spokencombobox : public QAccessibleWidget {
 
 QAccessibleInterface* interfaceof(const QString&, QObject* object) {
     auto* const widget = qobject_cast<QWidget*>(object);
-    if (auto* const box = qobject_cast<QComboBox*>(widget)) return new spokencombobox(box);
+    if (auto* const box = qobject_cast<QComboBox*>(widget)) return new namedcombobox(box);
     const QVariant role = widget ? widget->property(roleproperty) : QVariant();
     return role.isValid() ? new QAccessibleWidget(widget, static_cast<QAccessible::Role>(role.toInt())) : nullptr;
 }
@@ -40,6 +40,6 @@ QAccessibleInterface* interfaceof(const QString&, QObject* object) {
 
 void setrole(QWidget& widget, QAccessible::Role role) { widget.setProperty(roleproperty, static_cast<int>(role)); }
 
-void usespokenroles() { QAccessible::installFactory(interfaceof); }
+void installaccessibility() { QAccessible::installFactory(interfaceof); }
 
 }  // namespace tessaly

@@ -1,5 +1,5 @@
-// What assistive technology is told beyond what the toolkit tells by itself: the role of a window, of a picture and of
-// a frame, and a combination box by its name.
+// Corrects what Qt reports to assistive technology: the roles of windows, pictures and frames, and the name of a
+// combination box.
 #pragma once
 
 #include <QAccessible>
@@ -8,10 +8,10 @@ class QWidget;
 
 namespace tessaly {
 
-// Gives a widget a role, before anything asks for it; its name is its spoken name, or a window's title.
+// Sets the role of a widget. Call it before assistive technology first asks for the widget.
 void setrole(QWidget& widget, QAccessible::Role role);
 
-// To be called once there is an application, before its first window.
-void usespokenroles();
+// Installs the roles and names. Call it after the QApplication was created and before its first window.
+void installaccessibility();
 
 }  // namespace tessaly

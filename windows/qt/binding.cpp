@@ -1,4 +1,4 @@
-// The carrying of state between controls and widgets, and the frame around every event.
+// Copies state between controls and widgets, and runs every user event between two such copies.
 
 #include "windows/qt/binding.h"
 
@@ -28,9 +28,9 @@ namespace tessaly {
 namespace {
 
 struct boundcontrol {
-    control* of;
+    control* source;
     QWidget* widget;
-    std::string text;  // as last carried to the widget, and the three below
+    std::string text;  // this and the next three as last copied between control and widget
     std::vector<std::string> items;
     std::string tooltip;
     boxtint tint = boxtint::none;
@@ -39,7 +39,7 @@ struct boundcontrol {
 struct boundwindow {
     std::unique_ptr<windowframe> frame;
     std::vector<boundcontrol> controls;
-    int raised = 0;  // as last carried
+    int raised = 0;  // as last copied
 };
 
 std::map<const window*, boundwindow>& boundwindows() {
@@ -47,67 +47,70 @@ std::map<const window*, boundwindow>& boundwindows() {
     return bound;
 }
 
-void (*decorateframe)(windowframe&);  // of a window that was made
+void (*decorateframe)(windowframe&);  // called for each new window
 
-bool running = false;  // an event is under way
-bool ending = false;   // the program is to end
+bool running = false;  // an event is being handled
+bool ending = false;   // the program is ending
 
-// ---- building ----------------------------------------------------------------------------------------------
+// ---- creating widgets ---------------------------------------------------------------------------------------
 
-// What the user does with the widget is an event of its control.
-void listento(QWidget* widget, control& c) {
+// Makes the user's clicks and picks on a widget events of its control.
+void connectevents(QWidget* widget, control& c) {
     const auto click = [&c] { runevent([&c] { clickcontrol(c); }); };
     const auto pick = [&c](int item) { runevent([&c, item] { pickitem(c, item); }); };
     if (auto* button = qobject_cast<QPushButton*>(widget)) QObject::connect(button, &QPushButton::clicked, click);
     if (auto* box = qobject_cast<QComboBox*>(widget)) QObject::connect(box, &QComboBox::activated, pick);
     if (auto* rows = qobject_cast<QListWidget*>(widget))
         QObject::connect(rows, &QListWidget::clicked, [pick](const QModelIndex& row) { pick(row.row()); });
-    // What is typed shows at once in what depends on it; nothing runs.
+    // Typing runs no procedure; the empty event updates what depends on the text, such as the tint of the box.
     if (auto* line = qobject_cast<QLineEdit*>(widget))
         QObject::connect(line, &QLineEdit::textChanged, [] { runevent([] {}); });
 }
 
-void buildwindow(window& w, boundwindow& bound) {
+void createwindow(window& w, boundwindow& bound) {
     bound.frame = std::make_unique<windowframe>(w);
     bound.frame->whenclosed = [&w] { runevent([&w] { closewindow(w); }); };
     bound.frame->whenescaped = [&w] { runevent([&w] { pressescape(w, focusedcontrol(w)); }); };
-    bound.frame->whenactivated = [] { runevent([] {}); };  // files may have been edited meanwhile
+    bound.frame->whenactivated = [] { runevent([] {}); };  // the user may have edited files meanwhile
     for (control* c : w.controls) {
         QWidget* widget = makewidget(*c, bound.frame->plan());
-        listento(widget, *c);
+        connectevents(widget, *c);
         bound.controls.push_back({c, widget, {}, {}, {}});
     }
-    // What the table lists later may lie under what it lists earlier: each kind has its layer.
+    // Widgets overlap by the layers of their kinds, not by the order of the table.
     std::vector<boundcontrol> bylayer = bound.controls;
-    std::stable_sort(bylayer.begin(), bylayer.end(),
-                     [](const boundcontrol& a, const boundcontrol& b) { return layerof(*a.of) < layerof(*b.of); });
+    std::stable_sort(bylayer.begin(), bylayer.end(), [](const boundcontrol& a, const boundcontrol& b) {
+        return layerof(*a.source) < layerof(*b.source);
+    });
     for (const boundcontrol& b : bylayer) b.widget->raise();
     decorateframe(*bound.frame);
 }
 
-// ---- state to widgets --------------------------------------------------------------------------------------
+// ---- state to widgets ---------------------------------------------------------------------------------------
 
-// A page opens at its beginning, also where the press that opened it was further down.
+// Scrolls a window to its top: on a small screen the button that opens a help page is further down.
 void scrolltotop(windowframe& f) {
     f.horizontalScrollBar()->setValue(0);
     f.verticalScrollBar()->setValue(0);
 }
 
-void carrytowidget(boundcontrol& b) {
+void copytowidget(boundcontrol& b) {
     // A hidden list is filled when it is shown: measuring 10,000 names takes 50 ms.
-    if (b.of->shown && b.items != b.of->items) setitems(*b.widget, b.items = b.of->items);
-    if (b.text != b.of->text) settext(*b.widget, b.text = b.of->text);
-    if (const std::string tooltip = tooltipof(*b.of); b.tooltip != tooltip) settooltip(*b.widget, b.tooltip = tooltip);
-    if (const boxtint tint = tintof(*b.of); b.tint != tint) settint(*b.widget, b.tint = tint);
-    setselection(*b.of, *b.widget);
-    if (b.widget->isHidden() != b.of->shown) return;
-    b.widget->setVisible(b.of->shown);
-    if (b.of->shown && b.of->kind == controlkind::page) scrolltotop(*frameof(*b.of->in));
-    if (comestofront(*b.of)) b.widget->raise();
+    if (b.source->shown && b.items != b.source->items) setitems(*b.widget, b.items = b.source->items);
+    if (b.text != b.source->text) settext(*b.widget, b.text = b.source->text);
+    if (const std::string tooltip = tooltipof(*b.source); b.tooltip != tooltip)
+        settooltip(*b.widget, b.tooltip = tooltip);
+    if (const boxtint tint = tintof(*b.source); b.tint != tint) settint(*b.widget, b.tint = tint);
+    setselection(*b.source, *b.widget);
+    if (b.widget->isHidden() != b.source->shown) return;
+    b.widget->setVisible(b.source->shown);
+    if (b.source->shown && b.source->kind == controlkind::page) scrolltotop(*frameof(*b.source->in));
+    if (raisedwhenshown(*b.source)) b.widget->raise();
 }
 
-// The toolkit would hand the focus of a control that goes to the next one, unseen: it goes back to what opened it.
-void takefocusback(const window& w, const boundwindow& bound) {
+// When a focused control is hidden, Qt would focus the next one in the tab order. Focuses the control that opened it
+// instead, or the plan if no such control is shown.
+void returnfocus(const window& w, const boundwindow& bound) {
     const control* const focused = focusedcontrol(w);
     if (!focused || focused->shown) return;
     const control* const back = focusafter(*focused);
@@ -121,33 +124,33 @@ void showframe(windowframe& f) {
     const bool first = !f.testAttribute(Qt::WA_WState_ExplicitShowHide);
     if (first) {
         f.resize(f.designedsize());
-        f.firstshowing(f);
+        f.setfirstposition(f);
     }
-    if (f.isHidden()) f.plan()->setFocus();  // no control takes a key before it is chosen
+    if (f.isHidden()) f.plan()->setFocus();  // the plan of startform passes the focus to startprogrambtn
     if (f.isMinimized()) f.setWindowState(f.windowState() & ~Qt::WindowMinimized);
     f.show();
     f.raise();
     f.activateWindow();
 }
 
-void carrytowindow(window& w) {
+void copytowindow(window& w) {
     if (!w.shown && !frameof(w)) return;
     boundwindow& bound = boundwindows()[&w];
-    if (!bound.frame) buildwindow(w, bound);
-    takefocusback(w, bound);
-    for (boundcontrol& b : bound.controls) carrytowidget(b);
-    if (w.shown && bound.frame->follow) bound.frame->follow();
+    if (!bound.frame) createwindow(w, bound);
+    returnfocus(w, bound);
+    for (boundcontrol& b : bound.controls) copytowidget(b);
+    if (w.shown && bound.frame->afterevent) bound.frame->afterevent();
     if (!w.shown) bound.frame->hide();
 }
 
-void carrytowidgets() {
-    std::vector<window*> torise;
+void copytowidgets() {
+    std::vector<window*> toraise;
     for (window* w : allwindows()) {
-        carrytowindow(*w);
-        if (w->shown && boundwindows()[w].raised != w->raised) torise.push_back(w);
+        copytowindow(*w);
+        if (w->shown && boundwindows()[w].raised != w->raised) toraise.push_back(w);
     }
-    std::sort(torise.begin(), torise.end(), [](const window* a, const window* b) { return a->raised < b->raised; });
-    for (window* w : torise) {
+    std::sort(toraise.begin(), toraise.end(), [](const window* a, const window* b) { return a->raised < b->raised; });
+    for (window* w : toraise) {
         boundwindows()[w].raised = w->raised;
         showframe(*frameof(*w));
     }
@@ -157,18 +160,18 @@ void carrytowidgets() {
     wantedfocus = nullptr;
 }
 
-// ---- widgets to state --------------------------------------------------------------------------------------
+// ---- widgets to state ---------------------------------------------------------------------------------------
 
-void carrytostate() {
+void copytostate() {
     for (auto& [w, bound] : boundwindows())
         for (boundcontrol& b : bound.controls) {
-            if (!typable(*b.of)) continue;
+            if (!takestyping(*b.source)) continue;
             const std::string text = typedtext(*b.widget);
-            if (text != b.text) typetext(*b.of, b.text = text);
+            if (text != b.text) typetext(*b.source, b.text = text);
         }
 }
 
-// ---- the end -----------------------------------------------------------------------------------------------
+// ---- the end of the program ---------------------------------------------------------------------------------
 
 void endprogram(int status) {
     ending = true;
@@ -199,13 +202,13 @@ void openwindows(void (*decoratewindow)(windowframe&)) {
     repaintmainwindow = [] {
         if (QWidget* picture = widgetof(viewport)) picture->update();
     };
-    usespokenroles();
+    installaccessibility();
     filterkeyrepeats();
     ending = false;
     runevent(startprogram);
 }
 
-void dropwindows() {
+void destroywindows() {
     showprogresson(nullptr);
     boundwindows().clear();
 }
@@ -214,11 +217,11 @@ void runevent(const std::function<void()>& procedure) {
     if (running || ending) return;
     running = true;
     const std::string failed = reportof([&procedure] {
-        carrytostate();
+        copytostate();
         procedure();
     });
-    const std::string unshown = reportof(carrytowidgets);  // what the event did before it failed is shown, too
-    if (!failed.empty() || !unshown.empty()) showreport(failed.empty() ? unshown : failed);
+    const std::string copyfailed = reportof(copytowidgets);  // after a failure, too, to show what the event did
+    if (!failed.empty() || !copyfailed.empty()) showreport(failed.empty() ? copyfailed : failed);
     running = false;
     if (programended && !ending) endprogram(0);
 }
@@ -227,7 +230,7 @@ const control* focusedcontrol(const window& w) {
     const auto found = boundwindows().find(&w);
     if (found == boundwindows().end()) return nullptr;
     for (const boundcontrol& b : found->second.controls)
-        if (b.widget == found->second.frame->focusWidget()) return b.of;
+        if (b.widget == found->second.frame->focusWidget()) return b.source;
     return nullptr;
 }
 
@@ -235,7 +238,7 @@ QWidget* widgetof(const control& c) {
     const auto found = boundwindows().find(c.in);
     if (found == boundwindows().end()) return nullptr;
     for (const boundcontrol& b : found->second.controls)
-        if (b.of == &c) return b.widget;
+        if (b.source == &c) return b.widget;
     return nullptr;
 }
 

@@ -1,6 +1,6 @@
-// Widgets follow the controls' state. Every window's widgets are built from its table of controls when it is first
-// shown; each widget's objectName is its control's name. Before an event what the user typed goes to the state, then
-// the event's procedure runs, then everything that changed in the state goes to the widgets.
+// Connects the controls' state with their widgets. A window's widgets are created from its table of controls when it is
+// first shown; each widget's objectName is its control's name. For each user event, typed text is copied to the state,
+// then the event's procedure runs, then all changes of the state are copied to the widgets.
 #pragma once
 
 #include "windows/qt/windowframe.h"
@@ -9,21 +9,22 @@
 
 namespace tessaly {
 
-// Sets the drawing surfaces and starts the program: its first window comes to the screen. dress is called for each
-// window that has been made, with its controls on the plan.
+// Sets the drawing surfaces, starts the program and shows its first window. Calls decorate once for each new window,
+// after its widgets were created.
 void openwindows(void (*decorate)(windowframe&));
 
-// Takes all windows off the screen and forgets them.
-void dropwindows();
+// Destroys all windows.
+void destroywindows();
 
-// Runs one event of the user to its end. A failure is shown and ends the program with status 1; after exitbtn it ends
-// with status 0; once it is ending, further events do nothing.
+// Runs one user event. Shows the report of a failure and ends the program with status 1; ends it with status 0 after
+// exitbtn. Does nothing while another event runs or the program is ending.
 void runevent(const std::function<void()>& procedure);
 
-// The control of the widget that holds or would hold a window's focus, nullptr where none does.
+// Returns the control that has the keyboard focus in a window, or gets it when the window becomes active; nullptr if
+// there is none.
 const control* focusedcontrol(const window& w);
 
-// The widget of a control or a window, nullptr as long as its window was never shown.
+// Return the widget of a control or a window; nullptr if the window was never shown.
 QWidget* widgetof(const control& c);
 windowframe* frameof(const window& w);
 

@@ -198,7 +198,7 @@ void button::paintface(QPainter& painter) const {
         painter.setPen(QPen(QColor(255, 255, 255, 110), 1));
     painter.drawLine(QPointF(2, 1.5), QPointF(width() - 2, 1.5));
     if (ring) {
-        painter.setPen(QPen(inkupon(background) == QColor(0, 0, 0) ? ringcolour : QColor(255, 255, 255), 1));
+        painter.setPen(QPen(readablecolour(background) == QColor(0, 0, 0) ? ringcolour : QColor(255, 255, 255), 1));
         painter.drawRoundedRect(rim.adjusted(1, 1, -1, -1), 1, 1);
     }
 }
@@ -211,7 +211,7 @@ void button::paintcaption(QPainter& painter) const {
     const QFont letters = buttonfont(caption.pixels, bold);
     const QFontMetrics metrics(letters);
     painter.setFont(letters);
-    painter.setPen(inkupon(background));
+    painter.setPen(readablecolour(background));
     const auto count = static_cast<int>(caption.lines.size());
     // Capitals stand in the middle: the foot of a "g" may come nearer to the rim than the top of a capital.
     const int ink = metrics.capHeight() + (count - 1) * linepitch(metrics);

@@ -1,4 +1,4 @@
-// Painting of the two images, and the progress strip's way to the screen while a replay holds the window.
+// Paints the two images, and repaints the progress strip during a replay, when no other event is handled.
 
 #include "windows/qt/canvas.h"
 
@@ -15,9 +15,9 @@ namespace tessaly {
 
 namespace {
 
-constexpr qint64 flushinterval = 15;  // ms: a strip that moves faster only costs time
+constexpr qint64 flushinterval = 15;  // ms; repainting more often would only slow a replay
 
-// The strip alone is repainted by flush: viewport, which lies under it, waits for the end of the event.
+// flush repaints only the strip; viewport, which lies under it, is repainted at the end of the event.
 class progressraster : public raster {
   public:
     progressraster() : raster(progresswidth, progressheight) {}
@@ -50,7 +50,8 @@ canvas::canvas(const raster& itsimage, QWidget* parent) : QWidget(parent), image
 void canvas::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.setClipRegion(event->region());
-    // A pixel stays a pixel, but where the screen has no whole number of its own for each: thin lines would go uneven.
+    // At a whole scale each pixel becomes a square of screen pixels. At a fractional scale the image is smoothed:
+    // otherwise thin lines would vary in width.
     painter.setRenderHint(QPainter::SmoothPixmapTransform, devicePixelRatioF() != std::floor(devicePixelRatioF()));
     painter.drawImage(rect(), viewof(image));
 }

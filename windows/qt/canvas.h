@@ -1,5 +1,5 @@
-// The widgets behind viewport and progressbar: they show an image kept in memory, pixel by pixel, at any scale of the
-// screen. The image is the program's own and always of the designed size.
+// The widgets of viewport and progressbar. Each shows an image that the program draws in memory at the size of the
+// design grid, scaled to the screen.
 #pragma once
 
 #include "render/raster.h"
@@ -19,11 +19,11 @@ class canvas : public QWidget {
     const raster& image;
 };
 
-// The building's image, and that of the progress strip, which comes to the screen in the middle of an event.
+// Return the image of the building, and that of the progress strip, whose flush repaints the screen during an event.
 raster& viewportimage();
 raster& progressimage();
 
-// The widget that shows the progress strip from now on; nullptr: none.
+// Sets the widget that flush of the progress strip repaints; nullptr: none.
 void showprogresson(canvas* strip);
 
 }  // namespace tessaly

@@ -1,4 +1,4 @@
-// The kinds of controls on the screen.
+// A widget for each kind of control.
 
 #include "windows/qt/controlwidgets.h"
 
@@ -24,37 +24,36 @@ namespace tessaly {
 
 namespace {
 
-const QColor buttonface(226, 226, 226);
-const QColor editedpaper(255, 232, 150), warningpaper(255, 170, 150);
-constexpr int tallestrow = 17;  // pixels of a list's row; less where the items of a fixed list fit only so
-constexpr int multiline = 60;   // pixels: a text box from this height on has several lines
+const QColor buttoncolour(226, 226, 226);
+const QColor editedcolour(255, 232, 150), warningcolour(255, 170, 150);  // backgrounds of boxes
+constexpr int maxrowheight = 17;  // pixels; the rows of a fixed list are lower if its items do not fit otherwise
+constexpr int minmultiline = 60;  // pixels; text boxes at least this high have several lines
 
-// ---- lists -------------------------------------------------------------------------------------------------
+// ---- lists --------------------------------------------------------------------------------------------------
 
-// A click on a row is a pick, also on the row that is selected already; so is Enter on the current row. Any pick is
-// told as a click.
+// Clicking a row picks it, even if it is selected already; so does Enter on the current row. Each pick emits clicked.
 class list : public QListWidget {
   public:
-    list(const control& itscontrol, QWidget* plan) : QListWidget(plan), of(itscontrol) {
-        setFocusPolicy(Qt::StrongFocus);  // not by the wheel
+    list(const control& itscontrol, QWidget* plan) : QListWidget(plan), source(itscontrol) {
+        setFocusPolicy(Qt::StrongFocus);  // the wheel does not focus it
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setTextElideMode(Qt::ElideMiddle);
         setUniformItemSizes(true);
         setVerticalScrollMode(ScrollPerPixel);
         new rowpainter(*this);
-        // A row that something else selects, as assistive technology does, is picked.
+        // Assistive technology selects a row without a click: this picks the row.
         connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this](const QItemSelection& rows) {
             if (!marking && !rows.isEmpty()) pick(rows.front().top());
         });
     }
 
     int rowheight(int rows) const {
-        if (of.kind == controlkind::filelist) return tallestrow;
+        if (source.kind == controlkind::filelist) return maxrowheight;
         const int least = fontMetrics().height();
-        return std::clamp((height() - 2 * frameWidth()) / std::max(rows, 1), least, tallestrow);
+        return std::clamp((height() - 2 * frameWidth()) / std::max(rows, 1), least, maxrowheight);
     }
 
-    // Marks the picked row and no other; the row of the keyboard goes there too.
+    // Selects this row only and makes it the current row of the keyboard; -1: selects none.
     void mark(int row) {
         const QModelIndexList marked = selectedIndexes();
         if (row < 0 ? marked.isEmpty() : !marked.isEmpty() && marked.front().row() == row) return;
@@ -66,7 +65,7 @@ class list : public QListWidget {
     }
 
   protected:
-    // What is marked is what the program holds as picked: neither the arrow keys nor a press of the mouse change it.
+    // The selection shows the picked item: only mark changes it, not the arrow keys or the mouse.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex&, const QEvent*) const override {
         return QItemSelectionModel::NoUpdate;
     }
@@ -92,7 +91,7 @@ class list : public QListWidget {
 
     void paintEvent(QPaintEvent* event) override {
         QListWidget::paintEvent(event);
-        if (count() > 0 || of.kind != controlkind::filelist) return;
+        if (count() > 0 || source.kind != controlkind::filelist) return;
         QPainter painter(QListWidget::viewport());
         painter.setPen(palette().color(QPalette::PlaceholderText));
         painter.drawText(QListWidget::viewport()->rect().adjusted(4, 4, -4, -4), Qt::AlignHCenter | Qt::AlignTop,
@@ -102,14 +101,13 @@ class list : public QListWidget {
   private:
     void pick(int row) { emit clicked(model()->index(row, 0)); }
 
-    const control& of;
-    bool marking = false;
+    const control& source;
+    bool marking = false;  // the program changes the selection: this is no pick
 };
 
-// ---- boxes -------------------------------------------------------------------------------------------------
+// ---- boxes --------------------------------------------------------------------------------------------------
 
-// A box whose text is there to be typed over: the first click selects all of it, as Tab does, the next one sets the
-// cursor.
+// A box whose text is usually replaced: the first click selects all of it, as Tab does; the next one sets the cursor.
 class linebox : public QLineEdit {
   public:
     explicit linebox(QWidget* plan) : QLineEdit(plan) {
@@ -119,32 +117,32 @@ class linebox : public QLineEdit {
   protected:
     void focusInEvent(QFocusEvent* event) override {
         QLineEdit::focusInEvent(event);
-        fresh = true;
+        untouched = true;
     }
     void keyPressEvent(QKeyEvent* event) override {
-        fresh = false;
+        untouched = false;
         QLineEdit::keyPressEvent(event);
     }
     void mouseReleaseEvent(QMouseEvent* event) override {
         QLineEdit::mouseReleaseEvent(event);
-        if (fresh && !hasSelectedText()) selectAll();
-        fresh = false;
+        if (untouched && !hasSelectedText()) selectAll();
+        untouched = false;
     }
     void mouseDoubleClickEvent(QMouseEvent*) override { selectAll(); }
 
   private:
-    bool fresh = false;  // since it has the focus, no key and no click
+    bool untouched = false;  // no key and no click since it got the focus
 };
 
-// The wheel turns past it unless it has the focus, and its list is as wide as its entries.
+// Ignores the wheel unless it has the focus; its list is as wide as its longest entry.
 class snipbox : public QComboBox {
   public:
     explicit snipbox(QWidget* plan) : QComboBox(plan) {
         setEditable(true);
-        setCompleter(nullptr);  // what is typed stays as typed
+        setCompleter(nullptr);  // typed text is not completed
         setInsertPolicy(QComboBox::NoInsert);
         lineEdit()->setTextMargins(-2, 0, -2, 0);  // so that the longest entry fits
-        setFocusPolicy(Qt::StrongFocus);           // not by the wheel
+        setFocusPolicy(Qt::StrongFocus);           // the wheel does not focus it
     }
     void showPopup() override {
         view()->setMinimumWidth(view()->sizeHintForColumn(0) + 2 * view()->frameWidth());
@@ -160,13 +158,13 @@ class snipbox : public QComboBox {
     }
 };
 
-// ---- the kinds ---------------------------------------------------------------------------------------------
+// ---- a widget of each kind ----------------------------------------------------------------------------------
 
 QWidget* makebutton(const control& c, QWidget* plan) {
-    auto* made = new button(c.back ? screencolour(*c.back) : buttonface, plan);
-    made->setAutoRepeat(c.repeats);
-    if (c.kind == controlkind::picturebutton) made->setpicture(QString::fromStdString(c.name));
-    return made;
+    auto* widget = new button(c.back ? screencolour(*c.back) : buttoncolour, plan);
+    widget->setAutoRepeat(c.repeats);
+    if (c.kind == controlkind::picturebutton) widget->setpicture(QString::fromStdString(c.name));
+    return widget;
 }
 
 QWidget* makelabel(QWidget* plan) {
@@ -177,7 +175,7 @@ QWidget* makelabel(QWidget* plan) {
 }
 
 QWidget* maketextbox(const control& c, QWidget* plan) {
-    if (inpixels(c.bounds.height) < multiline) return new linebox(plan);
+    if (inpixels(c.bounds.height) < minmultiline) return new linebox(plan);
     auto* box = new QPlainTextEdit(plan);
     box->setLineWrapMode(QPlainTextEdit::NoWrap);
     box->setTabChangesFocus(true);
@@ -193,25 +191,26 @@ QWidget* makepage(QWidget* plan) {
     return page;
 }
 
-// A picture box without an image of the engine shows a picture of its own name, and its text upon that.
+// A picture box on which the program does not draw. Shows the picture file of the control's name, and the control's
+// text over it.
 class stillpicture : public QWidget {
   public:
     stillpicture(const control& c, QWidget* plan)
-        : QWidget(plan), shows(QString::fromStdString(c.name)), words(QString::fromStdString(c.text)) {
-        setFont(captionfont(wordpixels));
+        : QWidget(plan), image(QString::fromStdString(c.name)), caption(QString::fromStdString(c.text)) {
+        setFont(captionfont(letterpixels));
     }
 
   protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        shows.paint(painter, rect());
-        painter.drawText(rect().adjusted(0, wordpixels, 0, 0), Qt::AlignHCenter | Qt::AlignTop, words);
+        image.paint(painter, rect());
+        painter.drawText(rect().adjusted(0, letterpixels, 0, 0), Qt::AlignHCenter | Qt::AlignTop, caption);
     }
 
   private:
-    static constexpr int wordpixels = 20;
-    picture shows;
-    QString words;
+    static constexpr int letterpixels = 20;
+    picture image;
+    QString caption;
 };
 
 QWidget* makepicturebox(const control& c, QWidget* plan) {
@@ -229,7 +228,7 @@ QWidget* makeframe(QWidget* plan) {
     return frame;
 }
 
-QWidget* makekind(const control& c, QWidget* plan) {
+QWidget* makeofkind(const control& c, QWidget* plan) {
     switch (c.kind) {
     case controlkind::button:
     case controlkind::picturebutton: return makebutton(c, plan);
@@ -248,7 +247,7 @@ QWidget* makekind(const control& c, QWidget* plan) {
 }  // namespace
 
 QWidget* makewidget(const control& c, QWidget* plan) {
-    QWidget* widget = makekind(c, plan);
+    QWidget* widget = makeofkind(c, plan);
     if (c.kind == controlkind::picturebox) setrole(*widget, QAccessible::Graphic);
     if (c.kind == controlkind::frame) setrole(*widget, QAccessible::Grouping);
     const QString caption = QString::fromStdString(c.text).simplified();
@@ -273,9 +272,9 @@ int layerof(const control& c) {
     }
 }
 
-bool comestofront(const control& c) { return c.kind == controlkind::list || c.kind == controlkind::filelist; }
+bool raisedwhenshown(const control& c) { return c.kind == controlkind::list || c.kind == controlkind::filelist; }
 
-bool typable(const control& c) { return c.kind == controlkind::textbox || c.kind == controlkind::combobox; }
+bool takestyping(const control& c) { return c.kind == controlkind::textbox || c.kind == controlkind::combobox; }
 
 std::string typedtext(const QWidget& widget) {
     if (const auto* line = qobject_cast<const QLineEdit*>(&widget)) return line->text().toStdString();
@@ -301,29 +300,29 @@ void settext(QWidget& widget, const std::string& text) {
 
 void settooltip(QWidget& widget, const std::string& text) {
     widget.setToolTip(QString::fromStdString(text));
-    widget.setAccessibleDescription(widget.toolTip().section(": ", -1));  // what the name does not say already
+    widget.setAccessibleDescription(widget.toolTip().section(": ", -1));  // without a part that repeats the name
 }
 
 void settint(QWidget& widget, boxtint tint) {
-    QPalette palette;  // of no colours: those of the window hold
-    if (tint != boxtint::none) palette.setColor(QPalette::Base, tint == boxtint::edited ? editedpaper : warningpaper);
+    QPalette palette;  // without a colour set, the window's colours apply
+    if (tint != boxtint::none) palette.setColor(QPalette::Base, tint == boxtint::edited ? editedcolour : warningcolour);
     widget.setPalette(palette);
 }
 
 void setitems(QWidget& widget, const std::vector<std::string>& items) {
-    QStringList names;
-    for (const std::string& item : items) names << QString::fromStdString(item);
+    QStringList texts;
+    for (const std::string& item : items) texts << QString::fromStdString(item);
     if (auto* rows = dynamic_cast<list*>(&widget)) {
         rows->clear();
-        for (const QString& name : names) {
-            auto* row = new QListWidgetItem(name, rows);
-            row->setSizeHint(QSize(0, rows->rowheight(static_cast<int>(names.size()))));
-            if (rows->fontMetrics().horizontalAdvance(name) > rows->width() - 24) row->setToolTip(name);
+        for (const QString& text : texts) {
+            auto* row = new QListWidgetItem(text, rows);
+            row->setSizeHint(QSize(0, rows->rowheight(static_cast<int>(texts.size()))));
+            if (rows->fontMetrics().horizontalAdvance(text) > rows->width() - 24) row->setToolTip(text);
         }
     } else if (auto* box = qobject_cast<QComboBox*>(&widget)) {
         const QString text = box->currentText();
         box->clear();
-        box->addItems(names);
+        box->addItems(texts);
         box->setEditText(text);
     }
 }
@@ -333,7 +332,7 @@ void setselection(const control& c, QWidget& widget) {
     if (auto* push = dynamic_cast<button*>(&widget)) push->setchosen(c.chosen || opensshownwindow(c));
     if (auto* box = qobject_cast<QComboBox*>(&widget)) {
         const QString text = box->currentText();
-        const int row = box->findText(text, Qt::MatchExactly);  // its list opens at this one
+        const int row = box->findText(text, Qt::MatchExactly);  // the list opens at this row
         if (row == box->currentIndex()) return;
         box->setCurrentIndex(row);
         box->setEditText(text);

@@ -1,4 +1,4 @@
-// A control's widget: how each kind of control is made, and how its text, items and selection are read and written.
+// Creates the widget of a control, and reads and writes its text, items and selection.
 #pragma once
 
 #include "core/controls.h"
@@ -7,31 +7,31 @@
 
 namespace tessaly {
 
-// Makes the widget at its control's place, with its names. It is hidden and empty until its control's state is carried
-// to it. A list says clicked of each row that is picked.
+// Creates the widget of a control with its bounds and names, hidden and empty. A list emits clicked for each picked
+// row.
 QWidget* makewidget(const control& c, QWidget* plan);
 
-// In front of each other stand, from the back: pictures and frames, labels, buttons, what is typed in or picked from,
-// the progress strip.
+// Returns the layer of a control, from back to front: picture boxes, frames, labels, buttons, boxes and lists and
+// pages, the progress strip.
 int layerof(const control& c);
 
-// Whether it comes in front of its neighbours when it is shown: lists that are opened over each other.
-bool comestofront(const control& c);
+// Returns whether a control is raised above its neighbours when it is shown: lists can open over each other.
+bool raisedwhenshown(const control& c);
 
-// Whether the user can type into it.
-bool typable(const control& c);
+// Returns whether the user can type into a control.
+bool takestyping(const control& c);
 
-// The text that stands in a box, and the setting of a caption's or box's text; UTF-8.
+// Return the text in a box, and set a caption or the text of a box; UTF-8.
 std::string typedtext(const QWidget& widget);
 void settext(QWidget& widget, const std::string& text);
 
-// The tooltip, which assistive technology reads as the description, and the tint of a box.
+// Set the tooltip, which is also the accessible description, and the tint of a box.
 void settooltip(QWidget& widget, const std::string& text);
 void settint(QWidget& widget, boxtint tint);
 
 void setitems(QWidget& widget, const std::vector<std::string>& items);
-// What is marked: the picked row of a list, the row of a combination box that is its text, the element button chosen
-// last.
+// Selects the picked row of a list and the row of a combination box that equals its text, and draws a button as pressed
+// if it is chosen or a window that it opened is shown.
 void setselection(const control& c, QWidget& widget);
 
 }  // namespace tessaly

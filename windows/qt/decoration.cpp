@@ -20,9 +20,9 @@ const decorator decorators[] = {
 }  // namespace
 
 void decoratewindow(windowframe& f) {
-    f.firstshowing = openbesidemain;
+    f.setfirstposition = openbesidemain;
     for (const decorator& d : decorators)
-        if (d.of == &f.of) d.decorate(f);
+        if (d.of == &f.source) d.decorate(f);
 }
 
 }  // namespace tessaly

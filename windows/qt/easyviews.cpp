@@ -1,5 +1,5 @@
-// The quick views' diagram: the layout grid from above with the places around it, and the two scales of heights. The
-// lines are fixed; which buttons stand on them is the tables' matter. Coordinates are twips of the window.
+// Draws the diagram behind the buttons of the quick views: the layout grid seen from above with two axes, and the two
+// scales of heights. The positions of the buttons are set in view/quickviews. Coordinates are twips of the window.
 
 #include "windows/qt/decoration.h"
 #include "windows/qt/style.h"
@@ -26,17 +26,18 @@ void drawgrid(QPainter& painter) {
         const int top = gridtop + gridheight * bay / baysdown;
         painter.drawLine(pointat(gridleft, top), pointat(gridleft + gridwidth, top));
     }
-    // The two axes cross where the world's origin is.
+    // The two axes cross at the origin of the model.
     const int middleleft = gridleft + gridwidth / 2, middletop = gridtop + gridheight / 2;
     painter.setPen(QPen(QColor(96, 96, 160), 1, Qt::DashLine));
     painter.drawLine(pointat(middleleft, gridtop - 2600), pointat(middleleft, gridtop + gridheight + 2700));
     painter.drawLine(pointat(gridleft - 2400, middletop), pointat(gridleft + gridwidth + 2500, middletop));
 }
 
-// A scale of heights: a line beside the buttons at left, a tick and a figure for each.
+// A scale of heights: a line to the right of a column of buttons, with a tick and a number for each of them.
 struct scale {
-    int left, top, step, marks;  // of the topmost button
-    int highest, fall;           // model units
+    int left, top;           // of the topmost button
+    int pitch, ticks;        // pitch: from one button to the next
+    int highest, decrement;  // model units
 };
 constexpr scale scales[] = {{12480, 480, 960, 5, 2100, 500}, {10800, 6120, 480, 4, 850, 250}};
 constexpr int buttonsize = 255;
@@ -44,11 +45,11 @@ constexpr int buttonsize = 255;
 void drawscale(QPainter& painter, const scale& s) {
     const int lineleft = s.left + buttonsize + 120, half = buttonsize / 2;
     painter.setPen(QPen(QColor(96, 96, 160), 1));
-    painter.drawLine(pointat(lineleft, s.top + half), pointat(lineleft, s.top + s.step * (s.marks - 1) + half));
-    for (int mark = 0; mark < s.marks; ++mark) {
-        const int top = s.top + s.step * mark + half;
+    painter.drawLine(pointat(lineleft, s.top + half), pointat(lineleft, s.top + s.pitch * (s.ticks - 1) + half));
+    for (int tick = 0; tick < s.ticks; ++tick) {
+        const int top = s.top + s.pitch * tick + half;
         painter.drawLine(pointat(lineleft - 60, top), pointat(lineleft + 60, top));
-        painter.drawText(pointat(lineleft + 150, top + 60), QString::number(s.highest - s.fall * mark));
+        painter.drawText(pointat(lineleft + 150, top + 60), QString::number(s.highest - s.decrement * tick));
     }
 }
 

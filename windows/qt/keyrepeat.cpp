@@ -1,5 +1,5 @@
-// Repeats are known by their mark, and on X11 also by their time: there a key that repeats is released and pressed in
-// the same millisecond, and the toolkit marks this only where both events have arrived together.
+// Recognises the repeats that Qt marks, and those that it misses on X11: there a repeat is a release and a press with
+// the same time stamp, and Qt marks the press only if both events arrive together.
 
 #include "windows/qt/keyrepeat.h"
 
@@ -12,8 +12,8 @@ namespace tessaly {
 
 namespace {
 
-// Whether a press of the key acts on what has the focus, or on the whole window, and so must not repeat.
-bool acts(int key) {
+// Returns whether pressing the key would click, pick or run something, and so must not repeat.
+bool mustnotrepeat(int key) {
     const QWidget* const focused = QApplication::focusWidget();
     const auto* const button = qobject_cast<const QAbstractButton*>(focused);
     switch (key) {
@@ -33,8 +33,8 @@ class repeatfilter : public QObject {
         if (event->type() == QEvent::KeyRelease) release(*static_cast<QKeyEvent*>(event));
         if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride) return false;
         const auto& press = *static_cast<QKeyEvent*>(event);
-        if (!repeated(press) || !acts(press.key())) return false;
-        event->accept();  // of a shortcut: the press that follows comes here, too
+        if (!repeated(press) || !mustnotrepeat(press.key())) return false;
+        event->accept();  // an accepted ShortcutOverride is followed by a KeyPress, which is dropped here, too
         return true;
     }
 
@@ -47,8 +47,8 @@ class repeatfilter : public QObject {
         return press.isAutoRepeat() || (time != 0 && press.key() == key && press.timestamp() == time);
     }
 
-    int key = 0;  // released last
-    quint64 time = 0;
+    int key = 0;       // released last
+    quint64 time = 0;  // of its release, ms; 0: unknown
 };
 
 }  // namespace

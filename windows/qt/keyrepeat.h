@@ -1,10 +1,10 @@
-// A key that is held down is one press. The keyboard's repeats would record, replay or delete again and again; they
-// reach only text, the keys that move about, and the buttons that step.
+// Drops the repeats of a held key, which would record, replay or delete again and again. They reach only the text in
+// boxes, the keys that move the focus or the cursor, and the buttons that repeat.
 #pragma once
 
 namespace tessaly {
 
-// To be called once there is an application.
+// Installs the filter. Call it after the QApplication was created.
 void filterkeyrepeats();
 
 }  // namespace tessaly

@@ -97,7 +97,7 @@ void decoratelayout(windowframe& f, const control& labelx, const control& labely
         painter.setRenderHint(QPainter::Antialiasing);
         draw(painter);
     };
-    f.follow = [&f] { showbuilt(f.of); };
+    f.afterevent = [&f] { showbuilt(f.source); };
 }
 
 constexpr grid girdergrid{607, 607, 1200, 420}, panelgrid{637, 1117, 960, 360}, roofgrid{667, 667, 840, 300};
@@ -139,8 +139,8 @@ void drawroofplan(QPainter& painter) {
 void decoratelayoutgirder(windowframe& f) { decoratelayout(f, girderlabelx, girderlabely, drawgirderplan); }
 void decoratelayoutpanels(windowframe& f) {
     decoratelayout(f, panellabelx, panellabely, drawpanelplan);
-    f.follow = [&f] {
-        showbuilt(f.of);
+    f.afterevent = [&f] {
+        showbuilt(f.source);
         shownextpanel(f);
     };
 }

@@ -1,4 +1,4 @@
-// The opening window: large letters, and a steel frame drawn behind them.
+// Decorates the start window with large letters and a drawing of a steel frame behind them.
 
 #include "windows/qt/binding.h"
 #include "windows/qt/decoration.h"
@@ -22,27 +22,28 @@ void enlarge(const control& c, int size, bool bold) {
     if (auto* label = qobject_cast<QLabel*>(widget)) label->setAlignment(Qt::AlignCenter);
 }
 
-// A steel frame seen from a corner: across, deep in bays and up in storeys, to pixels of the plan.
+// The size of the frame.
 constexpr int baysacross = 5, baysdeep = 7, storeys = 3;
 
+// Returns a grid point of the frame, seen from a corner, in pixels of the plan.
 QPointF corner(int across, int deep, int up) {
     return {370.0 + 46 * across - 46 * (deep - 2), 488.0 - 15 * across - 15 * deep - 46 * up};
 }
 
 void drawframe(QPainter& painter) {
     painter.setRenderHint(QPainter::Antialiasing);
-    const auto draw = [&](QPointF a, QPointF b, int farness) {
-        const int strength = 122 - 4 * farness;
-        painter.setPen(QPen(QColor(strength, strength, strength + 6), 1.6));
+    const auto draw = [&](QPointF a, QPointF b, int distance) {
+        const int grey = 122 - 4 * distance;
+        painter.setPen(QPen(QColor(grey, grey, grey + 6), 1.6));
         painter.drawLine(a, b);
     };
     for (int across = baysacross; across >= 0; --across)
         for (int deep = baysdeep; deep >= 0; --deep) {
-            const int farness = across + deep;
-            draw(corner(across, deep, 0), corner(across, deep, storeys), farness);
+            const int distance = across + deep;  // in bays
+            draw(corner(across, deep, 0), corner(across, deep, storeys), distance);
             for (int up = 1; up <= storeys; ++up) {
-                if (across < baysacross) draw(corner(across, deep, up), corner(across + 1, deep, up), farness);
-                if (deep < baysdeep) draw(corner(across, deep, up), corner(across, deep + 1, up), farness);
+                if (across < baysacross) draw(corner(across, deep, up), corner(across + 1, deep, up), distance);
+                if (deep < baysdeep) draw(corner(across, deep, up), corner(across, deep + 1, up), distance);
             }
         }
 }
@@ -54,9 +55,9 @@ void decoratestartform(windowframe& f) {
     enlarge(Label1, titlepixels, true);
     enlarge(Label3, datepixels, false);
     enlarge(startprogrambtn, startpixels, true);
-    f.firstshowing = [](windowframe& first) {
-        openincentre(first);
-        first.plan()->setFocusProxy(widgetof(startprogrambtn));
+    f.setfirstposition = [](windowframe& frame) {
+        openincentre(frame);
+        frame.plan()->setFocusProxy(widgetof(startprogrambtn));
     };
 }
 

@@ -1,4 +1,5 @@
-// Style, palette, fonts and icon. Only the sizes matter to the rest: they are pixels, never points.
+// Style, palette, fonts and icon of all windows. Font sizes are pixels, because points depend on the desktop's
+// settings.
 
 #include "windows/qt/style.h"
 
@@ -15,12 +16,12 @@ namespace tessaly {
 
 namespace {
 
-// A metric twin of the face that the captions were measured for comes first; the others are wider.
+// The captions were measured with the letter widths of the first four; DejaVu Sans is wider.
 const QStringList captionfamilies{"Liberation Sans", "Arimo", "Arial", "Helvetica", "DejaVu Sans"};
 const QStringList pagefamilies{"Fixedsys", "Fixedsys Excelsior 3.01", "Fixedsys Excelsior"};
 constexpr int pagepixels = 13;
 
-QPalette housepalette() {
+QPalette stylepalette() {
     const QColor ink(0, 0, 0), grey(192, 192, 192), buttoncolour(226, 226, 226), paper(255, 255, 255),
         pale(128, 128, 128);
     const QColor chosen(36, 84, 150);
@@ -54,12 +55,12 @@ QIcon programicon() {
 
 }  // namespace
 
-void setlook(QApplication& app) {
+void setstyle(QApplication& app) {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
-    QApplication::setPalette(housepalette());
+    QApplication::setPalette(stylepalette());
     QApplication::setFont(captionfont());
-    QApplication::setWindowIcon(programicon());  // of windows and messages alike
-    QToolTip::setPalette(housepalette());
+    QApplication::setWindowIcon(programicon());  // of windows and message boxes
+    QToolTip::setPalette(stylepalette());
     QToolTip::setFont(captionfont());
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
     app.setQuitOnLastWindowClosed(false);
@@ -85,8 +86,8 @@ QFont pagefont() {
 
 QColor screencolour(colour c) { return {c.red, c.green, c.blue}; }
 
-QColor inkupon(const QColor& back) {
-    const int brightness = (299 * back.red() + 587 * back.green() + 114 * back.blue()) / 1000;
+QColor readablecolour(const QColor& background) {
+    const int brightness = (299 * background.red() + 587 * background.green() + 114 * background.blue()) / 1000;
     return brightness > 110 ? QColor(0, 0, 0) : QColor(255, 255, 255);
 }
 

@@ -1,5 +1,5 @@
-// The look of all windows: one style, one palette and one font of fixed sizes, so that captions fit the places of the
-// design grid and neither a dark desktop theme nor a large desktop font changes anything.
+// The style of all windows: one palette and fonts of fixed sizes, so that captions fit their controls and neither a
+// dark desktop theme nor a large desktop font changes the windows.
 #pragma once
 
 #include "core/controls.h"
@@ -12,20 +12,20 @@ namespace tessaly {
 
 constexpr int captionpixels = 11;
 
-// Gives the application its style, palette, font and icon. To be called once, right after its making.
-void setlook(QApplication& app);
+// Sets the style, palette, font and icon of the application. Call it once, right after app was created.
+void setstyle(QApplication& app);
 
-// The font of captions, in pixels of the design grid.
+// Returns the font of captions; pixels of the design grid.
 QFont captionfont(int pixels = captionpixels);
 
-// The fixed-pitch font of the help pages: Fixedsys where there is one, else the best that is installed.
+// Returns the fixed-pitch font of the help pages: Fixedsys if it is installed, or else another fixed-pitch font.
 QFont pagefont();
 
-// A colour of the control tables on the screen; black or white, whichever is readable upon it.
+// Converts a colour of the control tables for Qt; returns black or white, whichever is readable on the background.
 QColor screencolour(colour c);
-QColor inkupon(const QColor& back);
+QColor readablecolour(const QColor& background);
 
-// Pixels of the design grid: of a control's place, to the nearest, and of a point that is drawn.
+// Convert twips to pixels of the design grid: a length, rounded to whole pixels; a point, not rounded.
 constexpr int inpixels(int twips) { return (twips + twipsperpixel / 2) / twipsperpixel; }
 inline QPointF pointat(double lefttwips, double toptwips) {
     return {lefttwips / twipsperpixel, toptwips / twipsperpixel};

@@ -1,4 +1,4 @@
-// The main window: maximised at the start, with its keys.
+// Decorates the main window: opens it maximised, and gives it its keys and the tags of its boxes.
 
 #include "core/viewvalues.h"
 #include "windows/handlers.h"
@@ -17,18 +17,18 @@ namespace tessaly {
 
 namespace {
 
-// The seven boxes over the picture have no labels beside them: each carries its tag at its right end.
-const QColor tagink(80, 80, 80);
-const QColor hintpaper(255, 255, 225);
+// The seven boxes over the picture have no labels beside them: each shows a tag at its right end.
+const QColor tagcolour(80, 80, 80);
+const QColor hintcolour(255, 255, 225);
 
-// Runs what a key does. A box that has the focus is then ready to be typed over.
+// Runs the procedure of a key. Then selects the text of a focused box, so that typing replaces it.
 void presskey(const std::function<void()>& procedure) {
     runevent(procedure);
     if (auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget())) line->selectAll();
 }
 
-// Makes Return in a box a press of a button.
-void pressonreturn(const control& box, control& button) {
+// Makes Return in a box click a button, while that is shown.
+void clickonreturn(const control& box, control& button) {
     auto* line = qobject_cast<QLineEdit*>(widgetof(box));
     QObject::connect(line, &QLineEdit::returnPressed, line, [&button] {
         if (button.shown) presskey([&button] { clickcontrol(button); });
@@ -37,33 +37,33 @@ void pressonreturn(const control& box, control& button) {
 
 class tag : public QWidget {
   public:
-    tag(const char* itsword, QWidget* box) : QWidget(box), word(itsword) {
+    tag(const char* itstext, QWidget* box) : QWidget(box), text(itstext) {
         setAttribute(Qt::WA_TransparentForMouseEvents);
         setFont(captionfont());
-        const int width = fontMetrics().horizontalAdvance(word) + 4;
+        const int width = fontMetrics().horizontalAdvance(text) + 4;
         setGeometry(box->width() - width, 1, width - 1, box->height() - 2);
     }
 
   protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        painter.setPen(tagink);
-        painter.drawText(rect(), Qt::AlignCenter, word);
+        painter.setPen(tagcolour);
+        painter.drawText(rect(), Qt::AlignCenter, text);
     }
 
   private:
-    QString word;
+    QString text;
 };
 
-// Prompts and hints are there to be read.
+// Makes the box of a prompt or hint read-only, without focus and in the colour of hints.
 void makereadonly(const control& c) {
     QWidget* box = widgetof(c);
     if (auto* line = qobject_cast<QLineEdit*>(box)) line->setReadOnly(true);
     if (auto* lines = qobject_cast<QPlainTextEdit*>(box)) lines->setReadOnly(true);
     box->setFocusPolicy(Qt::NoFocus);
-    QPalette paper = box->palette();
-    paper.setColor(QPalette::Base, hintpaper);
-    box->setPalette(paper);
+    QPalette palette = box->palette();
+    palette.setColor(QPalette::Base, hintcolour);
+    box->setPalette(palette);
 }
 
 }  // namespace
@@ -71,8 +71,8 @@ void makereadonly(const control& c) {
 void decoratevistaplan(windowframe& f) {
     for (const viewvalue& over : taggedvalues) {
         auto* box = qobject_cast<QLineEdit*>(widgetof(over.box));
-        auto* word = new tag(over.tag, box);
-        box->setTextMargins(1, 0, word->width() - 2, 0);
+        auto* boxtag = new tag(over.tag, box);
+        box->setTextMargins(1, 0, boxtag->width() - 2, 0);
     }
     for (const control* c : {&Label4, &Label5, &Label6, &vert, &horizlabel})
         qobject_cast<QLabel*>(widgetof(*c))->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
@@ -82,9 +82,9 @@ void decoratevistaplan(windowframe& f) {
         shortcut->setContext(Qt::ApplicationShortcut);
         QObject::connect(shortcut, &QShortcut::activated, &f, [&k] { presskey(k.press); });
     }
-    pressonreturn(capbox, screencapenter);
-    for (const viewvalue& v : viewvalues) pressonreturn(v.box, cventerbtn);
-    f.firstshowing = openmaximised;
+    clickonreturn(capbox, screencapenter);
+    for (const viewvalue& v : viewvalues) clickonreturn(v.box, cventerbtn);
+    f.setfirstposition = openmaximised;
 }
 
 }  // namespace tessaly

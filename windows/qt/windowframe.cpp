@@ -1,4 +1,4 @@
-// Frame and plan of a window.
+// The frame of a window, and the plan inside it.
 
 #include "windows/qt/windowframe.h"
 
@@ -16,22 +16,22 @@ namespace {
 
 class planwidget : public QWidget {
   public:
-    explicit planwidget(windowframe& itsframe) : of(itsframe) {}
+    explicit planwidget(windowframe& itsframe) : frame(itsframe) {}
 
   protected:
     void paintEvent(QPaintEvent*) override {
-        if (!of.decoration) return;
+        if (!frame.decoration) return;
         QPainter painter(this);
-        of.decoration(painter);
+        frame.decoration(painter);
     }
 
     bool focusNextPrevChild(bool next) override {
-        QWidget* const from = hasFocus() ? of.tabfrom : nullptr;
+        QWidget* const from = hasFocus() ? frame.tabfrom : nullptr;
         if (!from) return QWidget::focusNextPrevChild(next);
         QWidget* to = from;
         do to = next ? to->nextInFocusChain() : to->previousInFocusChain();
         while (to != from && !(isAncestorOf(to) && to->isVisible() && (to->focusPolicy() & Qt::TabFocus)));
-        of.tabfrom = nullptr;
+        frame.tabfrom = nullptr;
         to->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
         return true;
     }
@@ -41,28 +41,29 @@ class planwidget : public QWidget {
     }
 
   private:
-    windowframe& of;
+    windowframe& frame;
 };
 
 }  // namespace
 
-windowframe::windowframe(const tessaly::window& itswindow) : of(itswindow) {
-    setObjectName(of.name);
-    setWindowTitle(of.title);
-    setrole(*this, &of == &startform || &of == &vistaplan ? QAccessible::Window : QAccessible::Dialog);
+windowframe::windowframe(const tessaly::window& itswindow) : source(itswindow) {
+    setObjectName(source.name);
+    setWindowTitle(source.title);
+    setrole(*this, &source == &startform || &source == &vistaplan ? QAccessible::Window : QAccessible::Dialog);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
-    QPalette own = palette();
-    own.setColor(QPalette::Window, screencolour(of.back));
-    own.setColor(QPalette::WindowText, inkupon(screencolour(of.back)));
-    setPalette(own);
+    const QColor background = screencolour(source.back);
+    QPalette colours = palette();
+    colours.setColor(QPalette::Window, background);
+    colours.setColor(QPalette::WindowText, readablecolour(background));
+    setPalette(colours);
     auto* plan = new planwidget(*this);
     plan->setFixedSize(designedsize());
     plan->setAutoFillBackground(false);
     setWidget(plan);
 }
 
-QSize windowframe::designedsize() const { return {inpixels(of.widthtwips), inpixels(of.heighttwips)}; }
+QSize windowframe::designedsize() const { return {inpixels(source.widthtwips), inpixels(source.heighttwips)}; }
 
 void windowframe::changeEvent(QEvent* event) {
     QScrollArea::changeEvent(event);

@@ -1,5 +1,5 @@
-// The frame of a window on the screen: a plan of the designed size that holds the controls at their places and can be
-// scrolled where the screen is too small. What is drawn behind the controls is the window's own matter.
+// The frame of a window on the screen. It contains the plan, a widget of the designed size with the widgets of the
+// controls, and scrolls it if the screen is too small. Each window sets its decoration and its position itself.
 #pragma once
 
 #include "core/controls.h"
@@ -17,22 +17,22 @@ class windowframe : public QScrollArea {
     QWidget* plan() const { return widget(); }
     QSize designedsize() const;
 
-    // The control that lost the focus to the plan when it was hidden: Tab goes on from there.
+    // The widget that lost the focus to the plan when it was hidden: Tab continues from it. nullptr: there is none.
     QWidget* tabfrom = nullptr;
 
-    // Paints behind the controls, in pixels of the plan.
+    // Paints the background of the plan, in its pixels; may be empty.
     std::function<void(QPainter&)> decoration;
-    // Shows the state that belongs to no control; called after each event while the window is shown.
-    std::function<void()> follow;
-    // The first showing: where it stands and how large.
-    std::function<void(windowframe&)> firstshowing;
+    // Shows state that is not stored in controls. Called after each event while the window is shown; may be empty.
+    std::function<void()> afterevent;
+    // Sets size and position before the window is first shown.
+    std::function<void(windowframe&)> setfirstposition;
 
-    // The user closes it, or presses Escape in it: whether it goes is the program's to say.
+    // Called when the user closes the window, or presses Escape in it; the frame itself stays open.
     std::function<void()> whenclosed, whenescaped;
-    // It becomes the active window.
+    // Called when the window becomes the active one.
     std::function<void()> whenactivated;
 
-    const tessaly::window& of;
+    const tessaly::window& source;
 
   protected:
     void changeEvent(QEvent* event) override;

@@ -1,4 +1,4 @@
-// Places by what the screen and the other windows leave.
+// Computes the bounds of a window from the screen and from the picture of the main window.
 
 #include "windows/qt/windowposition.h"
 
@@ -15,55 +15,57 @@ namespace tessaly {
 
 namespace {
 
-constexpr int titlebar = 30, edge = 4;  // pixels: what a desktop may put above and around a window
+constexpr int titlebar = 30, edge = 4;  // pixels that the desktop may use above and around a window
 
-// What the screen leaves for a window's interior.
-QRect roomfor(const windowframe& f) { return f.screen()->availableGeometry().adjusted(0, titlebar, 0, 0); }
+// Returns the part of the screen that is available for the interior of a window.
+QRect availablefor(const windowframe& f) { return f.screen()->availableGeometry().adjusted(0, titlebar, 0, 0); }
 
-// The size of a window that has just been made. Where the room is too small one way, the bar to scroll that way does
-// not take from the other.
+// Returns the first size of a window: its plan's, at most the available one. If the plan is too high or too wide, the
+// window has room for the scroll bar beside it.
 QSize firstsize(const windowframe& f) {
-    const QRect room = roomfor(f);
+    const QRect available = availablefor(f);
     const QSize plan = f.designedsize();
     const int bar = f.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const QSize size(plan.width() + (plan.height() > room.height() ? bar : 0),
-                     plan.height() + (plan.width() > room.width() ? bar : 0));
-    return size.boundedTo(room.size());
+    const QSize size(plan.width() + (plan.height() > available.height() ? bar : 0),
+                     plan.height() + (plan.width() > available.width() ? bar : 0));
+    return size.boundedTo(available.size());
 }
 
-// How much lower than the one before each layout window opens: of those that lie behind, a border can be seen.
-int lowering(const tessaly::window& w) {
-    constexpr int step = 110;
+// Returns how far below the top of the picture a window opens, in pixels. Each layout window opens lower than the one
+// before, so that the upper edges of those behind it can be seen.
+int distancefromtop(const tessaly::window& w) {
+    constexpr int increment = 110;
     const window* const layouts[] = {&layoutgirder, &layoutpanels, &layoutroof};
     const auto* const found = std::find(std::begin(layouts), std::end(layouts), &w);
-    return found == std::end(layouts) ? 0 : step * static_cast<int>(found - layouts);
+    return found == std::end(layouts) ? 0 : increment * static_cast<int>(found - layouts);
 }
 
-// At the right of the picture, from its top on, as far as the screen reaches.
+// Returns the bounds of a window at the right of the picture, moved left or up if the screen ends before.
 QRect besidepicture(const windowframe& f) {
-    const QRect room = roomfor(f);
+    const QRect available = availablefor(f);
     const QSize size = firstsize(f);
     const QWidget& picture = *widgetof(viewport);
-    const QPoint wanted = picture.mapToGlobal(QPoint(picture.width() + edge, lowering(f.of)));
-    const QPoint last = QPoint(room.right() + 1 - size.width(), room.bottom() + 1 - size.height());
-    return {{std::clamp(wanted.x(), room.left(), last.x()), std::clamp(wanted.y(), room.top(), last.y())}, size};
+    const QPoint wanted = picture.mapToGlobal(QPoint(picture.width() + edge, distancefromtop(f.source)));
+    const QPoint last = QPoint(available.right() + 1 - size.width(), available.bottom() + 1 - size.height());
+    return {{std::clamp(wanted.x(), available.left(), last.x()), std::clamp(wanted.y(), available.top(), last.y())},
+            size};
 }
 
 }  // namespace
 
 void openincentre(windowframe& f) {
-    f.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, firstsize(f), roomfor(f)));
+    f.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, firstsize(f), availablefor(f)));
 }
 
 void openmaximised(windowframe& f) {
-    f.resize(firstsize(f));  // where there is no desktop to maximise it, and when the user takes the size back
+    f.resize(firstsize(f));  // its size if no window manager maximises it, and after the user restores it
     f.setWindowState(f.windowState() | Qt::WindowMaximized);
 }
 
 void openbesidemain(windowframe& f) {
     f.setGeometry(besidepicture(f));
-    f.setWindowFlags(Qt::Dialog);  // the kind that desktops keep in front of another
-    f.winId();                     // makes the desktop's own window, which is told so
+    f.setWindowFlags(Qt::Dialog);  // desktops show a dialog in front of its parent
+    f.winId();                     // creates the native window, whose parent is set here
     if (const windowframe* main = frameof(vistaplan)) f.windowHandle()->setTransientParent(main->windowHandle());
 }
 

@@ -1,18 +1,18 @@
-// Where a window stands at its first showing, no larger than the screen.
+// Sets the size and position of a window before it is first shown, no larger than the screen.
 #pragma once
 
 #include "windows/qt/windowframe.h"
 
 namespace tessaly {
 
-// In the middle of the screen.
+// Centres a window on the screen.
 void openincentre(windowframe& f);
 
-// Over the whole screen; no larger than it also where no desktop does that.
+// Maximises a window. Without a window manager it is as large as its plan, at most as the screen.
 void openmaximised(windowframe& f);
 
-// At the right of the main window's picture or, where the screen ends before, over it; in front of the main window from
-// then on, whichever of the two the user works in.
+// Opens a window at the right of the main window's picture, or over the picture if the screen ends before. It stays in
+// front of the main window, even while the user works in that.
 void openbesidemain(windowframe& f);
 
 }  // namespace tessaly

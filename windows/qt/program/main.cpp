@@ -10,13 +10,13 @@
 int main(int argc, char** argv) {
     QApplication::setDesktopSettingsAware(false);
     QApplication app(argc, argv);
-    std::setlocale(LC_NUMERIC, "C");  // figures are written with a point, wherever the user lives
+    std::setlocale(LC_NUMERIC, "C");  // numbers have a decimal point in every locale
     QApplication::setApplicationName("tessaly");
     QGuiApplication::setDesktopFileName("tessaly");
-    tessaly::setlook(app);
+    tessaly::setstyle(app);
     tessaly::usepicturefiles();
     tessaly::openwindows(tessaly::decoratewindow);
     const int status = QApplication::exec();
-    tessaly::dropwindows();
+    tessaly::destroywindows();
     return status;
 }
