@@ -71,8 +71,8 @@ void count(builtelements& built, const planpositions& plan) {
     built.times.assign(static_cast<std::size_t>(plan.maxnumber) + 1, 0);
     try {
         textinput in{designpath(built.file), filebytes(designpath(built.file), "design file")};
-        const std::vector<recordcolumn> form = unstoredcolumns();
-        for (;;) ++built.times[static_cast<std::size_t>(elementof(readrecord(in, form), plan))];
+        const std::vector<recordcolumn> columns = unstoredcolumns();
+        for (;;) ++built.times[static_cast<std::size_t>(elementof(readrecord(in, columns), plan))];
     } catch (const failure&) {
     }
 }

@@ -1,5 +1,5 @@
-// The girder and panel file reader. Its one trap is spent on the end of the design file; after that every failure ends
-// the program. It never sets panelcode, so the painter's fineness follows the panel that was chosen or replayed before.
+// The girder and panel file reader. It traps only the end of a design file; any other failure ends the program. It
+// never sets panelcode, so the painter's line density remains that of the last panel chosen or replayed singly.
 
 #include "building/combinedreader.h"
 
@@ -13,7 +13,7 @@ namespace tessaly {
 
 namespace {
 
-// Puts the record tables back before a design file is read.
+// Clears the record tables before a design file is read.
 void clearrecords() {
     for (int i = 1; i <= lastrecord; ++i) {
         for (auto* number : {&rdnumber, &rdroofnumber, &rdgirdernumber, &rdpanelnumber}) number->set(i, 0);
@@ -24,7 +24,8 @@ void clearrecords() {
 const std::vector<recordcolumn> bothcolumns =
     designcolumns({nullptr, &rdnumber}, {&girdercode, &rdcode}, {nullptr, &rdtrailer});
 
-// The twelve recordcolumns of the temporary files: a design record's ten before its trailer between these two.
+// Returns the twelve columns of the temporary files: first, the ten columns of a design record before its trailer,
+// last.
 std::vector<recordcolumn> tempcolumns(recordcolumn first, recordcolumn last) {
     std::vector<recordcolumn> all = designcolumns({&anynumber, &rdnumber}, {&anycode, &rdcode}, last);
     all.insert(all.begin(), first);
@@ -35,9 +36,9 @@ const std::vector<recordcolumn> solidcolumns = tempcolumns({}, {&placez, &rdplac
 
 constexpr int tempfirstfield = 0;  // the record's fields follow the line's first one
 
-// A line for the temporary files, of record r in the tables.
+// Formats record r of the tables as a line of a temporary file.
 std::string templine(const value& first, const value& r, const value& last) {
-    return keptline(first, recordcolumns(bothcolumns).first(bothcolumns.size() - 1), r, last);
+    return formatrecord(first, recordcolumns(bothcolumns).first(bothcolumns.size() - 1), r, last);
 }
 std::string wireline(int i) { return templine(placez, i, rdtrailer[i]); }
 std::string solidline(int i) { return templine(i, i, placez); }
@@ -48,30 +49,31 @@ recordorigin sortedorigin(int slot) {
     return record - 1 < tempfile.origins.size() ? tempfile.origins[record - 1] : recordorigin{};
 }
 
-// Reads a design file into the record tables, and adds its records to combinedcount and to tempfile.
-template <class form>
-void addfile(const replayfile& file, form line) {
+// Reads a design file into the record tables, adds its number of records to combinedcount and its records to tempfile.
+template <class formatter>
+void addfile(const replayfile& file, formatter line) {
     clearrecords();
-    const std::vector<recordorigin> records = keepdesignfile(1, file.name, bothcolumns);
+    const std::vector<recordorigin> records = loaddesignfile(1, file.name, bothcolumns);
     const int n = static_cast<int>(records.size());
     combinedcount = combinedcount + n;
     floorfromname(file.floorby);
     addlines(tempfile, n, line, [&records](int i) { return records[static_cast<std::size_t>(i - 1)]; });
 }
 
-// Both files from tempfile into the record tables, which end at 1000. The scalars are left for the sorted order.
-void keepbothfiles(int n) {
-    std::vector<recordcolumn> keptonly = solidcolumns;
-    for (recordcolumn& c : keptonly) c.scalar = nullptr;
+// Reads the records of both files from tempfile back into the record tables. Leaves the scalars alone: reading the
+// sorted file sets them. fails: subscript for record 1001.
+void loadbothfiles(int n) {
+    std::vector<recordcolumn> withoutscalars = solidcolumns;
+    for (recordcolumn& c : withoutscalars) c.scalar = nullptr;
     textinput& in = opentemporary(tempfile);
     for (int k = 1; k <= n; ++k) {
         locaterecord(in, tempfile, k, tempfirstfield);
-        keeprecord(k, keptonly, readrecord(in, keptonly));
+        storerecord(k, withoutscalars, readrecord(in, withoutscalars));
     }
     in.close();
 }
 
-// Draws the records of tempfile as wires, the first file's and then the second's. reads: combinedcount.
+// Draws the records of tempfile as a wireframe, those of the first file first. reads: combinedcount.
 void replaycombined() {
     const int n = indexof(combinedcount, "combinedcount", 2 * lastrecord);
     textinput& in = opentemporary(tempfile);
@@ -85,7 +87,7 @@ void replaycombined() {
     deletetemporary(tempfile);
 }
 
-void offerfirst(control& list) {
+void showfirstlist(control& list) {
     show(escapefilelistbtn);
     show(selectgirderfile);
     refresh(list);
@@ -93,33 +95,33 @@ void offerfirst(control& list) {
     show(autohintbox);
 }
 
-template <class form>
-void takefirst(const replayfile& file, form line) {
+template <class formatter>
+void loadfirst(const replayfile& file, formatter line) {
     firstfilename = file.name;
     combinedcount = 0;
     addfile(file, line);
 }
 
-template <class form>
-void takesecond(const replayfile& file, form line) {
+template <class formatter>
+void loadsecond(const replayfile& file, formatter line) {
     secondfilename = file.name;
     addfile(file, line);
 }
 
-template <class form>
-void pickfirst(control& list, control& secondlist, form line) {
+template <class formatter>
+void pickfirst(control& list, control& secondlist, formatter line) {
     hide(escapefilelistbtn);
     hide(list);
     hide(selectgirderfile);
     selectedbox.text = "You selected:  " + selectedtext(list);
     show(selectedbox);
-    takefirst(pickedfile(list), line);
+    loadfirst(pickedfile(list), line);
     show(selectpanelfile);
     refresh(secondlist);
     show(secondlist);
 }
 
-// Hides the second list and its prompts. Returns the file picked in it.
+// Hides the second list and its prompts, and returns the file picked in it.
 replayfile leavesecond(control& list) {
     hide(selectedbox);
     hide(list);
@@ -128,10 +130,10 @@ replayfile leavesecond(control& list) {
     return pickedfile(list);
 }
 
-// Replays both files of tempfile solid. reads: combinedcount.
+// Replays the records of both files in tempfile solid, farthest first. reads: combinedcount.
 void replaysorted() {
     const int n = indexof(combinedcount, "combinedcount", 2 * lastrecord);
-    keepbothfiles(n);
+    loadbothfiles(n);
     makeeyeabsolute();
     measurerecords(n);
     sortrecords(rdnumber, n);
@@ -145,27 +147,27 @@ void replaysorted() {
 
 }  // namespace
 
-void clickautowirebtn() { offerfirst(autofile1); }
+void clickautowirebtn() { showfirstlist(autofile1); }
 
-void clickautosolidbtn() { offerfirst(autofile3); }
+void clickautosolidbtn() { showfirstlist(autofile3); }
 
 void pickautofile1() { pickfirst(autofile1, autofile2, wireline); }
 
 void pickautofile3() { pickfirst(autofile3, autofile4, solidline); }
 
 void pickautofile2() {
-    takesecond(leavesecond(autofile2), wireline);
+    loadsecond(leavesecond(autofile2), wireline);
     replaycombined();
 }
 
 void pickautofile4() {
-    takesecond(leavesecond(autofile4), solidline);
+    loadsecond(leavesecond(autofile4), solidline);
     replaysorted();
 }
 
 void replaypairsolid(const replayfile& first, const replayfile& second) {
-    takefirst(first, solidline);
-    takesecond(second, solidline);
+    loadfirst(first, solidline);
+    loadsecond(second, solidline);
     replaysorted();
 }
 

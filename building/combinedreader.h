@@ -1,28 +1,29 @@
-// The girder and panel file reader: two design files, picked one after the other, replayed as one over the picture, as
-// wires or solid with the elements of both sorted together. Each record carries its own floor's height, and its own
-// kind decides what it draws, so that any two files go together. Design files are read and never written.
+// The girder and panel file reader: replays two design files, picked one after the other, as one, over the picture: as
+// a wireframe, or solid with the elements of both files sorted together. Each record has the height of its own floor
+// and its own kind of element, so any two files can be combined. Design files are never written.
 #pragma once
 
 #include "building/designfiles.h"
 
 namespace tessaly {
 
-void clickautowirebtn();   // shows autofile1, refreshed, with its prompt, the hint and the button that closes it
-void clickautosolidbtn();  // the same with autofile3
+// Refresh and show the first list, autofile1 or autofile3, with its prompt, the hint and the button that closes it.
+void clickautowirebtn();
+void clickautosolidbtn();
 
-// The first file, for wires and for solid: its records, at most 1000, go to tempfile; then the second list is shown.
-// writes: firstfilename, combinedcount, floorname, floornum, placez, placement, record tables; fails: file not found,
-// file already open, file access error, type mismatch (a name without class or floor).
+// Append at most 1000 records of the first file to tempfile, in the form for wires or for solid, and show the second
+// list. writes: firstfilename, combinedcount, floorname, floornum, placez, placement, record tables; fails: file not
+// found, file already open, file access error, type mismatch (a name without class or floor).
 void pickautofile1();
 void pickautofile3();
 
-// The second file, for wires: appends its records to tempfile and draws what tempfile holds in its order.
+// Appends the records of the second file to tempfile and draws all records of tempfile, in its order, as a wireframe.
 // writes: as the first, secondfilename, the world tables; draws on viewport; fails: as the first pick and readelements;
 // tempfile then stays.
 void pickautofile2();
 
-// The second file, solid: all records of both files, farthest first, each painted. At most 1000 in all: one more fails
-// with subscript out of range. writes: as pickautofile2, quaddist, perpx.. (absolute until the next plotgroups);
+// Paints all records of both files, farthest first. They must not be more than 1000: one more fails with subscript out
+// of range. writes: as pickautofile2, quaddist, perpx.. (absolute until the next plotgroups);
 // draws on viewport and progressbar; fails: as pickautofile2, paintsolids; the temporary files then stay.
 void pickautofile4();
 

@@ -1,4 +1,4 @@
-// The design file list. The picture of a design stays when its file is deleted.
+// The list of design files. Deleting a file does not change the picture.
 
 #include "building/filelist.h"
 
@@ -10,7 +10,7 @@ namespace tessaly {
 
 void clickdisplayfilelistbtn() {
     refresh(designfileslist);
-    hide(killfilebtn);  // the list that was read again has nothing picked
+    hide(killfilebtn);  // nothing is picked in a refreshed list
     show(designfileslist);
     show(closefilelistbtn);
 }

@@ -1,17 +1,23 @@
-// The design file list, from which one file at a time can be deleted, and the button that leaves the readers' first
-// lists.
+// The list of design files, in which a picked file can be deleted, and the button that closes the first lists of the
+// readers.
 #pragma once
 
 namespace tessaly {
 
-void clickdisplayfilelistbtn();  // shows designfileslist, refreshed, and the button that closes it
-void pickdesignfileslist();      // shows killfilebtn
-void clickclosefilelistbtn();    // hides list and buttons
+// Refreshes and shows designfileslist and the button that closes it.
+void clickdisplayfilelistbtn();
 
-// Deletes the picked design file at once and closes the list. writes: firstfilename, which the painter reads until
-// another name takes its place; fails: file not found, file access error.
+// Shows killfilebtn.
+void pickdesignfileslist();
+
+// Hides the list and its buttons.
+void clickclosefilelistbtn();
+
+// Deletes the picked design file at once and closes the list. writes: firstfilename, which the painter reads; fails:
+// file not found, file access error.
 void clickkillfilebtn();
 
-void clickescapefilelistbtn();  // hides every list from which a first pick can be made, whichever reader opened it
+// Hides the first lists of both readers, their prompts and the button itself.
+void clickescapefilelistbtn();
 
 }  // namespace tessaly

@@ -1,4 +1,4 @@
-// Records by their recordcolumns.
+// Reads, stores and formats records, column by column.
 
 #include "building/records.h"
 
@@ -37,16 +37,16 @@ std::string recordline(const std::vector<value>& fields) {
     return line + "\r\n";
 }
 
-std::string keptline(const value& first, recordcolumns kept, const value& r, const value& last) {
+std::string formatrecord(const value& first, recordcolumns columns, const value& r, const value& last) {
     std::vector<value> fields{first};
-    for (const recordcolumn& c : kept) fields.push_back((*c.kept)[r]);
+    for (const recordcolumn& c : columns) fields.push_back((*c.stored)[r]);
     fields.push_back(last);
     return recordline(fields);
 }
 
-std::vector<value> readrecord(textinput& in, recordcolumns form) {
+std::vector<value> readrecord(textinput& in, recordcolumns columns) {
     std::vector<value> fields;
-    for (const recordcolumn& c : form) {
+    for (const recordcolumn& c : columns) {
         const bool online = fields.empty() || in.next.field > 1;
         const char* const what = online ? "a field of a design record" : "is there an empty line above?";
         fields.push_back(c.text ? value(readrecordtext(in, what)) : readrecordfield(in, what));
@@ -55,9 +55,9 @@ std::vector<value> readrecord(textinput& in, recordcolumns form) {
     return fields;
 }
 
-void keeprecord(int i, recordcolumns form, const std::vector<value>& fields) {
-    for (std::size_t k = 0; k < form.size(); ++k)
-        if (form[k].kept) form[k].kept->set(i, fields[k]);
+void storerecord(int i, recordcolumns columns, const std::vector<value>& fields) {
+    for (std::size_t k = 0; k < columns.size(); ++k)
+        if (columns[k].stored) columns[k].stored->set(i, fields[k]);
 }
 
 std::string designpath(const value& name) { return "designs\\" + name.text(); }

@@ -1,5 +1,5 @@
-// Records: lines of fields, as design files and a replay's temporary files hold them, and the one table of the
-// recordcolumns of a design record. Where a reader differs from the other it says so by its recordcolumns.
+// Records: the lines of design files and of the temporary files of a replay, and the only list of the columns of a
+// design record. The readers differ only in the columns that they pass.
 #pragma once
 
 #include "core/textfiles.h"
@@ -11,34 +11,33 @@
 
 namespace tessaly {
 
-// A recordcolumn of a file of records.
 struct recordcolumn {
-    value* scalar = nullptr;                   // takes a field as it is read
-    table<value, lastrecord>* kept = nullptr;  // keeps the fields of all records, one index a record
-    bool text = false;                         // holds texts, whatever they look like
+    value* scalar = nullptr;                     // receives each field that is read; nullptr: none
+    table<value, lastrecord>* stored = nullptr;  // fields of all records, indexed by record; nullptr: not stored
+    bool text = false;                           // all fields are texts, even if they look like numbers
 };
 using recordcolumns = std::span<const recordcolumn>;
 
-// The eleven recordcolumns of a design record; the three in which readers differ come from the caller.
+// Returns the eleven columns of a design record; the caller gives the three in which the readers differ.
 std::vector<recordcolumn> designcolumns(recordcolumn number, recordcolumn code, recordcolumn trailer);
 
-// The same eleven for a record that is read and not stored.
+// Returns the eleven columns for a record that is read and not stored.
 std::vector<recordcolumn> unstoredcolumns();
 
-// One line of text fields as records are written: texts in double quotes, numbers bare, commas between, CR LF behind.
+// Formats fields as a line: texts in double quotes, numbers as they are, separated by commas, ending in CR LF.
 std::string recordline(const std::vector<value>& fields);
 
-// A line of first, record r as the tables of these recordcolumns keep it, and last.
-std::string keptline(const value& first, recordcolumns kept, const value& r, const value& last);
+// Formats a line: first, the fields of record r in the tables of these columns, and last.
+std::string formatrecord(const value& first, recordcolumns columns, const value& r, const value& last);
 
-// Reads a record, each field into its recordcolumn's place: a record that breaks off leaves its front
-// there. Returns the fields; fails: input past end of file, overflow.
-std::vector<value> readrecord(textinput& in, recordcolumns form);
+// Reads a record, each field into the scalar of its column, and returns the fields. If the record is cut short, the
+// scalars of the fields already read stay set. fails: input past end of file, overflow.
+std::vector<value> readrecord(textinput& in, recordcolumns columns);
 
-// Keeps a record's fields in the tables of its recordcolumns.
-void keeprecord(int i, recordcolumns form, const std::vector<value>& fields);
+// Stores the fields of record i in the tables of its columns.
+void storerecord(int i, recordcolumns columns, const std::vector<value>& fields);
 
-// "designs\" and the name.
+// Returns "designs\" and the name.
 std::string designpath(const value& name);
 
 }  // namespace tessaly

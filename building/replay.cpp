@@ -1,4 +1,4 @@
-// What the file readers share. The traps and the channels are the readers' own affair, the steps are here.
+// Steps shared by the file readers.
 
 #include "building/replay.h"
 
@@ -15,21 +15,21 @@ namespace tessaly {
 
 namespace {
 
-constexpr double nearestchosen = 1;  // a sort's first best distance, which is to be exceeded
+constexpr double minsorted = 1;  // the sort takes only records at a greater distance
 
-// The strip, in its own pixels, y down: rows of one pixel from x 1 to x 17, and the row just below its last one.
+// The progress strip, in its own pixels, y down: rows from x 1 to x 17. stripbottom is one below the lowest row.
 constexpr float stripleft = 1, stripright = 17;
-constexpr int stripbottom = 701, striprows = 701, rowsarecord = 4;
+constexpr int stripbottom = 701, striprows = 701, rowsperrecord = 4;
 constexpr colour striplength{200, 200, 200}, stripback{100, 100, 100}, stripdone{250, 50, 50};
 
-int donerow = stripbottom;  // of the last red row
+int donerow = stripbottom;  // the last red row
 
 void drawstriprow(int row, colour c) {
     const float y = static_cast<float>(row);
     progresssurface->line(stripleft, y, stripright, y, c);
 }
 
-// Rows from the strip's bottom up.
+// Draws rows from the bottom of the strip up.
 void drawstriprows(int count, colour c) {
     for (int row = stripbottom - 1; row >= stripbottom - count; --row) drawstriprow(row, c);
 }
@@ -49,8 +49,8 @@ void locaterecord(textinput& in, const temporaryfile& file, int k, int firstfiel
 
 int countrecords(const value& name) {
     textinput in{designpath(name), filebytes(designpath(name), "design file")};  // on no channel
-    const std::vector<recordcolumn> form = unstoredcolumns();
-    return untilfailure(lastrecord, [&](int) { readrecord(in, form); });
+    const std::vector<recordcolumn> columns = unstoredcolumns();
+    return repeatuntilfailure(lastrecord, [&](int) { readrecord(in, columns); });
 }
 
 void deletetemporary(temporaryfile& file) {
@@ -58,12 +58,12 @@ void deletetemporary(temporaryfile& file) {
     file = {file.path};
 }
 
-std::vector<recordorigin> keepdesignfile(int channel, const value& name, recordcolumns form) {
+std::vector<recordorigin> loaddesignfile(int channel, const value& name, recordcolumns columns) {
     textinput& in = openinput(channel, designpath(name), "design file");
     std::vector<recordorigin> origins;
-    untilfailure(lastrecord, [&](int i) {
+    repeatuntilfailure(lastrecord, [&](int i) {
         const int line = in.next.line;
-        keeprecord(i, form, readrecord(in, form));
+        storerecord(i, columns, readrecord(in, columns));
         origins.push_back({in.path, line});
     });
     in.close();
@@ -96,7 +96,7 @@ void measurerecords(int n) {
 
 void sortrecords(const table<value, lastrecord>& number, int n) {
     for (int slot = 1; slot <= n; ++slot) {
-        double best = nearestchosen;
+        double best = minsorted;
         for (int j = 1; j <= lastrecord; ++j) {
             if (number[j] == 0 || !(quaddist[j] > best)) continue;
             best = quaddist[j];
@@ -106,13 +106,13 @@ void sortrecords(const table<value, lastrecord>& number, int n) {
     }
 }
 
-void paintrecords(const temporaryfile& file, int firstfield, int n, recordcolumns form, const value& kind,
+void paintrecords(const temporaryfile& file, int firstfield, int n, recordcolumns columns, const value& kind,
                   const value& code) {
     textinput& in = opentemporary(file);
     for (int k = 1; k <= n; ++k) {
         locaterecord(in, file, k, firstfield);
         const fieldlocation record = {in.next.line, 1};
-        readrecord(in, form);
+        readrecord(in, columns);
         stepprogress();
         drawrecord(kind, code, in, record);
         paintsolids();
@@ -123,13 +123,13 @@ void paintrecords(const temporaryfile& file, int firstfield, int n, recordcolumn
 void drawprogress(int n) {
     show(progressbar);
     drawstriprows(striprows, stripback);
-    drawstriprows(rowsarecord * (n + 1), striplength);
+    drawstriprows(rowsperrecord * (n + 1), striplength);
     donerow = stripbottom;
     progresssurface->flush();
 }
 
 void stepprogress() {
-    donerow -= rowsarecord;
+    donerow -= rowsperrecord;
     drawstriprow(donerow, stripdone);
     progresssurface->flush();
 }

@@ -1,6 +1,5 @@
-// What the file readers share: the trap that ends a design file, the steps of a solid replay (the sort by plan
-// distance, the temporary file in its order, the painting from it) and the progress strip. The readers themselves are
-// singlereader and combinedreader.
+// Steps shared by singlereader and combinedreader: the trap that ends a design file, the steps of a solid replay (sort
+// by plan distance, write a temporary file in that order, paint from it) and the progress strip.
 #pragma once
 
 #include "building/records.h"
@@ -11,9 +10,10 @@
 
 namespace tessaly {
 
-// A replay's temporary files, gone when it has run to its end. They are opened for appending: what a broken replay or
-// an abandoned choice left behind stands in front of the new records and is replayed in their place. It stays so.
-// For reports each line's record in a design file is remembered; what was left behind has none.
+// The temporary files of a replay, deleted at its end. They are opened for appending: records left by an interrupted
+// replay or an abandoned choice come before the new ones and are replayed instead of them. This is intended.
+// For reports, the origin of each line in a design file is stored; lines left by an earlier run of the program have
+// none.
 struct recordorigin {
     std::string path;  // of the design file; "": unknown
     int line;
@@ -25,60 +25,59 @@ struct temporaryfile {
 };
 inline temporaryfile tempfile{"nonuser\\temp.txt"}, sortedtempfile{"nonuser\\temp2.txt"};
 
-// Opens a temporary file for reading, on channel 2. fails: as openinput.
+// Opens a temporary file for reading on channel 2. fails: as openinput.
 textinput& opentemporary(const temporaryfile& file);
 
-// Makes reports of line k, which is read next, name its record's design file. firstfield: the number of the line's
-// first field in the record.
+// Makes reports about line k, which is read next, name the design file of its record. firstfield: the number of the
+// line's first field in that record.
 void locaterecord(textinput& in, const temporaryfile& file, int k, int firstfield);
 
 void deletetemporary(temporaryfile& file);
 
-// Runs step(1), step(2) .. step(most) until one fails, whatever the failure, and returns how many ran whole: the end of
-// a file is never tested for, the failed read is the end. This is the one trap of a replay.
+// Runs step(1), step(2) .. step(maxsteps) until one of them fails, whatever the failure, and returns the number of
+// complete steps. This is the only trap of a replay: the readers do not test for the end of a file, a read fails there.
 template <class procedure>
-int untilfailure(int most, procedure step) {
+int repeatuntilfailure(int maxsteps, procedure step) {
     int done = 0;
     try {
-        for (; done < most; ++done) step(done + 1);
+        for (; done < maxsteps; ++done) step(done + 1);
     } catch (const failure&) {
         return done;
     }
     return done;
 }
 
-// Keeps the records of a design file, 1000 at most, and returns their origins. The first failure ends the file.
-// fails: as openinput.
-std::vector<recordorigin> keepdesignfile(int channel, const value& name, recordcolumns form);
+// Reads at most 1000 records of a design file into the tables and returns their origins. The first failure ends the
+// file. fails: as openinput.
+std::vector<recordorigin> loaddesignfile(int channel, const value& name, recordcolumns columns);
 
-// The number of complete records of a design file, 1000 at most, by the same rules; stores nothing. fails: as
-// keepdesignfile.
+// Returns the number of complete records of a design file, at most 1000. Stores nothing. fails: as loaddesignfile.
 int countrecords(const value& name);
 
-// Places, reads and draws the element of the record just read, by its kind and code. record: its location. rotx is 0
-// afterwards, for placement leaves radians in it. reads: rotx, rotz, placex, placey, placez; writes, fails: as
-// readelements.
+// Reads, places and draws the element of the record just read, by its kind and code, and resets rotx, in which the
+// placement left radians, to 0. record: its location, for reports. reads: rotx, rotz, placex, placey, placez; writes:
+// rotx, as readelements; fails: as readelements.
 void drawrecord(const value& kind, const value& code, const textinput& in, fieldlocation record);
 
-// Makes the eye absolute; only the next plotgroups makes it relative again, so that after a replay of nothing the next
-// view step goes on from the absolute eye. reads: focusx..; writes: perpx..
+// Makes the eye absolute. Only the next plotgroups makes it relative again: after a replay without records the next
+// view step starts from the absolute eye. reads: focusx..; writes: perpx..
 void makeeyeabsolute();
 
-// Turns the places of records 1..n into world units and measures their plan distances from the eye; height has no part.
+// Converts the positions of records 1..n to world units and computes their plan distances from the eye; height is
+// ignored.
 // reads: perpx, perpy; writes: rdx, rdy, quaddist; fails: type mismatch.
 void measurerecords(int n);
 
-// Orders records farthest first: rdorder[1..n] by quaddist, equal distances in the order of the file, records of number
-// 0 passed over. A record at a distance of 1 or less is never chosen; a slot that finds none keeps what an earlier sort
-// left in rdorder.
-// reads: number; writes: rdorder, quaddist (0 for every record taken); fails: type mismatch for a number that is a
+// Sorts records farthest first: rdorder[1..n] by quaddist, records of equal distance in the order of the file. Skips
+// records with number 0 or a distance of at most 1; a slot without a record keeps its rdorder from an earlier sort.
+// reads: number, quaddist; writes: rdorder, quaddist (0 for every sorted record); fails: type mismatch if a number is a
 // text.
 void sortrecords(const table<value, lastrecord>& number, int n);
 
-// Adds line(1) .. line(n) to a temporary file, on channel 2; origin(i) is the origin of line(i). fails: as openappend,
-// type mismatch, subscript.
-template <class form, class locating>
-void addlines(temporaryfile& file, int n, form line, locating origin) {
+// Appends line(1) .. line(n) to a temporary file on channel 2; origin(i) is the origin of line(i). fails: as
+// openappend, type mismatch, subscript.
+template <class formatter, class locating>
+void addlines(temporaryfile& file, int n, formatter line, locating origin) {
     textoutput& out = openappend(2, file.path, "temporary file");
     if (out.created) file = {file.path, true};
     for (int i = 1; i <= n; ++i) {
@@ -88,15 +87,15 @@ void addlines(temporaryfile& file, int n, form line, locating origin) {
     out.close();
 }
 
-// Reads n records of a temporary file and draws and paints each, a step of the strip before it. kind, code: as
-// drawrecord; firstfield: as locaterecord. fails: as drawrecord and paintsolids; the file stays open on channel 2.
-void paintrecords(const temporaryfile& file, int firstfield, int n, recordcolumns form, const value& kind,
+// Reads n records of a temporary file, and for each advances the progress strip, draws and paints. kind, code: as
+// drawrecord; firstfield: as locaterecord. fails: as drawrecord and paintsolids, and leaves the file open on channel 2.
+void paintrecords(const temporaryfile& file, int firstfield, int n, recordcolumns columns, const value& kind,
                   const value& code);
 
-// Shows the progress strip for n records: cleared to dark, four light rows a record and four over, from the bottom up.
+// Shows the progress strip for n records: dark, with four light rows per record and four more from the bottom up.
 void drawprogress(int n);
 
-// One element further: the strip's next red row, four rows up. Rows above the strip fall outside it.
+// Draws the next red row of the strip, four rows above the last one. Rows above the strip are not visible.
 void stepprogress();
 
 }  // namespace tessaly

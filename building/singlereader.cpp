@@ -1,5 +1,5 @@
-// The single file reader. The class of a file is told by its name, and the class decides how a record's code is read;
-// the record's own kind reaches nothing but the solid painter.
+// The single file reader. The name of a file determines its class, and the class determines the meaning of a record's
+// code. Only the solid painter uses the kind in the record.
 
 #include "building/singlereader.h"
 
@@ -19,7 +19,7 @@ std::vector<recordcolumn> columnsof(const fileclass& c) {
     return designcolumns({nullptr, &c.numbers}, {&c.code, &c.codes}, {nullptr, c.trailers});
 }
 
-void offer(control& list) {
+void showlist(control& list) {
     show(escapefilelistbtn);
     refresh(list);
     show(list);
@@ -40,17 +40,17 @@ const fileclass& setfile(const replayfile& file) {
 
 }  // namespace
 
-void clickautowiresingle() { offer(autofile); }
+void clickautowiresingle() { showlist(autofile); }
 
-void clickautosolidsingle() { offer(autofile5); }
+void clickautosolidsingle() { showlist(autofile5); }
 
 void pickautofile() {
     const fileclass& c = setfile(acceptfile(autofile));
-    const std::vector<recordcolumn> form = columnsof(c);
+    const std::vector<recordcolumn> columns = columnsof(c);
     textinput& in = openinput(2, designpath(secondfilename), "design file");
-    untilfailure(maxwirerecords, [&](int) {
+    repeatuntilfailure(maxwirerecords, [&](int) {
         const fieldlocation record = in.next;
-        readrecord(in, form);
+        readrecord(in, columns);
         drawrecord(c.kind, c.code, in, record);
     });
     in.close();
@@ -60,24 +60,24 @@ void pickautofile5() { replaysolid(acceptfile(autofile5)); }
 
 void replaysolid(const replayfile& file) {
     const fileclass& c = setfile(file);
-    std::vector<recordcolumn> form = columnsof(c);
+    std::vector<recordcolumn> columns = columnsof(c);
     for (int i = 1; i <= lastrecord; ++i) c.numbers.set(i, 0);
-    const std::vector<recordorigin> records = keepdesignfile(2, secondfilename, form);
+    const std::vector<recordorigin> records = loaddesignfile(2, secondfilename, columns);
     const int n = static_cast<int>(records.size());
     makeeyeabsolute();
     measurerecords(n);
     sortrecords(c.numbers, n);
-    form.front() = {};  // in the temporary file the sorted position stands in the kind's place
-    const auto sortedline = [&form](int slot) {
+    columns.front() = {};  // in the temporary file the sort position replaces the kind
+    const auto sortedline = [&columns](int slot) {
         const value& r = rdorder[slot];
-        return keptline(slot, recordcolumns(form).subspan(1, form.size() - 2), r, rdtrailer[r]);
+        return formatrecord(slot, recordcolumns(columns).subspan(1, columns.size() - 2), r, rdtrailer[r]);
     };
     addlines(tempfile, n, sortedline, [&records](int slot) {
         const auto r = static_cast<std::size_t>(double(rdorder[slot]));
         return r - 1 < records.size() ? records[r - 1] : recordorigin{};
     });
     drawprogress(n);
-    paintrecords(tempfile, 1, n, form, c.kind, c.code);
+    paintrecords(tempfile, 1, n, columns, c.kind, c.code);
     deletetemporary(tempfile);
     hide(progressbar);
 }

@@ -22,7 +22,7 @@ constexpr int twipsperpixel = 15;
 
 struct control;
 
-// How a box is tinted: not at all, as holding a text that is not in force yet, or as needing attention.
+// The tint of a box: none, the text has not been applied yet, or the text needs attention.
 enum class boxtint { none, edited, warning };
 
 struct window {

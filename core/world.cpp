@@ -1,5 +1,5 @@
-// The world's tables and scalars themselves, each registered where it is defined, and the two ways of clearing.
-// A table's address decides which cache lines it fights for: all of them stand in one file, group after group.
+// Defines and registers the tables and scalars of the world, and clears them. All tables are defined in this file,
+// group after group, because their addresses decide which cache lines they share.
 
 #include "core/world.h"
 
@@ -48,7 +48,7 @@ std::vector<scalar>& registered() {
     return all;
 }
 
-// Registers a scalar with its definition, or those of an array from 1 on: linecount1, linecount2 ..
+// Registers a scalar, or the elements of an array starting at 1: linecount1, linecount2 ..
 struct entry {
     entry(const char* name, value& held, bool reported) { registered().push_back({name, &held, reported}); }
     entry(const char* word, std::span<value> held, bool reported) {
@@ -59,7 +59,7 @@ struct entry {
 
 }  // namespace
 
-// A scalar with its entry. The ones that are shown stand in reports, in this order.
+// Each scalar with its entry. SHOWN ones are part of the recorded state, in this order.
 // clang-format off
 #define SHOWN(name) value name; const entry name##entry(#name, name, true)
 #define KEPT(name) value name; const entry name##entry(#name, name, false)

@@ -1,6 +1,6 @@
-// The world: every table and scalar of the building set, all global, with what each means and its unit.
-// The tables hold one element at a time, never the building: the building is the pixels on viewport and the lines
-// of the design files. Scalars are values (empty at first, then a number or a text); nothing else is kept anywhere.
+// The world: every table and scalar of the building set, all global, with meaning and unit.
+// The tables hold one element at a time, never the building: the building is the pixels on viewport and the lines of
+// the design files. Scalars are values: empty at first, then a number or a text.
 #pragma once
 
 #include "core/table.h"
@@ -17,7 +17,7 @@ constexpr int lastquad = 10000;      // of the quad and cube tables
 constexpr int lastgroup = 255;       // of the group bounds
 constexpr int lastcolour = 256;      // of the palette
 constexpr int lastrecord = 1000;     // of the design record tables
-constexpr int clearedpoints = 7000;  // what resetworld clears of points and quads
+constexpr int clearedpoints = 7000;  // last index of points and quads that resetworld clears
 constexpr int clearedcubecolours = 700;
 constexpr int linegroups = 10;
 constexpr int referencepoint = 8001;  // the picture plane's up reference
@@ -28,23 +28,25 @@ inline bool endsrows(const value& v) { return !v.istext() && v == sentinel; }
 constexpr int planoriginx = 488, planoriginy = 680;  // the world's origin in layout units
 
 // ---- points: parallel tables, one index is one point ----------------------------------------------------
-// Blocks start at 1, 2001, 4001, 6001 and are walked over their count; 8001 is the up reference; 7001.. is also
-// framing scratch. The readers fill model coordinates, the projector all others. resetworld clears 1..7000 only.
-extern table<value, lastpoint, clearedpoints> basex, basey, basez;  // model units, as placed; not the display's
+// Blocks start at 1, 2001, 4001 and 6001; 8001 is the up reference; 7001 and up is scratch space for framing lines.
+// The readers fill the model coordinates, the projector all others. resetworld clears 1..7000 of basex.. and ptx..
+// only.
+extern table<value, lastpoint, clearedpoints> basex, basey,
+    basez;                                                    // model units, as placed; display does not change them
 extern table<value, lastpoint, clearedpoints> ptx, pty, ptz;  // model units; relative to the focus while displaying
-extern table<value, lastpoint> savex, savey, savez;           // copy of ptx.. from which the near-side walk starts
-extern table<double, lastpoint> planex, planey, planez;       // model units: the sight line's hit of the picture plane
-extern table<double, lastpoint> planeup, planeside;           // model units on the picture plane
-extern table<double, lastpoint> screenx, screeny;  // viewport pixels, y down; screeny 9999: given up in this pass
+extern table<value, lastpoint> savex, savey, savez;           // copies of ptx.. at which a near-side walk starts
+extern table<double, lastpoint> planex, planey, planez;  // model units: intersection of sight line and picture plane
+extern table<double, lastpoint> planeup, planeside;      // model units on the picture plane
+extern table<double, lastpoint> screenx, screeny;  // viewport pixels, y down; screeny 9999: could not be projected
 extern value ptcount[5];                           // points in use of blocks 1..4
 inline value &ptcount1 = ptcount[1], &ptcount2 = ptcount[2], &ptcount3 = ptcount[3], &ptcount4 = ptcount[4];
-extern value drawset;  // 2: a projection walks blocks 1 to 4; anything else: blocks 1, 3 and 4
+extern value drawset;  // 2: all four blocks are projected; anything else: blocks 1, 3 and 4
 
 // ---- lines: group after group without gaps --------------------------------------------------------------
-extern table<value, lastline> lineend1, lineend2;      // point index of each end; only the counts make them valid
+extern table<value, lastline> lineend1, lineend2;      // point index of each end; valid up to the counts
 extern value linecount[linegroups + 1];                // lines of groups 1..10
 extern value wirecolour[linegroups + 1];               // palette index of groups 1..10; group 10's is never written
-extern table<value, lastgroup> groupfirst, grouplast;  // first and last line of a group; 11 is framing's
+extern table<value, lastgroup> groupfirst, grouplast;  // first and last line of a group; group 11: framing
 inline value &linecount1 = linecount[1], &linecount2 = linecount[2], &linecount3 = linecount[3],
              &linecount4 = linecount[4], &linecount5 = linecount[5], &linecount6 = linecount[6],
              &linecount7 = linecount[7], &linecount8 = linecount[8], &linecount9 = linecount[9],
@@ -55,19 +57,20 @@ inline value &wirecolour1 = wirecolour[1], &wirecolour2 = wirecolour[2], &wireco
              &wirecolour10 = wirecolour[10];
 
 // ---- quads: flat four-cornered faces; going around gives 1, 2, 4, 3 --------------------------------------
-// The rails are 1-2 and 3-4, quad3 lies across from quad1.
+// The rails are the edges 1-2 and 3-4; quad3 is opposite quad1.
 // AUTOPLANE: faces start at 1, AUTOCUBE400: faces at 4001, AUTOCUBE600: faces at 6001, ten slots a cube.
 extern table<value, lastquad, clearedpoints> quad1, quad2, quad3, quad4;  // point indexes
-extern table<value, lastquad, clearedpoints> quadcolour;  // palette index; the painter changes it on turned ones
+extern table<value, lastquad, clearedpoints>
+    quadcolour;  // palette index; the painter increases it if rotz is 90 or 270
 extern table<value, lastquad, clearedpoints> framing1, framing2;  // framing lines along the two directions; 0: none
-extern table<double, lastquad> quaddist;  // model units: nearest corner to the eye; the sort uses it up
+extern table<double, lastquad> quaddist;  // model units: distance of the nearest corner; overwritten by the sort
 extern table<double, lastquad> quadcornerdist1, quadcornerdist2, quadcornerdist3, quadcornerdist4;  // 1, 3, 2, 4
 extern table<value, lastquad> quadorder;  // quad indexes, nearest first
 
 // ---- cubes: by cube number 400..599 and 600..799 ---------------------------------------------------------
 extern table<value, lastquad, clearedpoints> cubegrade;        // field 8 of a cube row
 extern table<value, lastquad, clearedcubecolours> cubecolour;  // field 9, a palette index
-extern value rowgrade, rowcolour;                              // the same two of a whole cube row of an axis-cube file
+extern value rowgrade, rowcolour;                              // the same for all cubes of a row of an axis-cube file
 
 // ---- colours ---------------------------------------------------------------------------------------------
 extern table<value, lastcolour> palred, palgreen, palblue;  // 0..255 by palette index; 1..236 are filled, 0 is black
@@ -76,30 +79,39 @@ extern value backred, backgreen, backblue;                  // the background's 
 // ---- view state ------------------------------------------------------------------------------------------
 extern value perpx, perpy, perpz;           // the eye, model units: absolute, or relative to the focus (perprelative)
 extern value focusx, focusy, focusz;        // the focal point, model units, always absolute
-extern value mag;                           // magnification: the box's figure, times ten while displaying
+extern value mag;                           // magnification: the number in the box, times ten while displaying
 extern value vertshift, horizshift;         // display shift in viewport pixels
-extern value perprelx, perprely, perprelz;  // eye relative to the focus as last established
+extern value perprelx, perprely, perprelz;  // the eye as the last view change set it, relative to the focus
 extern value perpabsx, perpabsy, perpabsz;  // absolute eye, shown in perptxtx..
-extern value perprelative;                  // 0 while perpx.. are absolute, 1 once relative
-extern value viewprompt;                    // "AUTOMA" asks the next projection for the fix-up, which leaves "PROMPT"
-extern value refready;                      // 0 while the reference point's pass is still due
-extern value plotstate;                     // empty until the first start group was plotted, 2 from then on
-extern value skipfixup;                     // one-shot: the next projectdraw passes over fix-up and scale step
-extern value rebasedone;                    // 0 after projectdraw, 1 once rebasepoints has run for the view
-extern value magshown;                      // the figure of magtxt, a tenth of mag
+extern value viewprompt;                    // "AUTOMA" requests the fix-up of the next projection, which sets "PROMPT"
+extern value magshown;                      // the number in magtxt, a tenth of mag
+
+// Flags of the view, with the procedures that set and clear them
+//   perprelative   1: relateeye, in projectdraw and rebasepoints   0: SET and a retrieval
+//   refready       1: referencepass, in projectdraw and replot     0: settle; plotgroups if plotstate is 1 or 2;
+//                                                                     projectdraw if skipfixup is 0
+//   skipfixup      1: plotgroups if plotstate is 1 or 2            0: projectdraw, at its start
+//   rebasedone     1: settle                                       0: projectdraw, at its end
+//   plotstate      2: showscene, after each start group            never
+extern value perprelative;  // 1: perpx.. are relative to the focus; 0: they are absolute
+extern value refready;      // 1: the reference point has been projected for this view
+extern value skipfixup;     // 1: the next projectdraw skips fix-up and scaling
+extern value rebasedone;    // 1: the working points have been rebased on the focus since the last projectdraw
+extern value plotstate;     // 2: later plots use the view of the first one
+
 extern double planeseedx, planeseedy, planeseedz;        // a point near the eye, relative to the focus
 extern double planecentrex, planecentrey, planecentrez;  // picture plane's centre, relative to the focus
-extern int walkcount;                                    // countdown of the near-side walk, shared by a line's ends
-extern value curwirecolour;                              // palette index of the line group being drawn
+extern int walkcount;                  // steps left of the near-side walk, shared by both ends of a line
+extern value curgroup, curwirecolour;  // number and palette index of the line group being drawn
 
 // ---- placement of the element about to be read -----------------------------------------------------------
 extern value datafile;                // name of the element file under datah
 extern value elementkind;             // "girder", "panel" or "roof"
 extern value placemode;               // 0 the file's script, 1 and 4 turn about Z, 2 about X, 3 and 5 shift only
-extern value placex, placey, placez;  // layout units; placement turns x and y into world units in place
+extern value placex, placey, placez;  // layout units; placement converts x and y to world units
 extern value rotz;                    // degrees about Z; a script leaves radians here
 extern value rotx;                    // degrees about X; placement overwrites it with radians
-extern value facecode;                // recorded and carried along; nothing draws by it
+extern value facecode;                // recorded, with no effect on drawing
 
 // ---- run mode --------------------------------------------------------------------------------------------
 extern value floorname;                      // "1".."10", in design file names
@@ -133,7 +145,7 @@ extern value railstart1, railend1, railstart2, railend2;  // point indexes of th
 extern value framen;                                      // framing lines of a direction
 
 // ---- design records of a replay: one index is one record -------------------------------------------------
-// Filled by the file readers; rdorder is never cleared, so a slot that a sort does not fill keeps its old figure.
+// Filled by the file readers; rdorder is never cleared, so a slot that a sort does not fill keeps its old number.
 extern table<value, lastrecord> rdnumber, rdgirdernumber, rdpanelnumber, rdroofnumber;  // element number; 0: unused
 extern table<value, lastrecord> rdcode, rdgirdercode, rdpanelcode, rdroofcode;          // element code
 extern table<value, lastrecord> rdx, rdy;                      // layout units, less 488 and 680 once sorted
@@ -147,26 +159,25 @@ extern value capname, capsidecar;                             // names of bitmap
 extern value bmpfile, bmpstem, bmpext, bmpimage, bmpsidecar;  // names of an image retrieval
 
 // ---- written and never read ------------------------------------------------------------------------------
-// What the steps leave behind of what they read and worked out. Nothing draws by it and no file gets it; it is kept
-// because the world is to show all of a step to who looks into it, and nothing that a data file says gets lost.
-extern table<double, lastpoint> planedist;  // model units: distance of a point's hit from the plane's centre
-extern table<double, lastpoint> planecos;   // cosine of the angle between hit and up reference
+// Numbers read or computed by a step that no later step uses. They are stored because the world shows all of a step,
+// and no number of a data file is lost.
+extern table<double, lastpoint> planedist;  // model units: distance of the intersection from the plane's centre
+extern table<double, lastpoint> planecos;   // cosine of the angle between intersection and up reference
 extern table<value, lastquad, clearedpoints> quadface, quadgrade;  // face number; grade of a cube's faces 1..4
 extern table<value, 12 * 9> viewpreset;  // twelve records of nine values (record r starts at 9r - 8), eye relative
 extern value startstep;                  // number of the start group being read
-extern value curgroup;                   // line group being drawn
 extern value spareface;                  // set by each click on a position
 extern value anynumber;                  // number of the record being replayed
 extern value focussign;                  // direction of the vertical focus step
 extern value framesecond;                // 1 while the first of two framing directions is drawn
 
-// A scalar by name, for reports of the program's state and for forgetting it.
+// A scalar by name, for records of the program's state and for resetting it.
 struct scalar {
     std::string name;
     value* held;
-    bool reported;  // stands in the written state
+    bool reported;  // part of the recorded state
 };
-// All scalars that are values, the reported ones first and in the order in which they are written.
+// Returns all scalars that are values, the reported ones first, in the order in which they are recorded.
 std::span<const scalar> scalars();
 
 // Sets a point's working coordinates.
@@ -177,10 +188,10 @@ inline void setpoint(int i, const value& x, const value& y, const value& z) {
 }
 
 // Clears the tables for the next element: the counts of lines and points, indexes 1..7000 of working and base
-// coordinates, quads, framing, colours and grades, and indexes 1..700 of cubecolour. Everything else stays.
+// coordinates, quads, framing, colours and grades, and indexes 1..700 of cubecolour. Everything else is unchanged.
 void resetworld();
 
-// Puts every table and scalar of this header back to its state before the program started.
+// Resets every table and scalar of this header to its state before the program started.
 void restartworld();
 
 }  // namespace tessaly

@@ -24,7 +24,7 @@ void projectdraw();
 struct pointblock {
     int first, last;
 };
-// Calls step(i) for every point of the blocks of drawset, in ascending order within each block.
+// Calls step(i) for every point of the blocks that drawset selects, in ascending order within each block.
 template <class procedure>
 void foreachpointinuse(procedure step);
 int blocksinuse(pointblock (&blocks)[4]);

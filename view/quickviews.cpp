@@ -12,12 +12,12 @@ namespace tessaly {
 
 namespace {
 
-// What a place button stands for.
-enum placekind { eyeplace, eyeheight, focusplace, focusheight };
+// The view values that a button writes: X and Y, or Z, of the eye or the focus.
+enum valuekind { eyexy, eyeheight, focusxy, focusheight };
 
 struct quickview {
     const char* name;  // of the button
-    placekind kind;
+    valuekind kind;
     int numbers[2];  // model units, absolute: X and Y, or Z
     int left, top;   // twips on easyviews
 };
@@ -25,32 +25,32 @@ struct quickview {
 constexpr quickview quickviews[] = {
     // clang-format off
     // name               kind         figures          left  top
-    {"perpx1800y0",       eyeplace,    { 1800,     0},  4680, 8520},
-    {"perpx1660y690",     eyeplace,    { 1660,   690},  6480, 8280},
-    {"perpx1270y1270",    eyeplace,    { 1270,  1270},  7920, 7320},
-    {"perpx690y1660",     eyeplace,    {  690,  1660},  8880, 5880},
-    {"perpx0y1800",       eyeplace,    {    0,  1800},  9120, 4320},
-    {"perpxm690y1660",    eyeplace,    { -690,  1660},  8880, 2520},
-    {"perpxm1270y1270",   eyeplace,    {-1270,  1270},  7680, 1320},
-    {"perpxm1660y690",    eyeplace,    {-1660,   690},  6240,  480},
-    {"perpxm1800y0",      eyeplace,    {-1800,     0},  4680,  240},
-    {"perpxm1660ym690",   eyeplace,    {-1660,  -690},  3000,  480},
-    {"perpxm1270ym1270",  eyeplace,    {-1270, -1270},  1560, 1320},
-    {"perpxm690ym1660",   eyeplace,    { -690, -1660},   720, 2760},
-    {"perpx0ym1800",      eyeplace,    {    0, -1800},   360, 4320},
-    {"perpx690ym1660",    eyeplace,    {  690, -1660},   600, 5760},
-    {"perpx1270ym1270",   eyeplace,    { 1270, -1270},  1440, 7080},
-    {"perpx1660ym690",    eyeplace,    { 1660,  -690},  2760, 8160},
+    {"perpx1800y0",       eyexy,    { 1800,     0},  4680, 8520},
+    {"perpx1660y690",     eyexy,    { 1660,   690},  6480, 8280},
+    {"perpx1270y1270",    eyexy,    { 1270,  1270},  7920, 7320},
+    {"perpx690y1660",     eyexy,    {  690,  1660},  8880, 5880},
+    {"perpx0y1800",       eyexy,    {    0,  1800},  9120, 4320},
+    {"perpxm690y1660",    eyexy,    { -690,  1660},  8880, 2520},
+    {"perpxm1270y1270",   eyexy,    {-1270,  1270},  7680, 1320},
+    {"perpxm1660y690",    eyexy,    {-1660,   690},  6240,  480},
+    {"perpxm1800y0",      eyexy,    {-1800,     0},  4680,  240},
+    {"perpxm1660ym690",   eyexy,    {-1660,  -690},  3000,  480},
+    {"perpxm1270ym1270",  eyexy,    {-1270, -1270},  1560, 1320},
+    {"perpxm690ym1660",   eyexy,    { -690, -1660},   720, 2760},
+    {"perpx0ym1800",      eyexy,    {    0, -1800},   360, 4320},
+    {"perpx690ym1660",    eyexy,    {  690, -1660},   600, 5760},
+    {"perpx1270ym1270",   eyexy,    { 1270, -1270},  1440, 7080},
+    {"perpx1660ym690",    eyexy,    { 1660,  -690},  2760, 8160},
     {"perpz2100",         eyeheight,   { 2100},        12480,  480},
     {"perpz1600",         eyeheight,   { 1600},        12480, 1440},
     {"perpz1100",         eyeheight,   { 1100},        12480, 2400},
     {"perpz600",          eyeheight,   {  600},        12480, 3360},
     {"perpz100",          eyeheight,   {  100},        12480, 4320},
-    {"focusx0y0",         focusplace,  {    0,     0},  4680, 4320},
-    {"focusx192y384",     focusplace,  {  384,   192},  5640, 4800},  // swapped against its name and spot; it stays
-    {"focusx192ym384",    focusplace,  {  192,  -384},  3720, 4800},
-    {"focusxm192y384",    focusplace,  { -192,   384},  5640, 3840},
-    {"focusxm192ym384",   focusplace,  { -192,  -384},  3720, 3840},
+    {"focusx0y0",         focusxy,  {    0,     0},  4680, 4320},
+    {"focusx192y384",     focusxy,  {  384,   192},  5640, 4800},  // differs from its name and position, intended
+    {"focusx192ym384",    focusxy,  {  192,  -384},  3720, 4800},
+    {"focusxm192y384",    focusxy,  { -192,   384},  5640, 3840},
+    {"focusxm192ym384",   focusxy,  { -192,  -384},  3720, 3840},
     {"focusz850",         focusheight, {  850},        10800, 6120},
     {"focusz600",         focusheight, {  600},        10800, 6600},
     {"focusz350",         focusheight, {  350},        10800, 7080},
@@ -59,13 +59,13 @@ constexpr quickview quickviews[] = {
 };
 static_assert(std::size(quickviews) == 30);
 
-// One eye button also takes the focus X of easyviews to the main window: what was typed there gets through by it and
-// by no other. It stays so.
+// One eye button also copies the focus X of easyviews to the main window. It is the only way in which a text typed on
+// easyviews reaches the main window. This is intended.
 constexpr std::string_view focuscopier = "perpx0ym1800";
 
 constexpr int buttonsize = 255;  // twips
 
-// What the places of a kind share: the figures that they stand for, X and Y or Z, and how they look and sound.
+// What the buttons of a kind share: the view values that they write, colour and accessible name.
 struct kindrow {
     viewvaluespan values;
     colour back;
@@ -83,7 +83,7 @@ const kindrow kinds[] = {
 const kindrow& kindof(const quickview& q) { return kinds[q.kind]; }
 bool isheight(const quickview& q) { return kindof(q).values.size() == 1; }
 
-// "Eye at X 1800, Y 0", "Focus at Z 850": by the figures that the button writes.
+// Returns a name made of the numbers that the button writes: "Eye at X 1800, Y 0", "Focus at Z 850".
 std::string accessiblenameof(const quickview& q) {
     const std::string first = std::to_string(q.numbers[0]), second = std::to_string(q.numbers[1]);
     return std::string(kindof(q).accessiblename) + " at " +

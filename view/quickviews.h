@@ -1,17 +1,17 @@
-// Quick view change: the easyviews window with its 30 place buttons, each standing for a fixed place or height of the
-// eye or the focus. A click writes figures into boxes and nothing else: the view changes at SET.
+// Quick view change: the easyviews window with its 30 buttons, each for a fixed X and Y, or a fixed Z, of the eye or
+// the focus. A click only writes numbers into boxes: the view changes at SET.
 #pragma once
 
 namespace tessaly {
 
-// Opens easyviews with the figures of the main window's boxes.
+// Copies the boxes of the main window to easyviews and shows it.
 void clickfastchange();
 
-// Hides easyviews; nothing is applied.
+// Hides easyviews. The view is unchanged.
 void clickeasysetbtn();
 
-// Adds the 30 buttons to easyviews. A click on one writes its figures to its boxes on easyviews, then copies those to
-// the main window.
+// Adds the 30 buttons to easyviews. A click on one writes its numbers to its boxes on easyviews and copies those boxes
+// to the main window.
 void addquickviewbuttons();
 
 }  // namespace tessaly
