@@ -102,6 +102,8 @@ TEST(generators, samplesAreCommitted) {
 
 // Catches a change of buttons, data, colours or drawing that the guide does not follow; a replay that loses, moves or
 // adds an element; a capture that does not bring its picture back.
+// NOT-BUGS: The last click covers elements that are nearer
+// NOT-BUGS: Posts show in front of the panels at outside corners
 TEST(generators, buildingPicturesAreCommitted) {
     expectcommitted(scripts / "make-pictures.sh", playcommand, {documents}, 7);
 }

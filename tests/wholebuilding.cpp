@@ -100,6 +100,8 @@ void expectsamebyhand(const std::string& samples, const std::string& view, const
 
 }  // namespace
 
+// NOT-BUGS: F6 pairs the wrong girders with my panels
+// NOT-BUGS: F6 draws the panels of a floor over its girders
 TEST(wholebuilding, listsItsReplaysWithoutDrawing) {
     const struct {
         const char *files, *steps;

@@ -65,6 +65,7 @@ TEST_F(windowsession, typingAfterAClickReplacesTheNumberAndReturnSetsIt) {
     EXPECT_EQ(perptxtx.text, "1701");
 }
 
+// NOT-BUGS: A number has a yellow box
 TEST_F(windowsession, numbersOfQuickViewsAreTintedUntilTheyAreInForce) {
     click(fastchange);
     click(*findcontrol("perpz600"));
@@ -81,6 +82,7 @@ TEST_F(windowsession, numbersOfQuickViewsAreTintedUntilTheyAreInForce) {
     expecttinted({});
 }
 
+// NOT-BUGS: A box is red
 TEST_F(windowsession, boxesWarnOfWhatClicksWouldNotDo) {
     const struct {
         const control& box;

@@ -28,6 +28,7 @@ TEST_F(windowsession, theIconNeedsNoPlugin) {
     EXPECT_EQ(drawn.pixelColor(24, 24).alpha(), 255);
 }
 
+// NOT-BUGS: Nothing seems to happen, then the whole solid picture appears
 TEST_F(windowsession, theProgressStripMovesWhileThePictureWaits) {
     QTest::qWait(20);
     paintcounter counter;
