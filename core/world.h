@@ -1,6 +1,6 @@
 // The world: every table and scalar of the building set, all global, with meaning and unit.
 // The tables hold one element at a time, never the building: the building is the pixels on viewport and the lines of
-// the design files. Scalars are values: empty at first, then a number or a text.
+// the design files. Most scalars are values: empty at first, then a number or a text.
 #pragma once
 
 #include "core/table.h"
@@ -87,7 +87,7 @@ extern value viewprompt;                    // "AUTOMA" requests the fix-up of t
 extern value magshown;                      // the number in magtxt, a tenth of mag
 
 // Flags of the view, with the procedures that set and clear them
-//   perprelative   1: relateeye, in projectdraw and rebasepoints   0: SET and a retrieval
+//   perprelative   1: makeeyerelative, in projectdraw and rebasepoints   0: SET and a retrieval
 //   refready       1: referencepass, in projectdraw and replot     0: settle; plotgroups if plotstate is 1 or 2;
 //                                                                     projectdraw if skipfixup is 0
 //   skipfixup      1: plotgroups if plotstate is 1 or 2            0: projectdraw, at its start
@@ -97,7 +97,7 @@ extern value perprelative;  // 1: perpx.. are relative to the focus; 0: they are
 extern value refready;      // 1: the reference point has been projected for this view
 extern value skipfixup;     // 1: the next projectdraw skips fix-up and scaling
 extern value rebasedone;    // 1: the working points have been rebased on the focus since the last projectdraw
-extern value plotstate;     // 2: later plots use the view of the first one
+extern value plotstate;     // 2: a plot uses the eye as the last view change set it
 
 extern double planeseedx, planeseedy, planeseedz;        // a point near the eye, relative to the focus
 extern double planecentrex, planecentrey, planecentrez;  // picture plane's centre, relative to the focus
@@ -123,7 +123,7 @@ extern value palname;                        // palette file's name without fold
 extern value panelprefix;                    // first part of the panel file's name, set by the eight panel buttons
 extern value panelcode;                      // code of the panel last chosen or replayed; the painter reads it
 extern value girdercode, roofcode, anycode;  // codes of the record being replayed
-extern value firstfilename, secondfilename;  // names last picked in the file lists; the painter reads them
+extern value firstfilename, secondfilename;  // names last picked in file lists or deleted; the painter reads them
 extern value shapefile;                      // the data file last read into the tables, for reports
 extern value preopened;                      // 1..4: the reader of that number finds its file open on channel 1
 
