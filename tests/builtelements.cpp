@@ -1,7 +1,5 @@
 // Which positions of a plan are built, by what a design file says.
 #include "building/builtelements.h"
-#include "player/programstate.h"
-#include "player/tablechanges.h"
 #include "tests/session.h"
 
 #include <chrono>
@@ -20,12 +18,6 @@ std::string marksof(const window& plan) {
         if (const int times = c->elementnumber ? built.timesof(*c) : 0)
             marks += c->name + (times > 1 ? '*' + std::to_string(times) : "") + ' ';
     return marks + "in " + built.file;
-}
-
-std::string stateandtables() {
-    std::string all = tablesums();
-    for (const stateitem& s : programstate()) all += s.name + s.text + '\n';
-    return all;
 }
 
 }  // namespace
@@ -70,7 +62,7 @@ TEST(builtelements, followTheFileOfTheNextClick) {
     s.click("writefilebtn");
     s.click("postx0y16");
     EXPECT_EQ(marksof(layoutgirder), "postx0y16 in girders1.txt");
-    const std::string before = stateandtables();
+    const std::string before = worldtext(playedsurface.image);
     EXPECT_EQ(builttooltip(*findcontrol("postx0y16"), builton(layoutgirder)),
               "postx0y16, element 1, built once in girders1.txt");
     s.type("floor", "2x");
@@ -78,7 +70,7 @@ TEST(builtelements, followTheFileOfTheNextClick) {
     s.type("floor", "11");  // no floor: that of the click before
     EXPECT_EQ(marksof(layoutgirder), "postx0y16 in girders1.txt");
     s.type("floor", "1");
-    EXPECT_EQ(stateandtables(), before);
+    EXPECT_EQ(worldtext(playedsurface.image), before);
     std::filesystem::remove("designs/girders1.txt");
     EXPECT_EQ(marksof(layoutgirder), "in girders1.txt");
     mkfifo("designs/girders1.txt", 0600);

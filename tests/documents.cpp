@@ -1,6 +1,4 @@
-// The documents: no link leads nowhere, no picture is left out, and the pages of the help fit their window.
-#include "windows/helppages.h"
-
+// The documents: each link leads somewhere, and each picture is shown.
 #include "tests/session.h"
 
 #include <cctype>
@@ -63,19 +61,10 @@ TEST(documents, noLinkLeadsNowhereAndNoPictureIsLeftOut) {
     }
 }
 
-// A line too long is cut or wrapped on the screen, and the tables drawn with blanks fall apart.
-TEST(documents, everyPageOfTheHelpFitsItsControl) {
-    constexpr int cellwidth = 8, cellheight = 16, rim = 16;  // pixels of a fixed-pitch character, and around the page
-    for (const helppage& p : helppages) {
-        SCOPED_TRACE(p.page.name);
-        const int columns = (p.page.bounds.width / twipsperpixel - rim) / cellwidth;
-        const int helplines = (p.page.bounds.height / twipsperpixel - rim) / cellheight;
-        std::istringstream text(p.text);
-        int lines = 0;
-        for (std::string line; std::getline(text, line); ++lines) {
-            EXPECT_LE(static_cast<int>(line.size()), columns) << line;
-            for (const char c : line) EXPECT_TRUE(c >= ' ' && c <= '~') << line;
-        }
-        EXPECT_TRUE(lines > 10 && lines <= helplines) << lines;
-    }
+// A desktop finds the entry of a running window by this name.
+TEST(documents, theDesktopEntryNamesTheWindowsAsTheProgramDoes) {
+    const std::string entry = document("packaging/tessaly.desktop"), program = document("windows/qt/program/main.cpp");
+    EXPECT_NE(entry.find("\nStartupWMClass=tessaly\n"), std::string::npos);
+    EXPECT_NE(program.find("setDesktopFileName(\"tessaly\")"), std::string::npos);
+    EXPECT_NE(program.find("setApplicationName(\"tessaly\")"), std::string::npos);
 }

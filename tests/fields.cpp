@@ -47,7 +47,7 @@ TEST(fields, rulesAtTheirEdges) {
         {"1,\n2, \r\n\n3,\n4", "vvll", "1 2 3 4"},  // a row may be broken after a comma
         {"a,\nb,c,\n\nd", "ttttt", "\"a\" \"b\" \"c\" \"\" \"d\""},
         {"1,\n2,\nx", "rrrss", "1 - 2 \"\" \"x\""},  // but not a record's
-        {"\n \r\n\n 5", "v", "5"},                   // blank lines are skipped where a figure is expected
+        {"\n \r\n\n 5", "v", "5"},                   // blank lines are skipped where a number is expected
         {"\n5", "rr", "- 5"},                        // but are a field of a record
         {"5\n\n6", "rrr", "5 - 6"},
         {"a b ,c", "tt", "\"a b \" \"c\""},
@@ -78,20 +78,20 @@ TEST(fields, rulesAtTheirEdges) {
     }
 }
 
-// Everything before a key is free text, but for the key itself as a field of its own.
+// Everything before a key is free text, unless the key is a complete field. A line end in quotes counts as one.
 TEST(fields, keysAreFoundByWholeFields) {
     session s(ownfolder);
-    session::write("f.txt", "say KEY: twice, KEY:x,key:\n \"KEY:\" 1\nKEY:\n2\n");
+    session::write("f.txt", "\"a quoted\nfield\",say KEY: twice, KEY:x,key:\n \"KEY:\" 1\nKEY:\n2\n");
     textinput& in = openinput(1, "f.txt", "test");
     findkey(in, "KEY:");
     EXPECT_EQ(readvalue(in, "it"), 1);
     EXPECT_EQ(std::string(failureof([&] { findkey(in, "OTHER:"); })->what()),
-              "f.txt: the key OTHER: is missing from line 3 on: complete the file, or put the shipped one back "
+              "f.txt: the key OTHER: is missing from line 4 on: complete the file, or put the shipped one back "
               "(input past end of file)");
 }
 
-// What is open or not there; a pipe, which may never answer; a device, which may never end; a file that is too large to
-// be held whole.
+// A file that is open or missing, a pipe, which may never answer, a device, which may never end, and a file that is too
+// large to be read into memory.
 TEST(fields, refuseWhatTheyCannotOpen) {
     session s;
     ASSERT_EQ(::mkfifo("designs/pipe", 0666), 0);
@@ -103,7 +103,7 @@ TEST(fields, refuseWhatTheyCannotOpen) {
         int channel;
         const char* path;
         failurekind kind;
-        const char* told;
+        const char* report;
     } cases[] = {
         {2, "datah\\st-post.txt", failurekind::filealreadyopen, "datah\\st-beam.txt"},
         {1, "none\\x.txt", failurekind::filenotfound, "none\\x.txt"},
@@ -111,8 +111,8 @@ TEST(fields, refuseWhatTheyCannotOpen) {
         {1, "designs\\endless", failurekind::fileaccess, "not a regular file"},
     };
     for (const auto& c : cases) {
-        expectfailure(failureof([&] { openinput(c.channel, c.path, "test"); }), c.kind, c.told);
-        expectfailure(failureof([&] { openappend(c.channel, c.path, "test"); }), c.kind, c.told);
+        expectfailure(failureof([&] { openinput(c.channel, c.path, "test"); }), c.kind, c.report);
+        expectfailure(failureof([&] { openappend(c.channel, c.path, "test"); }), c.kind, c.report);
     }
     expectfailure(failureof([] { openinput(1, "designs\\large", "test"); }), failurekind::fileaccess, "67108865 bytes");
     std::filesystem::resize_file("designs/large", 64 << 20);

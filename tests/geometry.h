@@ -18,7 +18,7 @@ inline vec operator*(double f, const vec& a) { return {f * a[0], f * a[1], f * a
 inline double dot(const vec& a, const vec& b) { return a[0] * b[0] + a[1] * b[1] + a[2] * b[2]; }
 inline double length(const vec& a) { return std::sqrt(dot(a, a)); }
 inline vec unit(const vec& a) { return 1 / length(a) * a; }
-inline vec randompoint(dice& d, double reach) { return {d.within(reach), d.within(reach), d.within(reach)}; }
+inline vec randompoint(randomnumbers& d, double reach) { return {d.within(reach), d.within(reach), d.within(reach)}; }
 
 inline bool isnear(double drawn, double at) { return std::abs(drawn - at) <= 1e-3 + 1e-5 * std::abs(at); }
 inline bool isat(const vec& seen, float x, float y) { return isnear(x, seen[0]) && isnear(y, seen[1]); }

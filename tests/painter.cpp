@@ -39,7 +39,7 @@ void setfaces(const faces& all) {
     plotgroups();
 }
 
-faces randomfaces(dice& d) {
+faces randomfaces(randomnumbers& d) {
     faces all;
     for (int k = d.once(3) ? 130 : d.whole(1, 8); k > 0; --k) {
         face f{{}, d.whole(1, 100), d.whole(-1, 3), d.whole(-1, 3)};
@@ -106,10 +106,10 @@ TEST(painter, paintsWhatTheGeometrySays) {
         {1, {}, {}, "roof", 1500},
     };
     session s(ownfolder);
-    dice d;
+    randomnumbers d;
     for (const double turned : {0.0, 90.0, 180.0, 270.0, 90.5})
         for (const auto& c : cases) {
-            setview(d.figure(900, 2000), d.figure(-2000, -900), d.within(1000));
+            setview(d.real(900, 2000), d.real(-2000, -900), d.within(1000));
             std::tie(panelcode, firstfilename, secondfilename, elementkind) =
                 std::tie(c.code, c.first, c.second, c.kind);
             std::tie(focusx, focusy, focusz) = std::tuple(d.within(90), d.within(90), d.within(90));
@@ -123,8 +123,8 @@ TEST(painter, paintsWhatTheGeometrySays) {
                 ASSERT_EQ(s.lines().size(), expected.size());
                 for (std::size_t i = 0; i < expected.size(); ++i) {
                     const drawnline& l = s.lines()[i];
-                    ASSERT_TRUE(isat(expected[i].from, l.x1, l.y1) && isat(expected[i].to, l.x2, l.y2))
-                        << i << ' ' << l;
+                    ASSERT_TRUE(isat(expected[i].from, l.x1, l.y1)) << i << ' ' << l;
+                    ASSERT_TRUE(isat(expected[i].to, l.x2, l.y2)) << i << ' ' << l;
                     ASSERT_EQ(l.c, testcolour(expected[i].colour)) << i;
                 }
             }

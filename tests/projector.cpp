@@ -9,12 +9,6 @@ using namespace tessaly;
 
 namespace {
 
-void setfocus(const vec& f) {
-    focusx = f[0];
-    focusy = f[1];
-    focusz = f[2];
-}
-
 void setoneline(const vec& from, const vec& to) {
     placepoint(1, from[0], from[1], from[2]);
     placepoint(2, to[0], to[1], to[2]);
@@ -24,7 +18,7 @@ void setoneline(const vec& from, const vec& to) {
     lineend2.set(1, 2);
 }
 
-// A point of a random scene, relative to the focus but for its placed position; y is its figure in screeny.
+// A point of a random scene: relative to the focus, except its position as placed. y is the value of its screeny.
 struct point {
     vec placed, now, walksfrom;
     double y;
@@ -67,7 +61,8 @@ struct scene {
                 two.y = (*to)[1];
                 ASSERT_LT(found, drawn.size());
                 const drawnline& d = drawn[found++];
-                ASSERT_TRUE(isat(*from, d.x1, d.y1) && isat(*to, d.x2, d.y2)) << "line " << k << ": " << d;
+                ASSERT_TRUE(isat(*from, d.x1, d.y1)) << "line " << k << ": " << d;
+                ASSERT_TRUE(isat(*to, d.x2, d.y2)) << "line " << k << ": " << d;
                 ASSERT_EQ(d.c, testcolour(static_cast<int>(wirecolour[group])));
             }
         }
@@ -80,17 +75,17 @@ struct scene {
     }
 };
 
-scene randomscene(dice& d) {
+scene randomscene(randomnumbers& d) {
     static const value sets[] = {1, 2, value(), "2"};
     resetworld();
-    const double away = d.once(2) ? d.figure(200, 900) : d.figure(1500, 4000), around = d.figure(0, 6.28);
-    setview(away * std::cos(around), away * std::sin(around), d.within(away), d.figure(0.1, 0.6));
+    const double away = d.once(2) ? d.real(200, 900) : d.real(1500, 4000), around = d.real(0, 6.28);
+    setview(away * std::cos(around), away * std::sin(around), d.within(away), d.real(0.1, 0.6));
     perpx = perpy = perpz = 5;  // a plot takes the eye of the view in force
     vertshift = d.within(300);
     horizshift = d.within(300);
     drawset = d.of(sets);
     scene s{randompoint(d, 300), {}, {}, drawset.isnumber() && drawset == 2};
-    setfocus(s.focus);
+    std::tie(focusx, focusy, focusz) = std::tuple_cat(s.focus);
     ptcount1 = ptcount2 = ptcount3 = ptcount4 = 5;
     for (int k = 1; k <= 31; ++k) {
         const int first = d.whole(1, 6), second = (first + d.whole(0, 4)) % 6 + 1;
@@ -120,7 +115,7 @@ scene randomscene(dice& d) {
 // A factor or a sign of the projection, a walk that stops early or late, a block or a group that is left out.
 TEST(projector, drawsWhatTheGeometrySays) {
     session s;
-    dice d;
+    randomnumbers d;
     for (int i = 0; i < 300 && !testing::Test::HasFatalFailure(); ++i) {
         scene random = randomscene(d);
         plotgroups();
@@ -139,43 +134,10 @@ TEST(projector, aPointInThePlaneCountsAsFar) {
     EXPECT_EQ(joined(planecentrex, walkcount), "940 299");
 }
 
-// Equal figures, and equal ratios, of eye and focus; a figure of 0 becomes 0.1 before. What is nudged is told by its
-// shares.
-TEST(projector, fixUpNudgesDegenerateViews) {
-    struct {
-        vec eye, focus;
-        double sharex, sharey;
-    } const cases[] = {
-        {{10, 20, 30}, {10, 20, 5}, 0.997, 1},
-        {{10, 20, 30}, {10, 5, 30}, 0.998, 1},
-        {{10, 20, 30}, {5, 20, 30}, 1, 0.999},
-        {{0, -5, 0}, {0, 0, 0}, 0.998, 1},
-    };
-    const auto notzero = [](double figure) { return figure == 0 ? 0.1 : figure; };
-    for (const auto& [e, f, sharex, sharey] : cases) {
-        session s;
-        setview(e[0], e[1], e[2], 0.056);
-        setfocus(f);
-        vertshift = 123.456;
-        viewprompt = "AUTOMA";
-        plotgroups();
-        EXPECT_EQ(joined(viewprompt, mag), "\"AUTOMA\" 0.056");  // a plot of the view in force passes over it
-        perprelative = plotstate = 0;
-        plotgroups();
-        const vec focus{notzero(f[0]), notzero(f[1]), notzero(f[2])};
-        const vec eye = vec{sharex * notzero(e[0]), sharey * notzero(e[1]), notzero(e[2])} - focus;
-        EXPECT_EQ((vec{focusx, focusy, focusz}), focus);
-        EXPECT_EQ((vec{perpx, perpy, perpz}), eye) << e[0] << ' ' << f[0];
-        EXPECT_EQ((vec{perprelx, perprely, perprelz}), eye);
-        EXPECT_EQ(joined(viewprompt, perprelative, mag, refready), "\"PROMPT\" 1 0.56 1");
-        EXPECT_EQ(magtxt.text + " " + verttxt.text, "0.056 123.4");
-    }
-}
-
 TEST(projector, zeroDivisorsAreFailures) {
     struct {
         vec eye, point;
-        const char* told;
+        const char* report;
     } const cases[] = {{{1850, -1850, 550}, {0, 0, 0}, "a point lies on the line from the eye to the focus"},
                        {{0, 0, 0}, {5, 5, 5}, "the eye is at the focus"},
                        {{0, 0, 1024}, {5, 5, 5}, "the eye is straight above"}};
@@ -183,6 +145,19 @@ TEST(projector, zeroDivisorsAreFailures) {
         session s;
         setview(c.eye[0], c.eye[1], c.eye[2]);
         setoneline(c.point, {1, 2, 3});
-        expectfailure(failureof(plotgroups), failurekind::divisionbyzero, c.told);
+        expectfailure(failureof(plotgroups), failurekind::divisionbyzero, c.report);
+    }
+}
+
+// NOT-BUGS: A thin line of old drawing stays at the left and upper edge
+TEST(projector, clearsLeaveTheEdgesOfThePicture) {
+    session s;
+    s.start();
+    for (const auto& [button, first] :
+         {std::pair("fillscreen", 1.0F), std::pair("cventerbtn", 1.0F), std::pair("vertinc", 2.0F)}) {
+        s.takelines();
+        s.click(button);
+        EXPECT_EQ(s.lines()[0].x1, first) << button;
+        EXPECT_EQ(s.lines()[0].y1, first) << button;
     }
 }

@@ -1,4 +1,4 @@
-// Random figures for tests, the same ones at every run.
+// Random numbers for tests, the same at every run.
 #pragma once
 
 #include <cmath>
@@ -6,12 +6,12 @@
 
 namespace tessaly {
 
-class dice {
+class randomnumbers {
   public:
-    explicit dice(unsigned seed = 7) : engine(seed) {}
+    explicit randomnumbers(unsigned seed = 7) : engine(seed) {}
     int whole(int from, int to) { return std::uniform_int_distribution(from, to)(engine); }
-    double figure(double from, double to) { return std::uniform_real_distribution(from, to)(engine); }
-    double within(double reach) { return figure(-reach, reach); }
+    double real(double from, double to) { return std::uniform_real_distribution(from, to)(engine); }
+    double within(double limit) { return real(-limit, limit); }
     bool once(int in) { return whole(1, in) == 1; }
     template <class list>
     auto& of(list& all) {

@@ -44,7 +44,7 @@ lit drawn(float x1, float y1, float x2, float y2) {
 }
 
 // Returns a coordinate of any size that is drawn exactly, often with half a pixel.
-float anysize(dice& d) {
+float anysize(randomnumbers& d) {
     if (d.once(4)) return static_cast<float>(d.whole(-40, 80)) / 2;
     return static_cast<float>(std::ldexp(d.within(1), d.whole(0, d.once(2) ? 12 : 29)));
 }
@@ -53,7 +53,7 @@ float anysize(dice& d) {
 
 // Finds a pixel off by one, a half rounded the other way, a direction that matters, an overflow in a product.
 TEST(raster, linesLightTheNearestPixels) {
-    dice d;
+    randomnumbers d;
     for (int i = 0; i < 30000; ++i) {
         const float x1 = anysize(d), y1 = anysize(d), x2 = anysize(d), y2 = anysize(d);
         const lit expected = reference(x1, y1, x2, y2);
@@ -65,7 +65,7 @@ TEST(raster, linesLightTheNearestPixels) {
 // Lines with an end at any distance of single precision may differ in a pixel now and then. Two ends that far away are
 // safe, and an end that is not finite draws nothing.
 TEST(raster, linesFromFarAway) {
-    dice d;
+    randomnumbers d;
     int differing = 0;
     for (int i = 0; i < 10000; ++i) {
         const double angle = d.within(3.2), far = std::ldexp(1.0, d.whole(30, 127)), near = -d.whole(0, 5000);
@@ -86,7 +86,7 @@ TEST(raster, linesFromFarAway) {
 // Finds a step that is skipped or taken at the wrong t, a cast out of range. Edges of any length, 0 and almost 0 too,
 // near and far, often starting on the border of two pixels.
 TEST(raster, facesLightThePixelsOfTheirLines) {
-    dice d;
+    randomnumbers d;
     for (int i = 0; i < 40000; ++i) {
         double corners[8];
         for (double& corner : corners)

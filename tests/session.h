@@ -1,4 +1,4 @@
-// A scratch working folder with the program started in it, and a surface that keeps every drawn line. Tests act as a
+// A scratch working folder with the program started in it, and a surface that stores every drawn line. Tests act as a
 // user does (click, pick, type) or set the world's tables themselves and call one procedure.
 #pragma once
 
@@ -7,9 +7,11 @@
 #include "core/textfiles.h"
 #include "core/value.h"
 #include "core/world.h"
+#include "player/checksum.h"
 #include "player/commands.h"
 #include "player/programstate.h"
-#include "render/surface.h"
+#include "player/tablechanges.h"
+#include "render/raster.h"
 #include "tools/workingfolder.h"
 #include "windows/handlers.h"
 
@@ -48,7 +50,7 @@ inline const filesbypath ownfolder{{"datah/.own", ""}};  // no shipped data: a t
 
 class session {
   public:
-    // In a working folder of the shipped data, or, with files, in one that holds these and nothing else.
+    // Creates a working folder with the shipped data or, if files are given, with only these.
     explicit session(const filesbypath& files = {}) : folder(files.empty() ? TESSALY_SOURCE_DIR : "") {
         for (const auto& [path, bytes] : files) write(path, bytes);
         viewportsurface = &viewport;
@@ -58,7 +60,7 @@ class session {
     ~session() { resetchannels(); }
     session(const session&) = delete;
 
-    // ---- what a user does; what no user could reach is an error of the test ----
+    // ---- what a user does; using a hidden control is an error of the test ----
     void start() { click("startprogrambtn"); }
     void click(const std::string& name) { playline("click " + name); }
     void type(const std::string& name, const std::string& text) { playline("type " + name + ' ' + inquotes(text)); }
@@ -67,7 +69,7 @@ class session {
     // ---- what came of it ----
     const std::vector<drawnline>& lines() const { return viewport.drawn; }
     std::vector<drawnline> takelines() { return std::exchange(viewport.drawn, {}); }
-    // The bytes of a file of the working folder; "(none)" where there is no such file.
+    // The bytes of a file of the working folder; "(none)" if it does not exist.
     static std::string file(const std::string& path) {
         std::ifstream in(path, std::ios::binary);
         return in ? (std::ostringstream() << in.rdbuf()).str() : "(none)";
@@ -82,6 +84,15 @@ class session {
     workingfolder folder;
 };
 
+// Everything that later steps depend on, line by line: each scalar, and checksums of each table and of the picture.
+inline std::string worldtext(const raster& image) {
+    std::string all = tablesums();
+    for (const scalar& s : scalars()) all += s.name + ' ' + statetext(*s.held) + '\n';
+    checksum pixels;
+    for (const std::uint32_t pixel : image.picture().pixels) pixels.addword(pixel);
+    return all + "picture " + pixels.text() + '\n';
+}
+
 // The values with blanks between them, to compare several at once: a failure shows which of them differs.
 template <class... values>
 std::string joined(const values&... all) {
@@ -93,7 +104,7 @@ std::string joined(const values&... all) {
 // Messages of failed tests show a value as the state of the program does.
 inline void PrintTo(const value& v, std::ostream* out) { *out << statetext(v); }
 
-// The failure that a procedure ends with, none where it does not fail.
+// The failure that a procedure ends with; nothing if it succeeds.
 template <class procedure>
 std::optional<failure> failureof(procedure run) {
     try {
@@ -104,20 +115,20 @@ std::optional<failure> failureof(procedure run) {
     return std::nullopt;
 }
 
-inline void expectfailure(const std::optional<failure>& f, failurekind kind, const std::string& told) {
-    ASSERT_TRUE(f) << told;
+inline void expectfailure(const std::optional<failure>& f, failurekind kind, const std::string& report) {
+    ASSERT_TRUE(f) << report;
     EXPECT_EQ(f->kind, kind) << f->what();
-    EXPECT_NE(std::string(f->what()).find(told), std::string::npos) << f->what() << "\nwhere expected: " << told;
+    EXPECT_NE(std::string(f->what()).find(report), std::string::npos) << f->what() << "\nexpected: " << report;
 }
 
-// A text with its first occurrence of something put otherwise; that it is there is the test's affair.
+// A text with the first occurrence of another text, which it must contain, replaced.
 inline std::string replaced(std::string text, const std::string& taken, const std::string& put) {
     const std::size_t at = text.find(taken);
     if (at == std::string::npos) throw std::logic_error("there is no " + taken);
     return text.replace(at, taken.size(), put);
 }
 
-// An element file section by section; what a test does not give is empty, with its end row.
+// An element file section by section. A section that a test does not set is empty but for its end row.
 struct elementtext {
     std::string wirecolours = "1,2,3,4,5,6,7", points = "", lines[5] = {}, cubes400 = "", cubes600 = "", planes = "",
                 framing1 = "", framing2 = "", script = "TRAN\nSTOP\n";
@@ -132,13 +143,12 @@ struct elementtext {
     }
 };
 
-// A drawing colour of its own for each palette index up to 120.
+// A different drawing colour for each palette index up to 120.
 inline colour testcolour(int k) {
     return {static_cast<std::uint8_t>(k), static_cast<std::uint8_t>(2 * k), static_cast<std::uint8_t>(255 - k)};
 }
 
-// A view with the eye standing at (x, y, z) from the focus, as it is in force once the program has started, and a
-// palette of testcolour.
+// Sets the view as after the start, with the eye at (x, y, z) from the focus, and a palette of testcolour.
 inline void setview(double x, double y, double z, double magnification = 0.56) {
     perprelx = perpx = x;
     perprely = perpy = y;

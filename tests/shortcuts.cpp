@@ -1,38 +1,13 @@
 // Compares every shortcut with the plain method that it replaces: the same random elements are read and painted with
 // both, and after each the tables, scalars, pixels and the report of a failure are the same.
 #include "data/elements.h"
-#include "player/checksum.h"
 #include "render/painter.h"
-#include "render/raster.h"
 #include "tests/random.h"
 #include "tests/session.h"
 
 using namespace tessaly;
 
 namespace {
-
-std::string sumof(const std::vector<value>& all) {
-    checksum sum;
-    for (std::size_t i = 0; i < all.size(); ++i) {
-        const value& v = all[i];
-        if (v.isnumber() && v == 0) continue;
-        sum.add(std::uint64_t{i});
-        if (v.isnumber()) sum.add(double(v));
-        if (v.istext()) sum.add(v.text());
-    }
-    return sum.text();
-}
-
-// Returns the state of the program: a checksum of each table, each scalar and the picture.
-std::string statesums(const raster& image) {
-    std::string all;
-    for (const tablebase* t = tablebase::first; t != nullptr; t = t->next)
-        all += std::string(t->name) + ' ' + sumof(t->elements()) + '\n';
-    for (const scalar& s : scalars()) all += s.name + ' ' + sumof({*s.held}) + '\n';
-    checksum picture;
-    picture.add(std::string_view(reinterpret_cast<const char*>(image.pixels()), 4U * 300 * 200));
-    return all + "picture " + picture.text() + '\n';
-}
 
 std::string row(std::initializer_list<std::string> fields) {
     std::string text;
@@ -41,15 +16,15 @@ std::string row(std::initializer_list<std::string> fields) {
     return text;
 }
 
-std::string whole(dice& d, int from, int to) { return std::to_string(d.whole(from, to)); }
+std::string whole(randomnumbers& d, int from, int to) { return std::to_string(d.whole(from, to)); }
 
-std::string coordinate(dice& d) {
+std::string coordinate(randomnumbers& d) {
     if (d.once(200)) return "1.5e6";  // too far away for the painter's sort
     if (d.once(400)) return "lost";
     return whole(d, -40, 90) + (d.once(4) ? ".375" : "0");
 }
 
-std::string element(dice& d) {
+std::string element(randomnumbers& d) {
     elementtext e;
     const int points = d.whole(4, 110), quads = d.once(5) ? d.whole(90, 140) : d.whole(0, 12);
     const auto at = [&] { return coordinate(d); };
@@ -74,7 +49,7 @@ std::string element(dice& d) {
 
 // Reads and paints one of a few elements, some of them rewritten first. Rotated faces change their colour each time
 // they are painted.
-void drawsome(dice& d) {
+void drawsome(randomnumbers& d) {
     setview(d.whole(-90, 90) * 10, d.whole(-90, 90) * 10, d.whole(-9, 90) * 10, d.whole(1, 6) / 20.0);
     horizshift = -600;
     vertshift = 400;  // the middle of the picture
@@ -109,11 +84,11 @@ TEST(shortcuts, elementsLeaveTheSameTablesAndPixels) {
             raster image(300, 200);
             viewportsurface = &image;
             noshortcuts = plain;
-            dice d(seed);
+            randomnumbers d(seed);
             for (int step = 0; step < 24; ++step) {
                 const auto f = failureof([&] { drawsome(d); });
                 if (f) resetchannels();
-                seen[plain].push_back(statesums(image) + (f ? f->what() : ""));
+                seen[plain].push_back(worldtext(image) + (f ? f->what() : ""));
             }
         }
         for (std::size_t step = 0; step < seen[0].size(); ++step)

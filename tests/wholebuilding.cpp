@@ -1,8 +1,6 @@
 // F6: the list of its replays as a table, and what it leaves against the same picks by hand.
 #include "building/wholebuilding.h"
 #include "core/viewvalues.h"
-#include "player/programstate.h"
-#include "player/tablechanges.h"
 #include "tests/session.h"
 
 #include <algorithm>
@@ -32,26 +30,13 @@ std::string textof(const std::vector<replaystep>& steps) {
     return text;
 }
 
-// All that a user or a later step could notice, but for the lists and prompts of picks by hand.
-std::string leftbehind() {
-    std::string all;
-    for (const scalar& s : scalars())
-        all += s.name + ' ' + (s.held->isnumber() ? shortesttext(*s.held) : inquotes(s.held->text())) + '\n';
-    all += tablesums();
-    for (const viewvalue& v : viewvalues) all += v.box.name + ' ' + v.box.text + '\n';
-    checksum pixels;
-    const raster& image = playedsurface.image;
-    for (int i = 0; i < image.width() * image.height(); ++i) pixels.add(std::uint64_t{image.pixels()[i]});
-    for (const auto& file : fs::recursive_directory_iterator("nonuser")) all += file.path().string() + '\n';
-    return all + "picture " + pixels.text() + '\n';
-}
-
-std::string controlsbutthoseoftheview() {
+// The text of the view's boxes, or the state of all other controls.
+std::string controls(bool ofview) {
     std::string all;
     for (const stateitem& s : programstate())
-        if (s.kind == "control" &&
-            std::none_of(std::begin(viewvalues), std::end(viewvalues), [&](auto& v) { return s.name == v.box.name; }))
-            all.append(s.name).append(s.visibility).append(s.text + '\n');
+        if (s.kind == "control" && ofview == std::any_of(std::begin(viewvalues), std::end(viewvalues),
+                                                         [&](const viewvalue& v) { return s.name == v.box.name; }))
+            all += s.name + ' ' + s.text + (ofview ? "" : s.visibility == "shown" ? " shown" : " hidden") + '\n';
     return all;
 }
 
@@ -66,11 +51,13 @@ std::string played(const std::string& samples, const std::string& view, const st
     s.start();
     std::istringstream script(view + steps);
     for (std::string line; std::getline(script, line);) {
-        const std::string before = controlsbutthoseoftheview();
+        const std::string before = controls(false);
         playline(line);
-        EXPECT_TRUE(line != "key F6" || controlsbutthoseoftheview() == before);
+        EXPECT_TRUE(line != "key F6" || controls(false) == before);
     }
-    return leftbehind();
+    std::string left = worldtext(playedsurface.image) + controls(true);
+    for (const auto& file : fs::directory_iterator("nonuser")) left += file.path().string() + '\n';
+    return left;
 }
 
 std::string pair(const std::string& girders, const std::string& panels) {

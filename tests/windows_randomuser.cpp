@@ -3,6 +3,7 @@
 // same actions, has left the same files and the same picture, or has ended with the same report.
 // TESSALY_ACTIONS: how many actions in all; TESSALY_SEED: of the first session, which the others follow.
 
+#include "building/builtelements.h"
 #include "core/viewvalues.h"
 #include "render/raster.h"
 #include "tests/commandline.h"
@@ -35,7 +36,7 @@ std::string shownby(const QWidget& widget) {
     return {};
 }
 
-class randomuser : public windowsession {
+class windows_randomuser : public windowsession {
   protected:
     void use(unsigned seed, unsigned& actions) {
         random.seed(seed);
@@ -63,7 +64,7 @@ class randomuser : public windowsession {
     control* anycontrol(std::initializer_list<controlkind> kinds) {
         std::vector<control*> found;
         for (control* c : anywindow().controls)
-            if (c->shown && std::find(kinds.begin(), kinds.end(), c->kind) != kinds.end()) found.push_back(c);
+            if (c->shown && std::ranges::count(kinds, c->kind) > 0) found.push_back(c);
         return found.empty() ? nullptr : found[oneof(found.size())];
     }
 
@@ -114,13 +115,13 @@ class randomuser : public windowsession {
     }
 
     void typeany() {
-        static const std::vector<const char*> figures{"0", "1", "2.5", "-270", "1850", "-1850.5", ".07", "100", "10"},
+        static const std::vector<const char*> numbers{"0", "1", "2.5", "-270", "1850", "-1850.5", ".07", "100", "10"},
             words{"3x", "4", "10", "solid", "wireframe", "on", "off"}, names{"a.bmp", "b.bmp"},
             snips{"snip both sides", "Snip", "Full panel"};
         control* const c = anycontrol({controlkind::textbox, controlkind::combobox});
         if (!c || widgetof(*c)->focusPolicy() == Qt::NoFocus) return;
         const bool word = c == &wiresolid || c == &writefilebox || c == &floor;
-        const auto& texts = c == &capbox ? names : c == &panelsnipper ? snips : word ? words : figures;
+        const auto& texts = c == &capbox ? names : c == &panelsnipper ? snips : word ? words : numbers;
         const char* const text = texts[oneof(texts.size())];
         script += "type " + c->name + " \"" + text + "\"\n";
         event(c, [&] {
@@ -130,9 +131,8 @@ class randomuser : public windowsession {
             runevent([] {});
         });
         EXPECT_EQ(c->text, text);
-        const bool ofview =
-            std::any_of(std::begin(viewvalues), std::end(viewvalues), [c](const viewvalue& v) { return &v.box == c; });
-        if (!ofview || oneof(2) == 0) return;
+        const bool sets = std::ranges::any_of(viewvalues, [c](const viewvalue& v) { return &v.box == c; });
+        if (!sets || oneof(2) == 0) return;
         script += "click cventerbtn\n";
         event(nullptr, [&] { QTest::keyClick(widgetof(*c), Qt::Key_Return); });
         EXPECT_EQ(usedcontrol, &cventerbtn);
@@ -163,16 +163,18 @@ class randomuser : public windowsession {
     static void expectsame(const control& c, const QWidget& widget) {
         SCOPED_TRACE(c.name);
         EXPECT_EQ(widget.isHidden(), !c.shown);
-        EXPECT_TRUE(c.elementnumber > 0 || widget.toolTip().toStdString() == tooltipof(c))
-            << qPrintable(widget.toolTip());
+        if (c.in->shown || c.elementnumber == 0) {
+            EXPECT_EQ(widget.toolTip().toStdString(),
+                      c.elementnumber > 0 ? builttooltip(c, builton(*c.in)) : tooltipof(c));
+        }
         const auto* const box = qobject_cast<const QComboBox*>(&widget);
         const auto* const rows = qobject_cast<const QListWidget*>(&widget);
         EXPECT_TRUE(c.kind == controlkind::picturebox || rows || shownby(widget) == c.text) << shownby(widget);
         EXPECT_TRUE(!box || box->currentIndex() == box->findText(QString::fromStdString(c.text), Qt::MatchExactly));
         if (!rows || !c.shown) return;  // a hidden list may be filled later
-        ASSERT_EQ(static_cast<std::size_t>(rows->count()), c.items.size());
-        for (int row = 0; row < rows->count(); ++row)
-            EXPECT_EQ(rows->item(row)->text().toStdString(), c.items[static_cast<std::size_t>(row)]);
+        std::vector<std::string> items;
+        for (int row = 0; row < rows->count(); ++row) items.push_back(rows->item(row)->text().toStdString());
+        EXPECT_EQ(items, c.items);
         EXPECT_EQ(rows->selectionModel()->selectedRows().value(0).row(), c.selected);
     }
 
@@ -186,13 +188,13 @@ class randomuser : public windowsession {
     }
 
     // The player's status and report, and what it leaves.
-    void comparewithplayer(const std::string& told) {
+    void comparewithplayer(const std::string& reported) {
         ASSERT_TRUE(ended() || widgetof(viewport)->grab().save("screen.png"));  // as it is on the screen
         const std::string here = std::filesystem::current_path();
         workingfolder played(TESSALY_SOURCE_DIR);
         std::ofstream("actions.play") << script << (ended() ? "" : "picture screen.png\n");
         EXPECT_EQ(std::system((playcommand + " actions.play 2>report.txt").c_str()) != 0, !report.empty());
-        EXPECT_EQ(session::file("report.txt"), told);
+        EXPECT_EQ(session::file("report.txt"), reported);
         for (const std::string kept : {"designs", "bmps", "nonuser"})
             EXPECT_EQ(std::system(("diff -r " + kept + " " + shellquoted(here + "/" + kept)).c_str()), 0) << "after\n"
                                                                                                           << script;
@@ -208,16 +210,16 @@ class randomuser : public windowsession {
 }  // namespace
 
 // NOT-BUGS: The boxes cover part of the picture
-TEST_F(randomuser, leavesWhatThePlayerLeaves) {
+TEST_F(windows_randomuser, leavesWhatThePlayerLeaves) {
     unsigned actions = fromenvironment("TESSALY_ACTIONS", 400);
     for (unsigned seed = fromenvironment("TESSALY_SEED", 1); actions > 0 && !HasFailure(); ++seed) {
         SCOPED_TRACE("TESSALY_SEED=" + std::to_string(seed));
         testing::internal::CaptureStderr();
         use(seed, actions);
-        const std::string told = testing::internal::GetCapturedStderr();
+        const std::string errors = testing::internal::GetCapturedStderr();
         if (HasFailure()) return;
-        const std::size_t line = std::min(told.find("failure "), told.size());
-        comparewithplayer(told.substr(line, told.find('\n', line) + 1 - line));
+        const std::size_t line = std::min(errors.find("failure "), errors.size());
+        comparewithplayer(errors.substr(line, errors.find('\n', line) + 1 - line));
         TearDown();
         SetUp();
     }

@@ -12,6 +12,8 @@
 
 namespace tessaly {
 
+using windows_positions = windowsession;
+
 namespace {
 
 constexpr int leastpixels = 10;  // of letters that can be read
@@ -40,7 +42,7 @@ bool liesover(const control& a, const control& b) {
 }  // namespace
 
 // NOT-BUGS: The picture does not grow with the window
-TEST_F(windowsession, controlsStandAtTheirPlacesAndAreSeenWhole) {
+TEST_F(windows_positions, controlsStandAtTheirPlacesAndAreSeenWhole) {
     runevent([] {
         for (window* w : allwindows()) showwindow(*w);
     });
@@ -72,7 +74,7 @@ TEST_F(windowsession, controlsStandAtTheirPlacesAndAreSeenWhole) {
 }
 
 // Beside the picture as far as the screen reaches, in front of the main window, and whole on the screen.
-TEST_F(windowsession, windowsOpenAtTheRightAndOnTheScreen) {
+TEST_F(windows_positions, windowsOpenAtTheRightAndOnTheScreen) {
     constexpr int border = 2;  // pixels: by which the desktop moves the interior
     const QRect screen = frameof(vistaplan)->screen()->availableGeometry().adjusted(0, 0, border, border);
     EXPECT_TRUE(screen.contains(frameof(vistaplan)->geometry()));
@@ -97,7 +99,7 @@ TEST_F(windowsession, windowsOpenAtTheRightAndOnTheScreen) {
     EXPECT_TRUE(frameof(layoutgirder)->isVisible());
 }
 
-TEST_F(windowsession, helpPagesOpenAtTheirTopAndTheirRegionStaysMarked) {
+TEST_F(windows_positions, helpPagesOpenAtTheirTopAndTheirRegionStaysMarked) {
     keys("=vistaplan F1 =instructions");
     QScrollBar& bar = *frameof(instructions)->verticalScrollBar();
     control* const regions[] = {&elementsbtn, &filereaderbtn, &displaybtn, &viewcontrolbtn, &capturesbtn};
@@ -114,16 +116,6 @@ TEST_F(windowsession, helpPagesOpenAtTheirTopAndTheirRegionStaysMarked) {
         runevent([] {});
         EXPECT_NE(widgetof(*region)->grab().toImage(), marked) << region->name;
     }
-}
-
-// A desktop finds the entry of a running window by this name.
-TEST(desktopentry, namesTheWindowsAsTheProgramDoes) {
-    const std::string root = TESSALY_SOURCE_DIR;
-    const std::string entry = session::file(root + "/packaging/tessaly.desktop"),
-                      program = session::file(root + "/windows/qt/program/main.cpp");
-    EXPECT_NE(entry.find("\nStartupWMClass=tessaly\n"), std::string::npos);
-    EXPECT_NE(program.find("setDesktopFileName(\"tessaly\")"), std::string::npos);
-    EXPECT_NE(program.find("setApplicationName(\"tessaly\")"), std::string::npos);
 }
 
 }  // namespace tessaly

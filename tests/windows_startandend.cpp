@@ -6,6 +6,8 @@
 
 namespace tessaly {
 
+using windows_startandend = windowsession;
+
 namespace {
 
 // Counts how often widgets are painted.
@@ -21,7 +23,7 @@ class paintcounter : public QObject {
 }  // namespace
 
 // Catches an icon that only a plugin of the toolkit can draw: it has no sizes.
-TEST_F(windowsession, theIconNeedsNoPlugin) {
+TEST_F(windows_startandend, theIconNeedsNoPlugin) {
     const QIcon icon = QApplication::windowIcon();
     EXPECT_TRUE(icon.availableSizes().contains(QSize(16, 16)) && icon.availableSizes().contains(QSize(256, 256)));
     const QImage drawn = icon.pixmap(QSize(48, 48), 1.0).toImage();
@@ -29,7 +31,7 @@ TEST_F(windowsession, theIconNeedsNoPlugin) {
 }
 
 // NOT-BUGS: Nothing seems to happen, then the whole solid picture appears
-TEST_F(windowsession, theProgressStripMovesWhileThePictureWaits) {
+TEST_F(windows_startandend, theProgressStripMovesWhileThePictureWaits) {
     QTest::qWait(20);
     paintcounter counter;
     QWidget *const strip = widgetof(progressbar), *const picture = widgetof(viewport);
@@ -49,7 +51,7 @@ TEST_F(windowsession, theProgressStripMovesWhileThePictureWaits) {
     EXPECT_EQ(counter.paints[picture], 1);
 }
 
-TEST_F(windowsession, endsWithStatus0WhereTheUserWishesAndWith1AfterAReport) {
+TEST_F(windows_startandend, endsWithStatus0WhereTheUserWishesAndWith1AfterAReport) {
     EXPECT_EQ(frameof(layoutgirder), nullptr);  // a window is made on first use
     EXPECT_TRUE(frameof(vistaplan)->windowState() & Qt::WindowMaximized);
     QTimer::singleShot(0, [] { click(exitbtn); });

@@ -1,17 +1,20 @@
-// Boxes in the real windows: what is typed replaces what is there, Return is SET, the tint says what is not in force;
-// tooltips of steps; and the wheel.
+// Boxes and lists in the real windows: typing, the tint of numbers that are not in force, tooltips, the wheel, rows.
 
 #include "core/viewvalues.h"
 #include "tests/windowsession.h"
 
+#include <QAbstractItemDelegate>
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QComboBox>
+#include <QPainter>
 #include <QWheelEvent>
 
 #include <set>
 
 namespace tessaly {
+
+using windows_boxesandlists = windowsession;
 
 namespace {
 
@@ -35,9 +38,21 @@ void turnwheel(QWidget& over) {
     QApplication::sendEvent(&over, &turn);
 }
 
+// The colour of a row's end in a state.
+QColor paintedrow(const QListWidget& rows, QStyle::State state) {
+    QImage image(60, 17, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    QStyleOptionViewItem row;
+    row.rect = image.rect();
+    row.state = QStyle::State_Enabled | state;
+    rows.itemDelegate()->paint(&painter, row, rows.model()->index(3, 0));
+    return image.pixelColor(55, 8);
+}
+
 }  // namespace
 
-TEST_F(windowsession, typingAfterAClickReplacesTheNumberAndReturnSetsIt) {
+TEST_F(windows_boxesandlists, typingAfterAClickReplacesTheNumberAndReturnSetsIt) {
     keys("=vistaplan shopfm Return");
     int number = 700;
     for (const viewvalue& v : viewvalues) {
@@ -66,7 +81,7 @@ TEST_F(windowsession, typingAfterAClickReplacesTheNumberAndReturnSetsIt) {
 }
 
 // NOT-BUGS: A number has a yellow box
-TEST_F(windowsession, numbersOfQuickViewsAreTintedUntilTheyAreInForce) {
+TEST_F(windows_boxesandlists, numbersOfQuickViewsAreTintedUntilTheyAreInForce) {
     click(fastchange);
     click(*findcontrol("perpz600"));
     expecttinted({&perptxtz, &eperpzbox});
@@ -83,7 +98,7 @@ TEST_F(windowsession, numbersOfQuickViewsAreTintedUntilTheyAreInForce) {
 }
 
 // NOT-BUGS: A box is red
-TEST_F(windowsession, boxesWarnOfWhatClicksWouldNotDo) {
+TEST_F(windows_boxesandlists, boxesWarnOfWhatClicksWouldNotDo) {
     const struct {
         const control& box;
         const char* text;
@@ -103,7 +118,7 @@ TEST_F(windowsession, boxesWarnOfWhatClicksWouldNotDo) {
     }
 }
 
-TEST_F(windowsession, tooltipsSayByHowMuchStepsGo) {
+TEST_F(windows_boxesandlists, tooltipsSayByHowMuchStepsGo) {
     const auto tip = [](const control& c) { return widgetof(c)->toolTip().toStdString(); };
     EXPECT_EQ(tip(vertperpplusbtn), "Raise the eye by 100");
     runevent([] { pickitem(incrementlist, 8); });
@@ -115,7 +130,7 @@ TEST_F(windowsession, tooltipsSayByHowMuchStepsGo) {
     EXPECT_EQ(tip(vertfocusminusbtn), "Lower the point looked at by 50");
 }
 
-TEST_F(windowsession, theWheelLeavesTheSnipAloneUnlessItHasTheFocus) {
+TEST_F(windows_boxesandlists, theWheelLeavesTheSnipAloneUnlessItHasTheFocus) {
     click(orange1btn);
     auto* const box = qobject_cast<QComboBox*>(widgetof(panelsnipper));
     turnwheel(*box);
@@ -133,7 +148,7 @@ TEST_F(windowsession, theWheelLeavesTheSnipAloneUnlessItHasTheFocus) {
     EXPECT_EQ(line->text(QAccessible::Name).toStdString(), panelsnipper.accessiblename);
 }
 
-TEST_F(windowsession, longNamesInAListHaveATooltip) {
+TEST_F(windows_boxesandlists, longNamesInAListHaveATooltip) {
     const std::string longname = "girders1-of-the-house-behind-the-mill.txt";
     for (const std::string& name : {longname, std::string("girders1.txt")}) session::write("designs/" + name, "");
     click(autosolidsingle);
@@ -142,7 +157,7 @@ TEST_F(windowsession, longNamesInAListHaveATooltip) {
         EXPECT_EQ(row->toolTip(), row->text().size() > 20 ? row->text() : QString());
 }
 
-TEST_F(windowsession, promptsAndHintsAreOnlyRead) {
+TEST_F(windows_boxesandlists, promptsAndHintsAreOnlyRead) {
     click(autosolidbtn);
     for (const control* c : {&selectgirderfile, &selectpanelfile, &selectedbox, &autohintbox}) {
         SCOPED_TRACE(c->name);
@@ -153,6 +168,21 @@ TEST_F(windowsession, promptsAndHintsAreOnlyRead) {
         QTest::keyClicks(widgetof(*c), "x");
         EXPECT_NE(c->text.front(), 'x');
     }
+}
+
+// Catches a first row that looks picked, and keys that do not reach the list then.
+TEST_F(windows_boxesandlists, aListOpenedByTheMouseShowsNoRowUntilAKeyIsPressed) {
+    keys("=vistaplan");
+    click(floorbtn);
+    auto* const rows = qobject_cast<QListWidget*>(widgetof(floorlist));
+    EXPECT_TRUE(rows->hasFocus());
+    EXPECT_EQ(rows->currentRow(), -1);
+    EXPECT_NE(paintedrow(*rows, QStyle::State_MouseOver), paintedrow(*rows, QStyle::State_None));
+    QTest::keyClick(rows, Qt::Key_Return);
+    EXPECT_TRUE(floorlist.shown);
+    QTest::keyClick(rows, Qt::Key_Down);
+    QTest::keyClick(rows, Qt::Key_Return);
+    EXPECT_EQ(tessaly::floor.text, "9");
 }
 
 }  // namespace tessaly
