@@ -23,13 +23,13 @@ std::deque<control> addedcontrols;  // does not move its elements when it grows
 }  // namespace
 
 // clang-format off
-window startform   ("startform",    "Tessaly Girder and Panel", 12540,  8520, darkgrey);
-window vistaplan   ("vistaplan",    "Tessaly Girder and Panel", 15330, 10605, grey);
-window layoutgirder("layoutgirder", "Layout Girders",            9255,  6855, {255, 255, 192});
-window layoutpanels("layoutpanels", "Panels Layout",             7680,  6240, {192, 192, 255});
-window layoutroof  ("layoutroof",   "Roof Layout",               6645,  4935, {255, 128, 128});
-window easyviews   ("easyviews",    "Easy views",               14745, 10515, {192, 192, 255});
-window instructions("instructions", "Tessaly Panel and Girder", 19200, 12990, {177, 199, 228});
+window startform   {"startform",    "Tessaly Girder and Panel", 12540,  8520, darkgrey};
+window vistaplan   {"vistaplan",    "Tessaly Girder and Panel", 15330, 10605, grey};
+window layoutgirder{"layoutgirder", "Layout Girders",            9255,  6855, {255, 255, 192}};
+window layoutpanels{"layoutpanels", "Panels Layout",             7680,  6240, {192, 192, 255}};
+window layoutroof  {"layoutroof",   "Roof Layout",               6645,  4935, {255, 128, 128}};
+window easyviews   {"easyviews",    "Easy views",               14745, 10515, {192, 192, 255}};
+window instructions{"instructions", "Tessaly Panel and Girder", 19200, 12990, {177, 199, 228}};
 // clang-format on
 
 // clang-format off
