@@ -120,9 +120,9 @@ TEST(play, logsEveryLine) {
 // The log does not change the picture.
 TEST(play, savesPictures) {
     session s;
-    const std::string layout = start + "click postbeambtn\n", post = "click fillscreen\nclick postx0y16\n";
-    ASSERT_EQ(play(layout + "lines post.txt\n" + post + "lines\npicture a.bmp\n"), 0);
-    ASSERT_EQ(play(layout + post + "picture \"its copy.BMP\"\n"), 0);
+    const std::string layout = start + "click postbeambtn\n", newpost = "click fillscreen\nclick postx0y16\n";
+    ASSERT_EQ(play(layout + "lines post.txt\n" + newpost + "lines\npicture a.bmp\n"), 0);
+    ASSERT_EQ(play(layout + newpost + "picture \"its copy.BMP\"\n"), 0);
     const std::string picture = session::file("a.bmp");
     EXPECT_TRUE(picture == session::file("its copy.BMP"));
     EXPECT_TRUE(picture.starts_with("BM"));
