@@ -134,7 +134,7 @@ std::string filebytes(std::string_view path, const char* what) {
     throw failure(failurekind::fileaccess,
                   "the file has " + std::to_string(found) + " bytes, " + std::to_string(maxbytes) +
                       " at most were expected",
-                  shortpath(name) + " (" + what + ")");
+                  shortpath(name) + " (" + what + ")", "move it away, or split it");
 }
 
 textinput& openinput(int channel, std::string_view path, const char* what) {
