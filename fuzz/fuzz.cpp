@@ -1,4 +1,4 @@
-// Runs the program on inputs that nobody would write. A play file of this folder, named by the environment, defines the
+// Runs the program on inputs that no user would write. A play file of this folder, named by the environment, defines the
 // target: each of its paragraphs is one way to use an input, and the input's length selects one. Its lines are played;
 //   # input FILE     writes the input to this file
 //   # script FILE    appends the input, as the script of this element file, to its sections

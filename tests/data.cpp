@@ -1,4 +1,4 @@
-// The shipped data, which people are told to edit: every element can be read, is whole and fits its place on the plan.
+// The shipped data, which users may edit: each element can be read, is complete and fits its position on the plan.
 #include "building/layouts.h"
 #include "data/elements.h"
 #include "tests/session.h"
@@ -15,7 +15,7 @@ namespace {
 // Model units: from post to post; the layouts' X and Y of the world's origin. The last palette entry that has a name.
 constexpr int bay = 192, planx = 488, plany = 680, lastnamed = 105;
 
-using spot = std::array<double, 3>;  // x, y and z of an element as its file has it
+using spot = std::array<double, 3>;  // x, y and z in an element file
 using box = std::array<double, 6>;   // least x, y and z, then the greatest
 using face = std::array<spot, 4>;    // its corners in the order around it
 
@@ -33,7 +33,7 @@ void read(const std::string& file) {
 
 spot point(const value& n) { return {basex[whole(n)], basey[whole(n)], basez[whole(n)]}; }
 
-// Around what the tables hold, seen from a place of the plan, to a hundredth.
+// The bounds of the points in the tables, relative to a position of the plan, rounded to hundredths.
 box extentfrom(int x, int y) {
     box e{1e9, 1e9, 1e9, -1e9, -1e9, -1e9};
     const double origin[] = {double(planx - x), double(plany - y), 0};
@@ -58,8 +58,7 @@ bool within(const face& f, double x, double z) {
     return left == 0 || right == 0;
 }
 
-// A hole in a wall, a face over another in one plane (which of them is seen would hang on the eye), a cut at the wrong
-// end or of the wrong width.
+// Catches a hole in a wall, a face over another in one plane, a cut at the wrong end or of the wrong width.
 void expecttiled(const std::vector<face>& faces, const std::string& cut) {
     const double from = cut == "left" || cut == "both" ? 16 : 0, to = cut == "righ" || cut == "both" ? 192 : 208;
     EXPECT_EQ(extentfrom(planx, plany), (box{from, 0, 0, to, 0, 128}));
@@ -70,7 +69,7 @@ void expecttiled(const std::vector<face>& faces, const std::string& cut) {
     EXPECT_EQ(wrong, 0);
 }
 
-// An element that one can look into: an edge without a face on each side of it.
+// Catches an element that is open: an edge without a face on each side of it.
 void expectclosed(const std::vector<face>& faces) {
     std::map<std::pair<spot, spot>, int> sides;  // by the edge's ends
     for (const face& f : faces)
@@ -81,9 +80,9 @@ void expectclosed(const std::vector<face>& faces) {
 
 }  // namespace
 
-// Placement moves points 1 to 100 only; a corner that ends no line has no place on the screen; an end row with corners
+// Placement moves points 1 to 100 only; a corner that ends no line is not projected; an end row with corners
 // would be painted.
-TEST(data, elementsAreWholeAndKeepToTheRulesOfTheReader) {
+TEST(data, elementsAreCompleteAndFollowTheRulesOfTheReader) {
     session s;
     s.start();
     int elements = 0;
@@ -116,9 +115,9 @@ TEST(data, elementsAreWholeAndKeepToTheRulesOfTheReader) {
     EXPECT_EQ(elements, 35);
 }
 
-// Steel that does not meet, walls beside the grid, a roof that leaves a gap; a place whose record is another than the
-// one kept, and replayed elsewhere.
-TEST(data, elementsStandOnTheirPlacesAndAreRecordedThere) {
+// Catches steel that does not meet, walls beside the grid, a roof that leaves a gap, and a position whose record
+// differs from the reference.
+TEST(data, elementsAreDrawnAndRecordedAtTheirPositions) {
     const std::map<std::string, box> extents{
         {"postx", {0, -16, 0, 16, 0, 128}},     {"beamx", {0, 0, 112, 16, 176, 128}},
         {"vbeamx", {0, -16, 112, 176, 0, 128}}, {"roofx", {0, 0, 128, 208, 208, 136}},
@@ -135,9 +134,9 @@ TEST(data, elementsStandOnTheirPlacesAndAreRecordedThere) {
         EXPECT_EQ(session::file("designs/" + file), session::file(TESSALY_SOURCE_DIR "/tests/places/" + file));
 }
 
-// A point above or below the plan's middle, where the focus stands, would have no direction on the picture. The grid's
-// lines must run through the middles of the posts.
-TEST(data, theOpeningSceneKeepsClearOfTheMiddleAndLiesUnderThePosts) {
+// A point above or below the middle of the plan, where the focus is, could not be projected. The grid's lines must run
+// through the middles of the posts.
+TEST(data, theOpeningSceneAvoidsTheMiddleAndRunsUnderThePosts) {
     session s;
     s.start();
     for (const char* name : {"st-land.txt", "st-axes.txt", "st-grid.txt"}) {

@@ -47,7 +47,7 @@ pictured() {
     looked "$1"
 }
 looked() {
-    xdotool windowraise "$window" mousemove "$width" "$height" # away from what tells more under the mouse
+    xdotool windowraise "$window" mousemove "$width" "$height" # away from tooltips
     waitfor "$desktop: $1 to be painted as it should look" $look "$1"
 }
 

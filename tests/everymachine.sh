@@ -50,7 +50,7 @@ play() {
 cannotrun() { [[ $1 == *mingw* ]] && ! command -v wine >/dev/null; }
 
 # differs BUILD: says which step is the first to go another way, and, where a build that agrees is there to ask, which
-# line or figure of it.
+# line or number of it.
 differs() {
     local row number
     row=$(diff "$kept" "$(folderof "$1")/checksums" | sed -n '/^>/ { s/^> //p; q }')

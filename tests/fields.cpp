@@ -9,7 +9,8 @@ using namespace tessaly;
 
 namespace {
 
-// What a run of reads gives: v value, r record field, s its text, l label, t text field; numbers bare, texts in quotes,
+// Returns the results of reads: v value, r record field, s its text, l label, t text field; numbers bare, texts in
+// quotes,
 // "-" empty.
 std::string readall(const std::string& bytes, const std::string& reads) {
     session::write("f.txt", bytes);

@@ -8,7 +8,7 @@
 
 using namespace tessaly;
 
-// The bytes of the file, its 3780 dots a metre among them; what is read for another's.
+// The bytes of the file, with 3780 dots per metre, and the pixels that are read from it.
 TEST(formats, isOneFileAndComesBackWhole) {
     session s;
     raster made(3, 2), read(2, 3);
@@ -31,8 +31,8 @@ TEST(formats, isOneFileAndComesBackWhole) {
     expectfailure(failureof([&] { made.save("bmps\\b.bmp"); }), failurekind::fileaccess, "bmps\\b.bmp");
 }
 
-// Pictures of other programs are read as far as viewport shows them. Refused, whatever its name: a file that could
-// refer to others (SVG), that is truncated, or that would take gigabytes or hours.
+// Pictures of other programs are read as far as viewport shows them. A file is refused, whatever its name, if it could
+// refer to others (SVG), is truncated, or would take gigabytes or hours.
 TEST(formats, areReadIfTheyAreBitmapsOfReasonableSize) {
     const session s;
     usepicturefiles();

@@ -1,4 +1,4 @@
-// Committed files are what their generators make: panels, palette, maps, samples, pictures.
+// Committed files equal those that their generators write now: panels, palette, maps, samples, pictures.
 
 #include "tests/commandline.h"
 #include "tools/workingfolder.h"
@@ -27,8 +27,8 @@ std::string bytesof(const fs::path& path) {
     return {std::istreambuf_iterator(in), {}};
 }
 
-// Where the toolkit draws letters and blends, pixels differ with its version and the font library: one in twenty-five
-// clearly where letters are only hinted another way.
+// Letters and blended pixels differ with the version of the toolkit and of the font library: one pixel in twenty-five
+// differs clearly if only the hinting of letters differs.
 bool looksalike(const QImage& a, const QImage& b) {
     if (a.size() != b.size()) return false;
     int clearlydifferent = 0;

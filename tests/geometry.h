@@ -1,5 +1,5 @@
-// Where a point of the model is to be seen, worked out from the picture plane's geometry alone: the plane stands across
-// the line of sight, up on it is where a point above the focus is seen, sideways is level.
+// Where a point of the model must be seen, computed from the geometry of the picture plane alone: the plane is
+// perpendicular to the line of sight, up on it is where a point above the focus is seen, sideways is level.
 #pragma once
 
 #include "core/world.h"
@@ -18,7 +18,7 @@ inline vec operator*(double f, const vec& a) { return {f * a[0], f * a[1], f * a
 inline double dot(const vec& a, const vec& b) { return a[0] * b[0] + a[1] * b[1] + a[2] * b[2]; }
 inline double length(const vec& a) { return std::sqrt(dot(a, a)); }
 inline vec unit(const vec& a) { return 1 / length(a) * a; }
-inline vec randompoint(randomnumbers& d, double reach) { return {d.within(reach), d.within(reach), d.within(reach)}; }
+inline vec randompoint(randomnumbers& d, double limit) { return {d.within(limit), d.within(limit), d.within(limit)}; }
 
 inline bool isnear(double drawn, double at) { return std::abs(drawn - at) <= 1e-3 + 1e-5 * std::abs(at); }
 inline bool isat(const vec& seen, float x, float y) { return isnear(x, seen[0]) && isnear(y, seen[1]); }
@@ -27,13 +27,13 @@ inline bool isat(const vec& seen, float x, float y) { return isnear(x, seen[0]) 
 struct lens {
     vec eye{perprelx, perprely, perprelz}, axis = unit(eye);
     double scale = mag * 15.2;  // pixels a model unit on the plane
-    // How far out towards the eye the plane stands: a point beyond that is on the near side.
-    double reach = dot(axis, {0.94 * eye[0], 0.94 * eye[1], 0.95 * eye[2]});
+    // The distance of the plane from the focus, towards the eye. Points beyond it are on the near side.
+    double distance = dot(axis, {0.94 * eye[0], 0.94 * eye[1], 0.95 * eye[2]});
 
-    bool nearside(const vec& p) const { return dot(axis, p) > reach; }
+    bool nearside(const vec& p) const { return dot(axis, p) > distance; }
     vec onplane(const vec& p) const {  // from the plane's centre
         const vec sight = p - eye;
-        return eye + (reach - length(eye)) / dot(axis, sight) * sight - reach * axis;
+        return eye + (distance - length(eye)) / dot(axis, sight) * sight - distance * axis;
     }
     vec at(const vec& p) const {  // viewport pixels
         const vec up = unit(onplane({0, 0, 1})), side = unit({-eye[1], eye[0], 0}), h = onplane(p);

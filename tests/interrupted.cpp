@@ -28,8 +28,8 @@ bool endsbefore(double seconds) {
 
 }  // namespace
 
-// A record drawn but not on disk, half a record on disk, a record twice; a replay that writes, moves or empties the
-// file that it replays.
+// Catches a record drawn but not on disk, half a record on disk, a record twice; a replay that writes, moves or empties
+// the file that it replays.
 TEST(interrupted, aDesignOutlivesTheProgramsDeathAtAnyMoment) {
     const session s;
     std::string script = "click startprogrambtn\nclick wiresolidbtn\nclick postbeambtn\n", all, walls;
@@ -52,7 +52,7 @@ TEST(interrupted, aDesignOutlivesTheProgramsDeathAtAnyMoment) {
         for (const char* left : {girders, "nonuser/temp.txt", "nonuser/temp2.txt"}) fs::remove(left);
         const bool ended = endsbefore(seconds);
         const std::string design = fs::exists(girders) ? session::file(girders) : "", said = session::file("said.txt");
-        if (all.empty()) all = design;  // of the play that is not killed
+        if (all.empty()) all = design;  // the first play is not killed
         const auto records = std::count(design.begin(), design.end(), '\n');
         const auto drawn = std::count(said.begin(), said.end(), '\n');
         EXPECT_TRUE(all.starts_with(design)) << design;

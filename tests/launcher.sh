@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# The launcher, with a program that only tells where and how it was started: the working folder of the first start, what
+# The launcher, with a program that only writes where and how it was started: the working folder of the first start, what
 # later starts leave alone and add, and that the program is not started where there is no folder to work in.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/shared.sh"
@@ -60,7 +60,7 @@ holds newer "$work/datah/roof.txt"
 [ "$(readlink "$work/pals/p.pal")" = nowhere ] || fail "a link of the user's was replaced"
 holds "" "$scratch/errors"
 
-# Another folder, named from where one stands.
+# Another folder, named relative to the current one.
 mkdir -p "$scratch/elsewhere/here"
 start 3 env CDPATH="$scratch/elsewhere" TESSALY_HOME=here "$launcher"
 holds newer "$scratch/here/datah/post.txt"

@@ -1,4 +1,4 @@
-// The solid painter: random faces against their geometry, line for line, and faces that the sort treats on its own.
+// The solid painter: random faces against their geometry, line for line, and faces that the sort treats differently.
 #include "render/painter.h"
 
 #include "data/pointtransforms.h"
@@ -19,7 +19,7 @@ struct face {
 
 using faces = std::map<int, face>;  // by slot
 
-// Each face gets four points of its own and two lines between them, which bring its corners to the screen.
+// Each face gets four points that no other face uses and two lines between them, which bring its corners to the screen.
 void setfaces(const faces& all) {
     resetworld();
     int p = 0;
@@ -55,8 +55,8 @@ struct webline {
     int colour;
 };
 
-// A face's web joins edge 1-2 with 3-4, then 1-3 with 2-4, straight on the screen. Framing lines stand at even parts of
-// the rails in the model, so that they keep their perspective; the closing edge comes before them.
+// A face's web joins edge 1-2 with 3-4, then 1-3 with 2-4, straight on the screen. Framing lines start at equal parts
+// of the rails in the model, so that they are in perspective; the closing edge comes before them.
 void addface(std::vector<webline>& lines, const face& f, int web, int colour) {
     const lens l;
     const auto at = [&](const vec& p) { return l.at(p - vec{focusx, focusy, focusz}); };
@@ -91,8 +91,8 @@ std::vector<webline> expectedlines(const faces& all, int web, int shift) {
 
 }  // namespace
 
-// A face too many or in the wrong place of the order, a web of the wrong density, a line that does not stand where its
-// rail is, a colour that does not turn with its element.
+// Catches a surplus face or one at the wrong position of the order, a web of the wrong density, a line off its rail, a
+// colour that does not change when its element is rotated.
 // NOT-BUGS: Large faces look like a net
 TEST(painter, paintsWhatTheGeometrySays) {
     struct {

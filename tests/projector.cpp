@@ -1,4 +1,4 @@
-// The projector: random scenes against the geometry of its picture plane, and what no random scene meets.
+// The projector: random scenes against the geometry of its picture plane, and cases that random scenes do not contain.
 #include "render/projector.h"
 
 #include "data/pointtransforms.h"
@@ -24,12 +24,12 @@ struct point {
     double y;
 };
 
-// Where a line's end is to be drawn: on the far side, if need be walked there by the line's steps that are left. None:
-// they are spent before.
+// Returns where the end of a line is drawn. An end on the near side is moved in steps to the far side; returns nothing
+// if the line's remaining steps do not suffice.
 std::optional<vec> drawnend(const lens& l, point& p, const point& other, const vec& focus, int& left) {
     while (left > 0 && l.nearside(p.now))
         if (--left > 0) p.now = other.now + left / 299.0 * (p.walksfrom - other.now);
-    const vec at = std::exchange(p.now, p.placed - focus);  // and it goes back
+    const vec at = std::exchange(p.now, p.placed - focus);  // the point itself returns to its position
     if (left > 0) return l.at(at);
     p.y = 9999;
     return std::nullopt;
@@ -41,7 +41,8 @@ struct scene {
     std::vector<std::array<int, 2>> lines;
     bool blocktwo;
 
-    // What a projection is to draw and to leave in the tables: each displaces the points by the focus once more.
+    // Compares the lines and the tables after a projection. Each projection displaces the points by the focus once
+    // more.
     void expectdrawn(const std::vector<drawnline>& drawn) {
         for (auto& [i, p] : points)
             if (i % 2000 < 6 && (i / 2000 != 1 || blocktwo)) p.walksfrom = p.now = p.now - focus;
@@ -112,7 +113,7 @@ scene randomscene(randomnumbers& d) {
 
 }  // namespace
 
-// A factor or a sign of the projection, a walk that stops early or late, a block or a group that is left out.
+// Catches a wrong factor or sign, a walk that stops early or late, a block or a group that is left out.
 TEST(projector, drawsWhatTheGeometrySays) {
     session s;
     randomnumbers d;
@@ -125,7 +126,7 @@ TEST(projector, drawsWhatTheGeometrySays) {
     }
 }
 
-// Between near and far there is nothing: no step is walked.
+// A point in the plane is not moved.
 TEST(projector, aPointInThePlaneCountsAsFar) {
     session s;
     setview(1000, 0, 0, 0.1);

@@ -1,4 +1,4 @@
-// What transformation scripts leave behind, and the sine that they turn by. The session "scripts" plays every keyword.
+// The angles and offsets that transformation scripts leave, and their sine. The session "scripts" plays every keyword.
 #include "data/script.h"
 #include "core/sine.h"
 #include "data/pointtransforms.h"

@@ -41,8 +41,8 @@ TEST(value, numbersBecomeTextsAndWholes) {
     for (const auto& [number, whole] : halves) EXPECT_EQ(nearestwhole(number), whole);
 }
 
-// A text box's figure is kept as text and converted at its first use; the report names where it came from, and can be
-// read whatever a file holds.
+// The text of a box is converted to a number when it is first used. The report names its origin, and can be read
+// whatever the text contains.
 TEST(value, textMeetsArithmetic) {
     EXPECT_EQ(joined(value() + 1, value("12") * 2, value("12").isnumber()), "1 24 0");
     EXPECT_EQ(joined(value("a").is("a"), value().is(""), value(0).is("0"), value("a").is("A")), "1 1 0 0");

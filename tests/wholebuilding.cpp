@@ -1,4 +1,4 @@
-// F6: the list of its replays as a table, and what it leaves against the same picks by hand.
+// F6: the list of its replays, and the state that it leaves compared with that after the same picks by hand.
 #include "building/wholebuilding.h"
 #include "core/viewvalues.h"
 #include "tests/session.h"
@@ -40,7 +40,8 @@ std::string controls(bool ofview) {
     return all;
 }
 
-// Starts with the samples of the house (h) or the tower (t) as designs, changes the view and does the rest.
+// Starts with the samples of the house (h) or the tower (t) as designs, changes the view and plays the steps. Returns
+// the state after that.
 std::string played(const std::string& samples, const std::string& view, const std::string& steps) {
     session s;
     for (const auto& file : fs::directory_iterator(TESSALY_SOURCE_DIR "/samples"))
@@ -108,7 +109,7 @@ TEST(wholebuilding, listsItsReplaysWithoutDrawing) {
          "girders1.txt+panels1.txt roofs1.txt girders10.txt+panels10.txt roofs10.txt"},
         {"girders10.txt girder10.txt panels0.txt", "girder10.txt+panels0.txt girders10.txt"},
         {"girders10.old panels1.txt panels11.txt roofs10", "girders10.old+panels1.txt panels11.txt roofs10"},
-        // the table of a replay of two files ends at 1000 records
+        // a replay of two files has at most 1000 records
         {"girders1.txt:600 panels1.txt:400", "girders1.txt+panels1.txt"},
         {"girders1.txt:601 panels1.txt:400 girdert1.txt:5 panelt1.txt:5",
          "girders1.txt panels1.txt girdert1.txt+panelt1.txt"},

@@ -86,14 +86,14 @@ TEST_F(windows_boxesandlists, numbersOfQuickViewsAreTintedUntilTheyAreInForce) {
     click(*findcontrol("perpz600"));
     expecttinted({&perptxtz, &eperpzbox});
     click(*findcontrol("perpx1800y0"));
-    click(fastchange);  // copies what is not in force
+    click(fastchange);  // copies numbers that are not in force
     expecttinted({&perptxtx, &perptxty, &perptxtz, &eperpxbox, &eperpybox, &eperpzbox});
-    click(magplusbtn);  // writes no box but its own
+    click(magplusbtn);  // writes no other box
     expecttinted({&perptxtx, &perptxty, &perptxtz, &eperpxbox, &eperpybox, &eperpzbox});
     keys("=magplusbtn F5");
     expecttinted({});
     click(*findcontrol("perpz600"));
-    click(vertperpplusbtn);  // writes the box by itself
+    click(vertperpplusbtn);  // writes the box
     expecttinted({});
 }
 

@@ -12,7 +12,7 @@ namespace tessaly {
 
 using windows_keys = windowsession;
 
-// A control that hides itself hands the focus to the one that opened it, where the next key does no harm.
+// A control that hides itself gives the focus to the control that opened it, where the next key does no harm.
 TEST_F(windows_keys, theFocusGoesBackToWhatOpenedAControlThatHidesItself) {
     keys(R"(postbeambtn Return =layoutgirder Right Return
         floorbtn Return =floorlist Return =floorbtn
@@ -30,7 +30,7 @@ TEST_F(windows_keys, theFocusGoesBackToWhatOpenedAControlThatHidesItself) {
         displayfilelistbtn Return =designfileslist closefilelistbtn Return =displayfilelistbtn
         Return =designfileslist Return killfilebtn Return =displayfilelistbtn
         rotleftbtn)");
-    runevent([] { clickcontrol(defaultviewbtn); });  // which hides it, and so is what opened it
+    runevent([] { clickcontrol(defaultviewbtn); });  // which hides it and the control that opened it
     keys("=vistaplan");
 }
 
@@ -53,7 +53,7 @@ TEST_F(windows_keys, escapeClosesWhatIsOpenAndNothingElse) {
     EXPECT_TRUE(std::filesystem::is_empty("bmps"));
 }
 
-// Escape closes that which the focus belongs to, whatever else is open.
+// Escape closes the list or prompt that the focused control belongs to, whatever else is open.
 TEST_F(windows_keys, escapeOnEachControlClosesWhatItBelongsTo) {
     session::write("designs/girders1.txt", "");
     session::write("bmps/house.bmp", "");
@@ -79,7 +79,7 @@ TEST_F(windows_keys, escapeOnEachControlClosesWhatItBelongsTo) {
         }
 }
 
-// Every place of a plan is reached by arrow keys, and the nearest in a direction first.
+// The arrow keys reach every position of a plan, and first the nearest in their direction.
 TEST_F(windows_keys, arrowsWalkThePlans) {
     keys(R"(postbeambtn Return postx0y16 Right =beamx0y16 postx0y16 Down =vbeamx16y16
         beamx0y16 Down =beamx192y16
@@ -121,7 +121,7 @@ TEST_F(windows_keys, aBuildingByTheKeyboardAlone) {
     EXPECT_EQ(session::file("designs/panels1.txt"), "\"panel\",1,0,104,2,0,270,0,208,2,64\r\n");
 }
 
-// A key that is held is one press; only the buttons that step go on.
+// A held key presses once; only buttons that step repeat.
 TEST_F(windows_keys, aHeldKeyIsOnePressButForSteps) {
     const auto hold = [](const control& c, Qt::Key key) {
         QWidget& widget = *widgetof(c);
@@ -133,7 +133,7 @@ TEST_F(windows_keys, aHeldKeyIsOnePressButForSteps) {
             QApplication::sendEvent(&widget, &event);
         };
         send(QEvent::KeyPress, false);
-        for (int repeat = 0; repeat < 3; ++repeat) {  // with their mark, and as X11 has them where they lose it
+        for (int repeat = 0; repeat < 3; ++repeat) {  // with the mark of a repeat, and without, as after X11 lost it
             send(QEvent::KeyPress, true);
             time += 40;
             send(QEvent::KeyRelease, false);

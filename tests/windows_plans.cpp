@@ -1,5 +1,4 @@
-// What the real windows show of the state that no control holds: what is built, which element is chosen, which
-// row the mouse is on.
+// The plans in the real windows: marks on built positions, and the pressed look of the button that opened a plan.
 
 #include "tests/windowsession.h"
 

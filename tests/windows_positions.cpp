@@ -1,4 +1,4 @@
-// Every window as it is built: places as in the tables, captions whole, nothing over anything else.
+// Every window after its start: positions as in the tables, captions complete, no control over another.
 
 #include "tests/windowsession.h"
 #include "windows/helppages.h"
@@ -16,9 +16,9 @@ using windows_positions = windowsession;
 
 namespace {
 
-constexpr int leastpixels = 10;  // of letters that can be read
+constexpr int minpixels = 10;  // of readable letters
 
-bool standsatitsplace(const control& c, const QRect& seen) {
+bool isatitsposition(const control& c, const QRect& seen) {
     const QRect place(c.bounds.left / twipsperpixel, c.bounds.top / twipsperpixel, c.bounds.width / twipsperpixel,
                       c.bounds.height / twipsperpixel);
     return place.adjusted(-1, -1, 1, 1).contains(seen) && seen.adjusted(-1, -1, 1, 1).contains(place);
@@ -29,7 +29,7 @@ bool captionfits(const control& c, const QWidget& widget) {
         return label->sizeHint().width() <= widget.width() && label->fontMetrics().height() <= widget.height();
     if (c.kind != controlkind::button || widget.font().pixelSize() > captionpixels) return true;
     const captionlines caption = wrapcaption(QString::fromStdString(c.text), widget.size(), false);
-    return caption.whole && caption.pixels >= leastpixels;
+    return caption.whole && caption.pixels >= minpixels;
 }
 
 // Positions that meet, as a beam and its posts or the panels around a corner, share their rims by design.
@@ -42,7 +42,7 @@ bool liesover(const control& a, const control& b) {
 }  // namespace
 
 // NOT-BUGS: The picture does not grow with the window
-TEST_F(windows_positions, controlsStandAtTheirPlacesAndAreSeenWhole) {
+TEST_F(windows_positions, controlsAreAtTheirPositionsAndCompletelyVisible) {
     runevent([] {
         for (window* w : allwindows()) showwindow(*w);
     });
@@ -51,7 +51,7 @@ TEST_F(windows_positions, controlsStandAtTheirPlacesAndAreSeenWhole) {
             SCOPED_TRACE(c->name + ": " + c->text);
             ASSERT_TRUE(widgetof(*c));
             const QWidget& widget = *widgetof(*c);
-            EXPECT_TRUE(standsatitsplace(*c, widget.geometry()));
+            EXPECT_TRUE(isatitsposition(*c, widget.geometry()));
             EXPECT_EQ(widget.objectName().toStdString(), c->name);
             EXPECT_EQ(widget.isHidden(), !c->shown);
             EXPECT_TRUE(captionfits(*c, widget));
@@ -67,13 +67,13 @@ TEST_F(windows_positions, controlsStandAtTheirPlacesAndAreSeenWhole) {
     runevent([] {
         for (const helppage& p : helppages) show(p.page);
     });
-    for (const helppage& p : helppages) {  // a bar to scroll by would lie over the page's right edge
+    for (const helppage& p : helppages) {  // a scroll bar would cover the right edge of the page
         const auto* text = qobject_cast<const QPlainTextEdit*>(widgetof(p.page));
         EXPECT_EQ(text->verticalScrollBar()->maximum() + text->horizontalScrollBar()->maximum(), 0) << p.page.name;
     }
 }
 
-// Beside the picture as far as the screen reaches, in front of the main window, and whole on the screen.
+// At the right of the screen, in front of the main window, and completely on the screen.
 TEST_F(windows_positions, windowsOpenAtTheRightAndOnTheScreen) {
     constexpr int border = 2;  // pixels: by which the desktop moves the interior
     const QRect screen = frameof(vistaplan)->screen()->availableGeometry().adjusted(0, 0, border, border);

@@ -1,7 +1,7 @@
-// A user who does anything at all: presses, picks, types, closes and captures at random in the real widgets. After each
-// event every widget shows what its control holds and the focus is where it belongs; at the end the player, given the
-// same actions, has left the same files and the same picture, or has ended with the same report.
-// TESSALY_ACTIONS: how many actions in all; TESSALY_SEED: of the first session, which the others follow.
+// A user who presses, picks, types, closes and captures at random in the real widgets. After each event every widget
+// shows the state of its control, and the focus is where it belongs. At the end the player does the same and must leave
+// the same files and picture, or end with the same report.
+// TESSALY_ACTIONS sets the number of actions, TESSALY_SEED the seed of the first session; the next ones count up.
 
 #include "building/builtelements.h"
 #include "core/viewvalues.h"
@@ -42,7 +42,7 @@ class windows_randomuser : public windowsession {
         random.seed(seed);
         script = "click startprogrambtn\n";
         report.clear();
-        QTimer::singleShot(0, [] { QCoreApplication::exit(); });  // forgets that the session before ended the program
+        QTimer::singleShot(0, [] { QCoreApplication::exit(); });  // undoes the exit of the previous session
         QApplication::exec();
         for (int done = 0; done < 80 && actions > 0 && !ended(); ++done, --actions) {
             act();
@@ -54,7 +54,7 @@ class windows_randomuser : public windowsession {
 
     unsigned oneof(std::size_t count) { return static_cast<unsigned>(random() % count); }
 
-    // A window or a control in the user's reach.
+    // A window or a control that the user can reach.
     const window& anywindow() {
         std::vector<const window*> shown;
         for (const window* w : allwindows())
@@ -78,7 +78,7 @@ class windows_randomuser : public windowsession {
         event(nullptr, [&] { QTest::keyClick(frameof(anywindow()), Qt::Key_F6); });
     }
 
-    // By the keyboard as often as by the mouse.
+    // Uses the keyboard as often as the mouse.
     void pressany() {
         control* const c = anycontrol({controlkind::button, controlkind::picturebutton});
         if (!c || (c == &exitbtn && oneof(4) > 0)) return;
@@ -92,7 +92,7 @@ class windows_randomuser : public windowsession {
         });
     }
 
-    // Of a list any row, often the one picked before; of a combination box the next one.
+    // Picks any row of a list, often the same as before, or the next row of a combination box.
     void pickany() {
         control* const c = anycontrol({controlkind::list, controlkind::filelist, controlkind::combobox});
         if (!c || c->items.empty()) return;
@@ -145,7 +145,7 @@ class windows_randomuser : public windowsession {
         event(nullptr, [&] { frameof(w)->close(); });
     }
 
-    // What the user does, and what must hold after it.
+    // Runs an action of the user and checks all windows after it.
     template <class doing>
     void event(const control* used, doing run) {
         std::map<const window*, const control*> before;
@@ -178,8 +178,8 @@ class windows_randomuser : public windowsession {
         EXPECT_EQ(rows->selectionModel()->selectedRows().value(0).row(), c.selected);
     }
 
-    // On a list or box that has just been opened; else on what was used, or where it was; where that has hidden itself,
-    // on what opened it.
+    // The focus is on a list or box that has just been opened, otherwise on the used control, or where it was. If that
+    // control is now hidden, it is on the control that opened it.
     static void expectfocus(const window& w, const control* used, const control* before) {
         const control *const now = focusedcontrol(w), *const had = used && used->in == &w ? used : before;
         if (now && now->openedby == used && (now == &capbox || islist(*now))) return;
@@ -187,9 +187,9 @@ class windows_randomuser : public windowsession {
         EXPECT_EQ(nameof(now), nameof(had && !had->shown ? focusafter(*had) : had)) << "was on " << nameof(had);
     }
 
-    // The player's status and report, and what it leaves.
+    // Compares the status, report, files and picture of the player.
     void comparewithplayer(const std::string& reported) {
-        ASSERT_TRUE(ended() || widgetof(viewport)->grab().save("screen.png"));  // as it is on the screen
+        ASSERT_TRUE(ended() || widgetof(viewport)->grab().save("screen.png"));
         const std::string here = std::filesystem::current_path();
         workingfolder played(TESSALY_SOURCE_DIR);
         std::ofstream("actions.play") << script << (ended() ? "" : "picture screen.png\n");
@@ -199,7 +199,7 @@ class windows_randomuser : public windowsession {
             EXPECT_EQ(std::system(("diff -r " + kept + " " + shellquoted(here + "/" + kept)).c_str()), 0) << "after\n"
                                                                                                           << script;
         if (ended()) return;
-        const QImage seen((here + "/screen.png").c_str()), wanted("screen.png");  // a pixel stays a pixel
+        const QImage seen((here + "/screen.png").c_str()), wanted("screen.png");
         EXPECT_EQ(seen, wanted.scaled(seen.size()).convertToFormat(seen.format())) << "after\n" << script;
     }
 

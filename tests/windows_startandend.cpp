@@ -1,4 +1,4 @@
-// The start, the end and the wait for a picture in the real windows, by the mouse.
+// The start, the icon, the progress strip and the end of the program in the real windows.
 
 #include "render/surface.h"
 #include "tests/windowsession.h"

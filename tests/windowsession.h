@@ -1,4 +1,4 @@
-// The real windows on a screen that nobody sees, over a scratch working folder, used by mouse and keyboard.
+// The real windows without a screen, over a scratch working folder, used by mouse and keyboard.
 #pragma once
 
 #include "picturefiles/picturefile.h"
