@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds the benchmarks and runs them.
-# What follows the command goes to the benchmark program: ./bench.sh --benchmark_filter=replay
+# Installs missing packages, builds the benchmarks and runs them.
+# Arguments are passed to the benchmark program: ./bench.sh --benchmark_filter=replay
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh

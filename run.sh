@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds Tessaly and starts it here, in the repository's root as its working folder.
-# With no display it plays the demonstration instead and leaves its picture in build/demo.png.
+# Installs missing packages, builds Tessaly and starts it with the repository's root as its working folder.
+# Without a display it plays the demonstration instead and saves its picture as build/demo.png.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh
@@ -13,7 +13,7 @@ if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then
     exec build/tessaly "$@"
 fi
 
-# The demonstration records what it builds: it is played in a folder of its own, never in the user's.
+# The demonstration records what it builds, so it is played in a temporary folder, never in the user's.
 build release play
 scratch=$(mktemp -d)
 trap 'rm -rf "$scratch"' EXIT

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# Installs what is missing, builds everything and runs every test.
-# What follows the command goes to ctest: ./test.sh -R projector
+# Installs missing packages, builds everything and runs every test.
+# Arguments are passed to ctest: ./test.sh -R projector
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh

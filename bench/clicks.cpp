@@ -1,4 +1,4 @@
-// Single actions: a click on a position of each family, a view step, the full clear, the start.
+// Measures single actions: a click on a button of each button family, a view step, clearing the screen, the start.
 
 #include "bench/measure.h"
 #include "building/layouts.h"

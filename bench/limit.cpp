@@ -1,6 +1,6 @@
-// The limit of the measured replay, which no method can beat: for each record its element file is read, its wires and
-// framing lines are drawn once, and the distinct pixels of each of its faces are filled once. The design files are read
-// once each. Nothing is parsed, projected or sorted.
+// Measures the limit of the measured replay, which no method can beat: each record's element file is read, its wires
+// and framing lines are drawn once, and the distinct pixels of each of its faces are filled once. The design files are
+// read once each. Nothing is parsed, projected or sorted.
 
 #include "bench/measure.h"
 #include "core/textfiles.h"

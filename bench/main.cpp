@@ -24,25 +24,25 @@ class ratios : public benchmark::ConsoleReporter {
         for (const Run& run : runs) {
             if (run.error_occurred || run.run_type != Run::RT_Iteration) continue;
             const double time = run.cpu_accumulated_time / static_cast<double>(run.iterations);
-            const auto [found, fresh] = best.emplace(run.run_name.function_name, time);
-            if (!fresh) found->second = std::min(found->second, time);
+            const auto [found, inserted] = best.emplace(run.run_name.function_name, time);
+            if (!inserted) found->second = std::min(found->second, time);
         }
     }
-    void print() const {
+    void printall() const {
         std::puts("\nRatios of this run:");
         const std::string replay = std::string(measuredreplay) + "/", program = replay + nameof(method::program);
         for (const method m : {method::plain, method::qpainter})
-            one(std::string("  times faster than ") + nameof(m), replay + nameof(m), program);
-        one("  of the whole is not drawing", replay + nameof(method::nodrawing), program);
-        one("  times the time of 100 records for 1000", program,
-            std::string(tenthofreplay) + "/" + nameof(method::program));
-        one("  times the limit", program, limitofreplay);
+            print(std::string("  times faster than ") + nameof(m), replay + nameof(m), program);
+        print("  of the time is not spent drawing", replay + nameof(method::nodrawing), program);
+        print("  times the time of 100 records for 1000", program,
+              std::string(tenthofreplay) + "/" + nameof(method::program));
+        print("  times the limit", program, limitofreplay);
     }
 
   private:
-    void one(const std::string& what, const std::string& dividend, const std::string& divisor) const {
+    void print(const std::string& text, const std::string& dividend, const std::string& divisor) const {
         const auto a = best.find(dividend), b = best.find(divisor);
-        if (a != best.end() && b != best.end()) std::printf("%8.2f%s\n", a->second / b->second, what.c_str());
+        if (a != best.end() && b != best.end()) std::printf("%8.2f%s\n", a->second / b->second, text.c_str());
     }
     std::map<std::string, double> best;
 };
@@ -73,7 +73,7 @@ int run(int argc, char** argv) {
     addshortcuts();
     ratios reporter;
     benchmark::RunSpecifiedBenchmarks(&reporter);
-    reporter.print();
+    reporter.printall();
     return 0;
 }
 

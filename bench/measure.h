@@ -1,4 +1,4 @@
-// What all benchmarks report: the time of one action, elements and pixels per second.
+// Registers a benchmark, which reports the time of one action, and elements and pixels per second.
 #pragma once
 
 #include "bench/scene.h"

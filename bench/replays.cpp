@@ -1,4 +1,4 @@
-// Replays of one and two design files, wire and solid, up to the whole tower.
+// Measures replays of one and two design files, wire and solid, up to a tower of ten floors.
 
 #include "bench/measure.h"
 
@@ -6,8 +6,8 @@ namespace tessaly {
 
 namespace {
 
-constexpr int floors = 10, storeygirders = 130,
-              storeypanels = 100;  // all girders of the plan, and panels around
+constexpr int floors = 10;
+constexpr int storeygirders = 130, storeypanels = 100;  // a girder at each position of the plan, and panels
 
 void replaystorey(int onfloor) {
     replaycombined(girdersfile(storeygirders, onfloor), panelsfile(storeypanels, onfloor));

@@ -1,4 +1,4 @@
-// The started program, and design files of any length.
+// Starts the program, and writes design files of any length.
 
 #include "bench/scene.h"
 

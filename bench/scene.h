@@ -1,4 +1,4 @@
-// The program, acted on with lines of a player's script, and the design files of the benchmarks.
+// The program, operated with lines of a player's script, and the design files of the benchmarks.
 #pragma once
 
 #include "render/raster.h"
@@ -33,7 +33,7 @@ class building {
     std::unique_ptr<surface> viewport;
 };
 
-// Replay design files, with the same clicks as a user's.
+// Replay design files, with the clicks of a user.
 void replaywire(const std::string& file);
 void replaysolid(const std::string& file);
 void replaycombined(const std::string& first, const std::string& second);

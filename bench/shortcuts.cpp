@@ -1,4 +1,4 @@
-// Parts of an action, with the shortcuts and with the plain methods that they replace.
+// Measures parts of an action, with the shortcuts and with the plain methods that they replace.
 
 #include "bench/measure.h"
 #include "core/world.h"

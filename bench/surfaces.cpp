@@ -1,4 +1,4 @@
-// Lines through QPainter, and pixels counted.
+// Draws lines with QPainter, and counts the pixels of lines.
 
 #include "bench/surfaces.h"
 

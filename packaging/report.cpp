@@ -1,4 +1,5 @@
-// report TEXT: shows in a window why the launcher cannot start the program. Who starts it from a menu sees no terminal.
+// report TEXT: shows a message window that says why the launcher cannot start the program. A user who starts it from a
+// menu sees no terminal.
 
 #include <QApplication>
 #include <QIcon>

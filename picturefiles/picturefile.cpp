@@ -1,5 +1,5 @@
 // Picture files through Qt Gui. The kind of a file is determined by its contents, whatever its name says: kinds that
-// run instructions or refer to other files, such as SVG, are never handed to the library.
+// run instructions or refer to other files, such as SVG, are never passed to Qt.
 
 #include "picturefiles/picturefile.h"
 
@@ -54,7 +54,8 @@ std::string fewscans(std::string bytes) {
 
 std::string unchanged(std::string bytes) { return bytes; }
 
-// The kinds that are read: Qt's name, the bytes that such a file begins with, and what makes its bytes safe for Qt.
+// The kinds that are read: Qt's name, the first bytes of such a file, and the function that makes its bytes safe for
+// Qt.
 struct picturekind {
     const char* name;
     std::string_view start;
@@ -73,7 +74,7 @@ void writepng(const raster& image, const std::string& path) {
     QByteArray bytes;
     QBuffer buffer(&bytes);
     if (!viewof(image).save(&buffer, "png"))
-        throw failure(failurekind::fileaccess, "the picture could not be made a PNG", shortpath(path));
+        throw failure(failurekind::fileaccess, "the picture could not be encoded as PNG", shortpath(path));
     replacefile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())}, "picture");
 }
 

@@ -1,4 +1,4 @@
-// A checksum of whatever is added, in its order: FNV-1a of 64 bits. It is the same on every machine.
+// A checksum of the added data in their order: 64-bit FNV-1a, the same on every machine.
 #pragma once
 
 #include <bit>
@@ -17,13 +17,13 @@ class checksum {
             sum *= 0x100000001b3;
         }
     }
-    void add(std::uint64_t number) {  // its bytes, the lowest first
+    void add(std::uint64_t number) {  // adds its bytes, the lowest first
         for (int i = 0; i < 8; ++i, number >>= 8) {
             sum ^= number & 0xff;
             sum *= 0x100000001b3;
         }
     }
-    void addword(std::uint64_t word) {  // in one step: quick, for long tables
+    void addword(std::uint64_t word) {  // adds 64 bits in one step, which is faster for long tables
         sum ^= word;
         sum *= 0x100000001b3;
     }

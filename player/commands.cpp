@@ -1,5 +1,5 @@
-// The commands of a script, a row each in the table at the end.
-// A control is used only where a user could reach it: in a window that is shown, and shown itself.
+// The commands of a script; the table at the end has a row for each of them. A command can use a control only if a user
+// could: the control and its window must be shown.
 
 #include "player/commands.h"
 
@@ -72,14 +72,14 @@ void close(scriptline& line) {
     closewindow(*w);
 }
 
-// A key that acts from any window.
+// Presses a key that acts in any window.
 void key(scriptline& line) {
     const std::string name = nameof(line);
     line.expectend();
     const auto keys = programkeys();
     const auto known = std::find_if(keys.begin(), keys.end(), [&](const programkey& k) { return k.name == name; });
     if (known == keys.end()) throw scripterror("there is no key " + name);
-    if (!vistaplan.shown) throw scripterror("the main window is not there yet");
+    if (!vistaplan.shown) throw scripterror("the main window is hidden");
     known->press();
 }
 
@@ -92,7 +92,7 @@ void expectwritten(bool written) {
     if (!written) throw scripterror("the record of the session cannot be written");
 }
 
-// Writes to standard output, and under the step played last in the record of the session.
+// Writes a line to standard output, and to the record of the session under the step played last.
 void writenote(const std::string& text) {
     writeline(text);
     expectwritten(recordnote(text));
@@ -120,7 +120,7 @@ void picture(scriptline& line) {
     try {
         savepicture(playedsurface.image, path);
     } catch (const failure& f) {
-        throw scripterror(f.what());  // the player's own file: nothing of the program failed
+        throw scripterror(f.what());  // the player failed, not the program
     }
 }
 
@@ -198,7 +198,7 @@ void mistake(scriptline& line) {
     restart();
 }
 
-// Opens the main window, of which the record shows nothing.
+// Opens the main window; the record does not show what this changes.
 void start(scriptline& line) {
     line.expectend();
     scriptline button("startprogrambtn");
@@ -213,13 +213,13 @@ std::size_t indexin(std::string_view word) {
     return index;
 }
 
-// Writes a part of a table, to the record too, which otherwise shows tables by their checksums only.
+// Writes a part of a table, also to the record, which otherwise shows only checksums of tables.
 void table(scriptline& line) {
     const std::string name = nameof(line);
     const std::size_t from = indexin(line.word()), to = indexin(line.word());
     line.expectend();
     const auto text = tabletext(name, from, to);
-    if (!text) throw scripterror("there is no table " + name + " that goes so far");
+    if (!text) throw scripterror("there is no table " + name + " with these elements");
     writenote(name + ' ' + std::to_string(from) + ".." + std::to_string(to) + ':' + *text);
 }
 
@@ -238,7 +238,7 @@ void say(scriptline& line) { writeline(std::string(line.rest())); }
 struct command {
     std::string_view name;
     void (*run)(scriptline&);
-    bool (*record)(std::string_view);  // writes the step and what it changed to the record of the session
+    bool (*record)(std::string_view);  // records the step; nullptr: the step is not recorded
 };
 constexpr command commands[] = {
     // clang-format off
@@ -262,7 +262,7 @@ constexpr command commands[] = {
     // clang-format on
 };
 
-// Plays a line; the record shows it as recorded.
+// Plays a line. recorded is the line that the record shows for it.
 void playline(std::string_view text, std::string_view recorded) {
     scriptline line(text);
     const std::string_view name = line.word();

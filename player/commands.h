@@ -1,6 +1,6 @@
-// The commands of a script: the same clicks, picks and texts as a user's, on the same controls and procedures.
+// The commands of a script. They click, pick and type as a user does, with the same controls and procedures.
 //   click BUTTON, pick LIST "ENTRY", type BOX "TEXT", close WINDOW      as with mouse and keyboard
-//   key F6                                   a key that acts from any window: F1, F5 or F6
+//   key F6                                   a key that acts in any window: F1, F5 or F6
 //   start                                    clicks startprogrambtn; the session's record does not show what it does
 //   edit FILE "TEXT" "OTHER", delete FILE    as in an editor or a file manager; an empty TEXT is the complete file
 //   fails STEP                               a step that must end the program with a report; then starts it again
@@ -15,8 +15,8 @@
 
 namespace tessaly {
 
-// Plays one line of a script; blank lines and comments do nothing. Throws scripterror for a line that no user could
-// act out, such as a click on a hidden button; failures of the program pass through.
+// Plays one line of a script; blank lines and comments do nothing. Throws scripterror for an action that no user could
+// carry out, such as a click on a hidden button. Throws the failures of the program, too.
 void playline(std::string_view line);
 
 }  // namespace tessaly

@@ -25,7 +25,7 @@ bool loggedsurface::startlog(const std::string& path) {
     return log != nullptr;
 }
 
-// A failed write is remembered by ferror only: a later flush has nothing left to write and succeeds.
+// Only ferror remembers a failed write: a later flush has nothing left to write and succeeds.
 bool loggedsurface::flushlog() {
     return log == nullptr || (std::fflush(log.get()) == 0 && std::ferror(log.get()) == 0);
 }
@@ -55,7 +55,7 @@ void loggedsurface::line(float x1, float y1, float x2, float y2, colour c) {
 }
 
 void loggedsurface::drawbetween(const facecorners& f, int n, colour c) {
-    if (listening())
+    if (needseachline())
         surface::drawbetween(f, n, c);
     else
         image.drawbetween(f, n, c);

@@ -1,4 +1,4 @@
-// The player's pictures: an image in memory that can also write each drawn line to a log file and count it.
+// The surfaces of the player: images in memory that can also write each drawn line to a log file and count it.
 #pragma once
 
 #include "player/checksum.h"
@@ -42,7 +42,7 @@ class loggedsurface : public surface {
     raster image;
 
   private:
-    bool listening() const { return log != nullptr || tally; }
+    bool needseachline() const { return log != nullptr || tally; }
 
     struct closing {
         void operator()(std::FILE* file) const { std::fclose(file); }
@@ -51,8 +51,8 @@ class loggedsurface : public surface {
     std::optional<linetally> tally;
 };
 
-// The pictures that scripts draw on: the building and the strip that shows the progress of a replay. viewportsurface
-// and progresssurface are set to them.
+// The surfaces that scripts draw on, to which viewportsurface and progresssurface are set: the building, and the strip
+// that shows the progress of a replay.
 extern loggedsurface playedsurface, playedstrip;
 
 }  // namespace tessaly

@@ -26,7 +26,7 @@ void flushall() {
     if (!playedsurface.flushlog()) throw scripterror("the file of the drawn lines cannot be written");
 }
 
-// Plays the lines of the script up to its end or the program's; number is that of the line being played.
+// Plays the script until it or the program ends. Sets number to the number of the line being played.
 void playscript(std::istream& script, int& number) {
     for (std::string line; !programended && std::getline(script, line);) {
         ++number;

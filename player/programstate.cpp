@@ -1,4 +1,4 @@
-// One item or line for each window, control and scalar.
+// Describes each window, control and scalar in an item or a line.
 
 #include "player/programstate.h"
 
@@ -21,7 +21,7 @@ std::string colourtext(colour c) {
     return " colour " + std::to_string(c.red) + ',' + std::to_string(c.green) + ',' + std::to_string(c.blue);
 }
 
-// The first line of a page of the help, and the size and checksum of the page.
+// Returns the first line of a help page, and the size and checksum of the page.
 std::string pagetext(const std::string& text) {
     checksum sum;
     sum.add(text);
@@ -50,7 +50,7 @@ std::string layoutof(const control& c) {
     return line;
 }
 
-// Position buttons of one family: "postx0y16", "postx0y208".
+// Returns whether two controls are buttons of the same button family, such as "postx0y16" and "postx0y208".
 bool samefamily(const control& a, const control& b) {
     return a.elementnumber > 0 && a.name.substr(0, a.name.find('x')) == b.name.substr(0, b.name.find('x'));
 }

@@ -17,16 +17,16 @@ struct stateitem {
     std::string text;             // "\"1\"" for a control, "0.56" for a value; "" for a window
 };
 
-// Returns windows, controls and reported scalars, each in the order of its table. The items are the same at each call
-// as long as the program runs.
+// Returns windows, controls and reported scalars, each in the order of its table. Every
+// call after startprogram returns the same items.
 std::vector<stateitem> programstate();
 
-// A value as the state shows it: empty, its shortest text, or its text in quotes.
+// Returns a value as the state shows it: "empty", the shortest text of its number, or its text in quotes.
 std::string statetext(const value& v);
 
-// How the windows look before they are used, a line for each window and control: its title or text, bounds in twips,
-// colour, and what else it has: "hidden", element number, tooltip, accessible name, items. Of the position buttons of
-// one family only the first and the last are listed; the others follow from them.
+// Returns a line for each window and control, with its title or text, bounds in twips and colour, and if it has them:
+// "hidden", element number, tooltip, accessible name, items. Only the first and the last button of a button family are
+// listed; the others follow from them.
 std::vector<std::string> programlayout();
 
 }  // namespace tessaly

@@ -65,14 +65,14 @@ std::string scriptline::quoted() {
         case '\\': text += '\\'; break;
         case 'r': text += '\r'; break;
         case 'n': text += '\n'; break;
-        default: throw scripterror("a backslash inside quotes stands before one of \" \\ r n only");
+        default: throw scripterror("a backslash inside quotes must be followed by \" \\ r or n");
         }
     }
     throw scripterror("the closing double quote is missing");
 }
 
 void scriptline::expectend() {
-    if (!atend()) throw scripterror("nothing more was expected than what stands before " + std::string(left));
+    if (!atend()) throw scripterror("nothing more was expected, but this follows: " + std::string(left));
 }
 
 std::string inquotes(std::string_view text) {

@@ -1,5 +1,5 @@
-// A line of a script taken apart: its command, words, texts in quotes, file names. What does not fit the line's
-// command is a scripterror, which the player shows with the line's number.
+// Splits a line of a script into its command, words, quoted texts and file names. A line that does not fit its command
+// throws scripterror, which the player reports with the line's number.
 #pragma once
 
 #include <stdexcept>
@@ -14,22 +14,25 @@ struct scripterror : std::runtime_error {
 
 class scriptline {
   public:
-    // The line must outlive it; its line end may still be there.
+    // The line must outlive this object; it may end with a line end.
     explicit scriptline(std::string_view line);
 
-    bool atend();                                  // only blanks are left
+    bool atend();                                  // whether only blanks remain
     std::string_view text() const { return all; }  // the complete line, without its line end
-    std::string_view word();                       // up to the next blank; "" at the end
-    std::string_view rest();                       // all that is left, as it stands behind one blank
-    std::string filename();  // all that is left, blanks around it or quotes taken off; fails when there is none
-    std::string quoted();    // a text in quotes, its escapes obeyed; fails for anything else
-    void expectend();        // fails when anything is left
+
+    // Each of these removes what it returns.
+    std::string_view word();  // the next word; "" at the end
+    std::string_view rest();  // everything after the next character, a blank
+    std::string filename();   // everything, without the blanks or quotes around it; fails if nothing remains
+    std::string quoted();     // a text in quotes, with its escapes replaced; fails for anything else
+
+    void expectend();  // fails if anything remains
 
   private:
     std::string_view all, left;
 };
 
-// The text in quotes, with \" \\ \r \n where they are needed.
+// Returns the text in quotes, with the escapes \" \\ \r \n.
 std::string inquotes(std::string_view text);
 
 }  // namespace tessaly

@@ -1,5 +1,5 @@
-// Before and after a step: the program's state, its tables, the lines drawn and the files of the working folder,
-// compared.
+// Compares the program's state, its tables and the files of the working folder before and after each step, and counts
+// the lines drawn.
 
 #include "player/sessionrecord.h"
 
@@ -18,11 +18,11 @@ namespace tessaly {
 
 namespace {
 
-constexpr std::size_t maxquoted = 400;  // bytes of a file; of more, the number and the checksum are written
+constexpr std::size_t maxquoted = 400;  // bytes of a file; of a longer file the size and the checksum are written
 
 using filesbypath = std::map<std::string, std::string>;
 
-struct moment {
+struct snapshot {
     std::vector<stateitem> state;
     tablesnapshot tables;
     filesbypath files;
@@ -30,7 +30,7 @@ struct moment {
 };
 
 std::ofstream record;
-std::optional<moment> before;
+std::optional<snapshot> before;
 
 filesbypath sessionfiles() {
     filesbypath files;
@@ -45,9 +45,9 @@ filesbypath sessionfiles() {
     return files;
 }
 
-moment takemoment() { return {programstate(), {}, sessionfiles(), wantedfocus}; }
+snapshot takesnapshot() { return {programstate(), {}, sessionfiles(), wantedfocus}; }
 
-// One line of the record: the kind of change, then what changed; nothing if there is nothing to add.
+// Writes a line of the record when it is destroyed: the kind of change, then the changes; nothing if there are none.
 class changeline {
   public:
     explicit changeline(std::string_view itskind) : kind(itskind) {}
@@ -64,9 +64,9 @@ class changeline {
     std::string changes;
 };
 
-// A typed or picked text is not repeated: the step ends with it.
-void writestate(std::string_view step, const moment& after) {
-    changeline values("values"), texts("texts"), hidden("hidden"), shown("shown");  // written from the last on
+// Does not repeat a typed or picked text, with which the step ends.
+void writestate(std::string_view step, const snapshot& after) {
+    changeline values("values"), texts("texts"), hidden("hidden"), shown("shown");  // written in reverse order
     for (std::size_t i = 0; i < after.state.size(); ++i) {
         const stateitem &was = before->state[i], &is = after.state[i];
         if (was.visibility != is.visibility) (is.visibility == "shown" ? shown : hidden).add(is.name);
@@ -117,7 +117,7 @@ bool recordnote(std::string_view line) { return !record.is_open() || (record << 
 
 bool recordstep(std::string_view step) {
     if (!record.is_open()) return true;
-    moment after = takemoment();
+    snapshot after = takesnapshot();
     record << step << '\n';
     writestate(step, after);
     changeline("tables").add(before->tables.changes(after.tables));
@@ -131,7 +131,7 @@ bool recordstep(std::string_view step) {
 void recordrestart() {
     if (!record.is_open()) return;
     for (loggedsurface* s : {&playedsurface, &playedstrip}) s->starttally();
-    before = takemoment();
+    before = takesnapshot();
 }
 
 bool recordunseen(std::string_view step) {

@@ -1,16 +1,17 @@
-// The record of a played session: under each step of the script, a line for each kind of change that it made, so that a
-// change of the program shows as a difference that a person can judge.
+// The record of a played session. Under each step of the script it has a line for each kind of change that the step
+// made, so that a person can judge how a changed program differs:
 //   click postx0y16
-//     shown capbox, screencapenter               windows that were opened, controls that came into view
-//     hidden floorlist                           the same the other way round
-//     texts perptxtx "1849.9", floor "2"         texts of boxes and captions, picked items; not what the step itself
-//     says values perpx 1849.9, focusz "280"          scalars; what is in quotes is still text tables plane 88ab3e10,
-//     points 1c9d04fe     groups of tables, and the checksum of the elements that changed focus capbox the control that
-//     gets the keyboard lines viewport 24 8d3e0c5b, strip 3 1f2e   lines drawn, with their checksum picture viewport
-//     bmps/view.bmp             the picture set as the background of a surface file designs/girders1.txt gained "..."
-//     what happened to a file of the working folder, a line for each failure ...                                the
-//     report of a step that ended the program. Its lines and files are
-//                                                recorded, its tables and windows are not: they are gone
+//     shown capbox, screencapenter              windows that were opened, controls that were shown
+//     hidden floorlist                          windows that were closed, controls that were hidden
+//     texts perptxtx "1849.9", floor "2"        texts of boxes and captions, picked items; not those that the step sets
+//     values perpx 1849.9, focusz "280"         scalars; a value in quotes is a text
+//     tables plane 88ab3e10, points 1c9d04fe    groups of tables, with the checksum of the elements that changed
+//     focus capbox                              the control that gets the keyboard
+//     lines viewport 24 8d3e0c5b, strip 3 1f2e  the number of lines drawn, with their checksum
+//     picture viewport bmps/view.bmp            the picture set as the background of a surface
+//     file designs/girders1.txt gained "..."    what happened to a file of the working folder
+//     failure ...                               the report of a step that ended the program. Of such a step, lines and
+//                                               files are recorded, but not tables and windows
 #pragma once
 
 #include <string>
@@ -23,15 +24,16 @@ bool startrecord(const std::string& path);
 
 // The following do nothing if no record was started, and return false if the record could not be written.
 
-// Writes a line under the step played last, as it is given.
+// Writes a line under the step played last.
 bool recordnote(std::string_view line);
 
-// Write a step: with what it changed; without that; with the lines, files and report of one that ended the program.
+// Write a step: recordstep with its changes, recordunseen without them, recordfailure with the lines, files and report
+// of a step that ended the program.
 bool recordstep(std::string_view step);
 bool recordunseen(std::string_view step);
 bool recordfailure(std::string_view step, std::string_view report);
 
-// Compares the next step with the present state. For a program that was started again.
+// Makes the present state the one with which the next step is compared. Call it after the program was started again.
 void recordrestart();
 
 }  // namespace tessaly

@@ -1,5 +1,5 @@
-// What a step changed in the tables of the world: a checksum for each group of tables, over the changed elements only,
-// so that a wrong element shows only at the steps that write it.
+// Finds out which tables of the world a step changed. The checksum of a group of tables covers only the changed
+// elements, so that a wrong element shows only at the steps that write it.
 #pragma once
 
 #include "core/table.h"
@@ -25,10 +25,10 @@ class tablesnapshot {
     std::map<std::string_view, std::vector<value>> tables;
 };
 
-// A line for each table, with its name and the checksum of all its elements.
+// Returns a line for each table, with its name and the checksum of all its elements.
 std::string tablesums();
 
-// Returns the elements from..to of a table, each after a blank; nothing if there is no such table or part of one.
+// Returns the elements from..to of a table, each after a blank; no value if the table or one of them does not exist.
 std::optional<std::string> tabletext(std::string_view name, std::size_t from, std::size_t to);
 
 }  // namespace tessaly

@@ -1,8 +1,8 @@
 // Plays the same buildings on any machine and writes checksums after each step, which must be equal on all machines: of
-// the picture, of the lines drawn, and of the numbers from which they were computed, since rounding hides small
+// the picture, of the lines drawn, and of the numbers from which they were computed, because rounding hides small
 // differences.
-//   everymachine ROOT          plays all steps with the data, scripts and samples of the repository ROOT; one row per
-//   step everymachine ROOT STEP     writes every line and number that is part of the checksums of that step
+//   everymachine ROOT         plays all steps with the data, scripts and samples of the repository ROOT; a row per step
+//   everymachine ROOT STEP    writes every line and number that is part of the checksums of that step
 
 #include "building/layouts.h"
 #include "core/controls.h"
@@ -184,8 +184,8 @@ void playtower() {
     endstep("the tower, roof");
 }
 
-// Places each element at one position of each of its button families, which rotate it each way, and each snip of a
-// panel.
+// Places each element at one position of each of its button families, which differ in rotation, and a panel with each
+// snip.
 void playelements(const std::string& mode) {
     begin();
     play("type wiresolid \"" + mode + '"');
@@ -208,14 +208,12 @@ void playelements(const std::string& mode) {
         }
 }
 
-// Uses the raw numbers of the generator, because the distributions differ between libraries.
-std::mt19937 generator;
-int within(int least, int most) {
-    return least + static_cast<int>(generator() % static_cast<unsigned>(most - least + 1));
-}
-std::string tenths(int least, int most) { return shortesttext(within(least, most) / 10.0); }
+// The raw numbers of this engine are used, because distributions differ between libraries.
+std::mt19937 random32;
+int within(int min, int max) { return min + static_cast<int>(random32() % static_cast<unsigned>(max - min + 1)); }
+std::string tenths(int min, int max) { return shortesttext(within(min, max) / 10.0); }
 
-// Random views, some from inside the building, each with an element at a random position.
+// Plays random views, some from inside the building, each with an element at a random position.
 void playviews() {
     begin();
     for (const char* opened : {"shopfm", "postbeambtn", "orange2btn", "roofbtn"}) play(std::string("click ") + opened);
@@ -234,13 +232,13 @@ void playviews() {
 }
 
 // Replays a hand-written design file whose panels are rotated by arbitrary angles.
-void playturned() {
+void playrotated() {
     begin();
-    std::ofstream turned("designs/panels1.txt", std::ios::binary);
+    std::ofstream design("designs/panels1.txt", std::ios::binary);
     for (int i = 1; i <= 150; ++i)
-        turned << "\"panel\"," << i << ",100,100," << within(1, 15) << ",0," << tenths(-7200, 7200) << ','
+        design << "\"panel\"," << i << ",100,100," << within(1, 15) << ",0," << tenths(-7200, 7200) << ','
                << tenths(0, 9600) << ',' << tenths(0, 13000) << ",4,64\r\n";
-    turned.close();
+    design.close();
     replay("panels1");
     endstep("panels at odd angles");
 }
@@ -263,7 +261,7 @@ int main(int count, char** words) {
         playtower();
         for (const char* mode : {"wireframe", "solid"}) playelements(mode);
         playviews();
-        playturned();
+        playrotated();
     } catch (const std::exception& failed) {
         std::fprintf(stderr, "everymachine, step %d: %s\n", step, failed.what());
         return 1;

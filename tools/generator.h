@@ -1,4 +1,4 @@
-// The frame of the generators: each either creates all its files or reports on standard error why not.
+// Shared by the generators. A generator either creates all its files or reports on standard error why it cannot.
 #pragma once
 
 #include <cstdio>
@@ -22,7 +22,7 @@ int generate(const char* generator, procedure make) {
     return 1;
 }
 
-// Saves a picture of the toolkit as its name says; fails if it cannot be written.
+// Saves a Qt image in the format of the file's extension. Fails if the file cannot be written.
 template <class image>
 void saveimage(const image& picture, const std::filesystem::path& file) {
     if (!picture.save(file.c_str())) throw std::runtime_error(file.string() + " cannot be written");

@@ -25,7 +25,7 @@ wall() {
     esac
 }
 
-# snipped SNIP SIDE I J PANEL: the same, snipped, for a wall that ends at an inside corner.
+# snipped SNIP SIDE I J PANEL: a wall with a snipped panel, for an inside corner.
 snipped() {
     local snip=$1 panel=$5
     echo "click ${panel}btn"

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # tools/make-sessions.sh NAME... | --all: plays these sessions of tests/sessions and writes their records again. Shows
-# how each record differs: review every line, it is something that a user sees or finds on disk. Refuses to replace a
-# record that has changes which are not committed.
+# how each record differs: review every line, because users see these changes. Does not replace a record that has
+# uncommitted changes.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/setup.sh
@@ -18,7 +18,7 @@ if [ "$1" = --all ]; then
 fi
 for name in "$@"; do
     if ! git diff --quiet HEAD -- "tests/sessions/$name.txt"; then
-        echo "tests/sessions/$name.txt has changes that are not committed: commit them, or git restore it" >&2
+        echo "tests/sessions/$name.txt has uncommitted changes: commit them, or git restore it" >&2
         exit 1
     fi
 done
@@ -28,13 +28,13 @@ build release play
 scratch=$(mktemp -d)
 trap 'rm -r "$scratch"' EXIT
 
-# record NAME: plays the session in a folder of its own, then shows the difference and replaces the record.
+# record NAME: plays the session in a new working folder, then shows the difference and replaces the record.
 record() {
     local script=tests/sessions/$1.play expected=tests/sessions/$1.txt folder=$scratch/$1 status=0
     workingfolder "$folder"
     [ ! -d "tests/sessions/$1" ] || cp -r "tests/sessions/$1/." "$folder"
     (cd "$folder" && "$root/build/tools/play" "$root/$script" >/dev/null 2>error.txt) || status=$?
-    if [ "$status" -gt 1 ]; then # with 1 the program failed, as the record shows
+    if [ "$status" -gt 1 ]; then # 1: the program failed, which the record shows
         echo "$1: $(cat "$folder/error.txt")" >&2
         return 1
     fi

@@ -16,10 +16,10 @@ namespace tessaly {
 namespace {
 
 // ---- sizes, in model units ------------------------------------------------------------
-constexpr int bay = 192;              // from the middle of a post to the middle of the next
-constexpr int thick = 16;             // side of a post
-constexpr int storey = 128;           // height of a floor
-constexpr int wallong = bay + thick;  // a panel reaches over the posts at both ends
+constexpr int bay = 192;                     // from the middle of a post to the middle of the next
+constexpr int postside = 16;                 // thickness of a post
+constexpr int storey = 128;                  // height of a floor
+constexpr int panellength = bay + postside;  // a panel reaches over the posts at both ends
 
 // ---- colours: the first of three consecutive entries of pals/tessaly.txt -------------------
 namespace paint {  // clang-format off
@@ -53,7 +53,7 @@ piece tile(int group, int colour, double x0, double x1, double z0, double z1, in
 }
 
 // ---- shared by all panels: top of the plinth, bottom of the cornice, and the area between the posts
-constexpr double plinth = 12, cornice = 116, left = thick, right = bay;
+constexpr double plinth = 12, cornice = 116, left = postside, right = bay;
 
 struct wall {
     int face, rib, trim;
@@ -65,7 +65,7 @@ constexpr wall doorwall{paint::cream, paint::cream, paint::creamtrim};
 // Returns the strips at the posts, the band at the top, and with ground the band at the bottom.
 std::vector<piece> frame(const wall& w, bool ground) {
     std::vector<piece> p{tile(wallgroup, w.trim, 0, left, 0, storey, 1, 1),
-                         tile(wallgroup, w.trim, right, wallong, 0, storey, 1, 1),
+                         tile(wallgroup, w.trim, right, panellength, 0, storey, 1, 1),
                          tile(wallgroup, w.trim, left, right, cornice, storey, 0, 1)};
     if (ground) p.push_back(tile(wallgroup, w.trim, left, right, 0, plinth, 0, 1));
     return p;
@@ -154,7 +154,7 @@ std::vector<piece> doors(const wall& w, int count, double width, int leaf, int i
 
 // Returns an octagonal window in the middle: three panes in a white sash, and the wall around it in bands and corners.
 std::vector<piece> octagon(const wall& w) {
-    constexpr double middle = wallong / 2.0, height = 64;
+    constexpr double middle = panellength / 2.0, height = 64;
     struct ring {
         double reach, half;  // from the middle to a side; half the length of a side
         // Return the corner in the direction of the signs of x and z, on the vertical or on the horizontal side.
@@ -219,14 +219,14 @@ std::vector<panel> panels() {
 }
 
 struct ends {
-    const char *name, *says;
+    const char *name, *note;
     double from, to;  // X, model units
 };
 
 constexpr ends cuts[] = {
     // clang-format off
-    { "full", "Both ends reach over their posts.",             0,    wallong },
-    { "left", "Cut on the left by the width of a post.",       left, wallong },
+    { "full", "Both ends reach over their posts.",             0,    panellength },
+    { "left", "Cut on the left by the width of a post.",       left, panellength },
     { "righ", "Cut on the right by the width of a post.",      0,    right },
     { "both", "Cut on both sides by the width of a post.",     left, right },
 };  // clang-format on
@@ -248,7 +248,7 @@ void bars(shape& s, const quad& pane) {
 shape cut(const panel& p, const ends& e) {
     shape s;
     s.title = std::string(p.title) + " (" + e.name + ")";
-    s.note = e.says;
+    s.note = e.note;
     s.wires = p.wires;
     const auto within = [&](corner c) { return c.x >= e.from && c.x <= e.to; };
     for (const piece& q : p.pieces) {

@@ -66,12 +66,12 @@ void replaysolid(std::initializer_list<const char*> names) {
 }
 
 // Returns whether the middle of a control is in a region of its window; neighbours may overlap the edge.
-bool liesin(const twips& region, const control& c) {
+bool isin(const twips& region, const control& c) {
     const int x = c.bounds.left + c.bounds.width / 2 - region.left, y = c.bounds.top + c.bounds.height / 2 - region.top;
     return x >= 0 && x < region.width && y >= 0 && y < region.height;
 }
 
-twips wholeof(const window& w) { return {0, 0, w.widthtwips, w.heighttwips}; }
+twips fullbounds(const window& w) { return {0, 0, w.widthtwips, w.heighttwips}; }
 
 // Returns the contents of a window at its designed size, rendered at the given multiple of its pixels.
 QImage render(const window& w, int multiple = 1) {
@@ -87,9 +87,9 @@ QImage render(const window& w, int multiple = 1) {
 std::string descriptionof(const window& w, const twips& region) {
     std::set<std::string> lines;
     for (const control* c : w.controls)
-        if (c->shown && liesin(region, *c)) lines.insert(descriptionof(*c));
+        if (c->shown && isin(region, *c)) lines.insert(descriptionof(*c));
     std::string words = std::accumulate(lines.begin(), lines.end(), std::string());
-    if (&w != &vistaplan || !liesin(region, viewport)) return words;
+    if (&w != &vistaplan || !isin(region, viewport)) return words;
     checksum pixels;
     for (int i = 0; i < viewportimage().width() * viewportimage().height(); ++i)
         pixels.add(std::uint64_t{viewportimage().pixels()[i]});
@@ -118,11 +118,11 @@ void save(QImage image, const window& w, const twips& region, const fs::path& fo
 }
 
 void savewindow(const window& w, const fs::path& folder, const char* name) {
-    save(render(w), w, wholeof(w), folder, name);
+    save(render(w), w, fullbounds(w), folder, name);
 }
 
 void saveplan(const window& w, const fs::path& guide, const fs::path& folder, const char* name) {
-    save(markedplan(w, guide), w, wholeof(w), folder, name);
+    save(markedplan(w, guide), w, fullbounds(w), folder, name);
 }
 
 // Returns the size of the picture on a help button in pixels: the visible part of the button without its rim.
@@ -135,7 +135,7 @@ QSize picturesize(const char* name) {
 
 // Hides all controls of the main window outside a region.
 void showonly(const twips& bounds) {
-    for (const control* c : vistaplan.controls) widgetof(*c)->setVisible(c->shown && liesin(bounds, *c));
+    for (const control* c : vistaplan.controls) widgetof(*c)->setVisible(c->shown && isin(bounds, *c));
 }
 
 // Saves a picture of each region, on the grey of the main window, in the size of its help button.
@@ -155,11 +155,11 @@ void makehelppictures(const fs::path& folder) {
                                     cut.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
         save(filled, vistaplan, r.bounds, folder, r.button);
     }
-    showonly(wholeof(vistaplan));
+    showonly(fullbounds(vistaplan));
 }
 
-// Sets a view of the whole tower, with SET as a user would.
-void looktower() {
+// Sets a view of the complete tower, with SET as a user would.
+void setviewoftower() {
     struct typed {
         control& box;
         const char* text;
@@ -188,7 +188,7 @@ void makeall(const fs::path& guide, const fs::path& help, const fs::path& docume
     click("groupbtn");
     replaysolid({"girdhou1", "paneho1", "roofh1", "girdhou2", "paneho2", "roofh2"});
     savewindow(vistaplan, documents, "main-window");
-    looktower();
+    setviewoftower();
     replaysolid({"girdtow1", "paneto1",  "girdtow2", "paneto2",  "girdtow3", "paneto3",  "girdtow4",
                  "paneto4",  "girdtow5", "paneto5",  "girdtow6", "paneto6",  "girdtow7", "paneto7",
                  "girdtow8", "paneto8",  "girdtow9", "paneto9",  "girdtow0", "paneto0",  "rooft0"});

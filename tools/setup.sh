@@ -1,5 +1,5 @@
-# Shared by run.sh, test.sh, bench.sh and the checks: the packages that are needed, and the building of build/.
-# Sourced, not run, with the repository's root as the current folder.
+# Installs the needed packages and builds; used by run.sh, test.sh, bench.sh, fuzz.sh, .ci/run and other scripts.
+# To be sourced with the repository's root as the current folder.
 
 # The packages, as dependencies: "a | b" is satisfied by either package.
 runpackages='cmake, ninja-build, g++, qt6-base-dev, qt6-svg-dev | libqt6svg6-dev, qt6-wayland, fonts-dejavu-core, fonts-liberation'
@@ -18,7 +18,7 @@ if ! { [ -d "$temporary" ] && [ -w "$temporary" ]; }; then
 fi
 
 # wantpackages LIST...: installs missing packages; returns 1, after saying what is needed, if it cannot.
-# TESSALY_SKIP_SETUP=1 skips this, for systems that have the tools from elsewhere.
+# TESSALY_SKIP_SETUP=1 skips this, for systems where the tools were installed by other means.
 wantpackages() {
     [ "${TESSALY_SKIP_SETUP:-}" = 1 ] && return 0
     local IFS=, simulated asroot=()
@@ -48,8 +48,8 @@ wantpackages() {
 
 export CMAKE_GENERATOR=${CMAKE_GENERATOR:-Ninja} # if the build folder has none yet
 
-# build PRESET TARGET...: configures with this preset of CMakePresets.json, which is quick if nothing has changed, and
-# builds these targets, or all, on all cores.
+# build PRESET TARGET...: configures with this preset of CMakePresets.json, which is quick if nothing has changed. Builds
+# these targets, or those of the preset if none is given, on all cores.
 build() {
     local preset=$1 targets=() version
     shift

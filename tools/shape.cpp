@@ -11,9 +11,9 @@ namespace tessaly {
 namespace {
 
 template <typename... numbers>
-std::string row(const char* form, numbers... n) {
+std::string row(const char* format, numbers... n) {
     char buffer[200];
-    std::snprintf(buffer, sizeof buffer, form, n...);
+    std::snprintf(buffer, sizeof buffer, format, n...);
     return buffer;
 }
 

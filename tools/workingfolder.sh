@@ -1,4 +1,4 @@
-# Sourced by scripts that play in a temporary working folder. root: the folder of the repository.
+# To be sourced by scripts that play in a temporary working folder. root must be the folder of the repository.
 
 # workingfolder FOLDER: makes FOLDER a working folder like that of a fresh clone.
 workingfolder() {
