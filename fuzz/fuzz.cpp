@@ -1,9 +1,10 @@
-// Runs the program on inputs that no user would write. A play file of this folder, named by the environment, defines the
-// target: each of its paragraphs is one way to use an input, and the input's length selects one. Its lines are played;
+// Runs the program with random inputs. A play file of this folder, named by the environment variable TESSALY_FUZZ,
+// defines the target: each of its paragraphs is a variant of using an input, and the input's length selects one. The
+// program plays the lines of the paragraph; these lines use the input:
 //   # input FILE     writes the input to this file
 //   # script FILE    appends the input, as the script of this element file, to its sections
-//   # typed          types the input's lines into the boxes; each byte of the next line clicks a button or picks an
-//   entry # played         plays the input's lines until one asks for something that no user could do
+//   # typed          types the input's lines into the boxes; then each byte of a line clicks a button or picks an entry
+//   # played         plays the input's lines up to the first that no user could carry out
 // Every input may end in a failure. Anything else is a finding: a crash, a sanitizer's report, another exception, or
 // more than two seconds of work.
 
@@ -53,15 +54,15 @@ void startanew() {
         fs::create_directory(folder);
     }
     for (const auto& [path, bytes] : files) write(path, bytes);
-    static raster picture(90, 58);  // a tenth of viewport's sides: clearing viewport took half of the time
+    static raster picture(90, 58);  // a tenth as wide and high as viewport, which took half of the time to clear
     picture.clear();
     viewportsurface = &picture;
     progresssurface = &playedstrip;
     startprogram();
 }
 
-// Returns whether text, as part of a file name, could lead out of the working folder, where an input may change
-// nothing.
+// Returns whether a text, as part of a file name, could lead out of the working folder. Inputs must change nothing
+// there.
 bool leavesfolder(const std::string& text) { return text.find("..") != text.npos || text.find('/') != text.npos; }
 
 std::string nextline(std::istream& input) {
@@ -100,40 +101,40 @@ void played(std::istream& input) {
 
 std::string sections(const std::string& element) { return element.substr(0, element.rfind("TRAN")); }
 
-void play(const std::string& way, const std::string& input) {
-    std::istringstream lines(way), given(input);
+void play(const std::string& variant, const std::string& input) {
+    std::istringstream lines(variant), inputlines(input);
     for (std::string line, command, name; std::getline(lines, line);) {
         std::istringstream(line).ignore(2) >> command >> name;
         if (!line.starts_with('#')) playline(line);
         if (line.starts_with("# input")) write(name, input);
         if (line.starts_with("# script")) write(name, sections(filebytes(name, "element")) + input);
-        if (line == "# typed") typed(given);
-        if (line == "# played") played(given);
+        if (line == "# typed") typed(inputlines);
+        if (line == "# played") played(inputlines);
     }
 }
 
 // Returns the paragraphs of the play file.
-std::vector<std::string> allways() {
-    std::vector<std::string> ways(1);
+std::vector<std::string> readvariants() {
+    std::vector<std::string> variants(1);
     std::ifstream file(std::getenv("TESSALY_FUZZ"));
     for (std::string line; std::getline(file, line);)
         if (line.empty())
-            ways.emplace_back();
+            variants.emplace_back();
         else
-            ways.back() += line + '\n';
-    return ways;
+            variants.back() += line + '\n';
+    return variants;
 }
 
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
-    static const std::vector<std::string> ways = allways();
-    // Processor time: on a busy machine more time passes.
+    static const std::vector<std::string> variants = readvariants();
+    // Processor time, because on a busy machine more time passes.
     constexpr std::clock_t maxwork = 2 * CLOCKS_PER_SEC;
     const std::clock_t before = std::clock();
     try {
         startanew();
-        play(ways[size % ways.size()], std::string(bytes, bytes + size));
+        play(variants[size % variants.size()], std::string(bytes, bytes + size));
     } catch (const failure&) {
     }
     if (std::clock() - before > maxwork) throw std::runtime_error("an input was more than 2 s of work");

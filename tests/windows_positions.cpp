@@ -29,7 +29,7 @@ bool captionfits(const control& c, const QWidget& widget) {
         return label->sizeHint().width() <= widget.width() && label->fontMetrics().height() <= widget.height();
     if (c.kind != controlkind::button || widget.font().pixelSize() > captionpixels) return true;
     const captionlines caption = wrapcaption(QString::fromStdString(c.text), widget.size(), false);
-    return caption.whole && caption.pixels >= minpixels;
+    return caption.fits && caption.pixels >= minpixels;
 }
 
 // Positions that meet, as a beam and its posts or the panels around a corner, share their rims by design.

@@ -1,7 +1,7 @@
-// Makes the pictures of the ten element buttons and the three snip buttons: the very elements, drawn solid by the
-// engine from the element files at the size at which the buttons show them, so that button and result look alike and
-// every machine makes the same pictures. makebuttons WORKINGFOLDER FOLDER draws with the data of the working folder and
-// writes FOLDER/<control>.png, and <control>@2x.png for screens of double density.
+// Generates the pictures of the ten element buttons and the three snip buttons. The engine draws the elements solid
+// from their element files at the size of the buttons, so that button and result look alike and every machine generates
+// the same pictures. makebuttons WORKINGFOLDER FOLDER draws with the data of the working folder, and writes
+// FOLDER/<control>.png, and FOLDER/<control>@2x.png for screens of double density.
 
 #include "building/layouts.h"
 #include "core/controls.h"
@@ -27,41 +27,41 @@ namespace {
 
 struct viewpoint {
     double eyex, eyey, eyez;        // model units, relative to the focus
-    double focusx, focusy, focusz;  // model units; it stands in the middle of what is drawn
+    double focusx, focusy, focusz;  // model units; the focus is in the middle of the strip
     double magnification;           // as in the magnification box, for a picture of single density
 };
 
-// From the side on which the default view sees a panel's face; a panel's two ends straight from the front.
+// The ends of a panel are seen straight from the front, everything else at an angle from above.
 constexpr viewpoint panelview{260, -900, 210, 3, -104, 62, 0.0425};
 constexpr viewpoint frameview{800, -800, 420, 0, 0, 56, 0.0255};
 constexpr viewpoint roofview{800, -800, 620, 0, 0, 127, 0.0379};
 constexpr viewpoint leftend{0, -900, 0, -91.5, -104, 105, 0.052};
 constexpr viewpoint rightend{0, -900, 0, 93.5, -104, 105, 0.052};
 
-// An upright strip of a picture, drawn from a viewpoint of its own.
+// A vertical strip of a picture and its viewpoint.
 struct strip {
     viewpoint from;
     int left, width;  // pixels of the picture
 };
 
-// How a picture is drawn: what a button of single density shows within its rim, and what is drawn for each pixel.
-struct form {
+// The size of a picture for single density, which is the interior of its button, and how it is drawn.
+struct pictureformat {
     int width, height;  // pixels
-    int dots;           // for a pixel, each way: slanting edges want some, upright ones one
+    int dots;           // drawn per pixel in each direction, to smooth slanting edges; 1 if all edges are vertical
     std::vector<strip> strips;
 };
 
-const form panelform{101, 54, 4, {{panelview, 0, 101}}};
-const form frameform{101, 54, 4, {{frameview, 0, 101}}};
-const form roofform{101, 54, 4, {{roofview, 0, 101}}};
-const form endsform{24, 24, 1, {{leftend, 0, 12}, {rightend, 12, 12}}};  // what is cut is a third of its end
+const pictureformat panelformat{101, 54, 4, {{panelview, 0, 101}}};
+const pictureformat frameformat{101, 54, 4, {{frameview, 0, 101}}};
+const pictureformat roofformat{101, 54, 4, {{roofview, 0, 101}}};
+const pictureformat endsformat{24, 24, 1, {{leftend, 0, 12}, {rightend, 12, 12}}};  // what is cut is a third of its end
 
 struct picture {
     const char* button;                  // of the main window or the panel layout
     const char* element;                 // button that chooses the element
-    const char* snip;                    // text of panelsnipper, "" for a whole element
+    const char* snip;                    // text of panelsnipper, "" for a complete element
     std::vector<const char*> positions;  // farthest first
-    const form& as;
+    const pictureformat& format;
 };
 
 const std::vector<picture>& pictures() {
@@ -69,25 +69,25 @@ const std::vector<picture>& pictures() {
     static const std::vector<const char*> frame{"postx384y784", "beamx384y592",  "vbeamx400y784", "postx384y592",
                                                 "postx576y784", "vbeamx400y592", "beamx576y592",  "postx576y592"};
     static const std::vector<picture> all{
-        {"orange1btn", "orange1btn", "", wall, panelform},
-        {"orange2btn", "orange2btn", "", wall, panelform},
-        {"orange3btn", "orange3btn", "", wall, panelform},
-        {"yellow1btn", "yellow1btn", "", wall, panelform},
-        {"yellow2btn", "yellow2btn", "", wall, panelform},
-        {"yellow3btn", "yellow3btn", "", wall, panelform},
-        {"door2btn", "door2btn", "", wall, panelform},
-        {"door4btn", "door4btn", "", wall, panelform},
-        {"postbeambtn", "postbeambtn", "", frame, frameform},
-        {"roofbtn", "roofbtn", "", {"roofx384y576"}, roofform},
-        {"snipleftbtn", "orange1btn", "snip left side", wall, endsform},
-        {"sniprighbtn", "orange1btn", "snip right side", wall, endsform},
-        {"snipbothbtn", "orange1btn", "snip both sides", wall, endsform},
+        {"orange1btn", "orange1btn", "", wall, panelformat},
+        {"orange2btn", "orange2btn", "", wall, panelformat},
+        {"orange3btn", "orange3btn", "", wall, panelformat},
+        {"yellow1btn", "yellow1btn", "", wall, panelformat},
+        {"yellow2btn", "yellow2btn", "", wall, panelformat},
+        {"yellow3btn", "yellow3btn", "", wall, panelformat},
+        {"door2btn", "door2btn", "", wall, panelformat},
+        {"door4btn", "door4btn", "", wall, panelformat},
+        {"postbeambtn", "postbeambtn", "", frame, frameformat},
+        {"roofbtn", "roofbtn", "", {"roofx384y576"}, roofformat},
+        {"snipleftbtn", "orange1btn", "snip left side", wall, endsformat},
+        {"sniprighbtn", "orange1btn", "snip right side", wall, endsformat},
+        {"snipbothbtn", "orange1btn", "snip both sides", wall, endsformat},
     };
     return all;
 }
 
-// The view on the middle of the image; zoom is how many of its dots make a pixel of single density.
-void look(const viewpoint& from, const raster& image, int zoom) {
+// Sets a view whose focus is in the middle of the image. zoom is the number of dots per pixel of single density.
+void setview(const viewpoint& from, const raster& image, int zoom) {
     perprelx = from.eyex;
     perprely = from.eyey;
     perprelz = from.eyez;
@@ -101,12 +101,12 @@ void look(const viewpoint& from, const raster& image, int zoom) {
 
 void click(const char* name) { clickcontrol(*findcontrol(name)); }
 
-// Draws the elements of a picture on an image whose untouched dots are 0; a snipped panel stands before the wires of
-// the full one.
+// Draws the elements of a picture on an image; dots that are not drawn on are 0. A snipped panel is drawn over the
+// wires of the full one.
 void drawelements(const picture& p, const viewpoint& from, raster& image, int zoom) {
     std::fill_n(image.pixels(), image.width() * image.height(), 0U);
     viewportsurface = &image;
-    look(from, image, zoom);
+    setview(from, image, zoom);
     click(p.element);
     if (*p.snip != '\0') {
         wiresolid.text = "wireframe";
@@ -117,29 +117,29 @@ void drawelements(const picture& p, const viewpoint& from, raster& image, int zo
     for (const char* position : p.positions) click(position);
 }
 
-// One pixel for a square of dots: as opaque as it is touched, in the mean colour of what is. Whole numbers throughout,
-// so that every machine comes to the same picture.
+// Returns the pixel for a square of dots: the mean colour of the dots drawn on, with their share of the square as its
+// opacity. Integer arithmetic gives the same result on every machine.
 QRgb meanpixel(const raster& image, int left, int top, int dots) {
-    int touched = 0, red = 0, green = 0, blue = 0;
+    int drawn = 0, red = 0, green = 0, blue = 0;
     for (int y = top; y < top + dots; ++y)
         for (int x = left; x < left + dots; ++x) {
             const QRgb dot = image.pixels()[y * image.width() + x];
-            touched += dot != 0;
+            drawn += dot != 0;
             red += qRed(dot);
             green += qGreen(dot);
             blue += qBlue(dot);
         }
-    if (touched == 0) return 0;
-    const auto mean = [](int sum, int of) { return (sum + of / 2) / of; };
-    return qRgba(mean(red, touched), mean(green, touched), mean(blue, touched), mean(255 * touched, dots * dots));
+    if (drawn == 0) return 0;
+    const auto mean = [](int sum, int count) { return (sum + count / 2) / count; };
+    return qRgba(mean(red, drawn), mean(green, drawn), mean(blue, drawn), mean(255 * drawn, dots * dots));
 }
 
-// The picture for a screen on which so many pixels, each way, make one of the design grid.
-QImage made(const picture& p, int density) {
-    const int dots = p.as.dots;
-    QImage result(p.as.width * density, p.as.height * density, QImage::Format_ARGB32);
+// Draws a picture for a screen of this density: its pixels per pixel of the design grid in each direction.
+QImage drawpicture(const picture& p, int density) {
+    const int dots = p.format.dots;
+    QImage result(p.format.width * density, p.format.height * density, QImage::Format_ARGB32);
     result.fill(0);
-    for (const strip& s : p.as.strips) {
+    for (const strip& s : p.format.strips) {
         raster image(s.width * density * dots, result.height() * dots);
         drawelements(p, s.from, image, density * dots);
         for (int y = 0; y < result.height(); ++y)
@@ -158,7 +158,7 @@ void makeall(const std::filesystem::path& folder) {
     writefilebox.text = "off";
     for (const picture& p : pictures())
         for (const auto& [density, ending] : {std::pair{1, ".png"}, std::pair{2, "@2x.png"}})
-            saveimage(made(p, density), folder / (p.button + std::string(ending)));
+            saveimage(drawpicture(p, density), folder / (p.button + std::string(ending)));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// Buttons paint themselves: the smallest are 15 pixels high, where a desktop's own buttons would cut their captions.
+// Paints the buttons. The smallest are so low that the desktop style would cut their captions.
 
 #include "windows/qt/button.h"
 
@@ -18,9 +18,10 @@ namespace tessaly {
 namespace {
 
 const QColor ringcolour(36, 84, 150);
-constexpr int smallestpixels = 8;
-constexpr int sideroom = 3, edgeroom = 1;  // pixels between caption and rim
+constexpr int minpixels = 8;                   // of letters
+constexpr int sidemargin = 3, edgemargin = 1;  // pixels between caption and rim, at the sides and above and below
 
+// Breaks words into lines, each with as many words as fit into the width, at least one.
 QStringList greedylines(const QStringList& words, const QFontMetrics& metrics, int width) {
     QStringList lines;
     for (const QString& word : words) {
@@ -38,7 +39,7 @@ int widest(const QStringList& lines, const QFontMetrics& metrics) {
     return width;
 }
 
-// As few lines as the width allows, and then the narrowest block of that many.
+// Breaks words into as few lines as the width allows, and of all such lines returns the narrowest.
 QStringList evenlines(const QStringList& words, const QFontMetrics& metrics, int width) {
     QStringList lines = greedylines(words, metrics, width);
     for (;;) {
@@ -50,8 +51,8 @@ QStringList evenlines(const QStringList& words, const QFontMetrics& metrics, int
 
 int linepitch(const QFontMetrics& metrics) { return metrics.capHeight() + metrics.descent() + 2; }
 
-// Height of the letters of n lines, from the top of a capital to the foot of a "g".
-int inkheight(int n, const QFontMetrics& metrics) {
+// Returns the height of n lines, from the top of a capital letter to the bottom of a "g".
+int textheight(int n, const QFontMetrics& metrics) {
     return metrics.capHeight() + metrics.descent() + (n - 1) * linepitch(metrics);
 }
 
@@ -61,19 +62,21 @@ QFont buttonfont(int pixels, bool bold) {
     return font;
 }
 
-// Takes so many percent from another colour.
+// Returns a colour mixed with the given percentage of another one.
 QColor mixed(const QColor& colour, const QColor& other, int percent) {
     const auto mean = [percent](int a, int b) { return (a * (100 - percent) + b * percent) / 100; };
     return {mean(colour.red(), other.red()), mean(colour.green(), other.green()), mean(colour.blue(), other.blue())};
 }
 
+// Returns the button in this direction with the least distance, in which a deviation to the side counts double; nullptr
+// if there is none.
 QPushButton* nearestbutton(const QWidget& plan, QPoint from, QPoint direction) {
     QPushButton* nearest = nullptr;
     int least = 0;
     for (QPushButton* b : plan.findChildren<QPushButton*>(QString(), Qt::FindDirectChildrenOnly)) {
-        const QPoint way = b->geometry().center() - from;
-        const int along = QPoint::dotProduct(way, direction);
-        const int aside = std::abs(QPoint::dotProduct(way, {direction.y(), direction.x()}));
+        const QPoint offset = b->geometry().center() - from;
+        const int along = QPoint::dotProduct(offset, direction);
+        const int aside = std::abs(QPoint::dotProduct(offset, {direction.y(), direction.x()}));
         const int distance = along + 2 * aside;
         if (b->isHidden() || along <= 0 || 2 * aside > 3 * along || (nearest && distance >= least)) continue;
         nearest = b;
@@ -86,19 +89,19 @@ QPushButton* nearestbutton(const QWidget& plan, QPoint from, QPoint direction) {
 
 captionlines wrapcaption(const QString& caption, QSize size, bool bold) {
     const QStringList words = caption.split(' ', Qt::SkipEmptyParts);
-    const int width = size.width() - 2 * sideroom, height = size.height() - 2 * edgeroom;
+    const int width = size.width() - 2 * sidemargin, height = size.height() - 2 * edgemargin;
     captionlines best{{}, captionpixels, false};
-    for (int pixels = captionpixels; pixels >= smallestpixels; --pixels) {
+    for (int pixels = captionpixels; pixels >= minpixels; --pixels) {
         const QFontMetrics metrics(buttonfont(pixels, bold));
         best = {evenlines(words, metrics, width), pixels, false};
-        best.whole =
-            widest(best.lines, metrics) <= width && inkheight(static_cast<int>(best.lines.size()), metrics) <= height;
-        if (best.whole) break;
+        best.fits =
+            widest(best.lines, metrics) <= width && textheight(static_cast<int>(best.lines.size()), metrics) <= height;
+        if (best.fits) break;
     }
     return best;
 }
 
-bool walkbyarrow(const QWidget& plan, QPoint from, int key) {
+bool movefocusbyarrow(const QWidget& plan, QPoint from, int key) {
     static const std::map<int, QPoint> arrows{
         {Qt::Key_Left, {-1, 0}}, {Qt::Key_Right, {1, 0}}, {Qt::Key_Up, {0, -1}}, {Qt::Key_Down, {0, 1}}};
     const auto arrow = arrows.find(key);
@@ -121,7 +124,7 @@ picture::picture(const QString& name) {
 
 QSize picture::size() const { return pixels.isNull() ? drawing.defaultSize() : pixels.size(); }
 
-// Scaled by whole areas: a small picture keeps the thin lines of a large one. At its own size it stays as it is.
+// Averages pixels, so that a reduced picture keeps its thin lines. A picture of the same size remains unchanged.
 QPixmap picture::scaledto(QSizeF size, qreal ratio) const {
     const QPixmap& from = ratio > 1 && !dense.isNull() ? dense : pixels;
     QPixmap scaled = from.scaled((size * ratio).toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
@@ -146,47 +149,47 @@ button::button(const QColor& itsbackground, QWidget* parent) : QPushButton(paren
     setAutoDefault(false);
 }
 
-void button::setpicture(const QString& name) { shows = std::make_unique<picture>(name); }
+void button::setpicture(const QString& name) { image = std::make_unique<picture>(name); }
 
-void button::setchosen(bool itis) {
-    if (itis == chosen) return;
-    chosen = itis;
+void button::setchosen(bool on) {
+    if (on == chosen) return;
+    chosen = on;
     update();
 }
 
-void button::setmarked(bool itis) {
-    if (itis == marked) return;
-    marked = itis;
+void button::setmarked(bool on) {
+    if (on == marked) return;
+    marked = on;
     update();
 }
 
 void button::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    paintface(painter);
+    paintbackground(painter);
     if (lookspressed()) painter.translate(1, 1);
-    if (shows && !shows->isnull())
-        shows->paint(painter, QRectF(seen()).adjusted(2, 2, -2, -2));
+    if (image && !image->isnull())
+        image->paint(painter, QRectF(visiblepart()).adjusted(2, 2, -2, -2));
     else
         paintcaption(painter);
     if (marked) paintmark(painter);
     if (!chosen) return;
-    painter.setPen(QPen(ringcolour, 3));  // a picture may cover the face
+    painter.setPen(QPen(ringcolour, 3));  // over a picture, which may cover the background
     painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(seen()).adjusted(1, 1, -3, -3));
+    painter.drawRect(QRectF(visiblepart()).adjusted(1, 1, -3, -3));
 }
 
-QRect button::seen() const { return rect() & parentWidget()->rect().translated(-pos()); }
+QRect button::visiblepart() const { return rect() & parentWidget()->rect().translated(-pos()); }
 
-void button::paintface(QPainter& painter) const {
+void button::paintbackground(QPainter& painter) const {
     const QColor base = lookspressed() ? mixed(background, QColor(0, 0, 0), 35)
                         : underMouse() ? mixed(background, QColor(255, 255, 255), 50)
                                        : background;
     QLinearGradient shade(0, 0, 0, height());
     shade.setColorAt(0, lookspressed() ? base.darker(106) : base.lighter(108));
     shade.setColorAt(1, lookspressed() ? base : base.darker(106));
-    const QRectF rim = QRectF(seen()).adjusted(0.5, 0.5, -0.5, -0.5);
+    const QRectF rim = QRectF(visiblepart()).adjusted(0.5, 0.5, -0.5, -0.5);
     painter.setRenderHint(QPainter::Antialiasing);
-    // The ring of the keyboard shows only to those who use it.
+    // Show the focus ring only in a window whose focus was moved by the keyboard.
     const bool ring = hasFocus() && window()->testAttribute(Qt::WA_KeyboardFocusChange);
     painter.setPen(QPen(ring ? ringcolour : background.darker(170), 1));
     painter.setBrush(shade);
@@ -213,17 +216,17 @@ void button::paintcaption(QPainter& painter) const {
     painter.setFont(letters);
     painter.setPen(readablecolour(background));
     const auto count = static_cast<int>(caption.lines.size());
-    // Capitals stand in the middle: the foot of a "g" may come nearer to the rim than the top of a capital.
-    const int ink = metrics.capHeight() + (count - 1) * linepitch(metrics);
-    int base = (height() - ink) / 2 + metrics.capHeight();
-    if (count > 1) base = std::min(base, height() - edgeroom - metrics.descent() - (count - 1) * linepitch(metrics));
+    // Centre the capital letters: the bottom of a "g" may be nearer to the rim than the top of a capital.
+    const int capitals = metrics.capHeight() + (count - 1) * linepitch(metrics);
+    int base = (height() - capitals) / 2 + metrics.capHeight();
+    if (count > 1) base = std::min(base, height() - edgemargin - metrics.descent() - (count - 1) * linepitch(metrics));
     for (const QString& line : caption.lines) {
         painter.drawText((width() - metrics.horizontalAdvance(line) + 1) / 2, base, line);
         base += linepitch(metrics);
     }
 }
 
-// White within black can be read on every colour.
+// Paints a white disc with a black rim, which can be seen on every colour.
 void button::paintmark(QPainter& painter) const {
     constexpr double radius = 3.5;
     painter.setRenderHint(QPainter::Antialiasing);
@@ -235,7 +238,7 @@ void button::paintmark(QPainter& painter) const {
 void button::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         click();
-    else if (!walkbyarrow(*parentWidget(), geometry().center(), event->key()))
+    else if (!movefocusbyarrow(*parentWidget(), geometry().center(), event->key()))
         QPushButton::keyPressEvent(event);
 }
 

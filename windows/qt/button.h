@@ -1,4 +1,4 @@
-// The push buttons of all windows: a raised face in the control's colour with a caption that wraps, or with a picture.
+// The push buttons of all windows: raised, in the control's colour, with a wrapped caption or a picture.
 #pragma once
 
 #include <QPushButton>
@@ -8,23 +8,23 @@
 
 namespace tessaly {
 
-// A caption as it is painted: its lines and the size of their letters.
+// The lines of a caption and the size of their letters.
 struct captionlines {
     QStringList lines;
     int pixels;
-    bool whole;  // everything fits
+    bool fits;
 };
 
-// Breaks a caption at its blanks into lines of like length that fit into size; takes smaller letters where it must.
+// Breaks a caption at its blanks into lines of similar length that fit into size, with smaller letters if necessary.
 captionlines wrapcaption(const QString& caption, QSize size, bool bold);
 
-// The picture of that name among the program's pictures, ".png" (on dense screens "@2x.png" if there) or else ".svg".
+// A picture of the program by its name: NAME.png, with NAME@2x.png for screens of higher density, or else NAME.svg.
 class picture {
   public:
     explicit picture(const QString& name);
     bool isnull() const { return pixels.isNull() && !drawing.isValid(); }
     QSize size() const;
-    // Paints it into a rectangle, whole, in its own proportions, in the middle.
+    // Paints the picture in the middle of a rectangle, as large as fits without changing its proportions.
     void paint(QPainter& painter, const QRectF& into) const;
 
   private:
@@ -34,25 +34,25 @@ class picture {
     mutable QSvgRenderer drawing;
 };
 
-// Takes the focus from a place on a plan to the nearest button in an arrow key's direction, one in line with it before
-// others. Whether it was an arrow key.
-bool walkbyarrow(const QWidget& plan, QPoint from, int key);
+// Moves the focus from a point of a plan to the nearest button in the direction of an arrow key. Returns whether the
+// key is an arrow key.
+bool movefocusbyarrow(const QWidget& plan, QPoint from, int key);
 
 class button : public QPushButton {
   public:
     button(const QColor& itsbackground, QWidget* parent);
     void setpicture(const QString& name);
-    void setchosen(bool itis);  // whether it looks pressed all the time
-    void setmarked(bool itis);  // with a mark in the middle
+    void setchosen(bool on);  // sets whether the button looks pressed all the time
+    void setmarked(bool on);  // sets whether the button has a mark in the middle
 
   protected:
     void paintEvent(QPaintEvent*) override;
     void keyPressEvent(QKeyEvent* event) override;
 
   private:
-    // What of it lies on the plan: the help's picture buttons are longer than their window.
-    QRect seen() const;
-    void paintface(QPainter& painter) const;
+    // Returns the part of the button that is on the plan: the picture buttons of the help are longer than their window.
+    QRect visiblepart() const;
+    void paintbackground(QPainter& painter) const;
     void paintcaption(QPainter& painter) const;
     void paintmark(QPainter& painter) const;
 
@@ -60,7 +60,7 @@ class button : public QPushButton {
 
     QColor background;
     bool chosen = false, marked = false;
-    std::unique_ptr<picture> shows;
+    std::unique_ptr<picture> image;
 };
 
 }  // namespace tessaly

@@ -1,4 +1,4 @@
-// The table of the windows that have something of their own. All others open beside the main window.
+// The windows that differ from the others. Windows not in the table only open beside the main window.
 
 #include "windows/qt/decoration.h"
 
@@ -9,7 +9,7 @@ namespace tessaly {
 namespace {
 
 struct decorator {
-    const window* of;
+    const window* target;
     void (*decorate)(windowframe&);
 };
 const decorator decorators[] = {
@@ -22,7 +22,7 @@ const decorator decorators[] = {
 void decoratewindow(windowframe& f) {
     f.setfirstposition = openbesidemain;
     for (const decorator& d : decorators)
-        if (d.of == &f.source) d.decorate(f);
+        if (d.target == &f.source) d.decorate(f);
 }
 
 }  // namespace tessaly

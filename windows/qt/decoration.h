@@ -1,14 +1,14 @@
-// What each window has of its own, once its controls stand on the plan: its decoration, its keys, its first showing.
+// Sets up what is special about each window after its widgets were created: its decoration, keys and first position.
 #pragma once
 
 #include "windows/qt/windowframe.h"
 
 namespace tessaly {
 
-// Dresses a window by the table of those that have something of their own.
+// Sets up any window.
 void decoratewindow(windowframe& f);
 
-// A file each.
+// Set up one window each. The three layout windows are in layoutplans.cpp, the others in the file of their name.
 void decoratestartform(windowframe& f);
 void decoratevistaplan(windowframe& f);
 void decoratelayoutgirder(windowframe& f);

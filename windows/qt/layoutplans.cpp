@@ -1,5 +1,6 @@
-// What the three layout windows show behind their buttons: the grid, posts and beams as decoration, and the axes. All
-// coordinates are twips of the window unless said otherwise; x of the plan runs down, y runs across.
+// Draws the decoration of the three layout windows: the grid, posts and beams, the axes, and the panel type of the next
+// click. Marks the buttons whose element is built. Coordinates are twips of the window unless stated otherwise; X of
+// the plan runs downward, Y to the right.
 
 #include "building/buildstate.h"
 #include "building/builtelements.h"
@@ -16,7 +17,7 @@ namespace {
 
 constexpr int columns = 8, rows = 6;  // grid points across and down
 
-// A grid point's place, and where the lines through it end.
+// The grid of a window; overhang: by how much its lines extend beyond the outer grid points.
 struct grid {
     int left0, top0, pitch, overhang;
     int left(int column) const { return left0 + pitch * column; }
@@ -28,8 +29,8 @@ QRectF box(int lefttwips, int toptwips, int widthtwips, int heighttwips) {
     return {pointat(lefttwips, toptwips), QSizeF(size.x(), size.y())};
 }
 
-void drawgrid(QPainter& painter, const grid& g, const QColor& ink) {
-    painter.setPen(QPen(ink, 1, Qt::DashLine));
+void drawgrid(QPainter& painter, const grid& g, const QColor& colour) {
+    painter.setPen(QPen(colour, 1, Qt::DashLine));
     for (int column = 0; column < columns; ++column)
         painter.drawLine(pointat(g.left(column), g.top0 - g.overhang),
                          pointat(g.left(column), g.top(rows - 1) + g.overhang));
@@ -46,9 +47,9 @@ void drawarrow(QPainter& painter, QPointF from, QPointF to) {
     painter.drawLine(to, to - along * 6 - across * 3);
 }
 
-// The axes from the plan's first corner: y to the right along the top, x down along the left.
-void drawaxes(QPainter& painter, int lefttwips, int toptwips, int righttwips, int bottomtwips, const QColor& ink) {
-    painter.setPen(QPen(ink, 1));
+// Draws the axes from the upper left corner of the plan: Y to the right, X downward.
+void drawaxes(QPainter& painter, int lefttwips, int toptwips, int righttwips, int bottomtwips, const QColor& colour) {
+    painter.setPen(QPen(colour, 1));
     drawarrow(painter, pointat(lefttwips, toptwips), pointat(righttwips, toptwips));
     drawarrow(painter, pointat(lefttwips, toptwips), pointat(lefttwips, bottomtwips));
 }
@@ -76,7 +77,7 @@ void setbold(const control& label) {
     widget->setFont(font);
 }
 
-// Marks the positions whose element is built on the present floor.
+// Marks the buttons whose element is built on the current floor, and sets their tooltips.
 void showbuilt(const window& plan) {
     const builtelements& built = builton(plan);
     for (const control* c : plan.controls) {
@@ -107,20 +108,21 @@ void drawgirderplan(QPainter& painter) {
     drawaxes(painter, 190, 190, 4200, 3200, QColor(128, 0, 0));
 }
 
-// The panel type of the next click, in the corner above the axes.
-const QRect nextpanelplace(6, 2, 74, 40);
+// The bounds of the picture of the next panel type, in pixels of the plan.
+const QRect nextpanelbounds(6, 2, 74, 40);
 
+// Updates the picture and the description of the panel type that the next click places.
 void shownextpanel(windowframe& f) {
     const control* const next = nextpanel();
     const QString description = next ? "The next click places: " + QString::fromStdString(next->accessiblename) : "";
     if (f.accessibleDescription() == description) return;
     f.setAccessibleDescription(description);
-    f.plan()->update(nextpanelplace);
+    f.plan()->update(nextpanelbounds);
 }
 
 void drawpanelplan(QPainter& painter) {
     if (const control* const next = nextpanel())
-        picture(QString::fromStdString(next->name)).paint(painter, nextpanelplace);
+        picture(QString::fromStdString(next->name)).paint(painter, nextpanelbounds);
     drawgrid(painter, panelgrid, QColor(140, 140, 210));
     drawbeams(painter, panelgrid, 105, QColor(170, 170, 225));
     drawposts(painter, panelgrid, 165, QColor(96, 96, 150));

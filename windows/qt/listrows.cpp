@@ -1,4 +1,5 @@
-// The picked row is filled dark, the one under the mouse light; a dotted frame is around the row of the keyboard.
+// Fills the picked row with a dark colour and the row under the mouse with a light one, and draws a dotted frame around
+// the current row of the keyboard.
 
 #include "windows/qt/listrows.h"
 
@@ -9,7 +10,7 @@ namespace tessaly {
 
 namespace {
 
-const QColor underthemouse(205, 222, 245);
+const QColor hovercolour(205, 222, 245);
 
 }  // namespace
 
@@ -22,7 +23,7 @@ void rowpainter::paint(QPainter* painter, const QStyleOptionViewItem& option, co
     QStyleOptionViewItem row = option;
     const bool picked = row.state & QStyle::State_Selected, keyboard = row.state & QStyle::State_HasFocus;
     row.state &= ~QStyle::State_HasFocus;  // the style would fill the row as if it were picked
-    if (!picked && (row.state & QStyle::State_MouseOver)) painter->fillRect(row.rect, underthemouse);
+    if (!picked && (row.state & QStyle::State_MouseOver)) painter->fillRect(row.rect, hovercolour);
     QStyledItemDelegate::paint(painter, row, index);
     if (!keyboard) return;
     painter->setPen(QPen(row.palette.color(picked ? QPalette::HighlightedText : QPalette::Text), 1, Qt::DotLine));

@@ -1,4 +1,4 @@
-// How the rows of lists are painted: the picked row, the row under the mouse and the row of the keyboard differ.
+// Paints the rows of lists, so that the picked row, the row under the mouse and the row of the keyboard differ.
 #pragma once
 
 #include <QStyledItemDelegate>
@@ -9,7 +9,7 @@ namespace tessaly {
 
 class rowpainter : public QStyledItemDelegate {
   public:
-    // Paints the rows of this list from now on.
+    // Makes this object paint the rows of a list.
     explicit rowpainter(QAbstractItemView& list);
 
     void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override;

@@ -37,7 +37,7 @@ class planwidget : public QWidget {
     }
 
     void keyPressEvent(QKeyEvent* event) override {
-        if (!walkbyarrow(*this, {0, 0}, event->key())) QWidget::keyPressEvent(event);
+        if (!movefocusbyarrow(*this, {0, 0}, event->key())) QWidget::keyPressEvent(event);
     }
 
   private:
