@@ -177,7 +177,7 @@ std::string plaintext(double number) {
 }
 
 std::string plaindigits(double number) {
-    const std::string text = generaltext(number);
+    std::string text = generaltext(number);
     const std::size_t power = text.find("E-");
     if (power == std::string::npos) return text;
     std::string digits = text.substr(0, power);

@@ -25,7 +25,7 @@ namespace tessaly {
 namespace {
 
 std::string nameof(scriptline& line) {
-    const std::string name(line.word());
+    std::string name(line.word());
     if (name.empty()) throw scripterror("a name was expected");
     return name;
 }
@@ -126,7 +126,7 @@ void picture(scriptline& line) {
 
 // Returns the path of a file that scripts may change: one in the working folder.
 std::filesystem::path ownfile(const std::string& name) {
-    const std::filesystem::path path = std::filesystem::path(name).lexically_normal();
+    std::filesystem::path path = std::filesystem::path(name).lexically_normal();
     if (path.empty() || path.is_absolute() || *path.begin() == "..")
         throw scripterror(name + " is not in the working folder");
     return path;

@@ -11,7 +11,7 @@
 namespace tessaly {
 
 // Up to this coordinate, in pixels, 64 bits are enough: the products in drawpixels stay below 2^62.
-constexpr float exactlimit = 536870912;  // 2^29
+constexpr float exactlimit = 536870912.0F;  // 2^29
 
 struct pixelline {
     int x1, y1, x2, y2;

@@ -55,7 +55,7 @@ void loadpalette() {
         filesin("pals\\");
     }
     for (int k = 1; k <= lastrecordread; ++k) {
-        const auto record = static_cast<std::size_t>((k - 1) * recordbytes);
+        const auto record = static_cast<std::size_t>(k - 1) * recordbytes;
         palblue.set(k, numberat(bytes, record + 2));
         palgreen.set(k, numberat(bytes, record + 4));
         palred.set(k, numberat(bytes, record + 6));
