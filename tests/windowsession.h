@@ -60,6 +60,7 @@ class windowsession : public testing::Test {
         QTest::mouseClick(widgetof(c), Qt::LeftButton);
     }
     static void start() {
+        destroywindows();  // the controls that they show are created again
         openwindows(decoratewindow);
         click(startprogrambtn);
     }
