@@ -21,7 +21,7 @@ struct drawnline {
     float x1, y1, x2, y2;
 };
 
-// Collects what a replay reads and draws. Each face is filled with a colour of its own, to find its distinct pixels.
+// Collects what a replay reads and draws. Fills each face with a different colour, to find its distinct pixels.
 class limitcollector : public nosurface {
   public:
     void line(float x1, float y1, float x2, float y2, colour) override {

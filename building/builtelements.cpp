@@ -77,7 +77,7 @@ void count(builtelements& built, const planpositions& plan) {
     }
 }
 
-// What tells whether a file has changed: size and time, none of a file that is not there.
+// Size and time of a file, by which a change is recognised; both zero if the file does not exist.
 struct filestamp {
     std::uintmax_t size = 0;
     std::filesystem::file_time_type time = {};

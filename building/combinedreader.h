@@ -1,6 +1,6 @@
 // The girder and panel file reader: replays two design files, picked one after the other, as one, over the picture: as
-// a wireframe, or solid with the elements of both files sorted together. Each record has the height of its own floor
-// and its own kind of element, so any two files can be combined. Design files are never written.
+// a wireframe, or solid with the elements of both files sorted together. Each record has the height of its floor
+// and its kind of element, so any two files can be combined. Design files are never written.
 #pragma once
 
 #include "building/designfiles.h"

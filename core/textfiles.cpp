@@ -6,7 +6,6 @@
 #include "core/failure.h"
 #include "core/openflags.h"
 #include "core/value.h"
-#include "core/wholefile.h"
 
 #include <algorithm>
 #include <array>

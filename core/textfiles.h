@@ -78,6 +78,9 @@ void resetchannels();
 // Deletes a file; fails with file not found or file access error.
 void deletefile(std::string_view path);
 
+// The name under which replacefile (core/wholefile.h) writes a file until it is complete.
+inline constexpr std::string_view unfinishedname = ".unfinished";
+
 // Returns the names of the files in a folder, sorted, without the unfinished file of a capture. Fails with file not
 // found if the folder does not exist.
 std::vector<std::string> filesin(std::string_view folder);
