@@ -1,4 +1,4 @@
-// The state of building, which is stored in the boxes of the main window and read at each click on a plan: panel type
+// The building state, which is stored in the text boxes of the main window and read at each click on a plan: panel type
 // and snip, floor, draw mode, record mode.
 #pragma once
 
@@ -9,20 +9,20 @@ namespace tessaly {
 struct control;
 
 // Reads record mode, draw mode and floor from their boxes. reads: writefilebox, wiresolid, floor;
-// writes: recordtext, recordmode, drawtext, drawmode, floornum, floorname, placez. A text with another meaning leaves
-// the mode or floor unchanged.
+// writes: recordtext, recordmode, drawtext, drawmode, floornum, floorname, placez. A text that names no mode or floor
+// leaves that mode or floor unchanged.
 void readbuildstate();
 
 // Sets floorname and placez for floor numbers 1..10; any other number leaves them unchanged.
 void setfloor(const value& level);
 
-// Returns the floorname that the next click on a plan will set, by the present text of the floor box.
+// Returns the floorname that the next click on a plan will set, according to the current text of the floor box.
 value nextfloorname();
 
 // Returns the button of the panel type that the next click on the panel layout places; nullptr before the first choice.
 const control* nextpanel();
 
-// Makes the three boxes that readbuildstate reads warn of a text without a meaning, and of recording switched off.
+// Makes each box that readbuildstate reads show a warning if its text has no meaning or switches recording off.
 void setboxwarnings();
 
 // Open a layout window. reads: usedcontrol; clickpanelbtn, which all eight panel buttons run, writes panelprefix.
@@ -30,7 +30,7 @@ void clickpanelbtn();
 void clickpostbeambtn();
 void clickroofbtn();
 
-// Sets the text of panelsnipper for any of the three snip buttons. reads: usedcontrol.
+// Run by all three snip buttons: sets the text of panelsnipper. reads: usedcontrol.
 void clicksnipbtn();
 
 // Shows floorlist.
@@ -39,7 +39,7 @@ void clickfloorbtn();
 // Copies the picked floor to the floor box and hides the list.
 void pickfloorlist();
 
-// Switch between "solid" and "wireframe", and between "on" and "off"; any other text in the box is unchanged.
+// Switch their boxes between "solid" and "wireframe" and between "on" and "off"; any other text stays unchanged.
 void clickwiresolidbtn();
 void clickwritefilebtn();
 

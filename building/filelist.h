@@ -1,5 +1,5 @@
-// The list of design files, in which a picked file can be deleted, and the button that closes the first lists of the
-// readers.
+// The list of design files, in which a picked file can be deleted, and the button that closes the lists that the file
+// readers show first.
 #pragma once
 
 namespace tessaly {
@@ -17,7 +17,7 @@ void clickclosefilelistbtn();
 // file not found, file access error.
 void clickkillfilebtn();
 
-// Hides the first lists of both readers, their prompts and the button itself.
+// Hides the lists that both file readers show first, their prompts and the button itself.
 void clickescapefilelistbtn();
 
 }  // namespace tessaly

@@ -15,9 +15,10 @@ namespace tessaly {
 
 namespace {
 
-constexpr double minsorted = 1;  // the sort takes only records at a greater distance
+constexpr double minsorted = 1;  // only records farther away than this are sorted
 
-// The progress strip, in its own pixels, y down: rows from x 1 to x 17. stripbottom is one below the lowest row.
+// The progress strip, in its own pixels, y pointing down: rows from x 1 to x 17. stripbottom is one below the lowest
+// row.
 constexpr float stripleft = 1, stripright = 17;
 constexpr int stripbottom = 701, striprows = 701, rowsperrecord = 4;
 constexpr colour striplength{200, 200, 200}, stripback{100, 100, 100}, stripdone{250, 50, 50};
@@ -29,7 +30,7 @@ void drawstriprow(int row, colour c) {
     progresssurface->line(stripleft, y, stripright, y, c);
 }
 
-// Draws rows from the bottom of the strip up.
+// Draws count rows, from the bottom of the strip upwards.
 void drawstriprows(int count, colour c) {
     for (int row = stripbottom - 1; row >= stripbottom - count; --row) drawstriprow(row, c);
 }

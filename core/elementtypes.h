@@ -1,4 +1,4 @@
-// The types of building elements, one table for each list of facts: panel types, snip parts, classes of design files.
+// The types of building elements, with one table each for panel types, snip parts and classes of design files.
 // Names, codes and buttons of elements are derived from these rows and are written nowhere else.
 #pragma once
 
@@ -14,7 +14,7 @@ namespace tessaly {
 struct snippart {
     const char* text;       // item of panelsnipper
     const control* button;  // sets that item; nullptr: the item has no button
-    const char* part;       // after the prefix in the names of element files; four letters each, "righ" on purpose
+    const char* part;  // after the prefix in the names of element files; four letters each, so "righ" is deliberate
 };
 inline constexpr snippart snipparts[] = {
     // clang-format off

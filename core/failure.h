@@ -1,6 +1,6 @@
 // Failures: one exception type for everything that can go wrong while the building set runs. The operation that detects
-// a failure throws it. The few traps of the program are try/catch exactly where the behaviour has a trap; every other
-// exception reaches the top of the event, is reported and ends the program.
+// a failure throws it. A few operations continue after a failure and catch it. Every other exception leaves the event,
+// is reported and ends the program.
 #pragma once
 
 #include <cstddef>
@@ -14,11 +14,11 @@ enum class failurekind {
     filenotfound,     // no such file or folder
     fileaccess,       // the system refuses to read, write or delete it
     filealreadyopen,  // the channel is still in use
-    inputpastend,     // a read after the last field of a file
+    inputpastend,     // a read past the last field of a file
     overflow,         // a number outside its range
     subscript,        // an index outside a table
-    typemismatch,     // a text that is not a number met arithmetic
-    divisionbyzero,   // a quotient with divisor 0
+    typemismatch,     // arithmetic on a text that is not a number
+    divisionbyzero,   // a division by 0
     invalidcall,      // an operation given something it cannot work on
 };
 
@@ -28,13 +28,13 @@ std::string_view kindname(failurekind kind);
 class failure : public std::exception {
   public:
     // why: what was found and what was expected. where: file, line and field, or text box; empty if there is none.
-    // remedy: what the user can do; without it, the usual remedy of the kind.
+    // remedy: what the user can do; if empty, the usual remedy for the kind.
     failure(failurekind failed, std::string why, std::string where = {}, std::string remedy = {});
 
     // Adds the location unless the failure has one already.
     void addlocation(const std::string& where);
 
-    // The report in one line: "location: detail: remedy (kind)".
+    // The report as one line: "location: detail: remedy (kind)".
     const char* what() const noexcept override { return report.c_str(); }
 
     failurekind kind;
@@ -45,7 +45,7 @@ class failure : public std::exception {
     std::string report;
 };
 
-// Runs step; returns the report of the exception that ends it, of whatever type, and "" without one.
+// Runs step; returns the report of the exception that ends it, whatever its type, or "" if there is none.
 template <class procedure>
 std::string reportof(procedure step) {
     try {
@@ -58,7 +58,7 @@ std::string reportof(procedure step) {
     }
 }
 
-// Runs step. If a number of a data file is a bad subscript in it, adds that number's location().
+// Runs step. If step fails because a number from a data file is a bad subscript, adds location(), where that number is.
 template <class locating, class procedure>
 void locatesubscript(locating location, procedure step) {
     try {
@@ -71,13 +71,13 @@ void locatesubscript(locating location, procedure step) {
 
 // ---- texts of reports ----
 
-// The location of a row's number 1..10, such as "LINEG3:, row 4, second number".
+// The location of the first to tenth number of a row, such as "LINEG3:, row 4, second number".
 std::string numberin(const std::string& row, int number);
 
-// The text, or the front of a long one and its count of characters.
+// The text; if it is long, its beginning and its number of characters.
 std::string excerpt(std::string_view text);
 
-// The path; a long one without its middle, so that folder and ending can be read.
+// The path; if it is long, without its middle, so that the folder and the end of the name stay readable.
 std::string shortpath(std::string_view path);
 
 }  // namespace tessaly

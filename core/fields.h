@@ -1,8 +1,8 @@
 // The field reader reads files field by field; a row may continue on the next line after a comma. A comma or a line end
-// closes a field, blanks before it are skipped, and double quotes delimit a text. A number also ends at a blank, and
-// the separator after it is skipped. In design and view records a comma at the end of a line is followed by an empty
-// field. Reading past the end fails with input past end of file. what: the role of the field, for reports ("x of a
-// STANDARD: row").
+// ends a field, blanks before it are skipped, and double quotes delimit a text. A number also ends at a blank; a
+// separator that follows the blank is skipped. In design and view records a comma at the end of a line is followed by
+// an empty field. Reading past the end fails with input past end of file. what: the role of the field, for reports ("x
+// of a STANDARD: row").
 #pragma once
 
 #include "core/failure.h"
@@ -18,15 +18,15 @@ namespace tessaly {
 // always a text. Skips blank lines before it.
 value readvalue(textinput& in, const char* what);
 
-// Reads a field of a design record: as readvalue, but a blank line is an empty field.
+// Reads a field of a design record: like readvalue, except that a blank line is an empty field.
 value readrecordfield(textinput& in, const char* what);
 
-// Reads a label: a 16-bit whole number, rounded with halves to even; 0 for a text that is not a number. Skips blank
+// Reads a label: a 16-bit whole number, rounded half to even; 0 for a text that is not a number. Skips blank
 // lines before it. Fails with overflow outside -32768..32767.
 int readlabel(textinput& in, const char* what);
 
-// Reads a field as a text up to the comma or line end, with trailing blanks. The result points into the bytes of the
-// file and is valid until the file is closed.
+// Reads a field as a text up to the comma or line end, including trailing blanks. The result points into the bytes of
+// the file and is valid until the file is closed.
 std::string_view readtextfield(textinput& in, const char* what);
 
 // Reads a text field of a design or view record.
@@ -35,10 +35,12 @@ std::string_view readrecordtext(textinput& in, const char* what);
 // Reads text fields until one equals key exactly. Fails with input past end of file if none does.
 void findkey(textinput& in, const char* key);
 
-// Skips blanks, blank lines and the line end of a broken row; returns the location of the field that follows.
+// Skips blanks, blank lines and the line end inside a row that continues on the next line; returns the location of the
+// field that follows.
 fieldlocation nextfield(textinput& in);
 
-// Runs step with a row of a section. If a number of the row is a bad subscript, adds the row's location.
+// Runs step, which works on a row of a section. If step fails because a number of the row is a bad subscript, adds the
+// row's location.
 template <class procedure>
 void locaterow(const textinput& in, fieldlocation row, std::string_view section, procedure step) {
     locatesubscript([&] { return in.location(row) + " (" + std::string(section) + ")"; }, step);

@@ -1,5 +1,5 @@
 // The power series of sine and cosine, summed in pairs of doubles with about 31 significant digits. The rounding to a
-// double is wrong only if a result lies so close to the middle between two doubles that these digits do not decide.
+// double is wrong only if a result lies so close to the midpoint of two doubles that these digits cannot decide.
 
 #include "core/sine.h"
 
@@ -48,7 +48,8 @@ pair operator/(pair a, double b) {
     return exactsum(quotient, ((a.high - product.high) - product.low + a.low) / b);
 }
 
-// Sums first - first x^2 / ((n + 1) (n + 2)) + ...: the cosine of x for first 1 and n 0, its sine for first x and n 1.
+// Sums first - first x^2 / ((n + 1) (n + 2)) + ... This is cos x if first is 1 and n is 0, and sin x if first is x and
+// n is 1.
 double series(pair first, pair x, double n) {
     const pair square = x * x, minussquare{-square.high, -square.low};
     pair sum = first, term = first;
@@ -59,8 +60,8 @@ double series(pair first, pair x, double n) {
     return sum.high;
 }
 
-// Returns the sine of angle + quarters * pi / 2. Reduces the angle to the remainder from the nearest multiple of pi
-// / 2.
+// Returns the sine of angle + quarters * pi / 2. First reduces the angle to its difference from the nearest multiple of
+// pi / 2.
 double shiftedsine(double angle, double quarters) {
     constexpr double quarter[] = {0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54, -0x1.f1976b7ed8fbcp-110};  // pi / 2
     const double nearest = std::floor(angle / quarter[0] + 0.5);

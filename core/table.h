@@ -12,7 +12,7 @@
 
 namespace tessaly {
 
-// Rounds v to the nearest whole number; the slow path of indexof, which is the function to call.
+// The slow path of indexof: rounds v to the nearest whole number. Call indexof instead.
 int roundedindex(const value& v, const char* tablename, int last);
 
 // Returns a value as an index, rounded to the nearest whole number. Fails with subscript out of range if it is not
@@ -23,8 +23,8 @@ inline int indexof(const value& v, const char* tablename, int last) {
     return roundedindex(v, tablename, last);
 }
 
-// true disables all shortcuts: those of this file, core/fields, render/quadsort and render/raster. Tests and benchmarks
-// compare both ways; the program never sets it.
+// If true, all shortcuts are disabled: those of this file, core/fields, render/quadsort and render/raster. Tests and
+// benchmarks compare runs with and without them; the program never sets it.
 extern bool noshortcuts;
 
 [[noreturn]] void subscriptfailure(const char* tablename, double index, int last);
@@ -33,7 +33,7 @@ extern bool noshortcuts;
 class tablebase {
   public:
     virtual ~tablebase() = default;
-    virtual void reset() = 0;  // sets every element to its state before the program started
+    virtual void reset() = 0;  // sets every element to its initial state
     virtual std::vector<value> elements() const = 0;
     static tablebase* first;
     tablebase* next;
@@ -60,8 +60,8 @@ class writtenpages {
     void operator|=(const writtenpages& other) {
         for (std::size_t w = 0; w < words.size(); ++w) words[w] |= other.words[w];
     }
-    // Calls call(first, last) with the indexes within 1..end of each written page, ascending; noshortcuts visits all
-    // pages.
+    // For each written page in ascending order, calls call(first, last) with its range of indexes within 1..end. With
+    // noshortcuts, all pages are visited.
     template <class procedure>
     void visit(int end, procedure call) const {
         for (std::size_t w = 0; w < words.size(); ++w)
@@ -95,7 +95,7 @@ class table final : public tablebase {
         pages.visit(cleared, [this](int from, int to) { zero(from, to); });
         pages.reset();
     }
-    // The pages of 1..cleared that may hold anything but 0.
+    // The pages within 1..cleared that may hold something other than 0.
     const writtenpages& written() const { return pages; }
 
     void reset() override {

@@ -67,7 +67,7 @@ int openregular(const std::string& path, const char* what, int flags) {
                   "move it away");
 }
 
-// Reads up to the end or slightly more than maxbytes. Returns 0 or the error number.
+// Reads to the end of the file, or stops slightly beyond maxbytes. Returns 0 or the error number.
 int readwhole(int handle, std::string& bytes) {
     char block[1 << 16];
     while (bytes.size() <= maxbytes) {

@@ -14,8 +14,8 @@ namespace tessaly {
 // Returns the path in the notation of the system, relative to the working folder.
 std::string systempath(std::string_view path);
 
-// Returns the present bytes of a file; nothing is cached. Fails with file not found, and with file access error, also
-// if it is not a regular file or has more than 64 MB. what: the role of the file, for reports.
+// Returns the current contents of a file; nothing is cached. Fails with file not found or file access error, the latter
+// also if it is not a regular file or is larger than 64 MB. what: the role of the file, for reports.
 std::string filebytes(std::string_view path, const char* what);
 
 // The location of a field in its file; line and field count from 1.
@@ -34,14 +34,14 @@ struct textinput {
     std::string location() const { return location(next); }
     std::string location(fieldlocation of) const;
 
-    // Frees the channel. The object must not be used after it.
+    // Frees the channel. The object must not be used afterwards.
     void close();
 };
 
 // A file open for appending.
 class textoutput {
   public:
-    textoutput(std::string_view filepath, const char* what);  // as openappend
+    textoutput(std::string_view filepath, const char* what);  // see openappend
     ~textoutput();
     textoutput(const textoutput&) = delete;
     textoutput& operator=(const textoutput&) = delete;
@@ -49,9 +49,9 @@ class textoutput {
     // Adds text to what close will write.
     void write(std::string_view text) { unwritten += text; }
 
-    // Writes the text, complete or not at all, and frees the channel. Fails with file access error if it cannot be
-    // written: the file then has its old length if possible, and a file that did not exist before is deleted. If the
-    // closing fails, the text may be in the file, and the report says so. The object must not be used after it.
+    // Writes the text, completely or not at all, and frees the channel. Fails with file access error if it cannot be
+    // written: the file is then cut back to its old length if possible, or deleted if this object created it. If
+    // closing fails, the text may be in the file, and the report says so. The object must not be used afterwards.
     void close();
 
     const std::string path;
@@ -62,17 +62,17 @@ class textoutput {
     std::string unwritten;
 };
 
-// Opens path for reading on channel. Fails with file already open if the channel is in use, with file not found, with
-// file access error. what: the role of the file, for reports ("element file").
+// Opens path for reading on channel. Fails with file already open if the channel is in use, otherwise with file not
+// found or file access error. what: the role of the file, for reports ("element file").
 textinput& openinput(int channel, std::string_view path, const char* what);
 
-// Opens path for appending on channel and creates it if it does not exist. Fails as openinput.
+// Opens path for appending on channel and creates it if it does not exist. Fails as openinput does.
 textoutput& openappend(int channel, std::string_view path, const char* what);
 
 // Returns the file open for reading on channel; fails with invalid call if there is none.
 textinput& channelinput(int channel);
 
-// Closes all channels without writing what was not written yet.
+// Closes all channels and discards any text not written yet.
 void resetchannels();
 
 // Deletes a file; fails with file not found or file access error.
@@ -81,7 +81,7 @@ void deletefile(std::string_view path);
 // The name under which replacefile (core/wholefile.h) writes a file until it is complete.
 inline constexpr std::string_view unfinishedname = ".unfinished";
 
-// Returns the names of the files in a folder, sorted, without the unfinished file of a capture. Fails with file not
+// Returns the names of the files in a folder, sorted, except a file named unfinishedname. Fails with file not
 // found if the folder does not exist.
 std::vector<std::string> filesin(std::string_view folder);
 

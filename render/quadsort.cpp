@@ -1,4 +1,4 @@
-// Computes distances and sorts, over the written pages of the tables only.
+// Computes the distances of the quads and sorts them, visiting only the written pages of the tables.
 
 #include "render/quadsort.h"
 
@@ -22,7 +22,7 @@ double eyedistance(const value& point) {
     return std::sqrt((x * x + y * y) + z * z);
 }
 
-// Sets the distances of a quad's corners from the eye; the smallest is its key.
+// Sets the distances of a quad's corners from the eye; the smallest is the quad's sort key.
 void measurecorners(int i) {
     quadcornerdist1.set(i, eyedistance(quad1[i]));
     quadcornerdist2.set(i, eyedistance(quad3[i]));

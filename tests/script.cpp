@@ -24,7 +24,7 @@ TEST(script, leavesAnglesAndOffsetsBehind) {
     run("TRAN\nZROTATETRANSLATE:\n1,1,180,1,2,3" + end + "TRAN\nYROTATETRANSLATE:\n1,1,90,4,5,6" + end +
         "TRAN\nXWRAP:\n1,1,90,0,0,0" + end);
     EXPECT_EQ(rotz, 180 * 3.14159 / 180);
-    EXPECT_EQ(rotx, 0);  // a wrap of no copies has reset its running angle
+    EXPECT_EQ(rotx, 0);  // a wrap that makes no copies still resets its running angle
     // No points, but the angles; the sums of 2000 and of 1e300 turns take no time.
     run("TRAN\nZWRAP:\n2,1,180,2000,0,0" + end + "TRAN\nXWRAP:\n2,1,180,1e300,0,0" + end);
     EXPECT_NEAR(rotz, 2000 * 3.14159, 1e-6);

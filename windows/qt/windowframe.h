@@ -1,5 +1,6 @@
-// The frame of a window on the screen. It contains the plan, a widget of the designed size with the widgets of the
-// controls, and scrolls it if the screen is too small. Each window sets its decoration and its position itself.
+// The frame of a window on the screen. It contains the plan, a widget of the designed size that holds the widgets of
+// the controls, and scrolls the plan if the screen is too small. Each window sets its decoration and its position
+// itself.
 #pragma once
 
 #include "core/controls.h"
@@ -17,10 +18,11 @@ class windowframe : public QScrollArea {
     QWidget* plan() const { return widget(); }
     QSize designedsize() const;
 
-    // The widget that lost the focus to the plan when it was hidden: Tab continues from it. nullptr: there is none.
+    // The widget that lost the focus to the plan when the widget was hidden; Tab continues from there. nullptr if there
+    // is none.
     QWidget* tabfrom = nullptr;
 
-    // Paints the background of the plan, in its pixels; may be empty.
+    // Paints the background of the plan, in plan coordinates; may be empty.
     std::function<void(QPainter&)> decoration;
     // Shows state that is not stored in controls. Called after each event while the window is shown; may be empty.
     std::function<void()> afterevent;
