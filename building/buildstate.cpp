@@ -90,7 +90,7 @@ void clickpostbeambtn() { openlayout(layoutgirder); }
 void clickroofbtn() { openlayout(layoutroof); }
 
 void clicksnipbtn() {
-    for (const snippart& s : snipparts)
+    for (const sniptype& s : sniptypes)
         if (s.button == usedcontrol) panelsnipper.text = s.text;
 }
 

@@ -79,7 +79,7 @@ void replaycombined() {
     textinput& in = opentemporary(tempfile);
     for (int k = 1; k <= n; ++k) {
         locaterecord(in, tempfile, k, tempfirstfield);
-        const fieldlocation record = {in.next.line, 1};
+        const fieldlocation record = {in.nextlocation.line, 1};
         readrecord(in, wirecolumns);
         drawrecord(elementkind, anycode, in, record);
     }

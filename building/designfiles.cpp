@@ -20,8 +20,8 @@ double codenumber(const value& code) { return code.isnumber() ? double(code) : 0
 
 void setpanelfile(double code) {
     for (const paneltype& t : paneltypes)
-        for (std::size_t part = 0; part < std::size(snipparts); ++part)
-            if (t.codes[part] == code) datafile = std::string(t.prefix) + snipparts[part].part + ".txt";
+        for (std::size_t snip = 0; snip < std::size(sniptypes); ++snip)
+            if (t.codes[snip] == code) datafile = std::string(t.prefix) + sniptypes[snip].nameinfix + ".txt";
 }
 
 // Returns the first n characters of a UTF-8 text.

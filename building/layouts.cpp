@@ -33,13 +33,13 @@ std::vector<buttonposition> computebuttonpositions() {
 // one drawn.
 void choosepanelfile() {
     const value text = panelsnipper.text, prefix = panelprefix;
-    panelsnipper.text = snipparts[0].text;
+    panelsnipper.text = sniptypes[0].text;
     datafile = prefix.text() + ".txt";
-    for (std::size_t part = 0; part < std::size(snipparts); ++part) {
-        if (!text.is(snipparts[part].text)) continue;
-        datafile = prefix.text() + snipparts[part].part + ".txt";
+    for (std::size_t snip = 0; snip < std::size(sniptypes); ++snip) {
+        if (!text.is(sniptypes[snip].text)) continue;
+        datafile = prefix.text() + sniptypes[snip].nameinfix + ".txt";
         for (const paneltype& t : paneltypes)
-            if (prefix.is(t.prefix)) panelcode = t.codes[part];
+            if (prefix.is(t.prefix)) panelcode = t.codes[snip];
     }
 }
 
@@ -72,12 +72,12 @@ void addlayoutbuttons() {
         const buttonfamily& f = *p.family;
         const int i = (p.x - f.x0) / layoutbay, j = (p.y - f.y0) / layoutbay;
         const std::string element = ", element " + std::to_string(p.number);
-        addcontrol({.in = f.layout,
+        addcontrol({.parent = f.layout,
                     .kind = controlkind::button,
                     .name = positionname(p),
                     .bounds = {f.left0 + f.pitch * j, f.top0 + f.pitch * i, f.width, f.height},
                     .shown = true,
-                    .back = f.back,
+                    .background = f.back,
                     .tooltip = positionname(p) + element,
                     .accessiblename = std::string(f.accessiblename) + " at X " + std::to_string(p.x) + ", Y " +
                                       std::to_string(p.y) + element,

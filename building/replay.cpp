@@ -45,7 +45,7 @@ void locaterecord(textinput& in, const temporaryfile& file, int k, int firstfiel
     const auto index = static_cast<std::size_t>(k - 1);
     if (index >= file.origins.size() || file.origins[index].path.empty()) return;
     in.path = file.origins[index].path;
-    in.next = {file.origins[index].line, firstfield};
+    in.nextlocation = {file.origins[index].line, firstfield};
 }
 
 int countrecords(const value& name) {
@@ -63,7 +63,7 @@ std::vector<recordorigin> loaddesignfile(int channel, const value& name, recordc
     textinput& in = openinput(channel, designpath(name), "design file");
     std::vector<recordorigin> origins;
     repeatuntilfailure(lastrecord, [&](int i) {
-        const int line = in.next.line;
+        const int line = in.nextlocation.line;
         storerecord(i, columns, readrecord(in, columns));
         origins.push_back({in.path, line});
     });
@@ -112,7 +112,7 @@ void paintrecords(const temporaryfile& file, int firstfield, int n, recordcolumn
     textinput& in = opentemporary(file);
     for (int k = 1; k <= n; ++k) {
         locaterecord(in, file, k, firstfield);
-        const fieldlocation record = {in.next.line, 1};
+        const fieldlocation record = {in.nextlocation.line, 1};
         readrecord(in, columns);
         stepprogress();
         drawrecord(kind, code, in, record);

@@ -49,7 +49,7 @@ void pickautofile() {
     const std::vector<recordcolumn> columns = columnsof(c);
     textinput& in = openinput(2, designpath(secondfilename), "design file");
     repeatuntilfailure(maxwirerecords, [&](int) {
-        const fieldlocation record = in.next;
+        const fieldlocation record = in.nextlocation;
         readrecord(in, columns);
         drawrecord(c.kind, c.code, in, record);
     });

@@ -33,8 +33,8 @@ window instructions{"instructions", "Tessaly Panel and Girder", 19200, 12990, {1
 // clang-format on
 
 // clang-format off
-#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, accessiblename)                          \
-    control name{&in, controlkind::kind, #name, {left, top, width, height}, text, shown, back, tooltip, accessiblename};
+#define CONTROL(parent, kind, name, left, top, width, height, text, shown, background, tooltip, accessiblename)                          \
+    control name{&parent, controlkind::kind, #name, {left, top, width, height}, text, shown, background, tooltip, accessiblename};
 // clang-format on
 #include "core/controls.def"
 #undef CONTROL
@@ -52,7 +52,7 @@ const std::vector<window*>& allwindows() {
 
 boxtint tintof(const control& box) {
     if (box.warningof && box.warningof(box.text)) return boxtint::warning;
-    return box.written && *box.written != box.text ? boxtint::edited : boxtint::none;
+    return box.programtext && *box.programtext != box.text ? boxtint::edited : boxtint::none;
 }
 
 std::string tooltipof(const control& c) {
@@ -61,11 +61,12 @@ std::string tooltipof(const control& c) {
     case boxtint::edited: return c.tooltip + "; not in force before SET (F5)";
     case boxtint::none: break;
     }
-    return c.tooltip + c.note;
+    return c.tooltip + c.tooltipsuffix;
 }
 
 void resetcontrols() {
-#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, accessiblename) {&name, name},
+#define CONTROL(parent, kind, name, left, top, width, height, text, shown, background, tooltip, accessiblename)        \
+    {&name, name},
     static const std::pair<control*, control> firststates[] = {
 #include "core/controls.def"
     };
@@ -73,13 +74,13 @@ void resetcontrols() {
     addedcontrols.clear();
     for (window* w : allwindows()) {
         w->shown = false;
-        w->raised = 0;
+        w->raiseorder = 0;
         w->controls.clear();
         w->openedby = nullptr;
     }
     for (const auto& [named, state] : firststates) {
         *named = state;
-        named->in->controls.push_back(named);
+        named->parent->controls.push_back(named);
     }
     usedcontrol = wantedfocus = nullptr;
     programended = false;
@@ -87,7 +88,7 @@ void resetcontrols() {
 
 void addcontrol(control added) {
     addedcontrols.push_back(std::move(added));
-    addedcontrols.back().in->controls.push_back(&addedcontrols.back());
+    addedcontrols.back().parent->controls.push_back(&addedcontrols.back());
 }
 
 control* findcontrol(std::string_view name) {
@@ -117,7 +118,7 @@ bool opensshownwindow(const control& c) {
 void showwindow(window& w) {
     static int showings = 0;
     w.shown = true;
-    w.raised = ++showings;
+    w.raiseorder = ++showings;
 }
 
 void show(control& c) {
@@ -141,7 +142,7 @@ void pickitem(control& c, int item) {
 
 void writebox(control& box, std::string text) {
     box.text = std::move(text);
-    box.written = box.text;
+    box.programtext = box.text;
 }
 
 void setfolder(control& filelist, std::string_view folder) {

@@ -29,33 +29,34 @@ struct window {
     const char* name;
     const char* title;
     int widthtwips, heighttwips;  // of the interior
-    colour back;
+    colour background;
     bool shown = false;
-    int raised = 0;                       // grows with each showwindow: the window with the highest number is in front
+    int raiseorder = 0;                   // grows with each showwindow: the window with the highest number is in front
     std::vector<control*> controls = {};  // in the order of the tables
     control* openedby = nullptr;          // the element button that opened it last
 };
 
 struct control {
-    window* in;
+    window* parent;
     controlkind kind;
     std::string name;
     twips bounds;
     std::string text = {};  // caption, or text of a box; UTF-8
     bool shown;
-    std::optional<colour> back;      // if empty, the usual colour of the kind
-    std::string tooltip;             // the part that never changes
-    std::string accessiblename;      // for screen readers; if empty, they read the caption
-    int elementnumber = 0;           // of a layout button
-    std::function<void()> run = {};  // procedure of a click or a picked item; set when the program starts
-    std::string folder = {};         // of a file list, with backslashes
+    std::optional<colour> background;  // if empty, the usual colour of the kind
+    std::string tooltip;               // the part that never changes
+    std::string accessiblename;        // for screen readers; if empty, they read the caption
+    int elementnumber = 0;             // of a layout button
+    std::function<void()> run = {};    // procedure of a click or a picked item; set when the program starts
+    std::string folder = {};           // of a file list, with backslashes
     std::vector<std::string> items = {};
-    int selected = -1;                        // index into items, -1: none
-    control* openedby = nullptr;              // the control whose event showed it last
-    bool chosen = false;                      // a button that looks pressed until another is chosen
-    bool repeats = false;                     // a button that goes on being clicked while it is held, by mouse or key
-    std::string note = {};                    // the part of the tooltip that changes, with its leading blank or mark
-    std::optional<std::string> written = {};  // into a box of the view: the program's last text; nullopt: none yet
+    int selected = -1;               // index into items, -1: none
+    control* openedby = nullptr;     // the control whose event showed it last
+    bool chosen = false;             // a button that looks pressed until another is chosen
+    bool repeats = false;            // a button that goes on being clicked while it is held, by mouse or key
+    std::string tooltipsuffix = {};  // the part of the tooltip that changes
+    std::optional<std::string> programtext =
+        {};  // last written by the program into a box of the view; nullopt: none yet
     const char* (*warningof)(const std::string& text) = nullptr;  // of a box: what is odd about a text, or nullptr
 };
 
@@ -64,7 +65,7 @@ extern window startform, vistaplan, layoutgirder, layoutpanels, layoutroof, easy
 const std::vector<window*>& allwindows();
 
 // The named controls. The buttons of the layouts and the quick views are generated and have no variables.
-#define CONTROL(in, kind, name, left, top, width, height, text, shown, back, tooltip, accessiblename)                  \
+#define CONTROL(parent, kind, name, left, top, width, height, text, shown, background, tooltip, accessiblename)        \
     extern control name;
 #include "core/controls.def"
 #undef CONTROL
@@ -72,7 +73,7 @@ const std::vector<window*>& allwindows();
 // Returns the tint of a box for its present text.
 boxtint tintof(const control& box);
 
-// Returns the complete tooltip of a control, with its note or the warning for its text.
+// Returns the complete tooltip of a control, with its suffix or the warning for its text.
 std::string tooltipof(const control& c);
 
 // Resets windows and controls: each window's list holds its named controls, all windows are hidden, controls that
@@ -109,9 +110,6 @@ void pickitem(control& c, int item);
 
 // Writes a number of the program to a box of the view. A text that does not come this way is tinted as not applied yet.
 void writebox(control& box, std::string text);
-
-// Enters the user's text in a text box or combination box.
-inline void typetext(control& c, std::string_view text) { c.text = text; }
 
 // setfolder sets the folder of a file list and reads it; refresh reads it again. The items are the bare names of its
 // visible files, nothing is selected. fails: file not found if the folder is missing.

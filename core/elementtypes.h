@@ -11,12 +11,13 @@
 namespace tessaly {
 
 // ---- snip parts: which ends of a panel are cut -------------------------------------------------
-struct snippart {
+struct sniptype {
     const char* text;       // item of panelsnipper
     const control* button;  // sets that item; nullptr: the item has no button
-    const char* part;  // after the prefix in the names of element files; four letters each, so "righ" is deliberate
+    const char*
+        nameinfix;  // after the prefix in the names of element files; four letters each, so "righ" is deliberate
 };
-inline constexpr snippart snipparts[] = {
+inline constexpr sniptype sniptypes[] = {
     // clang-format off
     {"Full panel",      nullptr,      "full"},
     {"snip left side",  &snipleftbtn, "left"},
@@ -29,7 +30,7 @@ inline constexpr snippart snipparts[] = {
 struct paneltype {
     const control* button;
     const char* prefix;               // of the names of element files
-    int codes[std::size(snipparts)];  // in design records, by snip part
+    int codes[std::size(sniptypes)];  // in design records, by snip part
 };
 inline constexpr paneltype paneltypes[] = {
     // clang-format off

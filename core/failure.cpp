@@ -91,7 +91,7 @@ void failure::compose() {
     report = printable(report) + " (" + wordsof(kind).name + ")";
 }
 
-std::string numberin(const std::string& row, int number) {
+std::string numberlocation(const std::string& row, int number) {
     constexpr const char* ordinals[] = {"first", "second",  "third",  "fourth", "fifth",
                                         "sixth", "seventh", "eighth", "ninth",  "tenth"};
     return row + ", " + ordinals[number - 1] + " number";

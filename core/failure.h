@@ -60,7 +60,7 @@ std::string reportof(procedure step) {
 
 // Runs step. If step fails because a number from a data file is a bad subscript, adds location(), where that number is.
 template <class locating, class procedure>
-void locatesubscript(locating location, procedure step) {
+void withsubscriptlocation(locating location, procedure step) {
     try {
         step();
     } catch (failure& f) {
@@ -72,7 +72,7 @@ void locatesubscript(locating location, procedure step) {
 // ---- texts of reports ----
 
 // The location of the first to tenth number of a row, such as "LINEG3:, row 4, second number".
-std::string numberin(const std::string& row, int number);
+std::string numberlocation(const std::string& row, int number);
 
 // The text; if it is long, its beginning and its number of characters.
 std::string excerpt(std::string_view text);

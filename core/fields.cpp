@@ -19,32 +19,32 @@ struct scanner {
 
     scanner(textinput& from, const char* sought) : in(from), bytes(in.bytes), what(sought) {}
 
-    bool atend() const { return in.at >= bytes.size(); }
-    char next() const { return bytes[in.at]; }
+    bool atend() const { return in.position >= bytes.size(); }
+    char next() const { return bytes[in.position]; }
 
     [[noreturn]] void pastend() const {
         throw failure(failurekind::inputpastend, std::string("the file ends while looking for ") + what, in.location());
     }
     void skipblanks() {
-        while (!atend() && isblank(next())) ++in.at;
+        while (!atend() && isblank(next())) ++in.position;
     }
     // Takes a line end, carriage return and line feed counting as one.
     void takelineend() {
-        if (next() == '\r' && in.at + 1 < bytes.size() && bytes[in.at + 1] == '\n') ++in.at;
-        ++in.at;
-        ++in.next.line;
-        in.next.field = 1;
+        if (next() == '\r' && in.position + 1 < bytes.size() && bytes[in.position + 1] == '\n') ++in.position;
+        ++in.position;
+        ++in.nextlocation.line;
+        in.nextlocation.field = 1;
     }
     // Takes the separator that closes a field, if one stands here.
     void takeseparator() {
         if (atend()) return;
         if (next() == ',') {
-            ++in.at;
-            ++in.next.field;
+            ++in.position;
+            ++in.nextlocation.field;
         } else if (islineend(next())) {
             takelineend();
         } else {
-            ++in.next.field;
+            ++in.nextlocation.field;
         }
     }
     // Blank lines, and the line end of a row that is broken after a comma.
@@ -58,36 +58,36 @@ struct scanner {
     // Blanks, and the line end of a row that is broken after a comma.
     void skipbreak() {
         skipblanks();
-        if (in.next.field > 1 && !atend() && islineend(next())) takelineend();
+        if (in.nextlocation.field > 1 && !atend() && islineend(next())) takelineend();
         skipblanks();
     }
     // From the opening quote to the next one, line ends included; then the separator.
     std::string_view takequoted() {
-        const std::size_t from = ++in.at;
+        const std::size_t from = ++in.position;
         while (!atend() && next() != '"') {
-            if (next() == '\n') ++in.next.line;
-            ++in.at;
+            if (next() == '\n') ++in.nextlocation.line;
+            ++in.position;
         }
-        const std::string_view text(bytes.data() + from, in.at - from);
-        if (!atend()) ++in.at;
+        const std::string_view text(bytes.data() + from, in.position - from);
+        if (!atend()) ++in.position;
         skipblanks();
         takeseparator();
         return text;
     }
     std::string_view tocommaorlineend() {
-        const std::size_t from = in.at;
-        while (!atend() && next() != ',' && !islineend(next())) ++in.at;
-        return {bytes.data() + from, in.at - from};
+        const std::size_t from = in.position;
+        while (!atend() && next() != ',' && !islineend(next())) ++in.position;
+        return {bytes.data() + from, in.position - from};
     }
     // The front of the field up to a blank: the whole of it, or the number that ends there.
     std::string_view toblank() const {
-        std::size_t to = in.at;
+        std::size_t to = in.position;
         while (to < bytes.size() && bytes[to] != ',' && !islineend(bytes[to]) && !isblank(bytes[to])) ++to;
-        return {bytes.data() + in.at, to - in.at};
+        return {bytes.data() + in.position, to - in.position};
     }
     // A whole number of up to fifteen digits that a separator follows: most fields are.
     std::optional<double> takewhole() {
-        std::size_t to = in.at;
+        std::size_t to = in.position;
         const bool negative = to < bytes.size() && bytes[to] == '-';
         const std::size_t firstdigit = to += negative;
         std::int64_t whole = 0;
@@ -95,7 +95,7 @@ struct scanner {
             whole = whole * 10 + (bytes[to++] - '0');
         if (to == firstdigit || to - firstdigit > 15) return std::nullopt;
         if (to < bytes.size() && bytes[to] != ',' && !islineend(bytes[to])) return std::nullopt;
-        in.at = to;
+        in.position = to;
         takeseparator();
         const double number = static_cast<double>(whole);
         return negative ? -number : number;
@@ -111,7 +111,7 @@ struct scanner {
             throw failure(beyond.kind, beyond.detail + " (" + what + ")", in.location());
         }
         if (number) {
-            in.at += front.size();
+            in.position += front.size();
             skipblanks();
             takeseparator();
         }
@@ -144,11 +144,11 @@ value readrecordfield(textinput& in, const char* what) {
     return s.takevalue();
 }
 
-int readlabel(textinput& in, const char* what) {
+int readwholenumber(textinput& in, const char* what) {
     scanner s(in, what);
     s.skiplineends();
     if (s.atend()) s.pastend();
-    const fieldlocation start = in.next;
+    const fieldlocation start = in.nextlocation;
     double label = 0;
     if (s.next() == '"') {
         label = strictnumber(s.takequoted()).value_or(0);
@@ -182,7 +182,7 @@ std::string_view readrecordtext(textinput& in, const char* what) {
 }
 
 void findkey(textinput& in, const char* key) {
-    const int from = in.next.line;
+    const int from = in.nextlocation.line;
     for (scanner s(in, key);;) {
         s.skipbreak();
         if (s.atend())
@@ -193,9 +193,9 @@ void findkey(textinput& in, const char* key) {
     }
 }
 
-fieldlocation nextfield(textinput& in) {
+fieldlocation skiptofield(textinput& in) {
     scanner(in, "a number").skiplineends();
-    return in.next;
+    return in.nextlocation;
 }
 
 }  // namespace tessaly

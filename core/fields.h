@@ -23,7 +23,7 @@ value readrecordfield(textinput& in, const char* what);
 
 // Reads a label: a 16-bit whole number, rounded half to even; 0 for a text that is not a number. Skips blank
 // lines before it. Fails with overflow outside -32768..32767.
-int readlabel(textinput& in, const char* what);
+int readwholenumber(textinput& in, const char* what);
 
 // Reads a field as a text up to the comma or line end, including trailing blanks. The result points into the bytes of
 // the file and is valid until the file is closed.
@@ -37,13 +37,13 @@ void findkey(textinput& in, const char* key);
 
 // Skips blanks, blank lines and the line end inside a row that continues on the next line; returns the location of the
 // field that follows.
-fieldlocation nextfield(textinput& in);
+fieldlocation skiptofield(textinput& in);
 
 // Runs step, which works on a row of a section. If step fails because a number of the row is a bad subscript, adds the
 // row's location.
 template <class procedure>
-void locaterow(const textinput& in, fieldlocation row, std::string_view section, procedure step) {
-    locatesubscript([&] { return in.location(row) + " (" + std::string(section) + ")"; }, step);
+void withrowlocation(const textinput& in, fieldlocation row, std::string_view section, procedure step) {
+    withsubscriptlocation([&] { return in.location(row) + " (" + std::string(section) + ")"; }, step);
 }
 
 }  // namespace tessaly

@@ -15,8 +15,8 @@ namespace tessaly {
 std::string systempath(std::string_view path);
 
 // Returns the current contents of a file; nothing is cached. Fails with file not found or file access error, the latter
-// also if it is not a regular file or is larger than 64 MB. what: the role of the file, for reports.
-std::string filebytes(std::string_view path, const char* what);
+// also if it is not a regular file or is larger than 64 MB. role: the role of the file, for reports.
+std::string filebytes(std::string_view path, const char* role);
 
 // The location of a field in its file; line and field count from 1.
 struct fieldlocation {
@@ -25,13 +25,13 @@ struct fieldlocation {
 
 // A file open for reading. Its bytes are read into memory when it is opened.
 struct textinput {
-    std::string path;         // as users see it
-    std::string bytes;        // at the time of opening
-    std::size_t at = 0;       // index of the next field's first byte
-    fieldlocation next = {};  // of that field
+    std::string path;                 // as users see it
+    std::string bytes;                // at the time of opening
+    std::size_t position = 0;         // index of the next field's first byte
+    fieldlocation nextlocation = {};  // of that field
 
     // "datah\st-post.txt, line 14, field 3", for reports.
-    std::string location() const { return location(next); }
+    std::string location() const { return location(nextlocation); }
     std::string location(fieldlocation of) const;
 
     // Frees the channel. The object must not be used afterwards.
@@ -41,7 +41,7 @@ struct textinput {
 // A file open for appending.
 class textoutput {
   public:
-    textoutput(std::string_view filepath, const char* what);  // see openappend
+    textoutput(std::string_view filepath, const char* role);  // see openappend
     ~textoutput();
     textoutput(const textoutput&) = delete;
     textoutput& operator=(const textoutput&) = delete;
@@ -63,11 +63,11 @@ class textoutput {
 };
 
 // Opens path for reading on channel. Fails with file already open if the channel is in use, otherwise with file not
-// found or file access error. what: the role of the file, for reports ("element file").
-textinput& openinput(int channel, std::string_view path, const char* what);
+// found or file access error. role: the role of the file, for reports ("element file").
+textinput& openinput(int channel, std::string_view path, const char* role);
 
 // Opens path for appending on channel and creates it if it does not exist. Fails as openinput does.
-textoutput& openappend(int channel, std::string_view path, const char* what);
+textoutput& openappend(int channel, std::string_view path, const char* role);
 
 // Returns the file open for reading on channel; fails with invalid call if there is none.
 textinput& channelinput(int channel);

@@ -29,13 +29,13 @@ void writeviewboxes(const boxcuts& cuts, const value& shownmag) {
 }
 
 void copytoeasyviews(const viewvalue& v) {
-    v.copy->text = v.box.text;
-    v.copy->written = v.box.written;
+    v.easyviewsbox->text = v.box.text;
+    v.easyviewsbox->programtext = v.box.programtext;
 }
 
 void copyboxestoeasyviews() {
     for (const viewvalue& v : viewvalues)
-        if (v.copy) copytoeasyviews(v);
+        if (v.easyviewsbox) copytoeasyviews(v);
 }
 
 }  // namespace tessaly

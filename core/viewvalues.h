@@ -12,9 +12,9 @@ namespace tessaly {
 struct viewvalue {
     value& number;
     control& box;
-    control* copy;     // of the box, on easyviews; nullptr: none
-    const char* name;  // for reports
-    const char* tag;   // shown in the box; nullptr: a label is beside it
+    control* easyviewsbox;  // its copy on easyviews; nullptr: none
+    const char* name;       // for reports
+    const char* tag;        // shown in the box; nullptr: a label is beside it
 };
 // In the order of SET, of view records and of the start file.
 inline constexpr viewvalue viewvalues[] = {

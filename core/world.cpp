@@ -112,7 +112,7 @@ void resetworld() {
 
 void restartworld() {
     for (tablebase* t = tablebase::first; t != nullptr; t = t->next) t->reset();
-    for (const scalar& s : scalars()) *s.held = value();
+    for (const scalar& s : scalars()) *s.variable = value();
     for (double* d : {&planeseedx, &planeseedy, &planeseedz, &planecentrex, &planecentrey, &planecentrez}) *d = 0;
     walkcount = divisions = 0;
 }

@@ -174,7 +174,7 @@ extern value framesecond;                // 1 while the first of two framing dir
 // A scalar by name, for records of the program's state and for resetting it.
 struct scalar {
     std::string name;
-    value* held;
+    value* variable;
     bool reported;  // part of the recorded state
 };
 // Returns all scalars that are values, the reported ones first, in the order in which they are recorded.

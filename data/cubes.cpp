@@ -44,7 +44,7 @@ void readcubeframing(textinput& in, const char* key, table<value, lastquad, clea
     findkey(in, key);
     double slot = 0;
     for (;;) {
-        const fieldlocation row = nextfield(in);
+        const fieldlocation row = skiptofield(in);
         const value first = readvalue(in, "the first quad of a framing row");
         const value last = readvalue(in, "the last quad of a framing row");
         const value count = readvalue(in, "the count of a framing row");
@@ -53,7 +53,7 @@ void readcubeframing(textinput& in, const char* key, table<value, lastquad, clea
             if (end) return framing.set(value(slot), 0);
             for (slot = first; slot <= last; slot += 10) framing.set(value(slot), count);
         };
-        locaterow(in, row, key, frame);
+        withrowlocation(in, row, key, frame);
         if (end) return;
     }
 }

@@ -28,7 +28,7 @@ void readwirecolours(textinput& in) {
 void readpoints(textinput& in) {
     findkey(in, "STANDARD:");
     for (int n = 1; n <= lastpoint; ++n) {
-        const int label = readlabel(in, "the label of a STANDARD: row");
+        const int label = readwholenumber(in, "the label of a STANDARD: row");
         ptx.set(n, readvalue(in, "x of a STANDARD: row"));
         pty.set(n, readvalue(in, "y of a STANDARD: row"));
         ptz.set(n, readvalue(in, "z of a STANDARD: row"));
@@ -54,7 +54,7 @@ int readlines(textinput& in, const char* key, int first) {
 void readplanes(textinput& in) {
     findkey(in, "AUTOPLANE:");
     for (int q = 1; q <= lastplane; ++q) {
-        const int label = readlabel(in, "the label of an AUTOPLANE: row");
+        const int label = readwholenumber(in, "the label of an AUTOPLANE: row");
         quad1.set(q, readvalue(in, "corner 1 of an AUTOPLANE: row"));
         quad3.set(q, readvalue(in, "corner 3 of an AUTOPLANE: row"));
         quad2.set(q, readvalue(in, "corner 2 of an AUTOPLANE: row"));
@@ -68,11 +68,11 @@ void readplanes(textinput& in) {
 void readframing(textinput& in, const char* key, table<value, lastquad, clearedpoints>& framing) {
     findkey(in, key);
     for (;;) {
-        const fieldlocation row = nextfield(in);
+        const fieldlocation row = skiptofield(in);
         const value quad = readvalue(in, "the quad index of a framing row");
         const value count = readvalue(in, "the count of a framing row");
         const bool last = endsrows(count);
-        locaterow(in, row, key, [&] { framing.set(quad, last ? value(0) : count); });
+        withrowlocation(in, row, key, [&] { framing.set(quad, last ? value(0) : count); });
         if (last) return;
     }
 }
@@ -150,7 +150,7 @@ void readshape(const shapereader& r) {
     const bool opened = preopened == r.preopened;
     textinput& in = opened ? channelinput(1) : openinput(1, "datah\\" + datafile.text(), r.role);
     shapefile = in.path;
-    locatesubscript([&in] { return in.location(); }, [&] { r.readsections(in); });
+    withsubscriptlocation([&in] { return in.location(); }, [&] { r.readsections(in); });
     if (opened) return;
     // If placemode selects no placement, the file stays open on channel 1, so that the next element fails.
     if (!r.place()) return;
@@ -211,7 +211,7 @@ void expandcube(cubeslots& next, const cubecorners& opposite, const value& grade
 
 void readcuberows(textinput& in, int firstcube, int maxrows, cubeslots& next) {
     for (int c = firstcube; c < firstcube + maxrows; ++c) {
-        const int label = readlabel(in, "the label of a cube row");
+        const int label = readwholenumber(in, "the label of a cube row");
         const cubecorners corners = readcorners(in);
         cubegrade.set(c, readvalue(in, "the grade of a cube row"));
         cubecolour.set(c, readvalue(in, "the colour of a cube row"));

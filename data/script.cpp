@@ -137,11 +137,11 @@ const block& blockof(std::string_view keyword) {
 
 void runblock(textinput& in, const block& b) {
     for (int n = 1; n <= b.rows; ++n) {
-        const fieldlocation start = nextfield(in);
+        const fieldlocation start = skiptofield(in);
         value row[maxfields];
         for (int f = 0; f < b.fields; ++f) row[f] = readvalue(in, "a field of a transformation row");
         if (endsrows(row[0])) return;
-        locaterow(in, start, b.keyword, [&] { b.apply(row); });
+        withrowlocation(in, start, b.keyword, [&] { b.apply(row); });
     }
 }
 

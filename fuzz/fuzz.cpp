@@ -86,7 +86,7 @@ void act(std::size_t choice) {
 void typed(std::istream& input) {
     for (control* box : {&perptxtx, &perptxty, &perptxtz, &focustxtx, &focustxty, &focustxtz, &magtxt, &verttxt,
                          &horiztxt, &tessaly::floor, &writefilebox, &wiresolid, &panelsnipper, &capbox})
-        typetext(*box, nextline(input));
+        box->text = nextline(input);
     for (const char choice : nextline(input))
         if (!programended) act(static_cast<unsigned char>(choice));
 }

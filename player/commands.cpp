@@ -36,7 +36,7 @@ control& reachablecontrol(scriptline& line, std::initializer_list<controlkind> k
     control* const c = findcontrol(name);
     if (c == nullptr) throw scripterror("there is no control " + name);
     if (std::find(kinds.begin(), kinds.end(), c->kind) == kinds.end()) throw scripterror(name + " is not " + wanted);
-    if (!c->in->shown) throw scripterror(name + " is in the window " + c->in->name + ", which is hidden");
+    if (!c->parent->shown) throw scripterror(name + " is in the window " + c->parent->name + ", which is hidden");
     if (!c->shown) throw scripterror(name + " is hidden");
     return *c;
 }
@@ -60,7 +60,7 @@ void type(scriptline& line) {
     control& c = reachablecontrol(line, {controlkind::textbox, controlkind::combobox}, "a box to type into");
     const std::string text = line.quoted();
     line.expectend();
-    typetext(c, text);
+    c.text = text;
 }
 
 void close(scriptline& line) {

@@ -31,14 +31,14 @@ std::string pagetext(const std::string& text) {
 
 std::string layoutof(const window& w) {
     return std::string(w.name) + ' ' + inquotes(w.title) + ' ' + sizetext(w.widthtwips, w.heighttwips) +
-           colourtext(w.back);
+           colourtext(w.background);
 }
 
 std::string layoutof(const control& c) {
     std::string line = "  " + c.name + ' ' + std::to_string(c.bounds.left) + ',' + std::to_string(c.bounds.top) + ' ' +
                        sizetext(c.bounds.width, c.bounds.height);
     if (!c.shown) line += " hidden";
-    if (c.back) line += colourtext(*c.back);
+    if (c.background) line += colourtext(*c.background);
     if (c.kind == controlkind::page)
         line += pagetext(c.text);
     else if (!c.text.empty())
@@ -68,7 +68,7 @@ std::vector<stateitem> programstate() {
     for (const window* w : allwindows())
         for (const control* c : w->controls) state.push_back({"control", c->name, visibility(c->shown), statetext(*c)});
     for (const scalar& s : scalars())
-        if (s.reported) state.push_back({"value", s.name, "", statetext(*s.held)});
+        if (s.reported) state.push_back({"value", s.name, "", statetext(*s.variable)});
     return state;
 }
 

@@ -26,13 +26,13 @@ bool holdscubes() {
 std::string insection(const std::string& section) { return shortpath(shapefile.text()) + ", " + section; }
 
 std::string inrow(const std::string& section, int row, int number) {
-    return numberin(insection(section) + ", row " + std::to_string(row), number);
+    return numberlocation(insection(section) + ", row " + std::to_string(row), number);
 }
 
 // Returns the location of the last number in a cube's row.
 std::string locationofcubecolour(int face) {
     if (holdscubes() && face < firstlastface)
-        return numberin(insection("AUTOCUBE" + std::to_string((face - 1) / 1000) + "00:"), cuberowfields);
+        return numberlocation(insection("AUTOCUBE" + std::to_string((face - 1) / 1000) + "00:"), cuberowfields);
     const bool lastsection = face >= firstlastface;
     const int row = (face - (lastsection ? firstlastface : firstcubeface)) / facesofcube + 1;
     return inrow(lastsection ? "AUTOCUBE600:" : "AUTOCUBE400:", row, cubefields);
@@ -45,7 +45,7 @@ std::string locationofend(int group, int row, int end) {
 }
 
 std::string locationofwirecolour(int group) {
-    return numberin(insection("WIRECOLORS:"), group - (holdscubes() ? 5 : 0));
+    return numberlocation(insection("WIRECOLORS:"), group - (holdscubes() ? 5 : 0));
 }
 
 std::string locationofcorner(int face) {

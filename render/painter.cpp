@@ -81,7 +81,7 @@ void framedirection(int q, const direction& d) {
     const colour c = palettecolour(framecolour);
     viewportsurface->line(static_cast<float>(screenx[railend2]), static_cast<float>(screeny[railend2]),
                           static_cast<float>(screenx[railend1]), static_cast<float>(screeny[railend1]), c);
-    locatesubscript([&] { return locationofframing(q, d.number); }, framelines);
+    withsubscriptlocation([&] { return locationofframing(q, d.number); }, framelines);
 }
 
 void drawframing(int q) {
@@ -110,7 +110,7 @@ void paintsolids() {
         if (emptyquad(i))
             continue;  // deliberate: tests slot i itself, since the quads of an element fill the table starting at 1
         const int q = indexof(quadorder[i], "quadorder", lastquad);
-        locatesubscript([q] { return locationofcolour(q); }, [q] { paintface(q); });
+        withsubscriptlocation([q] { return locationofcolour(q); }, [q] { paintface(q); });
     }
 }
 

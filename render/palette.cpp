@@ -69,7 +69,7 @@ colour palettecolour(const value& index) {
 }
 
 colour backgroundcolour() {
-    const auto row = [](int i) { return [i] { return "datah\\start.txt, " + numberin("BACKGROUNDCOLOR:", i); }; };
+    const auto row = [](int i) { return [i] { return "datah\\start.txt, " + numberlocation("BACKGROUNDCOLOR:", i); }; };
     return {component(backred, row(1)), component(backgreen, row(2)), component(backblue, row(3))};
 }
 

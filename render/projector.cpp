@@ -235,8 +235,8 @@ void drawgroups() {
         curwirecolour = wirecolour[group];
         const int first = indexof(groupfirst[group], "groupfirst", lastline),
                   last = indexof(grouplast[group], "grouplast", lastline);
-        locatesubscript([group] { return locationofwirecolour(group); },
-                        [first, last] { drawlines(first, last, curwirecolour); });
+        withsubscriptlocation([group] { return locationofwirecolour(group); },
+                              [first, last] { drawlines(first, last, curwirecolour); });
     }
 }
 

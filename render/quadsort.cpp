@@ -38,7 +38,7 @@ void measurecorners(int i) {
 void measurequad(int i) {
     // Deliberately tests quad4[0], not quad4[i]: here three corners decide whether a quad is empty.
     if (quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[0] == 0) return;
-    locatesubscript([i] { return locationofcorner(i); }, [i] { measurecorners(i); });
+    withsubscriptlocation([i] { return locationofcorner(i); }, [i] { measurecorners(i); });
 }
 
 // Returns the slots that may hold quads, ascending.

@@ -23,7 +23,7 @@ std::string readall(const std::string& bytes, const std::string& reads) {
         const auto failed = failureof([&] {
             if (read == 'v') result += shown(readvalue(in, "it"));
             if (read == 'r') result += shown(readrecordfield(in, "it"));
-            if (read == 'l') result += std::to_string(readlabel(in, "it"));
+            if (read == 'l') result += std::to_string(readwholenumber(in, "it"));
             if (read == 's') result += quoted(readrecordtext(in, "it"));
             if (read == 't') result += quoted(readtextfield(in, "it"));
         });

@@ -87,7 +87,7 @@ class session {
 // Everything that later steps depend on, line by line: each scalar, and checksums of each table and of the picture.
 inline std::string worldtext(const raster& image) {
     std::string all = tablesums();
-    for (const scalar& s : scalars()) all += s.name + ' ' + statetext(*s.held) + '\n';
+    for (const scalar& s : scalars()) all += s.name + ' ' + statetext(*s.variable) + '\n';
     checksum pixels;
     for (const std::uint32_t pixel : image.picture().pixels) pixels.addword(pixel);
     return all + "picture " + pixels.text() + '\n';

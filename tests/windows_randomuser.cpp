@@ -163,9 +163,9 @@ class windows_randomuser : public windowsession {
     static void expectsame(const control& c, const QWidget& widget) {
         SCOPED_TRACE(c.name);
         EXPECT_EQ(widget.isHidden(), !c.shown);
-        if (c.in->shown || c.elementnumber == 0) {
+        if (c.parent->shown || c.elementnumber == 0) {
             EXPECT_EQ(widget.toolTip().toStdString(),
-                      c.elementnumber > 0 ? builttooltip(c, builton(*c.in)) : tooltipof(c));
+                      c.elementnumber > 0 ? builttooltip(c, builton(*c.parent)) : tooltipof(c));
         }
         const auto* const box = qobject_cast<const QComboBox*>(&widget);
         const auto* const rows = qobject_cast<const QListWidget*>(&widget);
@@ -181,7 +181,7 @@ class windows_randomuser : public windowsession {
     // The focus is on a list or box that has just been opened, otherwise on the used control, or where it was. If that
     // control is now hidden, it is on the control that opened it.
     static void expectfocus(const window& w, const control* used, const control* before) {
-        const control *const now = focusedcontrol(w), *const had = used && used->in == &w ? used : before;
+        const control *const now = focusedcontrol(w), *const had = used && used->parent == &w ? used : before;
         if (now && now->openedby == used && (now == &capbox || islist(*now))) return;
         const auto nameof = [](const control* c) { return c ? c->name : "nothing"; };
         EXPECT_EQ(nameof(now), nameof(had && !had->shown ? focusafter(*had) : had)) << "was on " << nameof(had);

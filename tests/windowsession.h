@@ -102,7 +102,7 @@ class windowsession : public testing::Test {
 
     void look(char mark, const std::string& name) {
         const control* const c = findcontrol(name);
-        const window* const w = c ? c->in : findwindow(name);
+        const window* const w = c ? c->parent : findwindow(name);
         ASSERT_TRUE(w) << "no control and no window";
         ASSERT_TRUE(frameof(*w)) << w->name << " was not opened";
         if (mark == '-') {

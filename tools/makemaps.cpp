@@ -49,7 +49,7 @@ QFont font(int dots, bool bold = false) {
     return f;
 }
 
-bool ispositionof(const window& w, const control& c) { return c.in == &w && c.elementnumber != 0; }
+bool ispositionof(const window& w, const control& c) { return c.parent == &w && c.elementnumber != 0; }
 
 scale fit(const window& w) {
     int left = w.widthtwips, top = w.heighttwips, right = 0, bottom = 0;
@@ -69,7 +69,7 @@ void drawpositions(QPainter& p, const window& w, const scale& s) {
     for (const control* c : w.controls) {
         if (!ispositionof(w, *c)) continue;
         const QRectF r = s.rect(c->bounds);
-        QColor fill = shade(*c->back);
+        QColor fill = shade(*c->background);
         p.setPen(QPen(Qt::black, 1));
         p.setBrush(fill.lightnessF() < 0.4 ? fill.lighter(100) : fill.lighter(115));
         p.drawRect(r);

@@ -105,7 +105,7 @@ QImage markedplan(const window& w, const fs::path& guide) {
     std::ifstream clicks(guide);
     for (std::string word; clicks >> word;) {
         const control* c = findcontrol(word);
-        if (c && c->in == &w && c->elementnumber)
+        if (c && c->parent == &w && c->elementnumber)
             painter.drawRoundedRect(QRectF(widgetof(*c)->geometry()).adjusted(-1.5, -1.5, 1.5, 1.5), 3, 3);
     }
     return image;
@@ -144,7 +144,7 @@ void makehelppictures(const fs::path& folder) {
     const auto inimage = [](int twips) { return density * twips / twipsperpixel; };
     for (const region& r : regions) {
         QImage filled(picturesize(r.button) * density, QImage::Format_RGB32);
-        filled.fill(screencolour(vistaplan.back));
+        filled.fill(screencolour(vistaplan.background));
         const QSize shown =
             QSize(inimage(r.bounds.width), inimage(r.bounds.height)).scaled(filled.size(), Qt::KeepAspectRatio);
         showonly(r.bounds);

@@ -15,7 +15,7 @@
 namespace tessaly {
 
 inline std::string descriptionof(const control& c) {
-    const colour back = c.back.value_or(colour{});
+    const colour back = c.background.value_or(colour{});
     char bounds[100];
     std::snprintf(bounds, sizeof bounds, " %d %d %d %d #%02x%02x%02x ", c.bounds.left, c.bounds.top, c.bounds.width,
                   c.bounds.height, back.red, back.green, back.blue);

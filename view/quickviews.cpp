@@ -92,9 +92,9 @@ std::string accessiblenameof(const quickview& q) {
 
 void clickquickview(const quickview& q) {
     int i = 0;
-    for (const viewvalue& v : kindof(q).values) v.copy->text = std::to_string(q.numbers[i++]);
+    for (const viewvalue& v : kindof(q).values) v.easyviewsbox->text = std::to_string(q.numbers[i++]);
     if (q.name == focuscopier) focustxtx.text = efocusxbox.text;
-    for (const viewvalue& v : kindof(q).values) v.box.text = v.copy->text;
+    for (const viewvalue& v : kindof(q).values) v.box.text = v.easyviewsbox->text;
 }
 
 }  // namespace
@@ -108,12 +108,12 @@ void clickeasysetbtn() { hidewindow(easyviews); }
 
 void addquickviewbuttons() {
     for (const quickview& q : quickviews)
-        addcontrol({.in = &easyviews,
+        addcontrol({.parent = &easyviews,
                     .kind = controlkind::button,
                     .name = q.name,
                     .bounds = {q.left, q.top, buttonsize, buttonsize},
                     .shown = true,
-                    .back = kindof(q).back,
+                    .background = kindof(q).back,
                     .tooltip = accessiblenameof(q) + ": SET takes it (F5)",
                     .accessiblename = accessiblenameof(q),
                     .run = [&q] { clickquickview(q); }});

@@ -87,7 +87,7 @@ void notesteps() {
     for (const steppair& p : pairs) {
         const bool picked = pickedstep(p.list, 0) != 0;
         const std::string from = picked ? ", picked in \"" + p.listbutton.text + '"' : "";
-        p.down.note = p.up.note = " by " + boxtext(pickedstep(p.list, p.usual)) + from;
+        p.down.tooltipsuffix = p.up.tooltipsuffix = " by " + boxtext(pickedstep(p.list, p.usual)) + from;
     }
 }
 

@@ -173,7 +173,7 @@ const closingbutton closingbuttons[] = {
 control* closingbuttonof(const window& w, const control* focused) {
     control* first = nullptr;
     for (const closingbutton& c : closingbuttons) {
-        if (c.button->in != &w || !c.button->shown) continue;
+        if (c.button->parent != &w || !c.button->shown) continue;
         const bool belongs = std::find(std::begin(c.controls), std::end(c.controls), focused) != std::end(c.controls);
         if (focused && (focused == c.button || belongs)) return c.button;
         if (!first) first = c.button;
@@ -193,7 +193,7 @@ void startprogram() {
     preparesteps();
     for (const handler& h : handlers) h.clicked->run = h.run;
     for (const helppage& p : helppages) p.page.text = p.text;
-    for (const snippart& s : snipparts) panelsnipper.items.push_back(s.text);
+    for (const sniptype& s : sniptypes) panelsnipper.items.push_back(s.text);
     showwindow(startform);
 }
 

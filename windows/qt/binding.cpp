@@ -39,7 +39,7 @@ struct boundcontrol {
 struct boundwindow {
     std::unique_ptr<windowframe> frame;
     std::vector<boundcontrol> controls;
-    int raised = 0;  // as last copied
+    int raiseorder = 0;  // as last copied
 };
 
 std::map<const window*, boundwindow>& boundwindows() {
@@ -104,7 +104,7 @@ void copytowidget(boundcontrol& b) {
     setselection(*b.source, *b.widget);
     if (b.widget->isHidden() != b.source->shown) return;
     b.widget->setVisible(b.source->shown);
-    if (b.source->shown && b.source->kind == controlkind::page) scrolltotop(*frameof(*b.source->in));
+    if (b.source->shown && b.source->kind == controlkind::page) scrolltotop(*frameof(*b.source->parent));
     if (raisedwhenshown(*b.source)) b.widget->raise();
 }
 
@@ -147,11 +147,12 @@ void copytowidgets() {
     std::vector<window*> toraise;
     for (window* w : allwindows()) {
         copytowindow(*w);
-        if (w->shown && boundwindows()[w].raised != w->raised) toraise.push_back(w);
+        if (w->shown && boundwindows()[w].raiseorder != w->raiseorder) toraise.push_back(w);
     }
-    std::sort(toraise.begin(), toraise.end(), [](const window* a, const window* b) { return a->raised < b->raised; });
+    std::sort(toraise.begin(), toraise.end(),
+              [](const window* a, const window* b) { return a->raiseorder < b->raiseorder; });
     for (window* w : toraise) {
-        boundwindows()[w].raised = w->raised;
+        boundwindows()[w].raiseorder = w->raiseorder;
         showframe(*frameof(*w));
     }
     if (QWidget* picture = widgetof(viewport)) picture->update();
@@ -167,7 +168,7 @@ void copytostate() {
         for (boundcontrol& b : bound.controls) {
             if (!takestyping(*b.source)) continue;
             const std::string text = typedtext(*b.widget);
-            if (text != b.text) typetext(*b.source, b.text = text);
+            if (text != b.text) b.source->text = b.text = text;
         }
 }
 
@@ -235,7 +236,7 @@ const control* focusedcontrol(const window& w) {
 }
 
 QWidget* widgetof(const control& c) {
-    const auto found = boundwindows().find(c.in);
+    const auto found = boundwindows().find(c.parent);
     if (found == boundwindows().end()) return nullptr;
     for (const boundcontrol& b : found->second.controls)
         if (b.source == &c) return b.widget;

@@ -161,7 +161,7 @@ class snipbox : public QComboBox {
 // ---- a widget of each kind ----------------------------------------------------------------------------------
 
 QWidget* makebutton(const control& c, QWidget* plan) {
-    auto* widget = new button(c.back ? screencolour(*c.back) : buttoncolour, plan);
+    auto* widget = new button(c.background ? screencolour(*c.background) : buttoncolour, plan);
     widget->setAutoRepeat(c.repeats);
     if (c.kind == controlkind::picturebutton) widget->setpicture(QString::fromStdString(c.name));
     return widget;

@@ -52,7 +52,7 @@ windowframe::windowframe(const tessaly::window& itswindow) : source(itswindow) {
     setrole(*this, &source == &startform || &source == &vistaplan ? QAccessible::Window : QAccessible::Dialog);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
-    const QColor background = screencolour(source.back);
+    const QColor background = screencolour(source.background);
     QPalette colours = palette();
     colours.setColor(QPalette::Window, background);
     colours.setColor(QPalette::WindowText, readablecolour(background));
