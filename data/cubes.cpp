@@ -8,13 +8,12 @@
 #include "core/textfiles.h"
 #include "core/world.h"
 #include "data/elements.h"
+#include "data/pointtransforms.h"
 #include "data/script.h"
 
 namespace tessaly {
 
 namespace {
-
-enum axis : std::size_t { alongx, alongy, alongz };
 
 // Sections that hold a single row of cubes. Their cubes are numbered in hundreds; each cube takes ten points and quads.
 constexpr const char* rowkeys[] = {
@@ -22,19 +21,19 @@ constexpr const char* rowkeys[] = {
 constexpr int firstsinglecube = 600, maxsinglecubes = 100, firstsinglepoint = 6001;
 
 void readcuberow(textinput& in, axis stepaxis, int base, cubeslots& next) {
-    cubecorners corner = readcorners(in);
+    cubediagonal diagonal = readdiagonal(in);
     const value step = readvalue(in, "the step of a cube row");
     const value last = readvalue(in, "the number of the last cube in a row");
     rowgrade = readvalue(in, "the grade of a cube row");
     rowcolour = readvalue(in, "the colour of a cube row");
 
-    value &first = corner[stepaxis], &second = corner[stepaxis + 3];
+    value &first = diagonal[stepaxis], &second = diagonal[stepaxis + 3];
     first = first - step;
     second = second - step;
     for (int c = base; c <= last; ++c) {
         first = first + step;
         second = second + step;
-        expandcube(next, corner, rowgrade, rowcolour);
+        expandcube(next, diagonal, rowgrade, rowcolour);
     }
 }
 
@@ -60,9 +59,7 @@ void readcubeframing(textinput& in, const char* key, table<value, lastquad, clea
 
 template <axis stepaxis>
 void readcubesections(textinput& in) {
-    findkey(in, "WIRECOLORS:");
-    for (int group = 6; group <= 9; ++group) wirecolour[group] = readvalue(in, "a wire colour (WIRECOLORS:)");
-
+    readwirecolours(in, 6, 9);
     cubeslots next{1, 1, 1};
     int pairstart = 1;  // first line of the pair of sections being read
     const auto closepair = [&](int group, int block) {
@@ -82,22 +79,25 @@ void readcubesections(textinput& in) {
     findkey(in, "AUTOCUBE600:");
     closepair(8, 3);
     next.point = next.quad = firstsinglepoint;
-    readcuberows(in, firstsinglecube, maxsinglecubes, next);
+    readsinglecubes(in, firstsinglecube, maxsinglecubes, next);
     closepair(9, 4);
     readcubeframing(in, "AUTOFRAMING1:", framing1);
     readcubeframing(in, "AUTOFRAMING2:", framing2);
 }
 
-bool placecubes() {
+template <axis stepaxis>
+void readcube() {
+    constexpr int number = 2 + static_cast<int>(stepaxis);  // of the reader
+    if (!readshape(number, "axis-cube file", readcubesections<stepaxis>)) return;
     runtransforms();
-    return true;
+    plotshape(2);
 }
 
 }  // namespace
 
-void readcubex() { readshape({2, "axis-cube file", readcubesections<alongx>, placecubes, 2}); }
-void readcubey() { readshape({3, "axis-cube file", readcubesections<alongy>, placecubes, 2}); }
-void readcubez() { readshape({4, "axis-cube file", readcubesections<alongz>, placecubes, 2}); }
+void readcubex() { readcube<xaxis>(); }
+void readcubey() { readcube<yaxis>(); }
+void readcubez() { readcube<zaxis>(); }
 
 void displaycube() {
     openinput(1, "datah\\az-cube.txt", "axis-cube file");

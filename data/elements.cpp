@@ -17,22 +17,16 @@ namespace tessaly {
 namespace {
 
 constexpr int lastplaced = 100;  // a placement moves the points 1 to lastplaced
-constexpr int lastplane = 7000;
-constexpr int cubesinsection = 200;
-
-void readwirecolours(textinput& in) {
-    findkey(in, "WIRECOLORS:");
-    for (int group = 1; group <= 7; ++group) wirecolour[group] = readvalue(in, "a wire colour (WIRECOLORS:)");
-}
+constexpr int maxplanes = 7000;
+constexpr int maxcubes = 200;  // of a section
 
 void readpoints(textinput& in) {
     findkey(in, "STANDARD:");
     for (int n = 1; n <= lastpoint; ++n) {
         const int label = readwholenumber(in, "the label of a STANDARD: row");
-        ptx.set(n, readvalue(in, "x of a STANDARD: row"));
-        pty.set(n, readvalue(in, "y of a STANDARD: row"));
-        ptz.set(n, readvalue(in, "z of a STANDARD: row"));
-        placepoint(n, ptx[n], pty[n], ptz[n]);
+        const value x = readvalue(in, "x of a STANDARD: row"), y = readvalue(in, "y of a STANDARD: row"),
+                    z = readvalue(in, "z of a STANDARD: row");
+        placepoint(n, x, y, z);
         if (label == sentinel) {
             ptcount1 = n - 1;
             return;
@@ -41,7 +35,7 @@ void readpoints(textinput& in) {
 }
 
 // Reads a LINEG section into the lines starting at first and returns its number of lines: 0 if it has no end row.
-int readlines(textinput& in, const char* key, int first) {
+int readlinegroup(textinput& in, const char* key, int first) {
     findkey(in, key);
     for (int n = first; n <= lastline; ++n) {
         lineend1.set(n, readvalue(in, "the first point of a line row"));
@@ -53,7 +47,7 @@ int readlines(textinput& in, const char* key, int first) {
 
 void readplanes(textinput& in) {
     findkey(in, "AUTOPLANE:");
-    for (int q = 1; q <= lastplane; ++q) {
+    for (int q = 1; q <= maxplanes; ++q) {
         const int label = readwholenumber(in, "the label of an AUTOPLANE: row");
         quad1.set(q, readvalue(in, "corner 1 of an AUTOPLANE: row"));
         quad3.set(q, readvalue(in, "corner 3 of an AUTOPLANE: row"));
@@ -77,27 +71,29 @@ void readframing(textinput& in, const char* key, table<value, lastquad, clearedp
     }
 }
 
-void readsections(textinput& in) {
-    readwirecolours(in);
+// Reads a section of single cubes into lines and into a block of points and quads. Returns the first line after them.
+int readcubesection(textinput& in, const char* key, int firstcube, int block, int group, int line) {
+    const int slot = (block - 1) * 2000 + 1;
+    cubeslots next{slot, slot, line};
+    findkey(in, key);
+    readsinglecubes(in, firstcube, maxcubes, next);
+    linecount[group] = next.line - line;
+    ptcount[block] = next.point - slot;
+    return next.line;
+}
+
+void readelementsections(textinput& in) {
+    readwirecolours(in, 1, 7);
     readpoints(in);
-    int lines = 0;
+    int line = 1;  // the next one
     const char* const keys[] = {"LINEG1:", "LINEG2:", "LINEG3:", "LINEG4:", "LINEG5:"};
     for (int group = 1; group <= 5; ++group) {
-        const int count = readlines(in, keys[group - 1], lines + 1);
+        const int count = readlinegroup(in, keys[group - 1], line);
         linecount[group] = count;
-        lines += count;
+        line += count;
     }
-    cubeslots next{4001, 4001, lines + 1};
-    findkey(in, "AUTOCUBE400:");
-    readcuberows(in, 400, cubesinsection, next);
-    linecount6 = next.line - (lines + 1);
-    ptcount3 = next.point - 4001;
-    const int firstline = next.line;
-    next = {6001, 6001, firstline};
-    findkey(in, "AUTOCUBE600:");
-    readcuberows(in, 600, cubesinsection, next);
-    linecount7 = next.line - firstline;
-    ptcount4 = next.point - 6001;
+    line = readcubesection(in, "AUTOCUBE400:", 400, 3, 6, line);
+    readcubesection(in, "AUTOCUBE600:", 600, 4, 7, line);
     readplanes(in);
     readframing(in, "AUTOFRAMING1:", framing1);
     readframing(in, "AUTOFRAMING2:", framing2);
@@ -127,17 +123,20 @@ bool tryplace() {
 
 }  // namespace
 
-void readelements() { readshape({1, "element file", readsections, tryplace, 1}); }
+void readelements() {
+    // If placemode selects no placement, the file stays open on channel 1, so that the next element fails.
+    if (readshape(1, "element file", readelementsections) && tryplace()) plotshape(1);
+}
 
 void rotzplace() {
     placetoworld();
-    rotatepoints(1, lastplaced, radians(rotz), rotatez);
+    rotatepoints(1, lastplaced, zaxis, radians(rotz), {placex, placey, placez});
 }
 
 void rotxplace() {
     placetoworld();
     rotx = radians(rotx);
-    rotatepoints(1, lastplaced, rotx, rotatex);
+    rotatepoints(1, lastplaced, xaxis, rotx, {placex, placey, placez});
 }
 
 void shiftplace() {
@@ -145,17 +144,18 @@ void shiftplace() {
     shiftpoints(1, lastplaced, 1);
 }
 
-void readshape(const shapereader& r) {
+bool readshape(int readernumber, const char* role, void (*readsections)(textinput& in)) {
     resetworld();
-    const bool opened = preopened == r.preopened;
-    textinput& in = opened ? channelinput(1) : openinput(1, "datah\\" + datafile.text(), r.role);
+    const bool opened = preopened == readernumber;
+    textinput& in = opened ? channelinput(1) : openinput(1, "datah\\" + datafile.text(), role);
     shapefile = in.path;
-    withsubscriptlocation([&in] { return in.location(); }, [&] { r.readsections(in); });
-    if (opened) return;
-    // If placemode selects no placement, the file stays open on channel 1, so that the next element fails.
-    if (!r.place()) return;
-    in.close();
-    drawset = r.drawset;
+    withsubscriptlocation([&in] { return in.location(); }, [&] { readsections(in); });
+    return !opened;
+}
+
+void plotshape(int blocks) {
+    channelinput(1).close();
+    drawset = blocks;
     plotgroups();
 }
 
@@ -169,14 +169,19 @@ void showscene() {
     plotstate = 2;
 }
 
-cubecorners readcorners(textinput& in) {
-    cubecorners corners;
-    for (value& coordinate : corners) coordinate = readvalue(in, "a corner coordinate of a cube row");
-    return corners;
+void readwirecolours(textinput& in, int from, int to) {
+    findkey(in, "WIRECOLORS:");
+    for (int group = from; group <= to; ++group) wirecolour[group] = readvalue(in, "a wire colour (WIRECOLORS:)");
 }
 
-void expandcube(cubeslots& next, const cubecorners& opposite, const value& grade, const value& colour) {
-    const auto& [x1, y1, z1, x2, y2, z2] = opposite;
+cubediagonal readdiagonal(textinput& in) {
+    cubediagonal ends;
+    for (value& coordinate : ends) coordinate = readvalue(in, "a corner coordinate of a cube row");
+    return ends;
+}
+
+void expandcube(cubeslots& next, const cubediagonal& diagonal, const value& grade, const value& colour) {
+    const auto& [x1, y1, z1, x2, y2, z2] = diagonal;
     const double dx = x2 - x1, dy = y2 - y1, dz = z2 - z1;
     const int p = next.point;
     const value corners[8][3] = {
@@ -209,14 +214,14 @@ void expandcube(cubeslots& next, const cubecorners& opposite, const value& grade
     next.quad += 10;
 }
 
-void readcuberows(textinput& in, int firstcube, int maxrows, cubeslots& next) {
+void readsinglecubes(textinput& in, int firstcube, int maxrows, cubeslots& next) {
     for (int c = firstcube; c < firstcube + maxrows; ++c) {
         const int label = readwholenumber(in, "the label of a cube row");
-        const cubecorners corners = readcorners(in);
+        const cubediagonal diagonal = readdiagonal(in);
         cubegrade.set(c, readvalue(in, "the grade of a cube row"));
         cubecolour.set(c, readvalue(in, "the colour of a cube row"));
         if (label == sentinel) return;
-        expandcube(next, corners, cubegrade[c], cubecolour[c]);
+        expandcube(next, diagonal, cubegrade[c], cubecolour[c]);
     }
 }
 

@@ -22,22 +22,23 @@ void rotzplace();   // rotates by rotz degrees about Z
 void rotxplace();   // rotates by rotx degrees about X; leaves radians in rotx
 void shiftplace();  // does not rotate
 
-// What differs between the readers of element files and of axis-cube files.
-struct shapereader {
-    int preopened;     // value of the scalar preopened that means the file is already open on channel 1
-    const char* role;  // what reports call the file
-    void (*readsections)(textinput& in);
-    bool (*place)();  // returns false if placemode selects no placement
-    int drawset;
-};
+// ---- steps shared with the readers of axis-cube files ----
 
-// Clears the tables and reads the sections of a file. If it opened the file itself, also places and plots the element.
-void readshape(const shapereader& r);
+// Clears the tables, opens datafile on channel 1 and reads it with readsections. If preopened is readernumber, the file
+// is open already. Returns whether it opened the file: the caller then places the element and calls plotshape. role:
+// what reports call the file.
+bool readshape(int readernumber, const char* role, void (*readsections)(textinput& in));
+
+// Closes the file, sets drawset and plots.
+void plotshape(int blocks);
 
 // Finishes a scene whose file the caller opened: runs its script, closes the file, loads the palette and plots.
 // writes: preopened, palette, viewprompt, plotstate, and everything plotgroups writes; draws on viewport; fails: as
 // readelements.
 void showscene();
+
+// Reads the section of the wire colours, which has one for each of the line groups from..to.
+void readwirecolours(textinput& in, int from, int to);
 
 // Indexes for the next cube.
 struct cubeslots {
@@ -45,14 +46,14 @@ struct cubeslots {
 };
 
 // Two opposite corners of a cube in the order of a row: x, y, z of one, then of the other.
-using cubecorners = std::array<value, 6>;
-cubecorners readcorners(textinput& in);
+using cubediagonal = std::array<value, 6>;
+cubediagonal readdiagonal(textinput& in);
 
 // Expands a cube into eight points, twelve lines and six faces; advances next by ten points and quads and twelve lines.
-void expandcube(cubeslots& next, const cubecorners& opposite, const value& grade, const value& colour);
+void expandcube(cubeslots& next, const cubediagonal& diagonal, const value& grade, const value& colour);
 
 // Reads rows of one cube each, up to the end row but at most maxrows, and expands them into the slots starting at next.
 // writes: cubegrade and cubecolour starting at firstcube, and everything expandcube writes; fails: as readelements.
-void readcuberows(textinput& in, int firstcube, int maxrows, cubeslots& next);
+void readsinglecubes(textinput& in, int firstcube, int maxrows, cubeslots& next);
 
 }  // namespace tessaly

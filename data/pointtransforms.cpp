@@ -14,25 +14,19 @@ void placepoint(int i, const value& x, const value& y, const value& z) {
     basez.set(i, z);
 }
 
-void rotatex(int i, double c, double s, double dx, double dy, double dz) {
-    const double x = basex[i], y = basey[i], z = basez[i];
-    placepoint(i, x + dx, y * c - z * s + dy, y * s + z * c + dz);
-}
-
-void rotatey(int i, double c, double s, double dx, double dy, double dz) {
-    const double x = basex[i], y = basey[i], z = basez[i];
-    placepoint(i, z * s + x * c + dx, y + dy, z * c - x * s + dz);
-}
-
-void rotatez(int i, double c, double s, double dx, double dy, double dz) {
-    const double x = basex[i], y = basey[i], z = basez[i];
-    placepoint(i, x * c - y * s + dx, x * s + y * c + dy, z + dz);
-}
-
-void rotatepoints(double first, double last, double angle, rotation rotate) {
-    if (first > last) return;  // without points the offsets need not be numbers
-    const double c = cosineof(angle), s = sineof(angle), dx = placex, dy = placey, dz = placez;
-    foreachpoint(first, last, 1, [=](int i) { rotate(i, c, s, dx, dy, dz); });
+void rotatepoints(double first, double last, axis about, double angle, const value (&shift)[3]) {
+    if (first > last) return;  // without points the shift may contain texts
+    const double c = cosineof(angle), s = sineof(angle);
+    const double offset[] = {shift[xaxis], shift[yaxis], shift[zaxis]};
+    const std::size_t u = (about + 1) % 3, v = (about + 2) % 3;  // the other two axes; the rotation goes from u to v
+    foreachpoint(first, last, 1, [&](int i) {
+        const double p[] = {basex[i], basey[i], basez[i]};
+        double rotated[3];
+        rotated[about] = p[about] + offset[about];
+        rotated[u] = p[u] * c - p[v] * s + offset[u];
+        rotated[v] = p[u] * s + p[v] * c + offset[v];
+        placepoint(i, rotated[xaxis], rotated[yaxis], rotated[zaxis]);
+    });
 }
 
 void shiftpoints(double first, double last, int step) {

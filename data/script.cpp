@@ -5,7 +5,6 @@
 
 #include "core/failure.h"
 #include "core/fields.h"
-#include "core/sine.h"
 #include "core/textfiles.h"
 #include "core/world.h"
 #include "data/pointtransforms.h"
@@ -42,67 +41,46 @@ void setplace(const value* offsets) {
     placez = offsets[2];
 }
 
-void rotatetranslate(const value* row, double angle, rotation rotate) {
-    setplace(row + 3);
-    rotatepoints(row[0], row[1], angle, rotate);
-}
-
-void xrotatetranslate(const value* row) {
-    rotx = radians(row[2]);
-    rotatetranslate(row, rotx, rotatex);
-}
-
-void yrotatetranslate(const value* row) { rotatetranslate(row, radians(row[2]), rotatey); }
-
-void zrotatetranslate(const value* row) {
-    rotz = radians(row[2]);
-    rotatetranslate(row, rotz, rotatez);
-}
-
-void translatesteps(const value* row, int step) {
+template <int step>
+void translate(const value* row) {
     setplace(row + 2);
     shiftpoints(row[0], row[1], step);
 }
 
-void translate(const value* row) { translatesteps(row, 1); }
-void step10translate(const value* row) { translatesteps(row, 10); }
+// Stores an angle about X in rotx and one about Z in rotz. An angle about Y is not stored.
+void storeangle(axis about, double angle) {
+    if (about == xaxis) rotx = angle;
+    if (about == zaxis) rotz = angle;
+}
 
-// Returns the total angle of a wrap that moves no points: the sum over its passes, or beyond ten million passes the
-// product.
-double totalofangle(double angle, double copies) {
-    constexpr double maxpasses = 1e7;
-    if (copies > maxpasses) return angle * std::floor(copies);
-    double sum = 0;
-    for (int k = 1; k <= copies; ++k) sum += angle;
-    return sum;
+template <axis about>
+void rotatetranslate(const value* row) {
+    const double angle = radians(row[2]);
+    storeangle(about, angle);
+    setplace(row + 3);
+    rotatepoints(row[0], row[1], about, angle, {placex, placey, placez});
 }
 
 // Makes `copies` passes over a range of points, ten indexes further each time. Pass k rotates by k * angle and shifts
-// along the axis by (startfactor + k) * k * rise. axis selects which of dx, dy, dz is the shift.
-void wrap(const value* row, value& totalangle, rotation rotate, int axis) {
+// along the axis by (startfactor + k) * k * rise.
+template <axis about>
+void wrap(const value* row) {
     const double first = row[0], last = row[1], angle = radians(row[2]), copies = row[3], startfactor = row[4],
                  rise = row[5];
-    totalangle = 0;
-    if (first > last) {
-        totalangle = totalofangle(angle, copies);
-        return;
-    }
-    double factor = startfactor, totalrise = 0;
+    constexpr double maxpasses = 1e7;
+    // Without points the passes only add up the angle. Beyond maxpasses a product replaces the sum.
+    if (first > last && copies > maxpasses) return storeangle(about, angle * std::floor(copies));
+    double factor = startfactor, totalangle = 0, totalrise = 0;
+    storeangle(about, totalangle);
     for (int k = 1; k <= copies; ++k) {  // a non-empty range fails when it passes the end of the tables
         totalrise += rise;
-        totalangle = totalangle + angle;
+        totalangle += angle;
         factor += 1;
-        const double r = factor * totalrise, c = cosineof(totalangle), s = sineof(totalangle);
-        foreachpoint(first + 10 * (k - 1), last + 10 * (k - 1), 1,
-                     [=](int i) { rotate(i, c, s, axis == 0 ? r : 0, axis == 1 ? r : 0, axis == 2 ? r : 0); });
+        storeangle(about, totalangle);
+        value shift[3] = {0, 0, 0};
+        shift[about] = factor * totalrise;
+        if (first <= last) rotatepoints(first + 10 * (k - 1), last + 10 * (k - 1), about, totalangle, shift);
     }
-}
-
-void zwrap(const value* row) { wrap(row, rotz, rotatez, 2); }
-void xwrap(const value* row) { wrap(row, rotx, rotatex, 0); }
-void ywrap(const value* row) {
-    value totalangle;  // YWRAP changes no scalar
-    wrap(row, totalangle, rotatey, 1);
 }
 
 struct block {
@@ -117,14 +95,14 @@ constexpr block blocks[] = {
     {"YTRANSFORMATIONS:",  2, maxpairs, setcoordinate<pty, basey>},
     {"ZTRANSFORMATIONS:",  2, maxpairs, setcoordinate<ptz, basez>},
     {"RESIZE:",            5, maxrows,  resize},
-    {"XROTATETRANSLATE:",  6, maxrows,  xrotatetranslate},
-    {"YROTATETRANSLATE:",  6, maxrows,  yrotatetranslate},
-    {"ZROTATETRANSLATE:",  6, maxrows,  zrotatetranslate},
-    {"TRANSLATE:",         5, maxrows,  translate},
-    {"STEP10TRANSLATE:",   5, maxrows,  step10translate},
-    {"ZWRAP:",             6, maxrows,  zwrap},
-    {"XWRAP:",             6, maxrows,  xwrap},
-    {"YWRAP:",             6, maxrows,  ywrap},
+    {"XROTATETRANSLATE:",  6, maxrows,  rotatetranslate<xaxis>},
+    {"YROTATETRANSLATE:",  6, maxrows,  rotatetranslate<yaxis>},
+    {"ZROTATETRANSLATE:",  6, maxrows,  rotatetranslate<zaxis>},
+    {"TRANSLATE:",         5, maxrows,  translate<1>},
+    {"STEP10TRANSLATE:",   5, maxrows,  translate<10>},
+    {"ZWRAP:",             6, maxrows,  wrap<zaxis>},
+    {"XWRAP:",             6, maxrows,  wrap<xaxis>},
+    {"YWRAP:",             6, maxrows,  wrap<yaxis>},
     // clang-format on
 };
 

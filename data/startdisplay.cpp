@@ -1,4 +1,4 @@
-// The start-up display. It does not set drawset: on the first start it is empty, so that block 2 of an axis-cube group
+// The start-up display does not set drawset. At the first start drawset is empty, so that block 2 of an axis-cube group
 // is not rebased on the focus. This is intended.
 
 #include "data/startdisplay.h"
@@ -54,15 +54,8 @@ void readstartfile() {
     in.close();
 }
 
-void opengroup(const value& name, int step) {
-    openinput(1, "datah\\" + name.text() + ".txt", "start group");
-    startprefix = name.text().substr(0, 2);
-    startstep = step;
-}
-
-// Reads the group open on channel 1 with the reader selected by its prefix, and shows it. With any other prefix only
-// its script runs.
-void readgroup() {
+// Reads a start group with the reader selected by its prefix, and shows it. With any other prefix only its script runs.
+void showgroup(const value& name, int step) {
     struct reader {
         const char* prefix;
         int preopened;
@@ -70,6 +63,9 @@ void readgroup() {
     };
     static constexpr reader readers[] = {
         {"st", 1, readelements}, {"ax", 2, readcubex}, {"ay", 3, readcubey}, {"az", 4, readcubez}};
+    openinput(1, "datah\\" + name.text() + ".txt", "start group");
+    startprefix = name.text().substr(0, 2);
+    startstep = step;
     for (const reader& r : readers) {
         if (!startprefix.is(r.prefix)) continue;
         preopened = r.preopened;
@@ -86,10 +82,7 @@ void startdisplay() {
         clearpicture();
     }
     int step = 0;
-    for (const value* name : {&startgroup1, &startgroup2, &startgroup3}) {
-        opengroup(*name, step++);
-        readgroup();
-    }
+    for (const value* name : {&startgroup1, &startgroup2, &startgroup3}) showgroup(*name, step++);
 }
 
 }  // namespace tessaly
