@@ -4,6 +4,8 @@
 
 #include "core/elementtypes.h"
 
+#include <cmath>
+
 namespace tessaly {
 
 namespace {
@@ -16,21 +18,20 @@ void openlayout(window& layout) {
     showwindow(layout);
 }
 
-// Returns the floor of a number, 0 for a number that is not a floor.
-int floorin(double level) {
-    for (int number = lowestfloor; number <= highestfloor; ++number)
-        if (level == number) return number;
-    return 0;
+// Returns a number as a floor; 0 if it is not one.
+int floorof(double number) {
+    const bool isfloor = number >= lowestfloor && number <= highestfloor && number == std::floor(number);
+    return isfloor ? static_cast<int>(number) : 0;
 }
 
 // Return the warning for the text of a box that readbuildstate reads; nullptr: no warning.
-const char* oddfloor(const std::string& text) {
-    return floorin(Val(text)) != 0 ? nullptr : "no known floor, clicks build on the one before";
+const char* floorwarning(const std::string& text) {
+    return floorof(Val(text)) != 0 ? nullptr : "no known floor, clicks build on the one before";
 }
-const char* odddrawmode(const std::string& text) {
+const char* drawmodewarning(const std::string& text) {
     return text == "solid" || text == "wireframe" ? nullptr : "no known mode, the one before stays in force";
 }
-const char* oddrecordmode(const std::string& text) {
+const char* recordmodewarning(const std::string& text) {
     if (text == "off") return "clicks are not recorded now";
     return text == "on" ? nullptr : "no known mode, the one before stays in force";
 }
@@ -56,28 +57,28 @@ void readbuildstate() {
     setfloor(floornum);
 }
 
-void setfloor(const value& level) {
-    const int number = floorin(level);
-    if (number == 0) return;
-    floorname = std::to_string(number);
-    placez = floorheight * (number - 1);
+void setfloor(double number) {
+    const int known = floorof(number);
+    if (known == 0) return;
+    floorname = std::to_string(known);
+    placez = floorheight * (known - 1);
 }
 
 value nextfloorname() {
-    const int number = floorin(Val(floor.text));
-    return number == 0 ? floorname : value(std::to_string(number));
+    const int known = floorof(Val(floor.text));
+    return known == 0 ? floorname : value(std::to_string(known));
 }
 
-const control* nextpanel() {
+const control* nextpanelbutton() {
     for (const paneltype& t : paneltypes)
         if (panelprefix.is(t.prefix)) return t.button;
     return nullptr;
 }
 
 void setboxwarnings() {
-    floor.warningof = oddfloor;
-    wiresolid.warningof = odddrawmode;
-    writefilebox.warningof = oddrecordmode;
+    floor.warningof = floorwarning;
+    wiresolid.warningof = drawmodewarning;
+    writefilebox.warningof = recordmodewarning;
 }
 
 void clickpanelbtn() {

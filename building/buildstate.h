@@ -14,13 +14,13 @@ struct control;
 void readbuildstate();
 
 // Sets floorname and placez for floor numbers 1..10; any other number leaves them unchanged.
-void setfloor(const value& level);
+void setfloor(double number);
 
 // Returns the floorname that the next click on a plan will set, according to the current text of the floor box.
 value nextfloorname();
 
 // Returns the button of the panel type that the next click on the panel layout places; nullptr before the first choice.
-const control* nextpanel();
+const control* nextpanelbutton();
 
 // Makes each box that readbuildstate reads show a warning if its text has no meaning or switches recording off.
 void setboxwarnings();

@@ -5,45 +5,23 @@
 #include "building/buildstate.h"
 #include "building/designfiles.h"
 #include "building/layouts.h"
-#include "building/records.h"
+#include "building/replay.h"
 #include "core/failure.h"
 #include "core/textfiles.h"
 
-#include <array>
+#include <algorithm>
 #include <filesystem>
+#include <limits>
 #include <map>
 #include <optional>
+#include <utility>
 
 namespace tessaly {
 
 namespace {
 
-// Fields of a record, from 0.
-constexpr std::size_t kindfield = 0, codefield = 4, rotzfield = 6, xfield = 7, yfield = 8;
-
-using placement = std::array<double, 4>;  // code of a girder, 0 of any other kind; rotz, x and y
-
-struct planpositions {
-    const buttonfamily* family;        // one of the plan's: all have the same kind and file
-    std::map<placement, int> numbers;  // element number by placement
-    int maxnumber = 0;
-};
-
-double codeof(const buttonfamily& f) { return &f.record == &girderfiles ? f.code : 0; }
-
-planpositions positionsof(const window& plan) {
-    planpositions found{};
-    for (const buttonposition& p : allbuttonpositions()) {
-        if (p.family->layout != &plan) continue;
-        found.family = p.family;
-        found.numbers[{codeof(*p.family), double(p.family->rotz), double(p.x), double(p.y)}] = p.number;
-        found.maxnumber = std::max(found.maxnumber, p.number);
-    }
-    return found;
-}
-
-// The number of a field; nothing for a text that is none or is beyond double precision.
-std::optional<double> numberin(const value& field) {
+// Returns a field as a number; no value if it is a text that is not a number or is too large for a double.
+std::optional<double> fieldnumber(const value& field) {
     if (!field.istext()) return field;
     try {
         return strictnumber(field.text());
@@ -52,74 +30,66 @@ std::optional<double> numberin(const value& field) {
     }
 }
 
-// The element number of a record's position, 0 if it is at none.
-int elementof(const std::vector<value>& record, const planpositions& plan) {
-    if (!record[kindfield].is(plan.family->record.kind)) return 0;
-    placement at{};
-    constexpr std::size_t fields[] = {codefield, rotzfield, xfield, yfield};
-    for (std::size_t k = codeof(*plan.family) == 0 ? 1 : 0; k < at.size(); ++k) {
-        const auto number = numberin(record[fields[k]]);
-        if (!number) return 0;
-        at[k] = *number;
+// Returns the element number of a record's position, 0 if the plan has no such position.
+int elementnumberof(const std::vector<value>& record, const window& plan) {
+    const value& kind = record[0];
+    const auto code = fieldnumber(record[4]), rotz = fieldnumber(record[6]), x = fieldnumber(record[7]),
+               y = fieldnumber(record[8]);
+    for (const buttonposition& p : allbuttonpositions()) {
+        const buttonfamily& f = *p.family;
+        if (f.layout == &plan && x == p.x && y == p.y && rotz == f.rotz && kind.is(f.record.kind) &&
+            (&f.record != &girderfiles || code == f.code))
+            return p.number;
     }
-    const auto found = plan.numbers.find(at);
-    return found == plan.numbers.end() ? 0 : found->second;
+    return 0;
 }
 
-// A file that cannot be opened, or a record that breaks off, ends the count.
-void count(builtelements& built, const planpositions& plan) {
-    built.times.assign(static_cast<std::size_t>(plan.maxnumber) + 1, 0);
+void count(builtelements& built, const window& plan) {
+    built.counts.assign(allbuttonpositions().size() + 1, 0);
     try {
-        textinput in{designpath(built.file), filebytes(designpath(built.file), "design file")};
-        const std::vector<recordcolumn> columns = unstoredcolumns();
-        for (;;) ++built.times[static_cast<std::size_t>(elementof(readrecord(in, columns), plan))];
-    } catch (const failure&) {
+        foreachrecord(built.file, std::numeric_limits<int>::max(), [&](const std::vector<value>& record) {
+            ++built.counts[static_cast<std::size_t>(elementnumberof(record, plan))];
+        });
+    } catch (const failure&) {  // the file cannot be read
     }
 }
 
-// Size and time of a file, by which a change is recognised; both zero if the file does not exist.
-struct filestamp {
-    std::uintmax_t size = 0;
-    std::filesystem::file_time_type time = {};
-    bool operator==(const filestamp&) const = default;
-};
+const fileclass& classof(const window& plan) {
+    const auto families = allbuttonfamilies();
+    return std::find_if(families.begin(), families.end(), [&](const buttonfamily& f) { return f.layout == &plan; })
+        ->record;
+}
+
+// Size and time of a file, which a change of the file alters; both are zero if it does not exist.
+using filestamp = std::pair<std::uintmax_t, std::filesystem::file_time_type>;
 
 filestamp stampof(const std::string& file) {
     const std::string path = systempath(designpath(file));
     std::error_code missing;
-    filestamp stamp{std::filesystem::file_size(path, missing), {}};
-    stamp.time = std::filesystem::last_write_time(path, missing);
+    const filestamp stamp{std::filesystem::file_size(path, missing), std::filesystem::last_write_time(path, missing)};
     return missing ? filestamp{} : stamp;
 }
 
-struct remembered {
-    planpositions positions;
-    builtelements built;
-    filestamp stamp;
-};
-
 }  // namespace
 
-const builtelements& builton(const window& plan) {
-    static std::map<const window*, remembered> plans;
-    const auto [found, fresh] = plans.try_emplace(&plan);
-    remembered& r = found->second;
-    if (fresh) r.positions = positionsof(plan);
-    const std::string file = recordfile(r.positions.family->record, nextfloorname());
-    const filestamp stamp = stampof(file);
-    if (fresh || file != r.built.file || stamp != r.stamp) {
-        r.built.file = file;
-        r.stamp = stamp;
-        count(r.built, r.positions);
+const builtelements& builtelementsof(const window& plan) {
+    static std::map<const window*, std::pair<builtelements, filestamp>> plans;
+    auto& [built, stamp] = plans[&plan];
+    const std::string file = recordfile(classof(plan), nextfloorname());
+    const filestamp current = stampof(file);
+    if (file != built.file || current != stamp) {
+        built.file = file;
+        stamp = current;
+        count(built, plan);
     }
-    return r.built;
+    return built;
 }
 
 std::string builttooltip(const control& positionbutton, const builtelements& built) {
-    const int times = built.timesof(positionbutton);
+    const int count = built.countof(positionbutton);
     const std::string& name = positionbutton.tooltip;
-    if (times == 0) return name;
-    return name + ", built " + (times == 1 ? "once" : std::to_string(times) + " times") + " in " + built.file;
+    if (count == 0) return name;
+    return name + ", built " + (count == 1 ? "once" : std::to_string(count) + " times") + " in " + built.file;
 }
 
 }  // namespace tessaly

@@ -10,21 +10,22 @@
 namespace tessaly {
 
 struct builtelements {
-    std::string file;        // bare name of the design file
-    std::vector<int> times;  // indexed by element number: how many complete records of that position the file has
+    std::string file;         // bare name of the design file
+    std::vector<int> counts;  // the file's complete records of each position, indexed by element number
 
-    int timesof(const control& positionbutton) const {
-        return times[static_cast<std::size_t>(positionbutton.elementnumber)];
+    int countof(const control& positionbutton) const {
+        return counts[static_cast<std::size_t>(positionbutton.elementnumber)];
     }
 };
 
 // Returns the built elements of the layout window's kind on the floor shown in the floor box. A position is identified
 // by kind, for girders also by code, and by fields 7, 8 and 9, compared as numbers. A file that cannot be read counts
-// as having none. The result is cached until the size or time of the file changes; the reference is valid until the
-// next call for this plan.
-const builtelements& builton(const window& plan);
+// as empty. The result is cached until the size or time of the file changes; the reference is valid until the next call
+// for this plan.
+const builtelements& builtelementsof(const window& plan);
 
-// "postx0y16, element 1: 2 times in girders1.txt": the tooltip of a button whose element is already built.
+// Returns the tooltip of a button: "postx0y16, element 1, built 2 times in girders1.txt" if its element is built,
+// otherwise its usual one.
 std::string builttooltip(const control& positionbutton, const builtelements& built);
 
 }  // namespace tessaly

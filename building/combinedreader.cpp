@@ -21,7 +21,7 @@ void clearrecords() {
     }
 }
 
-const std::vector<recordcolumn> bothcolumns =
+const std::vector<recordcolumn> designfilecolumns =
     designcolumns({nullptr, &rdnumber}, {&girdercode, &rdcode}, {nullptr, &rdtrailer});
 
 // Returns the twelve columns of the temporary files: first, the ten columns of a design record before its trailer,
@@ -34,57 +34,27 @@ std::vector<recordcolumn> tempcolumns(recordcolumn first, recordcolumn last) {
 const std::vector<recordcolumn> wirecolumns = tempcolumns({&placez, nullptr}, {nullptr, &rdtrailer});
 const std::vector<recordcolumn> solidcolumns = tempcolumns({}, {&placez, &rdplacez});
 
-constexpr int tempfirstfield = 0;  // the record's fields follow the line's first one
-
-// Formats record r of the tables as a line of a temporary file.
-std::string templine(const value& first, const value& r, const value& last) {
-    return formatrecord(first, recordcolumns(bothcolumns).first(bothcolumns.size() - 1), r, last);
-}
-std::string wireline(int i) { return templine(placez, i, rdtrailer[i]); }
-std::string solidline(int i) { return templine(i, i, placez); }
-std::string sortedline(int slot) { return templine(slot, rdorder[slot], rdplacez[rdorder[slot]]); }
-
-recordorigin sortedorigin(int slot) {
-    const auto record = static_cast<std::size_t>(double(rdorder[slot]));
-    return record - 1 < tempfile.origins.size() ? tempfile.origins[record - 1] : recordorigin{};
-}
+// Format record i of the tables as a line of tempfile: the two columns around the fields of the design record without
+// its trailer differ.
+using lineformatter = std::string (*)(int i);
+const recordcolumns commoncolumns = recordcolumns(designfilecolumns).first(recordlength - 1);
+std::string wireline(int i) { return formatrecord(placez, commoncolumns, i, rdtrailer[i]); }
+std::string solidline(int i) { return formatrecord(i, commoncolumns, i, placez); }
 
 // Reads a design file into the record tables, adds its number of records to combinedcount and its records to tempfile.
-template <class formatter>
-void addfile(const replayfile& file, formatter line) {
+// Writes its name to filename.
+void addfile(const replayfile& file, value& filename, lineformatter line) {
+    filename = file.name;
     clearrecords();
-    const std::vector<recordorigin> records = loaddesignfile(1, file.name, bothcolumns);
-    const int n = static_cast<int>(records.size());
-    combinedcount = combinedcount + n;
-    floorfromname(file.floorby);
-    addlines(tempfile, n, line, [&records](int i) { return records[static_cast<std::size_t>(i - 1)]; });
+    const std::vector<recordorigin> records = loaddesignfile(1, file.name, designfilecolumns);
+    combinedcount = combinedcount + static_cast<double>(records.size());
+    floorfromname(file);
+    appendtemporary(tempfile, records, line);
 }
 
-// Reads the records of both files from tempfile back into the record tables. Leaves the scalars alone: reading the
-// sorted file sets them. fails: subscript for record 1001.
-void loadbothfiles(int n) {
-    std::vector<recordcolumn> withoutscalars = solidcolumns;
-    for (recordcolumn& c : withoutscalars) c.scalar = nullptr;
-    textinput& in = opentemporary(tempfile);
-    for (int k = 1; k <= n; ++k) {
-        locaterecord(in, tempfile, k, tempfirstfield);
-        storerecord(k, withoutscalars, readrecord(in, withoutscalars));
-    }
-    in.close();
-}
-
-// Draws the records of tempfile as a wireframe, those of the first file first. reads: combinedcount.
-void replaycombined() {
-    const int n = indexof(combinedcount, "combinedcount", 2 * lastrecord);
-    textinput& in = opentemporary(tempfile);
-    for (int k = 1; k <= n; ++k) {
-        locaterecord(in, tempfile, k, tempfirstfield);
-        const fieldlocation record = {in.nextlocation.line, 1};
-        readrecord(in, wirecolumns);
-        drawrecord(elementkind, anycode, in, record);
-    }
-    in.close();
-    deletetemporary(tempfile);
+void addfirstfile(const replayfile& file, lineformatter line) {
+    combinedcount = 0;
+    addfile(file, firstfilename, line);
 }
 
 void showfirstlist(control& list) {
@@ -95,27 +65,13 @@ void showfirstlist(control& list) {
     show(autohintbox);
 }
 
-template <class formatter>
-void loadfirst(const replayfile& file, formatter line) {
-    firstfilename = file.name;
-    combinedcount = 0;
-    addfile(file, line);
-}
-
-template <class formatter>
-void loadsecond(const replayfile& file, formatter line) {
-    secondfilename = file.name;
-    addfile(file, line);
-}
-
-template <class formatter>
-void pickfirst(control& list, control& secondlist, formatter line) {
+void pickfirst(control& list, control& secondlist, lineformatter line) {
     hide(escapefilelistbtn);
     hide(list);
     hide(selectgirderfile);
     selectedbox.text = "You selected:  " + selectedtext(list);
     show(selectedbox);
-    loadfirst(pickedfile(list), line);
+    addfirstfile(pickedfile(list), line);
     show(selectpanelfile);
     refresh(secondlist);
     show(secondlist);
@@ -130,19 +86,25 @@ replayfile leavesecond(control& list) {
     return pickedfile(list);
 }
 
-// Replays the records of both files in tempfile solid, farthest first. reads: combinedcount.
-void replaysorted() {
-    const int n = indexof(combinedcount, "combinedcount", 2 * lastrecord);
-    loadbothfiles(n);
-    makeeyeabsolute();
-    measurerecords(n);
-    sortrecords(rdnumber, n);
-    addlines(sortedtempfile, n, sortedline, sortedorigin);
-    drawprogress(n);
-    paintrecords(sortedtempfile, tempfirstfield, n, solidcolumns, elementkind, anycode);
+int recordsofboth() { return indexof(combinedcount, "combinedcount", 2 * lastrecord); }
+
+// Draws the records of tempfile as a wireframe, those of the first file first.
+void replaycombined() {
+    readtemporary(tempfile, recordsofboth(), wirecolumns,
+                  [](int, const auto&, const textinput& in, fieldlocation record) {
+                      loadrecordelement(elementkind, anycode, in, record);
+                  });
     deletetemporary(tempfile);
-    deletetemporary(sortedtempfile);
-    hide(progressbar);
+}
+
+// Paints the records of both files in tempfile, farthest first. fails: subscript for record 1001.
+void replaycombinedsolid() {
+    const int n = recordsofboth();
+    readtemporary(tempfile, n, solidcolumns, [](int k, const std::vector<value>& fields, const auto&, auto) {
+        storerecord(k, solidcolumns, fields);
+    });
+    paintsorted(sortedtempfile, n, solidcolumns, rdnumber, elementkind, anycode, tempfile.origins);
+    deletetemporary(tempfile);
 }
 
 }  // namespace
@@ -156,19 +118,19 @@ void pickautofile1() { pickfirst(autofile1, autofile2, wireline); }
 void pickautofile3() { pickfirst(autofile3, autofile4, solidline); }
 
 void pickautofile2() {
-    loadsecond(leavesecond(autofile2), wireline);
+    addfile(leavesecond(autofile2), secondfilename, wireline);
     replaycombined();
 }
 
 void pickautofile4() {
-    loadsecond(leavesecond(autofile4), solidline);
-    replaysorted();
+    addfile(leavesecond(autofile4), secondfilename, solidline);
+    replaycombinedsolid();
 }
 
 void replaypairsolid(const replayfile& first, const replayfile& second) {
-    loadfirst(first, solidline);
-    loadsecond(second, solidline);
-    replaysorted();
+    addfirstfile(first, solidline);
+    addfile(second, secondfilename, solidline);
+    replaycombinedsolid();
 }
 
 bool awaitssecondfile() { return autofile2.shown || autofile4.shown; }

@@ -24,26 +24,18 @@ void setpanelfile(double code) {
             if (t.codes[snip] == code) datafile = std::string(t.prefix) + sniptypes[snip].nameinfix + ".txt";
 }
 
-// Returns the first n characters of a UTF-8 text.
-std::string_view firstcharacters(std::string_view text, std::size_t n) {
-    std::size_t end = 0;
-    for (; n > 0 && end < text.size(); --n) {
-        ++end;
-        while (end < text.size() && continuescharacter(text[end])) ++end;
-    }
-    return text.substr(0, end);
-}
-
 }  // namespace
 
-void recordelement(const fileclass& in, int number, int x, int y, const value& code) {
-    textoutput& out = openappend(1, designpath(recordfile(in, floorname)), "design file");
+std::string designpath(const value& name) { return "designs\\" + name.text(); }
+
+void recordelement(const fileclass& files, int number, int x, int y, const value& code) {
+    textoutput& out = openappend(1, designpath(recordfile(files, floorname)), "design file");
     out.write(recordline({elementkind, number, x, y, code, rotx, rotz, placex, placey, facecode, recordtrailer}));
     out.close();
 }
 
-std::string recordfile(const fileclass& in, const value& floorsname) {
-    return std::string(in.stem) + floorsname.text() + ".txt";
+std::string recordfile(const fileclass& files, const value& onfloor) {
+    return std::string(files.stem) + onfloor.text() + ".txt";
 }
 
 void elementfileforcode(const value& kind, const value& code) {
@@ -56,7 +48,7 @@ void elementfileforcode(const value& kind, const value& code) {
     if (kind.is(panelfiles.kind)) setpanelfile(number);
 }
 
-void noelementfile(const value& kind, const value& code, const textinput& in, fieldlocation record) {
+void elementfilefailure(const value& kind, const value& code, const textinput& in, fieldlocation record) {
     constexpr int codefield = 4;  // after the record's first, its kind
     const bool girder = kind.is("girder"), known = girder || kind.is("panel");
     const value& wrong = known ? code : kind;
@@ -71,23 +63,28 @@ void noelementfile(const value& kind, const value& code, const textinput& in, fi
 
 int floordigit(const std::string& name) {
     const fileclass* const found = classofname(name);
-    const std::string_view stem = firstcharacters(name, found ? found->stem.size() + 1 : 0);
-    const char digit = stem.empty() ? ' ' : stem.back();
-    return digit < '0' || digit > '9' ? -1 : digit - '0';
+    const std::size_t maxcharacters = found ? found->stem.size() + 1 : 0;
+    std::size_t characters = 0;
+    char last = ' ';
+    for (const char byte : name) {
+        if (!continuescharacter(byte)) ++characters;
+        if (characters > maxcharacters) break;
+        last = byte;
+    }
+    return last < '0' || last > '9' ? -1 : last - '0';
 }
 
-replayfile pickedfile(const control& filelist) { return {selectedtext(filelist), selectedtext(filelist)}; }
+replayfile pickedfile(const control& filelist) { return {selectedtext(filelist), floordigit(selectedtext(filelist))}; }
 
-const fileclass& floorfromname(const std::string& name) {
-    const int digit = floordigit(name);
-    if (digit < 0)
+const fileclass& floorfromname(const replayfile& file) {
+    if (file.digit < 0)
         throw failure(
-            failurekind::typemismatch, "no reader knows this name", shortpath(designpath(name)),
+            failurekind::typemismatch, "no reader knows this name", shortpath(designpath(file.name)),
             "rename it like girders1.txt, panels1.txt or roofs1.txt, with the same first four letters, the same "
             "length, and the floor's digit in the place of the 1");
-    floornum = digit;
-    setfloor(floornum == 0 ? value(10) : floornum);
-    return *classofname(name);
+    floornum = file.digit;
+    setfloor(file.digit == 0 ? 10 : file.digit);
+    return *classofname(file.name);
 }
 
 }  // namespace tessaly

@@ -2,7 +2,7 @@
 
 #include "building/filelist.h"
 
-#include "building/records.h"
+#include "building/designfiles.h"
 #include "core/controls.h"
 #include "core/textfiles.h"
 

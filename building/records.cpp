@@ -22,12 +22,6 @@ std::vector<recordcolumn> designcolumns(recordcolumn number, recordcolumn code, 
     };
 }
 
-std::vector<recordcolumn> unstoredcolumns() {
-    std::vector<recordcolumn> columns = designcolumns({}, {}, {});
-    for (recordcolumn& c : columns) c = {nullptr, nullptr, c.text};
-    return columns;
-}
-
 std::string recordline(const std::vector<value>& fields) {
     std::string line;
     for (const value& field : fields) {
@@ -59,7 +53,5 @@ void storerecord(int i, recordcolumns columns, const std::vector<value>& fields)
     for (std::size_t k = 0; k < columns.size(); ++k)
         if (columns[k].stored) columns[k].stored->set(i, fields[k]);
 }
-
-std::string designpath(const value& name) { return "designs\\" + name.text(); }
 
 }  // namespace tessaly

@@ -18,11 +18,10 @@ struct recordcolumn {
 };
 using recordcolumns = std::span<const recordcolumn>;
 
+constexpr int recordlength = 11;  // fields of a design record
+
 // Returns the eleven columns of a design record; the caller gives the three in which the readers differ.
 std::vector<recordcolumn> designcolumns(recordcolumn number, recordcolumn code, recordcolumn trailer);
-
-// Returns the eleven columns for a record that is read and not stored.
-std::vector<recordcolumn> unstoredcolumns();
 
 // Formats fields as a line: texts in double quotes, numbers as they are, separated by commas, ending in CR LF.
 std::string recordline(const std::vector<value>& fields);
@@ -36,8 +35,5 @@ std::vector<value> readrecord(textinput& in, recordcolumns columns);
 
 // Stores the fields of record i in the tables of its columns.
 void storerecord(int i, recordcolumns columns, const std::vector<value>& fields);
-
-// Returns "designs\" and the name.
-std::string designpath(const value& name);
 
 }  // namespace tessaly

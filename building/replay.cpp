@@ -15,15 +15,13 @@ namespace tessaly {
 
 namespace {
 
-constexpr double minsorted = 1;  // only records farther away than this are sorted
+constexpr double minsorteddistance = 1;  // model units; only records farther away are sorted
 
 // The progress strip, in its own pixels, y pointing down: rows from x 1 to x 17. stripbottom is one below the lowest
 // row.
 constexpr float stripleft = 1, stripright = 17;
 constexpr int stripbottom = 701, striprows = 701, rowsperrecord = 4;
-constexpr colour striplength{200, 200, 200}, stripback{100, 100, 100}, stripdone{250, 50, 50};
-
-int donerow = stripbottom;  // the last red row
+constexpr colour lengthcolour{200, 200, 200}, stripcolour{100, 100, 100}, donecolour{250, 50, 50};
 
 void drawstriprow(int row, colour c) {
     const float y = static_cast<float>(row);
@@ -35,23 +33,94 @@ void drawstriprows(int count, colour c) {
     for (int row = stripbottom - 1; row >= stripbottom - count; --row) drawstriprow(row, c);
 }
 
+// Shows the strip for n records: dark, with four light rows per record and four more from the bottom up.
+void drawprogress(int n) {
+    show(progressbar);
+    drawstriprows(striprows, stripcolour);
+    drawstriprows(rowsperrecord * (n + 1), lengthcolour);
+    progresssurface->flush();
+}
+
+// Draws the red row of the k-th record, four rows above the one before. Rows above the strip are not visible.
+void stepprogress(int k) {
+    drawstriprow(stripbottom - rowsperrecord * k, donecolour);
+    progresssurface->flush();
+}
+
+// Makes the eye absolute. Only the next plotgroups makes it relative again: after a replay without records the next
+// view step starts from the absolute eye.
+void makeeyeabsolute() {
+    perpx = perpx + focusx;
+    perpy = perpy + focusy;
+    perpz = perpz + focusz;
+}
+
 double squared(double d) { return d * d; }
+
+// Converts the positions of records 1..n to world units and computes their plan distances from the eye, without height.
+void shiftandmeasurerecords(int n) {
+    for (int i = 1; i <= n; ++i) {
+        rdx.set(i, rdx[i] - planoriginx);
+        rdy.set(i, rdy[i] - planoriginy);
+        quaddist.set(i, std::sqrt(squared(perpx - rdx[i]) + squared(perpy - rdy[i])));
+    }
+}
+
+// Sorts the records farthest first: rdorder[1..n] by quaddist, records of equal distance in the order of the file. Sets
+// quaddist of a sorted record to 0.
+void sortrecords(const table<value, lastrecord>& numbers, int n) {
+    for (int slot = 1; slot <= n; ++slot) {
+        double farthest = minsorteddistance;
+        for (int j = 1; j <= lastrecord; ++j) {
+            if (numbers[j] == 0 || !(quaddist[j] > farthest)) continue;
+            farthest = quaddist[j];
+            rdorder.set(slot, j);
+        }
+        quaddist.set(rdorder[slot], 0);
+    }
+}
+
+// Writes the records 1..n of the tables in the order of rdorder.
+void writesorted(temporaryfile& file, int n, recordcolumns columns, const std::vector<recordorigin>& origins) {
+    std::vector<recordorigin> sorted;
+    for (int slot = 1; slot <= n; ++slot) {
+        const auto index = static_cast<std::size_t>(double(rdorder[slot])) - 1;
+        sorted.push_back(index < origins.size() ? origins[index] : recordorigin{});
+    }
+    appendtemporary(file, sorted, [columns](int slot) {
+        const value& r = rdorder[slot];
+        return formatrecord(slot, columns.subspan(1, columns.size() - 2), r, (*columns.back().stored)[r]);
+    });
+}
 
 }  // namespace
 
-textinput& opentemporary(const temporaryfile& file) { return openinput(2, file.path, "temporary file"); }
-
-void locaterecord(textinput& in, const temporaryfile& file, int k, int firstfield) {
-    const auto index = static_cast<std::size_t>(k - 1);
-    if (index >= file.origins.size() || file.origins[index].path.empty()) return;
-    in.path = file.origins[index].path;
-    in.nextlocation = {file.origins[index].line, firstfield};
+void appendtemporary(temporaryfile& file, const std::vector<recordorigin>& origins,
+                     const std::function<std::string(int i)>& line) {
+    textoutput& out = openappend(2, file.path, "temporary file");
+    if (out.created) file = {file.path, true};
+    for (std::size_t i = 0; i < origins.size(); ++i) {
+        out.write(line(static_cast<int>(i) + 1));
+        if (file.created) file.origins.push_back(origins[i]);
+    }
+    out.close();
 }
 
-int countrecords(const value& name) {
-    textinput in{designpath(name), filebytes(designpath(name), "design file")};  // on no channel
-    const std::vector<recordcolumn> columns = unstoredcolumns();
-    return repeatuntilfailure(lastrecord, [&](int) { readrecord(in, columns); });
+void readtemporary(const temporaryfile& file, int n, recordcolumns columns,
+                   const std::function<void(int k, const std::vector<value>& fields, const textinput& in,
+                                            fieldlocation record)>& use) {
+    const int firstfield = recordlength + 1 - static_cast<int>(columns.size());  // number in the record; 0: before it
+    textinput& in = openinput(2, file.path, "temporary file");
+    for (std::size_t i = 0; i < static_cast<std::size_t>(n); ++i) {
+        if (i < file.origins.size() && !file.origins[i].path.empty()) {
+            in.path = file.origins[i].path;
+            in.nextlocation = {file.origins[i].line, firstfield};
+        }
+        const fieldlocation record = {in.nextlocation.line, 1};
+        const std::vector<value> fields = readrecord(in, columns);
+        use(static_cast<int>(i) + 1, fields, in, record);
+    }
+    in.close();
 }
 
 void deletetemporary(temporaryfile& file) {
@@ -71,68 +140,37 @@ std::vector<recordorigin> loaddesignfile(int channel, const value& name, recordc
     return origins;
 }
 
-void drawrecord(const value& kind, const value& code, const textinput& in, fieldlocation record) {
+int foreachrecord(const value& name, int maxrecords, const std::function<void(const std::vector<value>& record)>& use) {
+    textinput in{designpath(name), filebytes(designpath(name), "design file")};
+    std::vector<recordcolumn> columns = designcolumns({}, {}, {});
+    for (recordcolumn& c : columns) c = {nullptr, nullptr, c.text};
+    return repeatuntilfailure(maxrecords, [&](int) { use(readrecord(in, columns)); });
+}
+
+void loadrecordelement(const value& kind, const value& code, const textinput& in, fieldlocation record) {
     elementfileforcode(kind, code);
     if (datafile.empty()) {
         resetworld();
-        noelementfile(kind, code, in, record);
+        elementfilefailure(kind, code, in, record);
     }
     readelements();
     rotx = 0;
 }
 
-void makeeyeabsolute() {
-    perpx = perpx + focusx;
-    perpy = perpy + focusy;
-    perpz = perpz + focusz;
-}
-
-void measurerecords(int n) {
-    for (int i = 1; i <= n; ++i) {
-        rdx.set(i, rdx[i] - planoriginx);
-        rdy.set(i, rdy[i] - planoriginy);
-        quaddist.set(i, std::sqrt(squared(perpx - rdx[i]) + squared(perpy - rdy[i])));
-    }
-}
-
-void sortrecords(const table<value, lastrecord>& number, int n) {
-    for (int slot = 1; slot <= n; ++slot) {
-        double best = minsorted;
-        for (int j = 1; j <= lastrecord; ++j) {
-            if (number[j] == 0 || !(quaddist[j] > best)) continue;
-            best = quaddist[j];
-            rdorder.set(slot, j);
-        }
-        quaddist.set(rdorder[slot], 0);
-    }
-}
-
-void paintrecords(const temporaryfile& file, int firstfield, int n, recordcolumns columns, const value& kind,
-                  const value& code) {
-    textinput& in = opentemporary(file);
-    for (int k = 1; k <= n; ++k) {
-        locaterecord(in, file, k, firstfield);
-        const fieldlocation record = {in.nextlocation.line, 1};
-        readrecord(in, columns);
-        stepprogress();
-        drawrecord(kind, code, in, record);
+void paintsorted(temporaryfile& file, int n, recordcolumns columns, const table<value, lastrecord>& numbers,
+                 const value& kind, const value& code, const std::vector<recordorigin>& origins) {
+    makeeyeabsolute();
+    shiftandmeasurerecords(n);
+    sortrecords(numbers, n);
+    writesorted(file, n, columns, origins);
+    drawprogress(n);
+    readtemporary(file, n, columns, [&](int k, const auto&, const textinput& in, fieldlocation record) {
+        stepprogress(k);
+        loadrecordelement(kind, code, in, record);
         paintsolids();
-    }
-    in.close();
-}
-
-void drawprogress(int n) {
-    show(progressbar);
-    drawstriprows(striprows, stripback);
-    drawstriprows(rowsperrecord * (n + 1), striplength);
-    donerow = stripbottom;
-    progresssurface->flush();
-}
-
-void stepprogress() {
-    donerow -= rowsperrecord;
-    drawstriprow(donerow, stripdone);
-    progresssurface->flush();
+    });
+    deletetemporary(file);
+    hide(progressbar);
 }
 
 }  // namespace tessaly

@@ -1,5 +1,5 @@
-// Steps shared by singlereader and combinedreader: the trap that ends a design file, the steps of a solid replay (sort
-// by plan distance, write a temporary file in that order, paint from it) and the progress strip.
+// Steps shared by singlereader and combinedreader: the trap that ends a design file, the temporary files, and the solid
+// replay, which sorts records by plan distance, writes them to a temporary file and paints them from it.
 #pragma once
 
 #include "building/records.h"
@@ -8,29 +8,36 @@
 #include "core/value.h"
 #include "core/world.h"
 
+#include <functional>
+
 namespace tessaly {
 
-// The temporary files of a replay, deleted at its end. They are opened for appending: records left by an interrupted
-// replay or an abandoned choice come before the new ones and are replayed instead of them. This is intended.
-// For reports, the origin of each line in a design file is stored; lines left by an earlier run of the program have
-// none.
+// Where the record of a temporary file's line was read, for reports.
 struct recordorigin {
     std::string path;  // of the design file; "": unknown
     int line;
 };
+
+// The temporary files of a replay, deleted at its end. They are opened for appending: records left by an interrupted
+// replay or an abandoned choice come before the new ones and are replayed instead of them. This is intended.
 struct temporaryfile {
     const char* path;
-    bool own = false;  // created by this program
+    bool created = false;  // by this run of the program; if not, the origins of its lines are unknown
     std::vector<recordorigin> origins = {};
 };
 inline temporaryfile tempfile{"nonuser\\temp.txt"}, sortedtempfile{"nonuser\\temp2.txt"};
 
-// Opens a temporary file for reading on channel 2. fails: as openinput.
-textinput& opentemporary(const temporaryfile& file);
+// Appends line(1), line(2) .. to a temporary file on channel 2, one for each origin. fails: as openappend, type
+// mismatch, subscript.
+void appendtemporary(temporaryfile& file, const std::vector<recordorigin>& origins,
+                     const std::function<std::string(int i)>& line);
 
-// Makes reports about line k, which is read next, name the design file of its record. firstfield: the number of the
-// line's first field in that record.
-void locaterecord(textinput& in, const temporaryfile& file, int k, int firstfield);
+// Reads the first n lines of a temporary file on channel 2. After each it calls use with the number and the fields of
+// the line, the file, and the location of the line's record in its design file. fails: as openinput, readrecord and
+// use, and then leaves the file open.
+void readtemporary(
+    const temporaryfile& file, int n, recordcolumns columns,
+    const std::function<void(int k, const std::vector<value>& fields, const textinput& in, fieldlocation record)>& use);
 
 void deletetemporary(temporaryfile& file);
 
@@ -42,7 +49,6 @@ int repeatuntilfailure(int maxsteps, procedure step) {
     try {
         for (; done < maxsteps; ++done) step(done + 1);
     } catch (const failure&) {
-        return done;
     }
     return done;
 }
@@ -51,51 +57,25 @@ int repeatuntilfailure(int maxsteps, procedure step) {
 // file. fails: as openinput.
 std::vector<recordorigin> loaddesignfile(int channel, const value& name, recordcolumns columns);
 
-// Returns the number of complete records of a design file, at most 1000. Stores nothing. fails: as loaddesignfile.
-int countrecords(const value& name);
+// Calls use for each complete record of a design file, at most maxrecords, and returns their number. Uses no channel
+// and stores nothing. fails: as openinput.
+int foreachrecord(const value& name, int maxrecords, const std::function<void(const std::vector<value>& record)>& use);
 
 // Reads, places and draws the element of the record just read, by its kind and code, and resets rotx, in which the
 // placement left radians, to 0. record: its location, for reports. reads: rotx, rotz, placex, placey, placez; writes:
 // rotx, as readelements; fails: as readelements.
-void drawrecord(const value& kind, const value& code, const textinput& in, fieldlocation record);
+void loadrecordelement(const value& kind, const value& code, const textinput& in, fieldlocation record);
 
-// Makes the eye absolute. Only the next plotgroups makes it relative again: after a replay without records the next
-// view step starts from the absolute eye. reads: focusx..; writes: perpx..
-void makeeyeabsolute();
-
-// Converts the positions of records 1..n to world units and computes their plan distances from the eye; height is
-// ignored.
-// reads: perpx, perpy; writes: rdx, rdy, quaddist; fails: type mismatch.
-void measurerecords(int n);
-
-// Sorts records farthest first: rdorder[1..n] by quaddist, records of equal distance in the order of the file. Skips
-// records with number 0 or a distance of at most 1; a slot without a record keeps its rdorder from an earlier sort.
-// reads: number, quaddist; writes: rdorder, quaddist (0 for every sorted record); fails: type mismatch if a number is a
-// text.
-void sortrecords(const table<value, lastrecord>& number, int n);
-
-// Appends line(1) .. line(n) to a temporary file on channel 2; origin(i) is the origin of line(i). fails: as
-// openappend, type mismatch, subscript.
-template <class formatter, class locating>
-void addlines(temporaryfile& file, int n, formatter line, locating origin) {
-    textoutput& out = openappend(2, file.path, "temporary file");
-    if (out.created) file = {file.path, true};
-    for (int i = 1; i <= n; ++i) {
-        out.write(line(i));
-        if (file.own) file.origins.push_back(origin(i));
-    }
-    out.close();
-}
-
-// Reads n records of a temporary file, and for each advances the progress strip, draws and paints. kind, code: as
-// drawrecord; firstfield: as locaterecord. fails: as drawrecord and paintsolids, and leaves the file open on channel 2.
-void paintrecords(const temporaryfile& file, int firstfield, int n, recordcolumns columns, const value& kind,
-                  const value& code);
-
-// Shows the progress strip for n records: dark, with four light rows per record and four more from the bottom up.
-void drawprogress(int n);
-
-// Draws the next red row of the strip, four rows above the last one. Rows above the strip are not visible.
-void stepprogress();
+// Paints the records 1..n of the tables, farthest first, and advances the progress strip. The order is that of the plan
+// distance from the eye. Records with number 0 or within 1 unit of the eye are not sorted: their slots of rdorder stay
+// unchanged from an earlier sort.
+// file: receives the sorted records and is deleted at the end; columns: of its lines, the first being the place in the
+// order; numbers: element numbers; kind, code: values that select the element of a line just read; origins: of the
+// records.
+// reads: focusx.., the record tables; writes: perpx.. (absolute until the next plotgroups), rdx, rdy (world units),
+// rdorder, quaddist, as readelements and paintsolids; draws on viewport and progressbar; fails: type mismatch, as
+// appendtemporary, readelements and paintsolids.
+void paintsorted(temporaryfile& file, int n, recordcolumns columns, const table<value, lastrecord>& numbers,
+                 const value& kind, const value& code, const std::vector<recordorigin>& origins);
 
 }  // namespace tessaly

@@ -35,7 +35,7 @@ replayfile acceptfile(control& list) {
 // Sets secondfilename and the floor from a file, and returns its class.
 const fileclass& setfile(const replayfile& file) {
     secondfilename = file.name;
-    return floorfromname(file.floorby);
+    return floorfromname(file);
 }
 
 }  // namespace
@@ -51,7 +51,7 @@ void pickautofile() {
     repeatuntilfailure(maxwirerecords, [&](int) {
         const fieldlocation record = in.nextlocation;
         readrecord(in, columns);
-        drawrecord(c.kind, c.code, in, record);
+        loadrecordelement(c.kind, c.code, in, record);
     });
     in.close();
 }
@@ -60,26 +60,12 @@ void pickautofile5() { replaysolid(acceptfile(autofile5)); }
 
 void replaysolid(const replayfile& file) {
     const fileclass& c = setfile(file);
-    std::vector<recordcolumn> columns = columnsof(c);
     for (int i = 1; i <= lastrecord; ++i) c.numbers.set(i, 0);
+    std::vector<recordcolumn> columns = columnsof(c);
     const std::vector<recordorigin> records = loaddesignfile(2, secondfilename, columns);
-    const int n = static_cast<int>(records.size());
-    makeeyeabsolute();
-    measurerecords(n);
-    sortrecords(c.numbers, n);
-    columns.front() = {};  // in the temporary file the sort position replaces the kind
-    const auto sortedline = [&columns](int slot) {
-        const value& r = rdorder[slot];
-        return formatrecord(slot, recordcolumns(columns).subspan(1, columns.size() - 2), r, rdtrailer[r]);
-    };
-    addlines(tempfile, n, sortedline, [&records](int slot) {
-        const auto r = static_cast<std::size_t>(double(rdorder[slot]));
-        return r - 1 < records.size() ? records[r - 1] : recordorigin{};
-    });
-    drawprogress(n);
-    paintrecords(tempfile, 1, n, columns, c.kind, c.code);
-    deletetemporary(tempfile);
-    hide(progressbar);
+    columns.front() = {};  // in the temporary file the place in the order replaces the kind
+    columns.back().stored = &rdtrailer;
+    paintsorted(tempfile, static_cast<int>(records.size()), columns, c.numbers, c.kind, c.code, records);
 }
 
 }  // namespace tessaly

@@ -17,43 +17,29 @@ namespace tessaly {
 namespace {
 
 constexpr int topfloor = 10;
-using ranking = std::vector<countedfile>;  // files of one class and floor, in the order of their names
+using rankedfiles = std::vector<countedfile>;  // files of one class and floor, in the order of their names
 
-// The files that clicks on floor 10 write, and names with floor 10's digit, which is 0. A pick by hand takes these
-// three for floor 1; here alone they are what they were written as.
-constexpr struct {
-    const char *name, *floorby;
-} tenthfloor[] = {{"girders10.txt", "girder10.txt"}, {"panels10.txt", "panel10.txt"}, {"roofs10.txt", "roof10.txt"}};
-
+// Returns a file with the digit of its floor. A file that clicks on floor 10 wrote belongs to floor 10 here; the
+// readers take it for floor 1 when it is picked.
 replayfile withfloor(const std::string& name) {
-    for (const auto& t : tenthfloor)
-        if (name == t.name) return {name, t.floorby};
-    return {name, name};
+    const fileclass* const found = classofname(name);
+    if (found && name == recordfile(*found, topfloor)) return {name, 0};
+    return {name, floordigit(name)};
 }
 
-ranking filesof(const ranking& files, const fileclass& wanted, int floornumber) {
-    ranking found;
+rankedfiles filesof(const std::vector<countedfile>& files, const fileclass& wanted, int floornumber) {
+    rankedfiles found;
     for (const countedfile& f : files)
-        if (f.records > 0 && classofname(f.name) == &wanted &&
-            floordigit(withfloor(f.name).floorby) == floornumber % topfloor)
+        if (f.records > 0 && classofname(f.name) == &wanted && withfloor(f.name).digit == floornumber % topfloor)
             found.push_back(f);
     return found;
 }
 
-void addpair(std::vector<replaystep>& steps, const countedfile& girders, const countedfile& panels) {
-    if (girders.records + panels.records <= lastrecord) {
-        steps.push_back({girders.name, panels.name});
-    } else {
-        steps.push_back({girders.name, ""});
-        steps.push_back({panels.name, ""});
-    }
-}
-
 // Reads all files of designs\; changes neither tables nor scalars.
-ranking countfiles() {
-    ranking files;
+std::vector<countedfile> countfiles() {
+    std::vector<countedfile> files;
     for (const std::string& name : filesin("designs\\"))
-        if (floordigit(name) >= 0) files.push_back({name, countrecords(name)});
+        if (floordigit(name) >= 0) files.push_back({name, foreachrecord(name, lastrecord, [](const auto&) {})});
     return files;
 }
 
@@ -71,13 +57,17 @@ std::vector<replaystep> replaysteps(std::vector<countedfile> files) {
     std::sort(files.begin(), files.end(), [](const auto& a, const auto& b) { return a.name < b.name; });
     std::vector<replaystep> steps;
     for (int floornumber = 1; floornumber <= topfloor; ++floornumber) {
-        const ranking girders = filesof(files, girderfiles, floornumber),
-                      panels = filesof(files, panelfiles, floornumber);
-        for (std::size_t rank = 0; rank < std::max(girders.size(), panels.size()); ++rank)
-            if (rank < girders.size() && rank < panels.size())
-                addpair(steps, girders[rank], panels[rank]);
-            else
-                steps.push_back({(rank < girders.size() ? girders : panels)[rank].name, ""});
+        const rankedfiles girders = filesof(files, girderfiles, floornumber),
+                          panels = filesof(files, panelfiles, floornumber);
+        for (std::size_t rank = 0; rank < std::max(girders.size(), panels.size()); ++rank) {
+            const bool girder = rank < girders.size(), panel = rank < panels.size();
+            if (girder && panel && girders[rank].records + panels[rank].records <= lastrecord) {
+                steps.push_back({girders[rank].name, panels[rank].name});
+                continue;
+            }
+            if (girder) steps.push_back({girders[rank].name, ""});
+            if (panel) steps.push_back({panels[rank].name, ""});
+        }
         for (const countedfile& roofs : filesof(files, rooffiles, floornumber)) steps.push_back({roofs.name, ""});
     }
     return steps;

@@ -12,11 +12,11 @@ namespace {
 
 // "postx0y16 beamx0y16*2 in girders1.txt": the built positions of a plan and how often, and the file.
 std::string marksof(const window& plan) {
-    const builtelements& built = builton(plan);
+    const builtelements& built = builtelementsof(plan);
     std::string marks;
     for (const control* c : plan.controls)
-        if (const int times = c->elementnumber ? built.timesof(*c) : 0)
-            marks += c->name + (times > 1 ? '*' + std::to_string(times) : "") + ' ';
+        if (const int count = c->elementnumber ? built.countof(*c) : 0)
+            marks += c->name + (count > 1 ? '*' + std::to_string(count) : "") + ' ';
     return marks + "in " + built.file;
 }
 
@@ -63,7 +63,7 @@ TEST(builtelements, followTheFileOfTheNextClick) {
     s.click("postx0y16");
     EXPECT_EQ(marksof(layoutgirder), "postx0y16 in girders1.txt");
     const std::string before = worldtext(playedsurface.image);
-    EXPECT_EQ(builttooltip(*findcontrol("postx0y16"), builton(layoutgirder)),
+    EXPECT_EQ(builttooltip(*findcontrol("postx0y16"), builtelementsof(layoutgirder)),
               "postx0y16, element 1, built once in girders1.txt");
     s.type("floor", "2x");
     EXPECT_EQ(marksof(layoutgirder), "in girders2.txt");

@@ -165,7 +165,7 @@ class windows_randomuser : public windowsession {
         EXPECT_EQ(widget.isHidden(), !c.shown);
         if (c.parent->shown || c.elementnumber == 0) {
             EXPECT_EQ(widget.toolTip().toStdString(),
-                      c.elementnumber > 0 ? builttooltip(c, builton(*c.parent)) : tooltipof(c));
+                      c.elementnumber > 0 ? builttooltip(c, builtelementsof(*c.parent)) : tooltipof(c));
         }
         const auto* const box = qobject_cast<const QComboBox*>(&widget);
         const auto* const rows = qobject_cast<const QListWidget*>(&widget);

@@ -79,13 +79,13 @@ void setbold(const control& label) {
 
 // Marks the buttons whose element is built on the current floor, and sets their tooltips.
 void showbuilt(const window& plan) {
-    const builtelements& built = builton(plan);
+    const builtelements& built = builtelementsof(plan);
     for (const control* c : plan.controls) {
         if (c->elementnumber == 0) continue;
         auto* const position = dynamic_cast<button*>(widgetof(*c));
         const QString tip = QString::fromStdString(builttooltip(*c, built));
         if (position->toolTip() == tip) continue;
-        position->setmarked(built.timesof(*c) > 0);
+        position->setmarked(built.countof(*c) > 0);
         position->setToolTip(tip);
         position->setAccessibleDescription(tip);
     }
@@ -113,7 +113,7 @@ const QRect nextpanelbounds(6, 2, 74, 40);
 
 // Updates the picture and the description of the panel type that the next click places.
 void shownextpanel(windowframe& f) {
-    const control* const next = nextpanel();
+    const control* const next = nextpanelbutton();
     const QString description = next ? "The next click places: " + QString::fromStdString(next->accessiblename) : "";
     if (f.accessibleDescription() == description) return;
     f.setAccessibleDescription(description);
@@ -121,7 +121,7 @@ void shownextpanel(windowframe& f) {
 }
 
 void drawpanelplan(QPainter& painter) {
-    if (const control* const next = nextpanel())
+    if (const control* const next = nextpanelbutton())
         picture(QString::fromStdString(next->name)).paint(painter, nextpanelbounds);
     drawgrid(painter, panelgrid, QColor(140, 140, 210));
     drawbeams(painter, panelgrid, 105, QColor(170, 170, 225));
