@@ -12,7 +12,7 @@ namespace {
 
 std::string document(const fs::path& path) { return session::file(fs::path(TESSALY_SOURCE_DIR) / path); }
 
-// A page with each heading as its anchor behind "#-", such as "#-taking-back-a-click".
+// Returns a page with "#-" and its anchor in place of each heading, such as "#-taking-back-a-click".
 std::string withanchors(const std::string& page) {
     std::string made = std::regex_replace(page, std::regex("[^[:alnum:]# \n-]"), "");
     for (char& c : made) c = c == ' ' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
@@ -49,7 +49,8 @@ TEST(documents, noLinkLeadsNowhereAndNoPictureIsLeftOut) {
     for (const auto& picture : fs::directory_iterator(TESSALY_SOURCE_DIR "/docs/pictures"))
         EXPECT_NE(pages.find("pictures/" + picture.path().filename().string() + ")"), std::string::npos) << picture;
     const std::regex link(R"(\]\(([^)#:]*)(?:#([^)]*))?\))");
-    for (const fs::path page : {"README.md", "NOT-BUGS.md", "ARCHITECTURE.md", "docs/guide.md"}) {
+    for (const fs::path page :
+         {"README.md", "NOT-BUGS.md", "ARCHITECTURE.md", "BENCHMARKS.md", "CONTRIBUTING.md", "docs/guide.md"}) {
         const std::string text = document(page);
         for (std::sregex_iterator found(text.begin(), text.end(), link), end; found != end; ++found) {
             const std::string file = (*found)[1], anchor = (*found)[2];

@@ -150,7 +150,7 @@ TEST(projector, zeroDivisorsAreFailures) {
     }
 }
 
-// NOT-BUGS: A thin line of old drawing stays at the left and upper edge
+// NOT-BUGS: A thin line of the old picture stays at the left and upper edges
 TEST(projector, clearsLeaveTheEdgesOfThePicture) {
     session s;
     s.start();
