@@ -1,18 +1,18 @@
 #!/usr/bin/env bash
 # Checks that every machine draws the same pixels. Builds the engine without Qt, plays buildings and views, and compares
-# the checksums of the picture, of the lines and of the numbers behind them after each step with everymachine.txt.
-# Reports the first step that differs.
-#   tests/everymachine.sh                  two compilers, as plain and as fast as they can, another processor, and
-#                                          Windows. Also checks that a build with contracted arithmetic is noticed
-#   tests/everymachine.sh all              these, clang's own library, 32 bits and a processor of the other byte order,
-#                                          with Windows programs run by wine: about 200 MB of packages more
+# checksums after each step with everymachine.txt: of the picture, the lines, and the numbers that they were computed
+# from. Reports the first step that differs.
+#   tests/everymachine.sh                  two compilers, without and with full optimization, a 64-bit ARM processor, and
+#                                          Windows. Also checks that it notices a build with contracted arithmetic
+#   tests/everymachine.sh all              also clang's standard library, a 32-bit and a big-endian processor; installs
+#                                          about 200 MB more, including wine to run the Windows programs
 #   tests/everymachine.sh "c++ -O3"...     these compilers with these options; needs only them and cmake
-# Windows programs are only built where wine is not installed.
+# Without wine, Windows programs are built and not run.
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
 . tools/setup.sh
 root=$PWD
-kept=$root/tests/everymachine.txt
+expected=$root/tests/everymachine.txt
 export WINEPREFIX=$root/build-everymachine/wine WINEDEBUG=-all
 
 folderof() { echo "$root/build-everymachine/${1// /_}"; }
@@ -28,7 +28,8 @@ run() {
     $emulator "$program$([ "$emulator" != wine ] || echo .exe)" "$root" "${@:2}" | tr -d '\r'
 }
 
-# play BUILD: builds with this compiler, and runs where possible. The options come last, to override others.
+# play BUILD: builds with a compiler and its options, and runs the result if it can. The options come last on the
+# command line, so that they override others.
 play() {
     local folder compiler options= settings=()
     folder=$(folderof "$1")
@@ -49,17 +50,17 @@ play() {
 
 cannotrun() { [[ $1 == *mingw* ]] && ! command -v wine >/dev/null; }
 
-# differs BUILD: says which step is the first to go another way, and, where a build that agrees is there to ask, which
-# line or number of it.
+# differs BUILD: reports the first step that differs, and, if another build gave the expected checksums, the first line
+# or number of the step that differs from that build.
 differs() {
     local row number
-    row=$(diff "$kept" "$(folderof "$1")/checksums" | sed -n '/^>/ { s/^> //p; q }')
+    row=$(diff "$expected" "$(folderof "$1")/checksums" | sed -n '/^>/ { s/^> //p; q }')
     echo "$1 differs: ${row:-steps are missing}"
     number=$(sed -n 's/.* step \([0-9]*\): .*/\1/p' <<<"$row")
     [ -n "$number" ] && [ -n "$agreeing" ] || return 0
     diff <(run "$agreeing" "$number") <(run "$1" "$number") |
         awk -v agreeing="$agreeing" '/^</ && !right { right = substr($0, 3) } /^>/ && !wrong { wrong = substr($0, 3) }
-            END { print "    " right "   by " agreeing "\n    " wrong "   by it" }'
+            END { print "    " right "   from " agreeing "\n    " wrong "   from this build" }'
 }
 
 if [ "${1:-}" = --play ]; then
@@ -84,11 +85,11 @@ printf '%s\0' "$@" | xargs -0 -P "$(nproc)" -I '{}' "${BASH_SOURCE[0]}" --play '
 agreeing= failed=0
 for build in "$@"; do
     if cannotrun "$build"; then
-        echo "$build: built, not run without wine"
-    elif cmp -s "$kept" "$(folderof "$build")/checksums"; then
+        echo "$build: built, but not run because wine is not installed"
+    elif cmp -s "$expected" "$(folderof "$build")/checksums"; then
         agreeing=${agreeing:-$build}
-        echo "$build: all $(wc -l <"$kept") steps as kept"
-        [ "$build" != "$contracted" ] || { echo "FAILED: contracted arithmetic passes unseen" >&2; failed=1; }
+        echo "$build: all $(wc -l <"$expected") steps as expected"
+        [ "$build" != "$contracted" ] || { echo "FAILED: contracted arithmetic was not noticed" >&2; failed=1; }
     else
         differs "$build"
         [ "$build" = "$contracted" ] && [ -n "$expectcontracted" ] || failed=1

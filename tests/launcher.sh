@@ -1,14 +1,14 @@
 #!/usr/bin/env bash
-# The launcher, with a program that only writes where and how it was started: the working folder of the first start, what
-# later starts leave alone and add, and that the program is not started where there is no folder to work in.
+# Tests the launcher with a stand-in for the program, which only records its working folder and arguments: what the first
+# start creates, what later starts change and add, and that the program is not started without a usable working folder.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/shared.sh"
 
-# holds TEXT FILE...: whether the files are there with just this text.
+# holds TEXT FILE...: fails unless each of the files exists and contains exactly this text.
 holds() {
     local file
     for file in "${@:2}"; do
-        [ "$(cat "$file" 2>&1)" = "$1" ] || fail "$file holds: $(cat "$file" 2>&1)"
+        [ "$(cat "$file" 2>&1)" = "$1" ] || fail "$file contains: $(cat "$file" 2>&1)"
     done
 }
 
@@ -30,7 +30,7 @@ for file in "${shipped[@]}"; do
 done
 chmod a-w "$share/datah/beam.txt"
 
-# start STATUS COMMAND...: the launcher, from a folder of no importance.
+# start STATUS COMMAND...: runs the launcher, and checks its exit status.
 start() {
     local status=0
     rm -f "$STARTED"
@@ -44,10 +44,10 @@ holds "$work
 <-style><two words>" "$STARTED"
 holds shipped "${shipped[@]/#/$work/}"
 [ "$(find "$work" | wc -l)" -eq 13 ] && [ -d "$work/designs" ] && [ -d "$work/bmps" ] && [ -d "$work/nonuser" ] ||
-    fail "the working folder holds something else: $(find "$work")"
-[ -n "$(find "$work/datah/beam.txt" -perm -200)" ] || fail "a file that cannot be edited"
+    fail "the working folder has other contents: $(find "$work")"
+[ -n "$(find "$work/datah/beam.txt" -perm -200)" ] || fail "a copied file is not writable"
 
-# A later one, from a newer package: what is there stays, what is missing comes.
+# A later start, from a newer package: existing files stay, missing files are added.
 echo mine | tee "$work/datah/post.txt" >"$work/designs/girders1.txt"
 ln -sf nowhere "$work/pals/p.pal"
 rm "$work/samples/s.txt"
@@ -57,10 +57,10 @@ start 3 "$scratch/link"
 holds mine "$work/datah/post.txt" "$work/designs/girders1.txt"
 holds shipped "$work/samples/s.txt"
 holds newer "$work/datah/roof.txt"
-[ "$(readlink "$work/pals/p.pal")" = nowhere ] || fail "a link of the user's was replaced"
+[ "$(readlink "$work/pals/p.pal")" = nowhere ] || fail "the user's link was replaced"
 holds "" "$scratch/errors"
 
-# Another folder, named relative to the current one.
+# Other folders, given by a relative path.
 mkdir -p "$scratch/elsewhere/here"
 start 3 env CDPATH="$scratch/elsewhere" TESSALY_HOME=here "$launcher"
 holds newer "$scratch/here/datah/post.txt"
@@ -70,36 +70,37 @@ start 3 env OLDPWD="$scratch/elsewhere" TESSALY_HOME=- "$launcher"
 holds "$scratch/-
 <>" "$STARTED"
 
-# Killed during its first copies: the next start has whole files and nothing besides.
+# A start is killed during its first copy: the next start completes the files and removes the partial copy.
 export TESSALY_HOME=$scratch/killed
 start 137 env PATH="$scratch:$PATH" sh -c '"$0" || exit' "$launcher"
-grep -qr half "$TESSALY_HOME" || fail "nothing to be cleared away"
+grep -qr half "$TESSALY_HOME" || fail "there is no partial copy to remove"
 start 3 "$launcher"
-! grep -r half "$TESSALY_HOME" || fail "that was left behind"
+! grep -r half "$TESSALY_HOME" || fail "the partial copy was not removed"
 holds shipped "$TESSALY_HOME/datah/beam.txt"
 
-# Nowhere to work: said in a window where there is a display.
+# There is no usable folder: if there is a display, a window reports it.
 start 1 env -u HOME -u TESSALY_HOME "$launcher"
-grep -q TESSALY_HOME "$scratch/errors" && [ ! -e "$STARTED" ] && [ ! -e "$REPORTED" ] || fail "started, or a window, with nothing"
+grep -q TESSALY_HOME "$scratch/errors" && [ ! -e "$STARTED" ] && [ ! -e "$REPORTED" ] || fail "the program or the report window started without a working folder or display"
 echo "in the way" >"$scratch/file"
 start 1 env DISPLAY=:7 TESSALY_HOME="$scratch/file" "$launcher"
-grep -q "$scratch/file" "$scratch/errors" && [ ! -e "$STARTED" ] || fail "started with a file as its folder"
-grep -q "$scratch/file" "$REPORTED" || fail "no window says why nothing starts"
+grep -q "$scratch/file" "$scratch/errors" && [ ! -e "$STARTED" ] || fail "the program started with a file as its folder"
+grep -q "$scratch/file" "$REPORTED" || fail "no window reports why the program does not start"
 [ "$(wc -l <"$scratch/errors")" -eq 2 ] || fail "the report is too long: $(cat "$scratch/errors")"
 mkdir "$scratch/deleted"
 start 1 sh -c 'cd deleted && rmdir ../deleted && TESSALY_HOME=.tessaly-launcher-test exec "$0"' "$launcher"
-[ ! -e /.tessaly-launcher-test ] || fail "a working folder in the root"
+[ ! -e /.tessaly-launcher-test ] || fail "a working folder was created in the root folder"
 
-# A folder that cannot be written is reported once. So are files that cannot be copied, but the program starts.
+# A folder that is not writable is reported once. Files that cannot be copied are reported once, too, and the program
+# starts.
 chmod 777 "$scratch"
 user=()
 [ "$(id -u)" -ne 0 ] || user=(setpriv --reuid=65534 --regid=65534 --clear-groups) # root can write everywhere
 rm "$TESSALY_HOME"/datah/*
 chmod a-w "$TESSALY_HOME"/{designs,datah}
 start 1 "${user[@]}" "$launcher"
-[ "$(grep -c designs "$scratch/errors")" -eq 1 ] && [ ! -e "$STARTED" ] || fail "no clear report: $(cat "$scratch/errors")"
+[ "$(grep -c designs "$scratch/errors")" -eq 1 ] && [ ! -e "$STARTED" ] || fail "the folder is not reported once, or the program started: $(cat "$scratch/errors")"
 chmod a+w "$TESSALY_HOME"/{designs,bmps,nonuser}
 start 3 "${user[@]}" "$launcher"
-[ "$(grep -c . "$scratch/errors")" -eq 2 ] || fail "no report, or a long one: $(cat "$scratch/errors")"
+[ "$(grep -c . "$scratch/errors")" -eq 2 ] || fail "the files are not reported in two lines: $(cat "$scratch/errors")"
 chmod u+w "$TESSALY_HOME/datah"
-echo "The launcher makes its folder and leaves what is there."
+echo "The launcher creates the working folder and changes no existing file."

@@ -1,24 +1,24 @@
-# Shared by the scripts here: a scratch folder, a screen of its own with the real program on it, and a user who plays a
-# script by mouse and keyboard. Sourced, not run. Nothing waits for a fixed long time, but for what is expected.
+# Shared by the scripts of this folder, which source it: a temporary folder, a virtual screen for the real program, and a
+# user who plays a script by mouse and keyboard. Procedures wait for an expected state, not for a fixed time.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/tools/workingfolder.sh"
 build=${TESSALY_BUILD:-$root/build}
 scratch=$(mktemp -d)
 screenpid= programpid=
-export LC_ALL=C.UTF-8 # of what the tools here write; a test of another country sets it for the program alone
-density=100 # percent: pixels of the screen to a hundred of the window
+export LC_ALL=C.UTF-8 # for the tools of these scripts; a test of another locale sets it for the program only
+density=100 # screen pixels per 100 window pixels
 
 fail() {
     echo "FAILED: $*" >&2
     [ -s "$scratch/program.log" ] && sed 's/^/program: /' "$scratch/program.log" >&2
     if [ -n "$screenpid" ]; then
-        import -window root "$build/end-to-end-failed.png" && echo "The screen as it was: $build/end-to-end-failed.png" >&2
+        import -window root "$build/end-to-end-failed.png" && echo "Picture of the screen: $build/end-to-end-failed.png" >&2
     fi
     exit 1
 }
 
-# stopscreen: takes the program and its screen away.
+# stopscreen: ends the program and its screen.
 stopscreen() {
     [ -z "$programpid$screenpid" ] || kill $programpid $screenpid 2>/dev/null
     wait
@@ -26,7 +26,7 @@ stopscreen() {
 }
 trap 'stopscreen; rm -rf "$scratch"' EXIT
 
-# waitfor WHAT COMMAND...: repeats the command until it succeeds; fails after 20 seconds without.
+# waitfor WHAT COMMAND...: repeats the command until it succeeds; fails after 20 seconds.
 waitfor() {
     local what=$1 deadline=$((SECONDS + 20))
     until "${@:2}"; do
@@ -35,7 +35,7 @@ waitfor() {
     done
 }
 
-# startscreen WIDTH HEIGHT: a screen in memory, on the first display number that is free.
+# startscreen WIDTH HEIGHT: starts a virtual screen on the first free display number.
 startscreen() {
     width=$1 height=$2
     rm -f "$scratch/display"
@@ -47,13 +47,13 @@ startscreen() {
     unset WAYLAND_DISPLAY QT_SCALE_FACTOR QT_SCREEN_SCALE_FACTORS QT_FONT_DPI QT_STYLE_OVERRIDE QT_QPA_PLATFORMTHEME
 }
 
-# startprogram FOLDER COMMAND...: starts it in the folder.
+# startprogram FOLDER COMMAND...: starts the command in the folder.
 startprogram() {
     (cd "$1" && exec "${@:2}") >"$scratch/program.log" 2>&1 &
     programpid=$!
 }
 
-# programended STATUS: waits for the program's end and checks its status.
+# programended STATUS: waits for the end of the program and checks its exit status.
 programended() {
     local status=0
     waitfor "the program's end" sh -c "! kill -0 $programpid 2>/dev/null"
@@ -62,7 +62,8 @@ programended() {
     [ "$status" -eq "$1" ] || fail "the program ended with status $status, not $1"
 }
 
-# shown LEASTWIDTH TITLE: whether such a window is on the screen; leaves its id in $window and its place in $X, $Y, ...
+# shown MINWIDTH TITLE: succeeds if the screen shows a window with this title that is wide enough. Sets window to its id,
+# and X, Y, WIDTH and HEIGHT to its bounds.
 shown() {
     local WINDOW SCREEN id
     for id in $(xdotool search --onlyvisible --name "^$2\$" 2>/dev/null); do
@@ -74,8 +75,8 @@ shown() {
     return 1
 }
 
-# clickon CONTROL [X Y]: a click of the left button there in $window, in its pixels, or on the middle of the control, which
-# is found in the table of controls (twips, 15 to the pixel).
+# clickon CONTROL [X Y]: clicks a control with the left button, at X, Y of $window in window pixels, or in the middle of
+# the bounds in the table of controls (15 twips per pixel).
 clickon() {
     local in= x y
     read -r in x y < <(awk -F '[(, ]+' -v name="$1" '/^CONTROL/ && $4 == name {
@@ -86,10 +87,10 @@ clickon() {
     xdotool windowraise "$window" mousemove --window "$window" $((x * density / 100)) $((y * density / 100)) click 1
 }
 
-# playbymouse: what the lines of a player's script say, by mouse and keyboard, from the start window on. Behind a line may
-# stand "# X Y", a place in the window that was opened last, or "# opens LEASTWIDTH TITLE", a window, which must be whole
-# on the screen but for a pixel of rounding. At "picture NAME.png" and "# look NAME" the script that sources this looks
-# closer.
+# playbymouse: plays the lines of a player's script from standard input by mouse and keyboard, starting at the start
+# window. A comment after a line gives more: "# X Y" is a position in the window that was opened last; "# opens MINWIDTH
+# TITLE" is a window that the line opens, which must be completely on the screen, with one pixel allowed for rounding.
+# For the lines "picture NAME.png" and the comment "# look NAME" it calls pictured and looked of the sourcing script.
 playbymouse() {
     local action hint command name text x y title X Y WIDTH HEIGHT
     waitfor "the start window" shown 800 "Tessaly Girder and Panel"
@@ -106,11 +107,11 @@ playbymouse() {
         waitfor "the window $title" shown "$y" "$title"
         [ "$name" != startprogrambtn ] || main=$window
         ((X >= 0 && Y >= 0 && X + WIDTH <= width + 1 && Y + HEIGHT <= height + 1)) ||
-            fail "$title lies at $X,$Y and is ${WIDTH}x$HEIGHT, not on the screen"
+            fail "$title at $X,$Y with ${WIDTH}x$HEIGHT pixels is not completely on the screen"
     done
 }
 
-# differing FILE FILE: how many pixels differ.
+# differing FILE FILE: writes the number of pixels that differ.
 differing() {
     compare -metric AE "$1" "$2" null: 2>&1 | awk '{ printf "%d\n", $1 }'
 }

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# tools/make-pictures.sh PLAY FOLDER: draws the pictures of the panels, of the sample tower and of the guide's building
-# with the player PLAY in temporary working folders, and saves them in FOLDER (docs/pictures).
+# tools/make-pictures.sh PLAY FOLDER: draws the pictures of the panels, the sample tower and the guide's building, and
+# saves them in FOLDER (docs/pictures). Uses the player PLAY in temporary working folders.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/tools/workingfolder.sh"
@@ -10,8 +10,8 @@ trap 'rm -r "$TMPDIR"' EXIT
 play=$(realpath "$1")
 folder=$(realpath "$2")
 
-# scene PICTURE VIEW: plays standard input in a folder with the sample designs, starting with that view, and saves
-# viewport at the end.
+# scene PICTURE VIEW: plays standard input in a folder with the sample designs, starting with this view, and saves the
+# final viewport as PICTURE.png.
 scene() {
     local scratch
     scratch=$(mktemp -d)
@@ -34,7 +34,7 @@ replay() {
 
 tower=$(for floor in 1 2 3 4 5 6 7 8 9 0; do echo "girdtow$floor paneto$floor"; done)
 
-# The eight types of panels in two rows, the first four in the upper one.
+# panels: places the eight types of panels in two rows, the first four in the upper row.
 panels() {
     local n=0 panel
     echo 'click writefilebtn'
@@ -54,6 +54,6 @@ panels | scene panels "2200, 500, 560, 104, -96, 150, 0.1, 200, -270"
 scratch=$(mktemp -d)
 workingfolder "$scratch"
 (cd "$scratch" && "$play" "$root/docs/guide.play")
-cmp "$scratch/guide-retrieved.png" "$scratch/guide-house.png" # the retrieved picture equals the captured one
+cmp "$scratch/guide-retrieved.png" "$scratch/guide-house.png" # the retrieved picture must equal the captured one
 rm "$scratch/guide-retrieved.png"
 mv "$scratch"/guide-*.png "$folder"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# tools/make-samples.sh PLAY FOLDER: builds the sample designs by clicks with the player PLAY in a temporary working
-# folder, and saves their design files in FOLDER under names that differ from the standard ones.
+# tools/make-samples.sh PLAY FOLDER: builds the sample designs and saves their design files in FOLDER, under names that
+# differ from the standard ones. Uses clicks in the player PLAY, in a temporary working folder.
 set -euo pipefail
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/tools/workingfolder.sh"
@@ -8,13 +8,14 @@ TMPDIR=$(mktemp -d)
 export TMPDIR
 trap 'rm -r "$TMPDIR"' EXIT
 
-# Plan coordinates are bays: bay I J has its posts at columns I and I+1, rows J and J+1. One bay is 192 layout units.
+# Arguments I and J count bays along X and Y. Bay I J lies between the posts I J, I+1 J, I J+1 and I+1 J+1. The side of
+# a bay is 192 layout units.
 post() { echo "click postx$((192 * $1))y$((192 * $2 + 16))"; }
 beam() { echo "click beamx$((192 * $1))y$((192 * $2 + 16))"; }      # from post I J along Y
 vbeam() { echo "click vbeamx$((192 * $1 + 16))y$((192 * $2 + 16))"; } # from post I J along X
 roof() { echo "click roofx$((192 * $1))y$((192 * $2))"; }
 
-# wall SIDE I J PANEL: a wall on that side of bay I J, with the panel of that button.
+# wall SIDE I J PANEL: places the panel of button PANEL on a side of bay I J.
 wall() {
     echo "click ${4}btn"
     case $1 in
@@ -25,7 +26,7 @@ wall() {
     esac
 }
 
-# snipped SNIP SIDE I J PANEL: a wall with a snipped panel, for an inside corner.
+# snipped SNIP SIDE I J PANEL: the same with a snipped panel, for an inside corner.
 snipped() {
     local snip=$1 panel=$5
     echo "click ${panel}btn"
@@ -33,7 +34,7 @@ snipped() {
     wall "$2" "$3" "$4" "$panel" | tail -n 1
 }
 
-# steel I0 I1 J0 J1 NAME...: all posts and beams of these bays, except those of the names.
+# steel I0 I1 J0 J1 NAME...: places all posts and beams of these bays, except those named.
 steel() {
     local i j left=" ${*:5} "
     echo "click postbeambtn"
@@ -55,7 +56,7 @@ roofs() {
     done
 }
 
-# Two floors of three by four bays; on the upper floor the front corner bay is a terrace.
+# house: two floors of three by four bays; on the upper floor, the front corner bay is a terrace.
 house() {
     echo "click startprogrambtn"
     steel 0 2 2 5
@@ -78,7 +79,7 @@ house() {
     echo "click exitbtn"
 }
 
-# ring PANEL MIDDLEPANEL: the four walls of the tower, three bays each.
+# ring PANEL MIDDLEPANEL: places the four walls of a tower floor, three bays each.
 ring() {
     local i
     for i in 1 2 3; do
@@ -89,7 +90,7 @@ ring() {
     done
 }
 
-# Ten floors of three by three bays.
+# tower: ten floors of three by three bays.
 tower() {
     local floor
     echo "click startprogrambtn"
@@ -108,8 +109,8 @@ tower() {
     echo "click exitbtn"
 }
 
-# samples NAME: plays NAME and renames its design files to girdNAM1.txt, paneNA1.txt and roofN1.txt. The readers expect the
-# first four letters and the floor digit (0 for the tenth floor) in these positions.
+# samples NAME: plays NAME and moves its design files to FOLDER, as girdNAM1.txt, paneNA1.txt and roofN1.txt. The readers
+# expect the first four letters and the floor digit (0 for the tenth floor) in these positions.
 samples() {
     local name=$1 scratch file floor
     scratch=$(mktemp -d)

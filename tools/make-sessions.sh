@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# tools/make-sessions.sh NAME... | --all: plays these sessions of tests/sessions and writes their records again. Shows
-# how each record differs: review every line, because users see these changes. Does not replace a record that has
-# uncommitted changes.
+# tools/make-sessions.sh NAME... | --all: plays these sessions of tests/sessions and writes their expected records again.
+# Shows how each record differs: review every line, because users see these changes. Refuses to replace a record that
+# has uncommitted changes.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/setup.sh
@@ -28,7 +28,7 @@ build release play
 scratch=$(mktemp -d)
 trap 'rm -r "$scratch"' EXIT
 
-# record NAME: plays the session in a new working folder, then shows the difference and replaces the record.
+# record NAME: plays a session in a new working folder, shows the difference and replaces the record.
 record() {
     local script=tests/sessions/$1.play expected=tests/sessions/$1.txt folder=$scratch/$1 status=0
     workingfolder "$folder"

@@ -1,7 +1,7 @@
-# Installs the needed packages and builds; used by run.sh, test.sh, bench.sh, fuzz.sh, .ci/run and other scripts.
-# To be sourced with the repository's root as the current folder.
+# Procedures that install needed packages and build, for run.sh, test.sh, bench.sh, fuzz.sh, .ci/run and other scripts.
+# Source this file with the root of the repository as the current folder.
 
-# The packages, as dependencies: "a | b" is satisfied by either package.
+# Packages, in the syntax of dependencies: "a | b" means either package.
 runpackages='cmake, ninja-build, g++, qt6-base-dev, qt6-svg-dev | libqt6svg6-dev, qt6-wayland, fonts-dejavu-core, fonts-liberation'
 testpackages='libgtest-dev, libgmock-dev'
 benchpackages='libbenchmark-dev'
@@ -17,8 +17,8 @@ if ! { [ -d "$temporary" ] && [ -w "$temporary" ]; }; then
     exit 1
 fi
 
-# wantpackages LIST...: installs missing packages; returns 1, after saying what is needed, if it cannot.
-# TESSALY_SKIP_SETUP=1 skips this, for systems where the tools were installed by other means.
+# wantpackages LIST...: installs missing packages. If it cannot, it reports what is needed and returns 1.
+# TESSALY_SKIP_SETUP=1 skips this, for systems whose tools were installed in another way.
 wantpackages() {
     [ "${TESSALY_SKIP_SETUP:-}" = 1 ] && return 0
     local IFS=, simulated asroot=()
@@ -46,10 +46,10 @@ wantpackages() {
     return 1
 }
 
-export CMAKE_GENERATOR=${CMAKE_GENERATOR:-Ninja} # if the build folder has none yet
+export CMAKE_GENERATOR=${CMAKE_GENERATOR:-Ninja} # used for new build folders only
 
-# build PRESET TARGET...: configures with this preset of CMakePresets.json, which is quick if nothing has changed. Builds
-# these targets, or those of the preset if none is given, on all cores.
+# build PRESET TARGET...: configures with a preset of CMakePresets.json, which is quick if nothing has changed, and builds
+# the targets, or those of the preset if none is given, on all cores.
 build() {
     local preset=$1 targets=() version
     shift

@@ -1,6 +1,6 @@
-# To be sourced by scripts that play in a temporary working folder. root must be the folder of the repository.
+# Source this file in scripts that play in a temporary working folder. Set root to the folder of the repository.
 
-# workingfolder FOLDER: makes FOLDER a working folder like that of a fresh clone.
+# workingfolder FOLDER: creates a working folder like that of a fresh clone.
 workingfolder() {
     mkdir -p "$1"/{designs,bmps,nonuser}
     cp -r "$root/datah" "$root/pals" "$1"
