@@ -1,5 +1,5 @@
-// report TEXT: shows a message window that says why the launcher cannot start the program. A user who starts it from a
-// menu sees no terminal.
+// report TEXT: shows a message window that says why the launcher cannot start the program, because a user who starts
+// the program from a menu sees no terminal.
 
 #include <QApplication>
 #include <QIcon>
