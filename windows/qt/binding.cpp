@@ -8,7 +8,7 @@
 #include "windows/qt/accessibility.h"
 #include "windows/qt/canvas.h"
 #include "windows/qt/controlwidgets.h"
-#include "windows/qt/keyrepeat.h"
+#include "windows/qt/keyboard.h"
 
 #include <QApplication>
 #include <QComboBox>
@@ -204,7 +204,7 @@ void openwindows(void (*decoratewindow)(windowframe&)) {
         if (QWidget* picture = widgetof(viewport)) picture->update();
     };
     installaccessibility();
-    filterkeyrepeats();
+    filterkeys();
     ending = false;
     runevent(startprogram);
 }

@@ -5,6 +5,7 @@
 #include "windows/qt/accessibility.h"
 #include "windows/qt/button.h"
 #include "windows/qt/canvas.h"
+#include "windows/qt/keyboard.h"
 #include "windows/qt/listrows.h"
 #include "windows/qt/style.h"
 
@@ -78,14 +79,12 @@ class list : public QListWidget {
             QListWidget::keyPressEvent(event);
     }
 
-    // The toolkit would make the first row current. Only a user of the keyboard gets a row on which Return acts at
-    // once.
+    // Qt makes the first row current. Keeps it only for a user of the keyboard, so that Return picks it.
     void focusInEvent(QFocusEvent* event) override {
         const bool hadrow = currentRow() >= 0;
         QListWidget::focusInEvent(event);
         if (hadrow || count() == 0) return;
-        const bool keyboard = window()->testAttribute(Qt::WA_KeyboardFocusChange);
-        selectionModel()->setCurrentIndex(keyboard ? model()->index(0, 0) : QModelIndex(),
+        selectionModel()->setCurrentIndex(lastpresswaskey() ? model()->index(0, 0) : QModelIndex(),
                                           QItemSelectionModel::NoUpdate);
     }
 

@@ -1,7 +1,7 @@
 // Recognises the repeats that Qt marks, and those that it misses on X11: there a repeat is a release and a press with
 // the same time stamp, and Qt marks the press only if both events arrive together.
 
-#include "windows/qt/keyrepeat.h"
+#include "windows/qt/keyboard.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -25,13 +25,17 @@ bool mustnotrepeat(int key) {
     }
 }
 
-class repeatfilter : public QObject {
+bool waskey = false;  // the last press
+
+class keyfilter : public QObject {
   public:
     using QObject::QObject;
 
     bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::MouseButtonPress) waskey = false;
         if (event->type() == QEvent::KeyRelease) release(*static_cast<QKeyEvent*>(event));
         if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride) return false;
+        waskey = true;
         const auto& press = *static_cast<QKeyEvent*>(event);
         if (!repeated(press) || !mustnotrepeat(press.key())) return false;
         event->accept();  // an accepted ShortcutOverride is followed by a KeyPress, which is dropped here, too
@@ -53,9 +57,11 @@ class repeatfilter : public QObject {
 
 }  // namespace
 
-void filterkeyrepeats() {
-    static repeatfilter* const filter = new repeatfilter(qApp);
+void filterkeys() {
+    static keyfilter* const filter = new keyfilter(qApp);
     qApp->installEventFilter(filter);
 }
+
+bool lastpresswaskey() { return waskey; }
 
 }  // namespace tessaly
