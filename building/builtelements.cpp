@@ -85,11 +85,10 @@ const builtelements& builtelementsof(const window& plan) {
     return built;
 }
 
-std::string builttooltip(const control& positionbutton, const builtelements& built) {
+std::string builtsuffix(const control& positionbutton, const builtelements& built) {
     const int count = built.countof(positionbutton);
-    const std::string& name = positionbutton.tooltip;
-    if (count == 0) return name;
-    return name + ", built " + (count == 1 ? "once" : std::to_string(count) + " times") + " in " + built.file;
+    if (count == 0) return {};
+    return ", built " + (count == 1 ? "once" : std::to_string(count) + " times") + " in " + built.file;
 }
 
 }  // namespace tessaly

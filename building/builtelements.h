@@ -24,8 +24,8 @@ struct builtelements {
 // for this plan.
 const builtelements& builtelementsof(const window& plan);
 
-// Returns the tooltip of a button: "postx0y16, element 1, built 2 times in girders1.txt" if its element is built,
-// otherwise its usual one.
-std::string builttooltip(const control& positionbutton, const builtelements& built);
+// Returns what the tooltip of a position button ends with: ", built 2 times in girders1.txt", or "" if its element is
+// not built.
+std::string builtsuffix(const control& positionbutton, const builtelements& built);
 
 }  // namespace tessaly

@@ -13,7 +13,8 @@
 
 namespace tessaly {
 
-enum class controlkind { button, picturebutton, label, textbox, page, list, filelist, combobox, picturebox, frame };
+// The kinds of controls; in a window, a control of a later kind is in front of one of an earlier kind.
+enum class controlkind { picturebox, frame, label, button, picturebutton, textbox, page, list, filelist, combobox };
 
 struct twips {  // bounds on the window's design grid; 15 twips are one pixel
     int left, top, width, height;

@@ -86,10 +86,11 @@ TEST_F(windows_keys, arrowsWalkThePlans) {
         orange1btn Return pan270x0y208 Down =pan90x16y0 pan0x0y192 Right =pan180x208y208
         roofbtn Return roofx0y0 Left =roofx0y0
         fastchange Return focusx0y0 Up =perpxm1800y0)");
-    for (const window* plan : {&layoutgirder, &layoutpanels, &layoutroof, &easyviews}) {
-        ASSERT_TRUE(frameof(*plan)) << plan->name;
+    for (const window* plan : {&layoutgirder, &layoutpanels, &layoutroof}) {
         std::set<const QWidget*> reached;
-        std::vector<QWidget*> ways{frameof(*plan)->plan()};
+        std::vector<QWidget*> ways{frameof(*plan)->content()};
+        ways.front()->setFocus();
+        keys(std::string("=") + plan->name);
         while (!ways.empty()) {
             QWidget* const from = ways.back();
             ways.pop_back();

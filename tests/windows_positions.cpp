@@ -27,9 +27,10 @@ bool isatitsposition(const control& c, const QRect& seen) {
 bool captionfits(const control& c, const QWidget& widget) {
     if (const auto* label = qobject_cast<const QLabel*>(&widget))
         return label->sizeHint().width() <= widget.width() && label->fontMetrics().height() <= widget.height();
-    if (c.kind != controlkind::button || widget.font().pixelSize() > captionpixels) return true;
-    const captionlines caption = wrapcaption(QString::fromStdString(c.text), widget.size(), false);
-    return caption.fits && caption.pixels >= minpixels;
+    if (c.kind != controlkind::button || c.text.empty()) return true;
+    const captionlayout caption =
+        layoutcaption(QString::fromStdString(c.text).simplified(), widget.size(), widget.font());
+    return caption.fits && caption.font.pixelSize() >= minpixels;
 }
 
 // Positions that meet, as a beam and its posts or the panels around a corner, share their rims by design.

@@ -4,7 +4,6 @@
 #include "picturefiles/picturefile.h"
 #include "tests/session.h"
 #include "windows/qt/binding.h"
-#include "windows/qt/decoration.h"
 #include "windows/qt/style.h"
 
 #include <QApplication>
@@ -27,7 +26,8 @@ inline void startapplication() {
     static char name[] = "windowtests", *argv[] = {name, nullptr};
     if (qApp) return;
     QApplication::setDesktopSettingsAware(false);
-    setstyle(*new QApplication(argc, argv));
+    new QApplication(argc, argv);
+    setstyle();
     usepicturefiles();
 }
 
@@ -61,7 +61,7 @@ class windowsession : public testing::Test {
     }
     static void start() {
         destroywindows();  // the controls that they show are created again
-        openwindows(decoratewindow);
+        openwindows();
         click(startprogrambtn);
     }
 
@@ -114,7 +114,7 @@ class windowsession : public testing::Test {
         ASSERT_TRUE(QTest::qWaitFor([w] { return QApplication::activeWindow() == frameof(*w); }));
         for (int tabs = 0; mark != '=' && focusedcontrol(*w) != c && tabs < 400; ++tabs) press(Qt::Key_Tab);
         const QWidget *const focused = frameof(*w)->focusWidget(), *const wanted =
-                                                                       c ? widgetof(*c) : frameof(*w)->plan();
+                                                                       c ? widgetof(*c) : frameof(*w)->content();
         EXPECT_TRUE(focused == wanted) << "the focus is on "
                                        << (focused ? qPrintable(focused->objectName()) : "nothing");
     }

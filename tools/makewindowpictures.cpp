@@ -11,7 +11,6 @@
 #include "tools/workingfolder.h"
 #include "windows/qt/binding.h"
 #include "windows/qt/canvas.h"
-#include "windows/qt/decoration.h"
 #include "windows/qt/style.h"
 
 #include <QApplication>
@@ -75,10 +74,10 @@ twips fullbounds(const window& w) { return {0, 0, w.widthtwips, w.heighttwips}; 
 
 // Returns the contents of a window at its designed size, rendered at the given multiple of its pixels.
 QImage render(const window& w, int multiple = 1) {
-    const QSize size = frameof(w)->designedsize();
+    const QSize size = frameof(w)->content()->size();
     QImage image(size * multiple, QImage::Format_RGB32);
     image.setDevicePixelRatio(multiple);
-    frameof(w)->plan()->render(&image, {}, QRegion(QRect({0, 0}, size)));
+    frameof(w)->content()->render(&image, {}, QRegion(QRect({0, 0}, size)));
     image.setDevicePixelRatio(1);
     return image;
 }
@@ -173,7 +172,7 @@ void setviewoftower() {
 }
 
 void makeall(const fs::path& guide, const fs::path& help, const fs::path& documents) {
-    openwindows(decoratewindow);
+    openwindows();
     click("startprogrambtn");
     savewindow(vistaplan, documents, "main-window-start");
     makehelppictures(help);
@@ -216,7 +215,7 @@ int main(int argc, char** argv) {
     QApplication::setDesktopSettingsAware(false);
     QApplication app(argc, argv);
     std::setlocale(LC_NUMERIC, "C");
-    tessaly::setstyle(app);
+    tessaly::setstyle();
     tessaly::usepicturefiles();
     return tessaly::generate("makewindowpictures", [argv] {
         const fs::path help = fs::absolute(argv[2]), documents = fs::absolute(argv[3]);

@@ -12,16 +12,6 @@ namespace tessaly {
 
 namespace {
 
-// The view values that a button writes: X and Y, or Z, of the eye or the focus.
-enum valuekind { eyexy, eyeheight, focusxy, focusheight };
-
-struct quickview {
-    const char* name;  // of the button
-    valuekind kind;
-    int numbers[2];  // model units, absolute: X and Y, or Z
-    int left, top;   // twips on easyviews
-};
-
 constexpr quickview quickviews[] = {
     // clang-format off
     // name               kind         figures          left  top
@@ -98,6 +88,8 @@ void clickquickview(const quickview& q) {
 }
 
 }  // namespace
+
+std::span<const quickview> allquickviews() { return quickviews; }
 
 void clickfastchange() {
     showwindow(easyviews);

@@ -2,7 +2,21 @@
 // the focus. A click only writes numbers into boxes: the view changes at SET.
 #pragma once
 
+#include <span>
+
 namespace tessaly {
+
+// The view values that a button writes: X and Y, or Z, of the eye or the focus.
+enum quickviewkind { eyexy, eyeheight, focusxy, focusheight };
+
+struct quickview {
+    const char* name;  // of the button
+    quickviewkind kind;
+    int numbers[2];  // model units, absolute: X and Y, or Z
+    int left, top;   // twips on easyviews
+};
+
+std::span<const quickview> allquickviews();
 
 // Copies the boxes of the main window to easyviews and shows it.
 void clickfastchange();

@@ -8,15 +8,16 @@
 #include "windows/qt/accessibility.h"
 #include "windows/qt/canvas.h"
 #include "windows/qt/controlwidgets.h"
+#include "windows/qt/decoration.h"
 #include "windows/qt/keyboard.h"
 
 #include <QApplication>
+#include <QButtonGroup>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QPushButton>
-#include <QScrollBar>
 
 #include <algorithm>
 #include <cstdio>
@@ -28,11 +29,10 @@ namespace tessaly {
 namespace {
 
 struct boundcontrol {
-    control* source;
+    control* state;
     QWidget* widget;
-    std::string text;  // this and the next three as last copied between control and widget
-    std::vector<std::string> items;
-    std::string tooltip;
+    std::string text = {};  // this and the next two as last copied between control and widget
+    std::vector<std::string> items = {};
     boxtint tint = boxtint::none;
 };
 
@@ -46,8 +46,6 @@ std::map<const window*, boundwindow>& boundwindows() {
     static std::map<const window*, boundwindow> bound;
     return bound;
 }
-
-void (*decorateframe)(windowframe&);  // called for each new window
 
 bool running = false;  // an event is being handled
 bool ending = false;   // the program is ending
@@ -69,64 +67,57 @@ void connectevents(QWidget* widget, control& c) {
 
 void createwindow(window& w, boundwindow& bound) {
     bound.frame = std::make_unique<windowframe>(w);
-    bound.frame->whenclosed = [&w] { runevent([&w] { closewindow(w); }); };
-    bound.frame->whenescaped = [&w] { runevent([&w] { pressescape(w, focusedcontrol(w)); }); };
-    bound.frame->whenactivated = [] { runevent([] {}); };  // the user may have edited files meanwhile
+    QWidget* const content = bound.frame->content();
+    auto* const buttons = new QButtonGroup(content);  // in a group, arrow keys move the focus to the nearest button
+    buttons->setExclusive(false);
     for (control* c : w.controls) {
-        QWidget* widget = makewidget(*c, bound.frame->plan());
-        connectevents(widget, *c);
-        bound.controls.push_back({c, widget, {}, {}, {}});
+        bound.controls.push_back({c, makewidget(*c, content)});
+        connectevents(bound.controls.back().widget, *c);
+        if (auto* button = qobject_cast<QPushButton*>(bound.controls.back().widget)) buttons->addButton(button);
     }
-    // Widgets overlap by the layers of their kinds, not by the order of the table.
-    std::vector<boundcontrol> bylayer = bound.controls;
-    std::stable_sort(bylayer.begin(), bylayer.end(), [](const boundcontrol& a, const boundcontrol& b) {
-        return layerof(*a.source) < layerof(*b.source);
-    });
-    for (const boundcontrol& b : bylayer) b.widget->raise();
-    decorateframe(*bound.frame);
+    // Widgets overlap in the order of their kinds, not in that of the table.
+    std::vector<control*> fromback = w.controls;
+    std::stable_sort(fromback.begin(), fromback.end(),
+                     [](const control* a, const control* b) { return a->kind < b->kind; });
+    for (const control* c : fromback) widgetof(*c)->raise();
+    decoratewindow(*bound.frame);
 }
 
 // ---- state to widgets ---------------------------------------------------------------------------------------
 
-// Scrolls a window to its top: on a small screen the button that opens a help page is further down.
-void scrolltotop(windowframe& f) {
-    f.horizontalScrollBar()->setValue(0);
-    f.verticalScrollBar()->setValue(0);
-}
-
 void copytowidget(boundcontrol& b) {
+    const control& c = *b.state;
     // A hidden list is filled when it is shown: measuring 10,000 names takes 50 ms.
-    if (b.source->shown && b.items != b.source->items) setitems(*b.widget, b.items = b.source->items);
-    if (b.text != b.source->text) settext(*b.widget, b.text = b.source->text);
-    if (const std::string tooltip = tooltipof(*b.source); b.tooltip != tooltip)
-        settooltip(*b.widget, b.tooltip = tooltip);
-    if (const boxtint tint = tintof(*b.source); b.tint != tint) settint(*b.widget, b.tint = tint);
-    setselection(*b.source, *b.widget);
-    if (b.widget->isHidden() != b.source->shown) return;
-    b.widget->setVisible(b.source->shown);
-    if (b.source->shown && b.source->kind == controlkind::page) scrolltotop(*frameof(*b.source->parent));
-    if (raisedwhenshown(*b.source)) b.widget->raise();
+    if (c.shown && b.items != c.items) setitems(*b.widget, b.items = c.items);
+    if (b.text != c.text) settext(*b.widget, b.text = c.text);
+    settooltip(*b.widget, tooltipof(c));
+    if (const boxtint tint = tintof(c); b.tint != tint) settint(*b.widget, b.tint = tint);
+    setselection(c, *b.widget);
+    if (b.widget->isHidden() != c.shown) return;
+    b.widget->setVisible(c.shown);
+    if (islist(c)) b.widget->raise();  // lists can open over each other
+    // On a small screen the button that opens a help page is further down.
+    if (c.shown && c.kind == controlkind::page) frameof(*c.parent)->ensureVisible(0, 0);
 }
 
 // When a focused control is hidden, Qt would focus the next one in the tab order. Focuses the control that opened it
-// instead, or the plan if no such control is shown.
+// instead, or the content if no such control is shown; Tab then continues after the hidden control.
 void returnfocus(const window& w, const boundwindow& bound) {
     const control* const focused = focusedcontrol(w);
     if (!focused || focused->shown) return;
-    const control* const back = focusafter(*focused);
-    QWidget* const to = back ? widgetof(*back) : bound.frame->plan();
-    bound.frame->tabfrom = back ? nullptr : widgetof(*focused);
+    const control* const opener = focusafter(*focused);
+    QWidget* const to = opener ? widgetof(*opener) : bound.frame->content();
+    if (!opener) {
+        to->setFocusPolicy(Qt::ClickFocus);  // setTabOrder ignores widgets without a focus policy
+        QWidget::setTabOrder(widgetof(*focused), to);
+        to->setFocusPolicy(Qt::NoFocus);
+    }
     to->show();
     to->setFocus();
 }
 
 void showframe(windowframe& f) {
-    const bool first = !f.testAttribute(Qt::WA_WState_ExplicitShowHide);
-    if (first) {
-        f.resize(f.designedsize());
-        f.setfirstposition(f);
-    }
-    if (f.isHidden()) f.plan()->setFocus();  // the plan of startform passes the focus to startprogrambtn
+    if (f.isHidden()) f.content()->setFocus();  // the content of startform passes the focus to startprogrambtn
     if (f.isMinimized()) f.setWindowState(f.windowState() & ~Qt::WindowMinimized);
     f.show();
     f.raise();
@@ -137,26 +128,20 @@ void copytowindow(window& w) {
     if (!w.shown && !frameof(w)) return;
     boundwindow& bound = boundwindows()[&w];
     if (!bound.frame) createwindow(w, bound);
+    if (w.shown && bound.frame->refreshcontent) bound.frame->refreshcontent();
     returnfocus(w, bound);
     for (boundcontrol& b : bound.controls) copytowidget(b);
-    if (w.shown && bound.frame->afterevent) bound.frame->afterevent();
-    if (!w.shown) bound.frame->hide();
+    if (!w.shown) return bound.frame->hide();
+    if (bound.raiseorder != w.raiseorder) showframe(*bound.frame);
+    bound.raiseorder = w.raiseorder;
 }
 
 void copytowidgets() {
-    std::vector<window*> toraise;
-    for (window* w : allwindows()) {
-        copytowindow(*w);
-        if (w->shown && boundwindows()[w].raiseorder != w->raiseorder) toraise.push_back(w);
-    }
-    std::sort(toraise.begin(), toraise.end(),
+    std::vector<window*> fromback = allwindows();
+    std::sort(fromback.begin(), fromback.end(),
               [](const window* a, const window* b) { return a->raiseorder < b->raiseorder; });
-    for (window* w : toraise) {
-        boundwindows()[w].raiseorder = w->raiseorder;
-        showframe(*frameof(*w));
-    }
-    if (QWidget* picture = widgetof(viewport)) picture->update();
-    if (QWidget* strip = widgetof(progressbar)) strip->update();
+    for (window* w : fromback) copytowindow(*w);
+    repaintmainwindow();
     if (QWidget* focused = wantedfocus ? widgetof(*wantedfocus) : nullptr) focused->setFocus();
     wantedfocus = nullptr;
 }
@@ -166,9 +151,10 @@ void copytowidgets() {
 void copytostate() {
     for (auto& [w, bound] : boundwindows())
         for (boundcontrol& b : bound.controls) {
-            if (!takestyping(*b.source)) continue;
-            const std::string text = typedtext(*b.widget);
-            if (text != b.text) b.source->text = b.text = text;
+            const QLineEdit* const line = typedline(*b.widget);
+            if (!line) continue;
+            const std::string text = line->text().toStdString();
+            if (text != b.text) b.state->text = b.text = text;
         }
 }
 
@@ -194,8 +180,7 @@ void showreport(const std::string& report) {
 
 }  // namespace
 
-void openwindows(void (*decoratewindow)(windowframe&)) {
-    decorateframe = decoratewindow;
+void openwindows() {
     viewportimage().clear();
     progressimage().clear();
     viewportsurface = &viewportimage();
@@ -209,10 +194,7 @@ void openwindows(void (*decoratewindow)(windowframe&)) {
     runevent(startprogram);
 }
 
-void destroywindows() {
-    showprogresson(nullptr);
-    boundwindows().clear();
-}
+void destroywindows() { boundwindows().clear(); }
 
 void runevent(const std::function<void()>& procedure) {
     if (running || ending) return;
@@ -231,7 +213,7 @@ const control* focusedcontrol(const window& w) {
     const auto found = boundwindows().find(&w);
     if (found == boundwindows().end()) return nullptr;
     for (const boundcontrol& b : found->second.controls)
-        if (b.widget == found->second.frame->focusWidget()) return b.source;
+        if (b.widget == found->second.frame->focusWidget()) return b.state;
     return nullptr;
 }
 
@@ -239,7 +221,7 @@ QWidget* widgetof(const control& c) {
     const auto found = boundwindows().find(c.parent);
     if (found == boundwindows().end()) return nullptr;
     for (const boundcontrol& b : found->second.controls)
-        if (b.source == &c) return b.widget;
+        if (b.state == &c) return b.widget;
     return nullptr;
 }
 

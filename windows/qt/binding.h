@@ -9,9 +9,8 @@
 
 namespace tessaly {
 
-// Sets the drawing surfaces, starts the program and shows its first window. Calls decorate once for each new window,
-// after its widgets were created.
-void openwindows(void (*decorate)(windowframe&));
+// Sets the drawing surfaces, starts the program and shows its first window.
+void openwindows();
 
 // Destroys all windows.
 void destroywindows();

@@ -4,9 +4,9 @@
 
 #include "core/controls.h"
 #include "picturefiles/rasterview.h"
+#include "windows/qt/binding.h"
 
 #include <QElapsedTimer>
-#include <QPaintEvent>
 #include <QPainter>
 
 #include <cmath>
@@ -17,29 +17,23 @@ namespace {
 
 constexpr qint64 flushinterval = 15;  // ms; repainting more often would only slow a replay
 
-// flush repaints only the strip; viewport, which lies under it, is repainted at the end of the event.
+// flush repaints only the strip; viewport, which is under it, is repainted at the end of the event.
 class progressraster : public raster {
   public:
-    progressraster() : raster(progresswidth, progressheight) {}
+    using raster::raster;
 
     void flush() override {
-        if (!shownon || (sinceflush.isValid() && sinceflush.elapsed() < flushinterval)) return;
+        QWidget* const strip = widgetof(progressbar);
+        if (!strip || (sinceflush.isValid() && sinceflush.elapsed() < flushinterval)) return;
         sinceflush.start();
-        shownon->setVisible(progressbar.shown);
-        shownon->raise();
-        shownon->repaint();
+        strip->setVisible(progressbar.shown);
+        strip->raise();
+        strip->repaint();
     }
-
-    canvas* shownon = nullptr;
 
   private:
     QElapsedTimer sinceflush;
 };
-
-progressraster& strip() {
-    static progressraster image;
-    return image;
-}
 
 }  // namespace
 
@@ -47,9 +41,8 @@ canvas::canvas(const raster& itsimage, QWidget* parent) : QWidget(parent), image
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
-void canvas::paintEvent(QPaintEvent* event) {
+void canvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    painter.setClipRegion(event->region());
     // At a whole scale each pixel becomes a square of screen pixels. At a fractional scale the image is smoothed:
     // otherwise thin lines would vary in width.
     painter.setRenderHint(QPainter::SmoothPixmapTransform, devicePixelRatioF() != std::floor(devicePixelRatioF()));
@@ -61,8 +54,9 @@ raster& viewportimage() {
     return image;
 }
 
-raster& progressimage() { return strip(); }
-
-void showprogresson(canvas* on) { strip().shownon = on; }
+raster& progressimage() {
+    static progressraster image(progresswidth, progressheight);
+    return image;
+}
 
 }  // namespace tessaly

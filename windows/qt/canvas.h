@@ -19,11 +19,8 @@ class canvas : public QWidget {
     const raster& image;
 };
 
-// Return the image of the building, and that of the progress strip, whose flush repaints the screen during an event.
+// Return the image of the building, and that of the progress strip, whose flush repaints its widget during an event.
 raster& viewportimage();
 raster& progressimage();
-
-// Sets the widget that flush of the progress strip repaints; nullptr: none.
-void showprogresson(canvas* strip);
 
 }  // namespace tessaly

@@ -6,7 +6,6 @@
 #include "windows/qt/button.h"
 #include "windows/qt/canvas.h"
 #include "windows/qt/keyboard.h"
-#include "windows/qt/listrows.h"
 #include "windows/qt/style.h"
 
 #include <QAbstractItemView>
@@ -17,7 +16,8 @@
 #include <QListWidget>
 #include <QPainter>
 #include <QPlainTextEdit>
-#include <QScrollBar>
+#include <QPushButton>
+#include <QStyledItemDelegate>
 
 #include <algorithm>
 
@@ -27,21 +27,42 @@ namespace {
 
 const QColor buttoncolour(226, 226, 226);
 const QColor editedcolour(255, 232, 150), warningcolour(255, 170, 150);  // backgrounds of boxes
+const QColor hovercolour(205, 222, 245);
 constexpr int maxrowheight = 17;  // pixels; the rows of a fixed list are lower if its items do not fit otherwise
 constexpr int minmultiline = 60;  // pixels; text boxes at least this high have several lines
 
 // ---- lists --------------------------------------------------------------------------------------------------
 
+// Paints the rows of a list: fills the picked row with a dark colour and the row under the mouse with a light one, and
+// draws a dotted frame around the current row of the keyboard.
+class rowpainter : public QStyledItemDelegate {
+  public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+    void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+        QStyleOptionViewItem row = option;
+        const bool picked = row.state & QStyle::State_Selected, keyboard = row.state & QStyle::State_HasFocus;
+        row.state &= ~QStyle::State_HasFocus;  // the style would fill the row as if it were picked
+        if (!picked && (row.state & QStyle::State_MouseOver)) painter->fillRect(row.rect, hovercolour);
+        QStyledItemDelegate::paint(painter, row, index);
+        if (!keyboard) return;
+        painter->setPen(QPen(row.palette.color(picked ? QPalette::HighlightedText : QPalette::Text), 1, Qt::DotLine));
+        painter->setBrush(Qt::NoBrush);
+        painter->drawRect(row.rect.adjusted(0, 0, -1, -1));
+    }
+};
+
 // Clicking a row picks it, even if it is selected already; so does Enter on the current row. Each pick emits clicked.
 class list : public QListWidget {
   public:
-    list(const control& itscontrol, QWidget* plan) : QListWidget(plan), source(itscontrol) {
+    list(const control& itscontrol, QWidget* content) : QListWidget(content), listcontrol(itscontrol) {
         setFocusPolicy(Qt::StrongFocus);  // the wheel does not focus it
         setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
         setTextElideMode(Qt::ElideMiddle);
         setUniformItemSizes(true);
         setVerticalScrollMode(ScrollPerPixel);
-        new rowpainter(*this);
+        QListWidget::viewport()->setAttribute(Qt::WA_Hover);
+        setItemDelegate(new rowpainter(this));
         // Assistive technology selects a row without a click: this picks the row.
         connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this](const QItemSelection& rows) {
             if (!marking && !rows.isEmpty()) pick(rows.front().top());
@@ -49,7 +70,7 @@ class list : public QListWidget {
     }
 
     int rowheight(int rows) const {
-        if (source.kind == controlkind::filelist) return maxrowheight;
+        if (listcontrol.kind == controlkind::filelist) return maxrowheight;
         const int least = fontMetrics().height();
         return std::clamp((height() - 2 * frameWidth()) / std::max(rows, 1), least, maxrowheight);
     }
@@ -90,7 +111,7 @@ class list : public QListWidget {
 
     void paintEvent(QPaintEvent* event) override {
         QListWidget::paintEvent(event);
-        if (count() > 0 || source.kind != controlkind::filelist) return;
+        if (count() > 0 || listcontrol.kind != controlkind::filelist) return;
         QPainter painter(QListWidget::viewport());
         painter.setPen(palette().color(QPalette::PlaceholderText));
         painter.drawText(QListWidget::viewport()->rect().adjusted(4, 4, -4, -4), Qt::AlignHCenter | Qt::AlignTop,
@@ -100,7 +121,7 @@ class list : public QListWidget {
   private:
     void pick(int row) { emit clicked(model()->index(row, 0)); }
 
-    const control& source;
+    const control& listcontrol;
     bool marking = false;  // the program changes the selection: this is no pick
 };
 
@@ -109,7 +130,7 @@ class list : public QListWidget {
 // A box whose text is usually replaced: the first click selects all of it, as Tab does; the next one sets the cursor.
 class linebox : public QLineEdit {
   public:
-    explicit linebox(QWidget* plan) : QLineEdit(plan) {
+    explicit linebox(QWidget* content) : QLineEdit(content) {
         setTextMargins(-1, 0, -1, 0);  // the narrowest boxes are 33 pixels wide
     }
 
@@ -133,19 +154,15 @@ class linebox : public QLineEdit {
     bool untouched = false;  // no key and no click since it got the focus
 };
 
-// Ignores the wheel unless it has the focus; its list is as wide as its longest entry.
+// Ignores the wheel unless it has the focus.
 class snipbox : public QComboBox {
   public:
-    explicit snipbox(QWidget* plan) : QComboBox(plan) {
+    explicit snipbox(QWidget* content) : QComboBox(content) {
         setEditable(true);
         setCompleter(nullptr);  // typed text is not completed
         setInsertPolicy(QComboBox::NoInsert);
         lineEdit()->setTextMargins(-2, 0, -2, 0);  // so that the longest entry fits
         setFocusPolicy(Qt::StrongFocus);           // the wheel does not focus it
-    }
-    void showPopup() override {
-        view()->setMinimumWidth(view()->sizeHintForColumn(0) + 2 * view()->frameWidth());
-        QComboBox::showPopup();
     }
 
   protected:
@@ -159,94 +176,89 @@ class snipbox : public QComboBox {
 
 // ---- a widget of each kind ----------------------------------------------------------------------------------
 
-QWidget* makebutton(const control& c, QWidget* plan) {
-    auto* widget = new button(c.background ? screencolour(*c.background) : buttoncolour, plan);
+QWidget* makebutton(const control& c, QWidget* content) {
+    auto* widget = new button(c.background ? screencolour(*c.background) : buttoncolour, content);
     widget->setAutoRepeat(c.repeats);
-    if (c.kind == controlkind::picturebutton) widget->setpicture(QString::fromStdString(c.name));
+    if (c.kind == controlkind::picturebutton) widget->setIcon(pictureof(c.name));
     return widget;
 }
 
-QWidget* makelabel(QWidget* plan) {
-    auto* label = new QLabel(plan);
+QWidget* makelabel(QWidget* content) {
+    auto* label = new QLabel(content);
     label->setTextFormat(Qt::PlainText);
     label->setAttribute(Qt::WA_TransparentForMouseEvents);
     return label;
 }
 
-QWidget* maketextbox(const control& c, QWidget* plan) {
-    if (inpixels(c.bounds.height) < minmultiline) return new linebox(plan);
-    auto* box = new QPlainTextEdit(plan);
-    box->setLineWrapMode(QPlainTextEdit::NoWrap);
-    box->setTabChangesFocus(true);
-    return box;
-}
-
-QWidget* makepage(QWidget* plan) {
-    auto* page = new QPlainTextEdit(plan);
+QWidget* makepage(const QFont& font, QWidget* content) {
+    auto* page = new QPlainTextEdit(content);
     page->setReadOnly(true);
     page->setLineWrapMode(QPlainTextEdit::NoWrap);
     page->setTabChangesFocus(true);
-    page->setFont(pagefont());
+    page->setFont(font);
     return page;
 }
 
-// A picture box on which the program does not draw. Shows the picture file of the control's name, and the control's
-// text over it.
+QWidget* maketextbox(const control& c, QWidget* content) {
+    if (inpixels(c.bounds.height) < minmultiline) return new linebox(content);
+    return makepage(captionfont(), content);
+}
+
+// A picture box on which the program does not draw. Shows the picture of the control's name, and above it the control's
+// text.
 class stillpicture : public QWidget {
   public:
-    stillpicture(const control& c, QWidget* plan)
-        : QWidget(plan), image(QString::fromStdString(c.name)), caption(QString::fromStdString(c.text)) {
+    stillpicture(const control& c, QWidget* content)
+        : QWidget(content), image(pictureof(c.name)), caption(QString::fromStdString(c.text)) {
         setFont(captionfont(letterpixels));
     }
 
   protected:
     void paintEvent(QPaintEvent*) override {
         QPainter painter(this);
-        image.paint(painter, rect());
+        image.paint(&painter, rect());
         painter.drawText(rect().adjusted(0, letterpixels, 0, 0), Qt::AlignHCenter | Qt::AlignTop, caption);
     }
 
   private:
     static constexpr int letterpixels = 20;
-    picture image;
+    QIcon image;
     QString caption;
 };
 
-QWidget* makepicturebox(const control& c, QWidget* plan) {
-    if (&c == &viewport) return new canvas(viewportimage(), plan);
-    if (&c != &progressbar) return new stillpicture(c, plan);
-    auto* strip = new canvas(progressimage(), plan);
-    showprogresson(strip);
-    return strip;
+QWidget* makepicturebox(const control& c, QWidget* content) {
+    if (&c == &viewport) return new canvas(viewportimage(), content);
+    if (&c == &progressbar) return new canvas(progressimage(), content);
+    return new stillpicture(c, content);
 }
 
-QWidget* makeframe(QWidget* plan) {
-    auto* frame = new QFrame(plan);
+QWidget* makeframe(QWidget* content) {
+    auto* frame = new QFrame(content);
     frame->setFrameStyle(QFrame::Box | QFrame::Sunken);
     frame->setAttribute(Qt::WA_TransparentForMouseEvents);
     return frame;
 }
 
-QWidget* makeofkind(const control& c, QWidget* plan) {
+QWidget* makeofkind(const control& c, QWidget* content) {
     switch (c.kind) {
     case controlkind::button:
-    case controlkind::picturebutton: return makebutton(c, plan);
-    case controlkind::label: return makelabel(plan);
-    case controlkind::textbox: return maketextbox(c, plan);
-    case controlkind::page: return makepage(plan);
+    case controlkind::picturebutton: return makebutton(c, content);
+    case controlkind::label: return makelabel(content);
+    case controlkind::textbox: return maketextbox(c, content);
+    case controlkind::page: return makepage(pagefont(), content);
     case controlkind::list:
-    case controlkind::filelist: return new list(c, plan);
-    case controlkind::combobox: return new snipbox(plan);
-    case controlkind::picturebox: return makepicturebox(c, plan);
-    case controlkind::frame: return makeframe(plan);
+    case controlkind::filelist: return new list(c, content);
+    case controlkind::combobox: return new snipbox(content);
+    case controlkind::picturebox: return makepicturebox(c, content);
+    case controlkind::frame: return makeframe(content);
     }
     return nullptr;
 }
 
 }  // namespace
 
-QWidget* makewidget(const control& c, QWidget* plan) {
-    QWidget* widget = makeofkind(c, plan);
+QWidget* makewidget(const control& c, QWidget* content) {
+    QWidget* widget = makeofkind(c, content);
     if (c.kind == controlkind::picturebox) setrole(*widget, QAccessible::Graphic);
     if (c.kind == controlkind::frame) setrole(*widget, QAccessible::Grouping);
     const QString caption = QString::fromStdString(c.text).simplified();
@@ -259,47 +271,23 @@ QWidget* makewidget(const control& c, QWidget* plan) {
     return widget;
 }
 
-int layerof(const control& c) {
-    if (&c == &progressbar) return 5;
-    switch (c.kind) {
-    case controlkind::picturebox: return 0;
-    case controlkind::frame: return 1;
-    case controlkind::label: return 2;
-    case controlkind::button:
-    case controlkind::picturebutton: return 3;
-    default: return 4;
-    }
-}
-
-bool raisedwhenshown(const control& c) { return c.kind == controlkind::list || c.kind == controlkind::filelist; }
-
-bool takestyping(const control& c) { return c.kind == controlkind::textbox || c.kind == controlkind::combobox; }
-
-std::string typedtext(const QWidget& widget) {
-    if (const auto* line = qobject_cast<const QLineEdit*>(&widget)) return line->text().toStdString();
-    if (const auto* box = qobject_cast<const QComboBox*>(&widget)) return box->currentText().toStdString();
-    const auto* lines = qobject_cast<const QPlainTextEdit*>(&widget);
-    return lines ? lines->toPlainText().toStdString() : std::string();
+QLineEdit* typedline(QWidget& widget) {
+    auto* const box = qobject_cast<QComboBox*>(&widget);
+    return box ? box->lineEdit() : qobject_cast<QLineEdit*>(&widget);
 }
 
 void settext(QWidget& widget, const std::string& text) {
-    const QString shown = QString::fromStdString(text);
-    if (auto* line = qobject_cast<QLineEdit*>(&widget)) {
-        line->setText(shown);
-        line->setCursorPosition(0);
-    } else if (auto* page = qobject_cast<QPlainTextEdit*>(&widget))
-        page->setPlainText(shown);
-    else if (auto* box = qobject_cast<QComboBox*>(&widget))
-        box->setEditText(shown);
-    else if (auto* label = qobject_cast<QLabel*>(&widget))
-        label->setText(shown);
-    else if (auto* push = qobject_cast<QPushButton*>(&widget))
-        push->setText(shown);
+    for (const char* property : {"text", "plainText", "currentText"})
+        if (widget.metaObject()->indexOfProperty(property) >= 0)
+            widget.setProperty(property, QString::fromStdString(text));
+    if (QLineEdit* const line = typedline(widget)) line->setCursorPosition(0);
 }
 
 void settooltip(QWidget& widget, const std::string& text) {
-    widget.setToolTip(QString::fromStdString(text));
-    widget.setAccessibleDescription(widget.toolTip().section(": ", -1));  // without a part that repeats the name
+    const QString tooltip = QString::fromStdString(text);
+    if (tooltip == widget.toolTip()) return;
+    widget.setToolTip(tooltip);
+    widget.setAccessibleDescription(tooltip.section(": ", -1));  // without a part that repeats the name
 }
 
 void settint(QWidget& widget, boxtint tint) {
@@ -319,10 +307,8 @@ void setitems(QWidget& widget, const std::vector<std::string>& items) {
             if (rows->fontMetrics().horizontalAdvance(text) > rows->width() - 24) row->setToolTip(text);
         }
     } else if (auto* box = qobject_cast<QComboBox*>(&widget)) {
-        const QString text = box->currentText();
-        box->clear();
         box->addItems(texts);
-        box->setEditText(text);
+        box->view()->setMinimumWidth(box->view()->sizeHintForColumn(0) + 2 * box->view()->frameWidth());
     }
 }
 

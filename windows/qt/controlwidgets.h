@@ -1,28 +1,22 @@
-// Creates the widget of a control, and reads and writes its text, items and selection.
+// Creates the widget of a control, and writes its text, items and selection.
 #pragma once
 
 #include "core/controls.h"
 
 #include <QWidget>
 
+class QLineEdit;
+
 namespace tessaly {
 
 // Creates the widget of a control with its bounds and names, hidden and empty. A list emits clicked for each picked
 // row.
-QWidget* makewidget(const control& c, QWidget* plan);
+QWidget* makewidget(const control& c, QWidget* content);
 
-// Returns the layer of a control, from back to front: picture boxes, frames, labels, buttons, boxes and lists and
-// pages, the progress strip.
-int layerof(const control& c);
+// Returns the line in which the user can type a widget's text, nullptr if there is none.
+QLineEdit* typedline(QWidget& widget);
 
-// Returns whether a control is raised above its neighbours when it is shown: lists can open over each other.
-bool raisedwhenshown(const control& c);
-
-// Returns whether the user can type into a control.
-bool takestyping(const control& c);
-
-// Return the text in a box, and set a caption or the text of a box; UTF-8.
-std::string typedtext(const QWidget& widget);
+// Sets a caption, or the text of a box or page; UTF-8.
 void settext(QWidget& widget, const std::string& text);
 
 // Set the tooltip, which is also the accessible description, and the tint of a box.

@@ -1,4 +1,4 @@
-// The windows that differ from the others. Windows not in the table only open beside the main window.
+// Which procedures set up each window.
 
 #include "windows/qt/decoration.h"
 
@@ -11,18 +11,28 @@ namespace {
 struct decorator {
     const window* target;
     void (*decorate)(windowframe&);
+    void (*setposition)(windowframe&);
 };
 const decorator decorators[] = {
-    {&startform, decoratestartform},       {&vistaplan, decoratevistaplan},   {&layoutgirder, decoratelayoutgirder},
-    {&layoutpanels, decoratelayoutpanels}, {&layoutroof, decoratelayoutroof}, {&easyviews, decorateeasyviews},
+    // clang-format off
+    {&startform,    decoratestartform,    openincentre},
+    {&vistaplan,    decoratevistaplan,    openmaximised},
+    {&layoutgirder, decoratelayout,       openbesidemain},
+    {&layoutpanels, decoratelayout,       openbesidemain},
+    {&layoutroof,   decoratelayout,       openbesidemain},
+    {&easyviews,    decorateeasyviews,    openbesidemain},
+    {&instructions, [](windowframe&) {},  openbesidemain},
+    // clang-format on
 };
 
 }  // namespace
 
 void decoratewindow(windowframe& f) {
-    f.setfirstposition = openbesidemain;
-    for (const decorator& d : decorators)
-        if (d.target == &f.source) d.decorate(f);
+    for (const decorator& d : decorators) {
+        if (d.target != &f.definition) continue;
+        d.decorate(f);
+        d.setposition(f);
+    }
 }
 
 }  // namespace tessaly

@@ -1,4 +1,4 @@
-// Sets up what is special about each window after its widgets were created: its decoration, keys and first position.
+// Sets up what is special about each window after its widgets were created: its background, its keys and its position.
 #pragma once
 
 #include "windows/qt/windowframe.h"
@@ -8,12 +8,10 @@ namespace tessaly {
 // Sets up any window.
 void decoratewindow(windowframe& f);
 
-// Set up one window each. The three layout windows are in layoutplans.cpp, the others in the file of their name.
+// Set up one window, or one of the three layout windows.
 void decoratestartform(windowframe& f);
 void decoratevistaplan(windowframe& f);
-void decoratelayoutgirder(windowframe& f);
-void decoratelayoutpanels(windowframe& f);
-void decoratelayoutroof(windowframe& f);
+void decoratelayout(windowframe& f);
 void decorateeasyviews(windowframe& f);
 
 }  // namespace tessaly

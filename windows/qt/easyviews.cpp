@@ -1,6 +1,9 @@
-// Draws the diagram behind the buttons of the quick views: the layout grid seen from above with two axes, and the two
-// scales of heights. The positions of the buttons are set in view/quickviews. Coordinates are twips of the window.
+// Draws the diagram behind the buttons of the quick views: the layout grid seen from above with two axes, and a scale
+// beside each column of buttons for heights.
 
+#include "building/buttonfamilies.h"
+#include "view/quickviews.h"
+#include "windows/qt/binding.h"
 #include "windows/qt/decoration.h"
 #include "windows/qt/style.h"
 
@@ -10,57 +13,58 @@ namespace tessaly {
 
 namespace {
 
-constexpr int gridleft = 3120, gridtop = 3240, gridwidth = 3375, gridheight = 2415;
-constexpr int baysacross = 7, baysdown = 5;
+const QColor linecolour(96, 96, 160), baycolour(150, 150, 210), gridcolour(214, 214, 255);
+
+// Returns the middle of a quick view button.
+QPointF middleof(std::string_view name) { return QRectF(widgetof(*findcontrol(name))->geometry()).center(); }
 
 void drawgrid(QPainter& painter) {
-    painter.setPen(QPen(QColor(96, 96, 160), 1));
-    painter.setBrush(QColor(214, 214, 255));
-    painter.drawRect(QRectF(pointat(gridleft, gridtop), pointat(gridleft + gridwidth, gridtop + gridheight)));
-    painter.setPen(QPen(QColor(150, 150, 210), 1));
+    const QRectF grid(pointat(3120, 3240), pointat(3120 + 3375, 3240 + 2415));
+    const buttonfamily& posts = allbuttonfamilies().front();  // at the corners of the bays
+    const int baysacross = posts.rows - 1, baysdown = posts.cols - 1;
+    painter.setPen(linecolour);
+    painter.setBrush(gridcolour);
+    painter.drawRect(grid);
+    painter.setPen(baycolour);
     for (int bay = 1; bay < baysacross; ++bay) {
-        const int left = gridleft + gridwidth * bay / baysacross;
-        painter.drawLine(pointat(left, gridtop), pointat(left, gridtop + gridheight));
+        const double x = grid.left() + grid.width() * bay / baysacross;
+        painter.drawLine(QPointF(x, grid.top()), QPointF(x, grid.bottom()));
     }
     for (int bay = 1; bay < baysdown; ++bay) {
-        const int top = gridtop + gridheight * bay / baysdown;
-        painter.drawLine(pointat(gridleft, top), pointat(gridleft + gridwidth, top));
+        const double y = grid.top() + grid.height() * bay / baysdown;
+        painter.drawLine(QPointF(grid.left(), y), QPointF(grid.right(), y));
     }
-    // The two axes cross at the origin of the model.
-    const int middleleft = gridleft + gridwidth / 2, middletop = gridtop + gridheight / 2;
-    painter.setPen(QPen(QColor(96, 96, 160), 1, Qt::DashLine));
-    painter.drawLine(pointat(middleleft, gridtop - 2600), pointat(middleleft, gridtop + gridheight + 2700));
-    painter.drawLine(pointat(gridleft - 2400, middletop), pointat(gridleft + gridwidth + 2500, middletop));
 }
 
-// A scale of heights: a line to the right of a column of buttons, with a tick and a number for each of them.
-struct scale {
-    int left, top;           // of the topmost button
-    int pitch, ticks;        // pitch: from one button to the next
-    int highest, decrement;  // model units
-};
-constexpr scale scales[] = {{12480, 480, 960, 5, 2100, 500}, {10800, 6120, 480, 4, 850, 250}};
-constexpr int buttonsize = 255;
+// Draws the axes, which cross at the origin of the model.
+void drawaxes(QPainter& painter) {
+    painter.setPen(QPen(linecolour, 1, Qt::DashLine));
+    painter.drawLine(middleof("perpxm1800y0"), middleof("perpx1800y0"));
+    painter.drawLine(middleof("perpx0ym1800"), middleof("perpx0y1800"));
+}
 
-void drawscale(QPainter& painter, const scale& s) {
-    const int lineleft = s.left + buttonsize + 120, half = buttonsize / 2;
-    painter.setPen(QPen(QColor(96, 96, 160), 1));
-    painter.drawLine(pointat(lineleft, s.top + half), pointat(lineleft, s.top + s.pitch * (s.ticks - 1) + half));
-    for (int tick = 0; tick < s.ticks; ++tick) {
-        const int top = s.top + s.pitch * tick + half;
-        painter.drawLine(pointat(lineleft - 60, top), pointat(lineleft + 60, top));
-        painter.drawText(pointat(lineleft + 150, top + 60), QString::number(s.highest - s.decrement * tick));
+// Draws a scale to the right of the buttons of a kind: a line with a tick and a number for each of them.
+void drawscale(QPainter& painter, quickviewkind kind) {
+    QPolygonF ticks;
+    for (const quickview& q : allquickviews()) {
+        if (q.kind != kind) continue;
+        ticks << middleof(q.name) + QPointF(17, 0);
+        painter.drawLine(ticks.back() - QPointF(4, 0), ticks.back() + QPointF(4, 0));
+        painter.drawText(ticks.back() + QPointF(10, 4), QString::number(q.numbers[0]));
     }
+    painter.drawPolyline(ticks);
 }
 
 void drawdiagram(QPainter& painter) {
     drawgrid(painter);
-    painter.setFont(captionfont());
-    for (const scale& s : scales) drawscale(painter, s);
+    drawaxes(painter);
+    painter.setPen(linecolour);
+    drawscale(painter, eyeheight);
+    drawscale(painter, focusheight);
 }
 
 }  // namespace
 
-void decorateeasyviews(windowframe& f) { f.decoration = drawdiagram; }
+void decorateeasyviews(windowframe& f) { f.paintbackground = drawdiagram; }
 
 }  // namespace tessaly

@@ -1,9 +1,10 @@
-// Draws the decoration of the three layout windows: the grid, posts and beams, the axes, and the panel type of the next
-// click. Marks the buttons whose element is built. Coordinates are twips of the window unless stated otherwise; X of
-// the plan runs downward, Y to the right.
+// Decorates the three layout windows: draws the plan behind the position buttons, marks the buttons whose element is
+// built, and shows the panel type of the next click. The plan is computed from the positions of the buttons and labels,
+// in twips of the window; its X runs downward, its Y to the right.
 
 #include "building/buildstate.h"
 #include "building/builtelements.h"
+#include "building/buttonfamilies.h"
 #include "windows/qt/binding.h"
 #include "windows/qt/button.h"
 #include "windows/qt/decoration.h"
@@ -11,32 +12,62 @@
 
 #include <QPainter>
 
+#include <algorithm>
+#include <iterator>
+
 namespace tessaly {
 
 namespace {
 
-constexpr int columns = 8, rows = 6;  // grid points across and down
+struct planstyle {
+    const window* layout;
+    const control &labelx, &labely;
+    QColor axescolour, gridcolour;
+    int beamwidth, postwidth;  // twips; 0: hidden by the buttons
+    QColor beamcolour, postcolour;
+};
+const planstyle planstyles[] = {
+    // clang-format off
+    {&layoutgirder, girderlabelx, girderlabely, {128,  0,   0}, {200, 170, 120},   0,   0, {},              {}},
+    {&layoutpanels, panellabelx,  panellabely,  { 64, 64, 128}, {140, 140, 210}, 105, 165, {170, 170, 225}, { 96, 96, 150}},
+    {&layoutroof,   rooflabelx,   rooflabely,   {110, 20,  20}, {200,  70,  70},  45,  90, {225,  96,  96}, {150, 40,  40}},
+    // clang-format on
+};
 
-// The grid of a window; overhang: by how much its lines extend beyond the outer grid points.
+// The grid points of a plan, at each of which a post can be.
 struct grid {
-    int left0, top0, pitch, overhang;
+    int left0, top0, pitch, columns, rows;
     int left(int column) const { return left0 + pitch * column; }
     int top(int row) const { return top0 + pitch * row; }
 };
 
-QRectF box(int lefttwips, int toptwips, int widthtwips, int heighttwips) {
-    const QPointF size = pointat(widthtwips, heighttwips);
-    return {pointat(lefttwips, toptwips), QSizeF(size.x(), size.y())};
+// Returns the grid whose middle is that of the position buttons.
+grid gridof(const window& layout) {
+    grid g{0, 0, 0, allbuttonfamilies().front().rows, allbuttonfamilies().front().cols};  // of the posts
+    QRect buttons;
+    for (const buttonfamily& f : allbuttonfamilies()) {
+        if (f.layout != &layout) continue;
+        g.pitch = f.pitch;
+        buttons |= QRect(f.left0, f.top0, f.pitch * (f.rows - 1) + f.width, f.pitch * (f.cols - 1) + f.height);
+    }
+    g.left0 = buttons.center().x() - g.pitch * (g.columns - 1) / 2;
+    g.top0 = buttons.center().y() - g.pitch * (g.rows - 1) / 2;
+    return g;
 }
 
-void drawgrid(QPainter& painter, const grid& g, const QColor& colour) {
-    painter.setPen(QPen(colour, 1, Qt::DashLine));
-    for (int column = 0; column < columns; ++column)
-        painter.drawLine(pointat(g.left(column), g.top0 - g.overhang),
-                         pointat(g.left(column), g.top(rows - 1) + g.overhang));
-    for (int row = 0; row < rows; ++row)
-        painter.drawLine(pointat(g.left0 - g.overhang, g.top(row)),
-                         pointat(g.left(columns - 1) + g.overhang, g.top(row)));
+// Draws the lines through the grid points, extended at both ends.
+void drawgrid(QPainter& painter, const grid& g, int extension) {
+    for (int column = 0; column < g.columns; ++column)
+        painter.drawLine(pointat(g.left(column), g.top0 - extension),
+                         pointat(g.left(column), g.top(g.rows - 1) + extension));
+    for (int row = 0; row < g.rows; ++row)
+        painter.drawLine(pointat(g.left0 - extension, g.top(row)),
+                         pointat(g.left(g.columns - 1) + extension, g.top(row)));
+}
+
+void drawposts(QPainter& painter, const grid& g) {
+    for (int column = 0; column < g.columns; ++column)
+        for (int row = 0; row < g.rows; ++row) painter.drawPoint(pointat(g.left(column), g.top(row)));
 }
 
 void drawarrow(QPainter& painter, QPointF from, QPointF to) {
@@ -47,68 +78,36 @@ void drawarrow(QPainter& painter, QPointF from, QPointF to) {
     painter.drawLine(to, to - along * 6 - across * 3);
 }
 
-// Draws the axes from the upper left corner of the plan: Y to the right, X downward.
-void drawaxes(QPainter& painter, int lefttwips, int toptwips, int righttwips, int bottomtwips, const QColor& colour) {
-    painter.setPen(QPen(colour, 1));
-    drawarrow(painter, pointat(lefttwips, toptwips), pointat(righttwips, toptwips));
-    drawarrow(painter, pointat(lefttwips, toptwips), pointat(lefttwips, bottomtwips));
+void drawplan(QPainter& painter, const planstyle& p) {
+    constexpr int gap = 100;  // twips between an axis and its label
+    const grid g = gridof(*p.layout);
+    const twips &labelx = p.labelx.bounds, &labely = p.labely.bounds;
+    const int originleft = labelx.left + labelx.width / 2, origintop = labely.top + labely.height / 2;
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(p.gridcolour, 1, Qt::DashLine));
+    drawgrid(painter, g, g.left0 - originleft);
+    if (p.beamwidth > 0) {
+        painter.setPen(QPen(p.beamcolour, p.beamwidth / double{twipsperpixel}, Qt::SolidLine, Qt::FlatCap));
+        drawgrid(painter, g, 0);
+        painter.setPen(QPen(p.postcolour, p.postwidth / double{twipsperpixel}, Qt::SolidLine, Qt::SquareCap));
+        drawposts(painter, g);
+    }
+    painter.setPen(p.axescolour);
+    drawarrow(painter, pointat(originleft, origintop), pointat(labely.left - gap, origintop));
+    drawarrow(painter, pointat(originleft, origintop), pointat(originleft, labelx.top - gap));
 }
 
-void drawposts(QPainter& painter, const grid& g, int size, const QColor& fill) {
-    for (int column = 0; column < columns; ++column)
-        for (int row = 0; row < rows; ++row)
-            painter.fillRect(box(g.left(column) - size / 2, g.top(row) - size / 2, size, size), fill);
-}
-
-void drawbeams(QPainter& painter, const grid& g, int thickness, const QColor& fill) {
-    for (int column = 0; column < columns; ++column)
-        for (int row = 0; row < rows; ++row) {
-            if (column + 1 < columns)
-                painter.fillRect(box(g.left(column), g.top(row) - thickness / 2, g.pitch, thickness), fill);
-            if (row + 1 < rows)
-                painter.fillRect(box(g.left(column) - thickness / 2, g.top(row), thickness, g.pitch), fill);
-        }
-}
-
-void setbold(const control& label) {
-    QWidget* widget = widgetof(label);
-    QFont font = captionfont();
-    font.setBold(true);
-    widget->setFont(font);
-}
-
-// Marks the buttons whose element is built on the current floor, and sets their tooltips.
-void showbuilt(const window& plan) {
-    const builtelements& built = builtelementsof(plan);
-    for (const control* c : plan.controls) {
+// Marks the buttons whose element is built on the current floor, and says so in their tooltips.
+void showbuilt(const window& layout) {
+    const builtelements& built = builtelementsof(layout);
+    for (control* c : layout.controls) {
         if (c->elementnumber == 0) continue;
-        auto* const position = dynamic_cast<button*>(widgetof(*c));
-        const QString tip = QString::fromStdString(builttooltip(*c, built));
-        if (position->toolTip() == tip) continue;
-        position->setmarked(built.countof(*c) > 0);
-        position->setToolTip(tip);
-        position->setAccessibleDescription(tip);
+        c->tooltipsuffix = builtsuffix(*c, built);
+        dynamic_cast<button*>(widgetof(*c))->setmarked(built.countof(*c) > 0);
     }
 }
 
-void decoratelayout(windowframe& f, const control& labelx, const control& labely, void (*draw)(QPainter&)) {
-    setbold(labelx);
-    setbold(labely);
-    f.decoration = [draw](QPainter& painter) {
-        painter.setRenderHint(QPainter::Antialiasing);
-        draw(painter);
-    };
-    f.afterevent = [&f] { showbuilt(f.source); };
-}
-
-constexpr grid girdergrid{607, 607, 1200, 420}, panelgrid{637, 1117, 960, 360}, roofgrid{667, 667, 840, 300};
-
-void drawgirderplan(QPainter& painter) {
-    drawgrid(painter, girdergrid, QColor(200, 170, 120));
-    drawaxes(painter, 190, 190, 4200, 3200, QColor(128, 0, 0));
-}
-
-// The bounds of the picture of the next panel type, in pixels of the plan.
+// The bounds of the picture of the next panel type, in pixels of the panel layout.
 const QRect nextpanelbounds(6, 2, 74, 40);
 
 // Updates the picture and the description of the panel type that the next click places.
@@ -117,35 +116,26 @@ void shownextpanel(windowframe& f) {
     const QString description = next ? "The next click places: " + QString::fromStdString(next->accessiblename) : "";
     if (f.accessibleDescription() == description) return;
     f.setAccessibleDescription(description);
-    f.plan()->update(nextpanelbounds);
-}
-
-void drawpanelplan(QPainter& painter) {
-    if (const control* const next = nextpanelbutton())
-        picture(QString::fromStdString(next->name)).paint(painter, nextpanelbounds);
-    drawgrid(painter, panelgrid, QColor(140, 140, 210));
-    drawbeams(painter, panelgrid, 105, QColor(170, 170, 225));
-    drawposts(painter, panelgrid, 165, QColor(96, 96, 150));
-    drawaxes(painter, 165, 645, 2000, 3150, QColor(64, 64, 128));
-}
-
-void drawroofplan(QPainter& painter) {
-    drawgrid(painter, roofgrid, QColor(200, 70, 70));
-    drawbeams(painter, roofgrid, 45, QColor(225, 96, 96));
-    drawposts(painter, roofgrid, 90, QColor(150, 40, 40));
-    drawaxes(painter, 330, 330, 3100, 2300, QColor(110, 20, 20));
+    f.content()->update(nextpanelbounds);
 }
 
 }  // namespace
 
-void decoratelayoutgirder(windowframe& f) { decoratelayout(f, girderlabelx, girderlabely, drawgirderplan); }
-void decoratelayoutpanels(windowframe& f) {
-    decoratelayout(f, panellabelx, panellabely, drawpanelplan);
-    f.afterevent = [&f] {
-        showbuilt(f.source);
-        shownextpanel(f);
+void decoratelayout(windowframe& f) {
+    const auto& p = *std::find_if(std::begin(planstyles), std::end(planstyles),
+                                  [&f](const planstyle& style) { return style.layout == &f.definition; });
+    for (const control* label : {&p.labelx, &p.labely})
+        widgetof(*label)->setFont(captionfont(captionpixels, QFont::Bold));
+    const bool panels = p.layout == &layoutpanels;
+    f.paintbackground = [&p, panels](QPainter& painter) {
+        drawplan(painter, p);
+        if (const control* const next = panels ? nextpanelbutton() : nullptr)
+            pictureof(next->name).paint(&painter, nextpanelbounds);
+    };
+    f.refreshcontent = [&f, panels] {
+        showbuilt(f.definition);
+        if (panels) shownextpanel(f);
     };
 }
-void decoratelayoutroof(windowframe& f) { decoratelayout(f, rooflabelx, rooflabely, drawroofplan); }
 
 }  // namespace tessaly

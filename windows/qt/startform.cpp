@@ -3,7 +3,6 @@
 #include "windows/qt/binding.h"
 #include "windows/qt/decoration.h"
 #include "windows/qt/style.h"
-#include "windows/qt/windowposition.h"
 
 #include <QLabel>
 #include <QPainter>
@@ -14,18 +13,10 @@ namespace {
 
 constexpr int titlepixels = 32, datepixels = 15, startpixels = 22;
 
-void enlarge(const control& c, int size, bool bold) {
-    QWidget* widget = widgetof(c);
-    QFont font = captionfont(size);
-    font.setBold(bold);
-    widget->setFont(font);
-    if (auto* label = qobject_cast<QLabel*>(widget)) label->setAlignment(Qt::AlignCenter);
-}
-
 // The size of the frame.
 constexpr int baysacross = 5, baysdeep = 7, storeys = 3;
 
-// Returns a grid point of the frame, seen from a corner, in pixels of the plan.
+// Returns a grid point of the frame, seen from a corner, in pixels of the content.
 QPointF corner(int across, int deep, int up) {
     return {370.0 + 46 * across - 46 * (deep - 2), 488.0 - 15 * across - 15 * deep - 46 * up};
 }
@@ -51,14 +42,13 @@ void drawframe(QPainter& painter) {
 }  // namespace
 
 void decoratestartform(windowframe& f) {
-    f.decoration = drawframe;
-    enlarge(Label1, titlepixels, true);
-    enlarge(Label3, datepixels, false);
-    enlarge(startprogrambtn, startpixels, true);
-    f.setfirstposition = [](windowframe& frame) {
-        openincentre(frame);
-        frame.plan()->setFocusProxy(widgetof(startprogrambtn));
-    };
+    f.paintbackground = drawframe;
+    widgetof(Label1)->setFont(captionfont(titlepixels, QFont::Bold));
+    widgetof(Label3)->setFont(captionfont(datepixels));
+    widgetof(startprogrambtn)->setFont(captionfont(startpixels, QFont::Bold));
+    for (const control* label : {&Label1, &Label3})
+        qobject_cast<QLabel*>(widgetof(*label))->setAlignment(Qt::AlignCenter);
+    f.content()->setFocusProxy(widgetof(startprogrambtn));
 }
 
 }  // namespace tessaly

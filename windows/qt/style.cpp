@@ -3,8 +3,8 @@
 
 #include "windows/qt/style.h"
 
+#include <QFile>
 #include <QFontDatabase>
-#include <QIcon>
 #include <QPainter>
 #include <QPalette>
 #include <QPixmap>
@@ -18,7 +18,8 @@ namespace {
 
 // The captions were measured with the letter widths of the first four; DejaVu Sans is wider.
 const QStringList captionfamilies{"Liberation Sans", "Arimo", "Arial", "Helvetica", "DejaVu Sans"};
-const QStringList pagefamilies{"Fixedsys", "Fixedsys Excelsior 3.01", "Fixedsys Excelsior"};
+const QStringList pagefamilies{"Fixedsys", "Fixedsys Excelsior 3.01", "Fixedsys Excelsior", "DejaVu Sans Mono",
+                               "Liberation Mono"};
 constexpr int pagepixels = 13;
 
 QPalette stylepalette() {
@@ -28,60 +29,59 @@ QPalette stylepalette() {
     QPalette palette(ink, buttoncolour, paper, pale, QColor(160, 160, 160), ink, paper, paper, grey);
     palette.setColor(QPalette::Highlight, chosen);
     palette.setColor(QPalette::HighlightedText, paper);
-    palette.setColor(QPalette::AlternateBase, QColor(244, 244, 244));
     palette.setColor(QPalette::ToolTipBase, QColor(255, 255, 225));
     palette.setColor(QPalette::ToolTipText, ink);
     palette.setColor(QPalette::PlaceholderText, pale);
-    palette.setColor(QPalette::Link, chosen);
     for (const auto role : {QPalette::Text, QPalette::WindowText, QPalette::ButtonText})
         palette.setColor(QPalette::Disabled, role, pale);
     return palette;
 }
 
-// Draws the icon at the sizes that desktops use. QIcon could read SVG only with a plugin that may not be installed.
-QIcon programicon() {
-    QSvgRenderer drawing(QString(":/pictures/tessaly.svg"));
-    QIcon icon;
-    for (const int pixels : {16, 22, 24, 32, 48, 64, 128, 256}) {
-        QPixmap picture(pixels, pixels);
-        picture.fill(Qt::transparent);
-        QPainter painter(&picture);
-        drawing.render(&painter);
-        painter.end();
-        icon.addPixmap(picture);
-    }
-    return icon;
-}
-
 }  // namespace
 
-void setstyle(QApplication& app) {
+void setstyle() {
     QApplication::setStyle(QStyleFactory::create("Fusion"));
     QApplication::setPalette(stylepalette());
     QApplication::setFont(captionfont());
-    QApplication::setWindowIcon(programicon());  // of windows and message boxes
+    QApplication::setWindowIcon(pictureof("tessaly"));  // of windows and message boxes
     QToolTip::setPalette(stylepalette());
     QToolTip::setFont(captionfont());
     QApplication::setEffectEnabled(Qt::UI_AnimateCombo, false);
-    app.setQuitOnLastWindowClosed(false);
+    QApplication::setQuitOnLastWindowClosed(false);
 }
 
-QFont captionfont(int pixels) {
+QFont captionfont(int pixels, QFont::Weight weight) {
     QFont font(captionfamilies);
     font.setPixelSize(pixels);
+    font.setWeight(weight);
     return font;
 }
 
 QFont pagefont() {
     QFont font = QFontDatabase::systemFont(QFontDatabase::FixedFont);
-    QStringList families = pagefamilies;
-    families << "DejaVu Sans Mono"
-             << "Liberation Mono" << font.families();
-    font.setFamilies(families);
+    font.setFamilies(pagefamilies + font.families());
     font.setStyleHint(QFont::Monospace);
     font.setFixedPitch(true);
     font.setPixelSize(pagepixels);
     return font;
+}
+
+QIcon pictureof(const std::string& name) {
+    const QString path = ":/pictures/" + QString::fromStdString(name);
+    QIcon picture;
+    for (const char* ending : {".png", "@2x.png"}) picture.addPixmap(QPixmap(path + ending));
+    if (!QFile::exists(path + ".svg")) return picture;
+    // Draw it at the sizes that desktops use. QIcon could read SVG only with a plugin that may not be installed.
+    QSvgRenderer drawing(path + ".svg");
+    for (const int pixels : {16, 22, 24, 32, 48, 64, 128, 256}) {
+        QPixmap drawn(drawing.defaultSize().scaled(pixels, pixels, Qt::KeepAspectRatio));
+        drawn.fill(Qt::transparent);
+        QPainter painter(&drawn);
+        drawing.render(&painter);
+        painter.end();
+        picture.addPixmap(drawn);
+    }
+    return picture;
 }
 
 QColor screencolour(colour c) { return {c.red, c.green, c.blue}; }

@@ -5,19 +5,15 @@
 #include "windows/qt/binding.h"
 #include "windows/qt/decoration.h"
 #include "windows/qt/style.h"
-#include "windows/qt/windowposition.h"
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QPainter>
-#include <QPlainTextEdit>
 #include <QShortcut>
 
 namespace tessaly {
 
 namespace {
 
-// The seven boxes over the picture have no labels beside them: each shows a tag at its right end.
 const QColor tagcolour(80, 80, 80);
 const QColor hintcolour(255, 255, 225);
 
@@ -35,31 +31,22 @@ void clickonreturn(const control& box, control& button) {
     });
 }
 
-class tag : public QWidget {
-  public:
-    tag(const char* itstext, QWidget* box) : QWidget(box), text(itstext) {
-        setAttribute(Qt::WA_TransparentForMouseEvents);
-        setFont(captionfont());
-        const int width = fontMetrics().horizontalAdvance(text) + 4;
-        setGeometry(box->width() - width, 1, width - 1, box->height() - 2);
-    }
-
-  protected:
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setPen(tagcolour);
-        painter.drawText(rect(), Qt::AlignCenter, text);
-    }
-
-  private:
-    QString text;
-};
+// Shows a tag at the right end of a box that has no label beside it.
+void addtag(QLineEdit& box, const char* text) {
+    auto* const tag = new QLabel(text, &box);
+    QPalette palette;
+    palette.setColor(QPalette::WindowText, tagcolour);
+    tag->setPalette(palette);
+    tag->setAttribute(Qt::WA_TransparentForMouseEvents);
+    tag->adjustSize();
+    tag->move(box.width() - tag->width() - 2, (box.height() - tag->height()) / 2);
+    box.setTextMargins(1, 0, tag->width() + 2, 0);
+}
 
 // Makes the box of a prompt or hint read-only, without focus and in the colour of hints.
 void makereadonly(const control& c) {
-    QWidget* box = widgetof(c);
-    if (auto* line = qobject_cast<QLineEdit*>(box)) line->setReadOnly(true);
-    if (auto* lines = qobject_cast<QPlainTextEdit*>(box)) lines->setReadOnly(true);
+    QWidget* const box = widgetof(c);
+    box->setProperty("readOnly", true);
     box->setFocusPolicy(Qt::NoFocus);
     QPalette palette = box->palette();
     palette.setColor(QPalette::Base, hintcolour);
@@ -69,11 +56,7 @@ void makereadonly(const control& c) {
 }  // namespace
 
 void decoratevistaplan(windowframe& f) {
-    for (const viewvalue& over : taggedvalues) {
-        auto* box = qobject_cast<QLineEdit*>(widgetof(over.box));
-        auto* boxtag = new tag(over.tag, box);
-        box->setTextMargins(1, 0, boxtag->width() - 2, 0);
-    }
+    for (const viewvalue& v : taggedvalues) addtag(*qobject_cast<QLineEdit*>(widgetof(v.box)), v.tag);
     for (const control* c : {&Label4, &Label5, &Label6, &vert, &horizlabel})
         qobject_cast<QLabel*>(widgetof(*c))->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
     for (const control* c : {&selectgirderfile, &selectpanelfile, &selectedbox, &autohintbox}) makereadonly(*c);
@@ -84,7 +67,6 @@ void decoratevistaplan(windowframe& f) {
     }
     clickonreturn(capbox, screencapenter);
     for (const viewvalue& v : viewvalues) clickonreturn(v.box, cventerbtn);
-    f.setfirstposition = openmaximised;
 }
 
 }  // namespace tessaly

@@ -1,43 +1,40 @@
-// The frame of a window, and the plan inside it.
+// The frame of a window, and the content inside it.
 
 #include "windows/qt/windowframe.h"
 
+#include "windows/handlers.h"
 #include "windows/qt/accessibility.h"
-#include "windows/qt/button.h"
+#include "windows/qt/binding.h"
 #include "windows/qt/style.h"
 
 #include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QPushButton>
 
 namespace tessaly {
 
 namespace {
 
-class planwidget : public QWidget {
+class contentwidget : public QWidget {
   public:
-    explicit planwidget(windowframe& itsframe) : frame(itsframe) {}
+    explicit contentwidget(windowframe& itsframe) : frame(itsframe) {}
 
   protected:
     void paintEvent(QPaintEvent*) override {
-        if (!frame.decoration) return;
+        if (!frame.paintbackground) return;
         QPainter painter(this);
-        frame.decoration(painter);
+        frame.paintbackground(painter);
     }
 
-    bool focusNextPrevChild(bool next) override {
-        QWidget* const from = hasFocus() ? frame.tabfrom : nullptr;
-        if (!from) return QWidget::focusNextPrevChild(next);
-        QWidget* to = from;
-        do to = next ? to->nextInFocusChain() : to->previousInFocusChain();
-        while (to != from && !(isAncestorOf(to) && to->isVisible() && (to->focusPolicy() & Qt::TabFocus)));
-        frame.tabfrom = nullptr;
-        to->setFocus(next ? Qt::TabFocusReason : Qt::BacktabFocusReason);
-        return true;
-    }
-
+    // The first arrow key focuses a button. From there the button group handles the arrow keys.
     void keyPressEvent(QKeyEvent* event) override {
-        if (!movefocusbyarrow(*this, {0, 0}, event->key())) QWidget::keyPressEvent(event);
+        const bool arrow = event->key() >= Qt::Key_Left && event->key() <= Qt::Key_Down;
+        auto* const first = hasFocus() && arrow ? findChild<QPushButton*>() : nullptr;
+        if (first)
+            first->setFocus(Qt::TabFocusReason);
+        else
+            QWidget::keyPressEvent(event);
     }
 
   private:
@@ -46,38 +43,37 @@ class planwidget : public QWidget {
 
 }  // namespace
 
-windowframe::windowframe(const tessaly::window& itswindow) : source(itswindow) {
-    setObjectName(source.name);
-    setWindowTitle(source.title);
-    setrole(*this, &source == &startform || &source == &vistaplan ? QAccessible::Window : QAccessible::Dialog);
+windowframe::windowframe(tessaly::window& itsdefinition) : definition(itsdefinition) {
+    setObjectName(definition.name);
+    setWindowTitle(definition.title);
+    setrole(*this, &definition == &startform || &definition == &vistaplan ? QAccessible::Window : QAccessible::Dialog);
     setFrameShape(QFrame::NoFrame);
     setFocusPolicy(Qt::NoFocus);
-    const QColor background = screencolour(source.background);
+    const QColor background = screencolour(definition.background);
     QPalette colours = palette();
     colours.setColor(QPalette::Window, background);
     colours.setColor(QPalette::WindowText, readablecolour(background));
     setPalette(colours);
-    auto* plan = new planwidget(*this);
-    plan->setFixedSize(designedsize());
-    plan->setAutoFillBackground(false);
-    setWidget(plan);
+    auto* content = new contentwidget(*this);
+    content->setFixedSize(inpixels(definition.widthtwips), inpixels(definition.heighttwips));
+    content->setAutoFillBackground(false);
+    setWidget(content);
 }
-
-QSize windowframe::designedsize() const { return {inpixels(source.widthtwips), inpixels(source.heighttwips)}; }
 
 void windowframe::changeEvent(QEvent* event) {
     QScrollArea::changeEvent(event);
-    if (event->type() == QEvent::ActivationChange && isActiveWindow() && whenactivated) whenactivated();
+    // The user may have edited files before returning to the window.
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) runevent([] {});
 }
 
 void windowframe::closeEvent(QCloseEvent* event) {
-    event->ignore();
-    whenclosed();
+    event->ignore();  // the event hides the window
+    runevent([this] { closewindow(definition); });
 }
 
 void windowframe::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
-        whenescaped();
+        runevent([this] { pressescape(definition, focusedcontrol(definition)); });
     else
         QScrollArea::keyPressEvent(event);
 }

@@ -20,14 +20,14 @@ constexpr int titlebar = 30, edge = 4;  // pixels that the desktop may use above
 // Returns the part of the screen that is available for the interior of a window.
 QRect availablefor(const windowframe& f) { return f.screen()->availableGeometry().adjusted(0, titlebar, 0, 0); }
 
-// Returns the first size of a window: its plan's, at most the available one. If the plan is too high or too wide, the
-// window has room for the scroll bar beside it.
+// Returns the first size of a window: that of its content, at most the available one. If the content is too high or too
+// wide, the window has room for the scroll bar beside it.
 QSize firstsize(const windowframe& f) {
     const QRect available = availablefor(f);
-    const QSize plan = f.designedsize();
+    const QSize designed = f.content()->size();
     const int bar = f.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    const QSize size(plan.width() + (plan.height() > available.height() ? bar : 0),
-                     plan.height() + (plan.width() > available.width() ? bar : 0));
+    const QSize size(designed.width() + (designed.height() > available.height() ? bar : 0),
+                     designed.height() + (designed.width() > available.width() ? bar : 0));
     return size.boundedTo(available.size());
 }
 
@@ -45,7 +45,7 @@ QRect besidepicture(const windowframe& f) {
     const QRect available = availablefor(f);
     const QSize size = firstsize(f);
     const QWidget& picture = *widgetof(viewport);
-    const QPoint wanted = picture.mapToGlobal(QPoint(picture.width() + edge, distancefromtop(f.source)));
+    const QPoint wanted = picture.mapToGlobal(QPoint(picture.width() + edge, distancefromtop(f.definition)));
     const QPoint last = QPoint(available.right() + 1 - size.width(), available.bottom() + 1 - size.height());
     return {{std::clamp(wanted.x(), available.left(), last.x()), std::clamp(wanted.y(), available.top(), last.y())},
             size};

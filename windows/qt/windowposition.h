@@ -8,7 +8,7 @@ namespace tessaly {
 // Centres a window on the screen.
 void openincentre(windowframe& f);
 
-// Maximises a window. Without a window manager it is as large as its plan, at most as the screen.
+// Maximises a window. Without a window manager it is as large as its content, at most as the screen.
 void openmaximised(windowframe& f);
 
 // Opens a window at the right of the main window's picture, or over the picture if the screen ends before. It stays in

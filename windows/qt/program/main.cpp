@@ -2,7 +2,6 @@
 
 #include "picturefiles/picturefile.h"
 #include "windows/qt/binding.h"
-#include "windows/qt/decoration.h"
 #include "windows/qt/style.h"
 
 #include <clocale>
@@ -13,9 +12,9 @@ int main(int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");  // numbers have a decimal point in every locale
     QApplication::setApplicationName("tessaly");
     QGuiApplication::setDesktopFileName("tessaly");
-    tessaly::setstyle(app);
+    tessaly::setstyle();
     tessaly::usepicturefiles();
-    tessaly::openwindows(tessaly::decoratewindow);
+    tessaly::openwindows();
     const int status = QApplication::exec();
     tessaly::destroywindows();
     return status;
