@@ -1,7 +1,10 @@
-// Command lines for the shell. Every path in one is quoted: the project may lie in a folder of any name.
+// Command lines for the shell. All paths in them are quoted, because the project may be in a folder with any name.
 #pragma once
 
+#include <cstdlib>
 #include <string>
+
+#include <sys/wait.h>
 
 namespace tessaly {
 
@@ -12,5 +15,11 @@ inline std::string shellquoted(const std::string& text) {
 }
 
 inline const std::string playcommand = shellquoted(TESSALY_PLAY);
+
+// Runs a command; returns its exit status, or -1 if a signal ended it.
+inline int run(const std::string& command) {
+    const int status = std::system(command.c_str());
+    return WIFEXITED(status) ? WEXITSTATUS(status) : -1;
+}
 
 }  // namespace tessaly
