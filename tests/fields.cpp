@@ -72,23 +72,11 @@ TEST(fields, rulesAtTheirEdges) {
         {"5\n\n", "vv", "5 input past end of file"},
         {"", "t", "input past end of file"},
     };
-    session s(ownfolder);
+    session s(inownfolder);
     for (const bool plain : {true, false}) {
         noshortcuts = plain;
         for (const auto& c : cases) EXPECT_EQ(readall(c.bytes, c.reads), c.expected) << c.bytes << " by " << c.reads;
     }
-}
-
-// Everything before a key is free text, unless the key is a complete field. A line end in quotes counts as one.
-TEST(fields, keysAreFoundByWholeFields) {
-    session s(ownfolder);
-    session::write("f.txt", "\"a quoted\nfield\",say KEY: twice, KEY:x,key:\n \"KEY:\" 1\nKEY:\n2\n");
-    textinput& in = openinput(1, "f.txt", "test");
-    findkey(in, "KEY:");
-    EXPECT_EQ(readvalue(in, "it"), 1);
-    EXPECT_EQ(std::string(failureof([&] { findkey(in, "OTHER:"); })->what()),
-              "f.txt: the key OTHER: is missing from line 4 on: complete the file, or put the shipped one back "
-              "(input past end of file)");
 }
 
 // A file that is open or missing, a pipe, which may never answer, a device, which may never end, and a file that is too
@@ -122,7 +110,7 @@ TEST(fields, refuseWhatTheyCannotOpen) {
 }
 
 TEST(fields, fileListsHoldAllButFoldersAndUnfinishedCaptures) {
-    session s(ownfolder);
+    session s(inownfolder);
     for (const char* name : {"designs/b.txt", "designs/a.txt", "designs/.bmp", "designs/.unfinished"})
         session::write(name, "");
     std::filesystem::create_directory("designs/folder");

@@ -12,11 +12,7 @@ class randomnumbers {
     int whole(int from, int to) { return std::uniform_int_distribution(from, to)(engine); }
     double real(double from, double to) { return std::uniform_real_distribution(from, to)(engine); }
     double within(double limit) { return real(-limit, limit); }
-    bool once(int in) { return whole(1, in) == 1; }
-    template <class list>
-    auto& of(list& all) {
-        return all[static_cast<std::size_t>(whole(0, static_cast<int>(std::size(all)) - 1))];
-    }
+    bool oncein(int calls) { return whole(1, calls) == 1; }
 
   private:
     std::mt19937 engine;

@@ -46,7 +46,7 @@ class recorder : public surface {
 };
 
 using filesbypath = std::map<std::string, std::string>;
-inline const filesbypath ownfolder{{"datah/.own", ""}};  // no shipped data: a test writes its own
+inline const filesbypath inownfolder{{"datah/.own", ""}};  // no shipped data: a test writes its own
 
 class session {
   public:

@@ -70,7 +70,7 @@ TEST(value, textMeetsArithmetic) {
 
 // resetworld clears 1..7000 (700 of cubecolour) and nothing above; a miss names the table.
 TEST(value, resetClearsItsRangeOnly) {
-    session s(ownfolder);
+    session s(inownfolder);
     for (const int i : {0, 1, 7000, 7001}) {
         basex.set(i, 5);
         quad4.set(i, 5);
