@@ -1,5 +1,6 @@
-// Axis-cube files have seven sections. Each has its own first point and quad; two sections share a line group. A row of
-// more than a hundred cubes continues into the slots of the next section, silently overwriting them.
+// An axis-cube file has six sections with a row of cubes each and a section of single cubes. Each section has its own
+// range of points and quads. The six are read in pairs; a pair shares a line group. A row of more than a hundred cubes
+// continues into the range of the next section and overwrites it without notice.
 
 #include "data/cubes.h"
 
@@ -15,12 +16,15 @@ namespace tessaly {
 
 namespace {
 
-// Sections that hold a single row of cubes. Their cubes are numbered in hundreds; each cube takes ten points and quads.
+// The sections with a row of cubes each. Their first cubes have the numbers 0, 100 .. 500; a cube takes ten points and
+// ten quads.
 constexpr const char* rowkeys[] = {
     "AUTOCUBE000:", "AUTOCUBE100:", "AUTOCUBE200:", "AUTOCUBE300:", "AUTOCUBE400:", "AUTOCUBE500:"};
-constexpr int firstsinglecube = 600, maxsinglecubes = 100, firstsinglepoint = 6001;
 
-void readcuberow(textinput& in, axis stepaxis, int base, cubeslots& next) {
+constexpr int maxsinglecubes = 100;
+
+// Reads a row and expands its cubes, each one step farther along the axis than the one before.
+void readcuberow(textinput& in, axis stepaxis, int firstcube, cubeslots& next) {
     cubediagonal diagonal = readdiagonal(in);
     const value step = readvalue(in, "the step of a cube row");
     const value last = readvalue(in, "the number of the last cube in a row");
@@ -30,15 +34,15 @@ void readcuberow(textinput& in, axis stepaxis, int base, cubeslots& next) {
     value &first = diagonal[stepaxis], &second = diagonal[stepaxis + 3];
     first = first - step;
     second = second - step;
-    for (int c = base; c <= last; ++c) {
+    for (int c = firstcube; c <= last; ++c) {
         first = first + step;
         second = second + step;
         expandcube(next, diagonal, rowgrade, rowcolour);
     }
 }
 
-// Each row gives first quad, last quad and count, and sets the count for the same face of every cube in the row, ten
-// slots apart. The end row clears the slot where the loop of the previous row stopped.
+// Reads rows of first quad, last quad and count. Each sets the count for the same face of several cubes: their quads
+// are ten slots apart. The end row clears the slot at which the loop of the previous row stopped.
 void readcubeframing(textinput& in, const char* key, table<value, lastquad, clearedpoints>& framing) {
     findkey(in, key);
     double slot = 0;
@@ -48,11 +52,10 @@ void readcubeframing(textinput& in, const char* key, table<value, lastquad, clea
         const value last = readvalue(in, "the last quad of a framing row");
         const value count = readvalue(in, "the count of a framing row");
         const bool end = endsrows(count);
-        const auto frame = [&] {
+        withrowlocation(in, row, key, [&] {
             if (end) return framing.set(value(slot), 0);
             for (slot = first; slot <= last; slot += 10) framing.set(value(slot), count);
-        };
-        withrowlocation(in, row, key, frame);
+        });
         if (end) return;
     }
 }
@@ -61,34 +64,27 @@ template <axis stepaxis>
 void readcubesections(textinput& in) {
     readwirecolours(in, 6, 9);
     cubeslots next{1, 1, 1};
-    int pairstart = 1;  // first line of the pair of sections being read
-    const auto closepair = [&](int group, int block) {
-        linecount[group] = next.line - pairstart;
-        ptcount[block] = next.point - 1 - (block - 1) * 2000;
-        pairstart = next.line;
-    };
-    int base = 0;
+    int firstcube = 0, pairline = 1;  // the first line of the pair
     for (const char* key : rowkeys) {
         findkey(in, key);
-        if (base == 200) closepair(6, 1);
-        if (base == 400) closepair(7, 2);
-        next.point = next.quad = 10 * base + 1;
-        readcuberow(in, stepaxis, base, next);
-        base += 100;
+        next.point = next.quad = 10 * firstcube + 1;
+        readcuberow(in, stepaxis, firstcube, next);
+        firstcube += 100;
+        if (firstcube % 200 != 0) continue;  // the first section of a pair
+        const int pair = firstcube / 200;
+        linecount[pair + 5] = next.line - pairline;
+        ptcount[pair] = next.point - 1 - (pair - 1) * 2000;
+        pairline = next.line;
     }
-    findkey(in, "AUTOCUBE600:");
-    closepair(8, 3);
-    next.point = next.quad = firstsinglepoint;
-    readsinglecubes(in, firstsinglecube, maxsinglecubes, next);
-    closepair(9, 4);
+    readsinglecubes(in, "AUTOCUBE600:", 600, maxsinglecubes, 9, next.line);
     readcubeframing(in, "AUTOFRAMING1:", framing1);
     readcubeframing(in, "AUTOFRAMING2:", framing2);
 }
 
 template <axis stepaxis>
 void readcube() {
-    constexpr int number = 2 + static_cast<int>(stepaxis);  // of the reader
-    if (!readshape(number, "axis-cube file", readcubesections<stepaxis>)) return;
+    constexpr int readernumber = 2 + static_cast<int>(stepaxis);
+    if (!readshape(readernumber, "axis-cube file", readcubesections<stepaxis>)) return;
     runtransforms();
     plotshape(2);
 }

@@ -1,5 +1,5 @@
-// The element reader: the sections of an element file in their fixed order, the expansion of cubes, and the placement.
-// The row that ends a section is also stored, in the slot after the last real row.
+// Reads the sections of an element file in their fixed order, expands cubes and places the element. The end row of a
+// STANDARD:, LINEG or AUTOPLANE: section is also stored, in the slot after the last real row.
 
 #include "data/elements.h"
 
@@ -16,7 +16,7 @@ namespace tessaly {
 
 namespace {
 
-constexpr int lastplaced = 100;  // a placement moves the points 1 to lastplaced
+constexpr int lastplacedpoint = 100;  // a placement moves the points 1 to lastplacedpoint
 constexpr int maxplanes = 7000;
 constexpr int maxcubes = 200;  // of a section
 
@@ -34,13 +34,13 @@ void readpoints(textinput& in) {
     }
 }
 
-// Reads a LINEG section into the lines starting at first and returns its number of lines: 0 if it has no end row.
-int readlinegroup(textinput& in, const char* key, int first) {
+// Reads a LINEG section into the lines starting at line. Returns its number of lines, 0 if it has no end row.
+int readlinegroup(textinput& in, const char* key, int line) {
     findkey(in, key);
-    for (int n = first; n <= lastline; ++n) {
+    for (int n = line; n <= lastline; ++n) {
         lineend1.set(n, readvalue(in, "the first point of a line row"));
         lineend2.set(n, readvalue(in, "the second point of a line row"));
-        if (endsrows(lineend1[n]) && endsrows(lineend2[n])) return n - first;
+        if (endsrows(lineend1[n]) && endsrows(lineend2[n])) return n - line;
     }
     return 0;
 }
@@ -65,47 +65,36 @@ void readframing(textinput& in, const char* key, table<value, lastquad, clearedp
         const fieldlocation row = skiptofield(in);
         const value quad = readvalue(in, "the quad index of a framing row");
         const value count = readvalue(in, "the count of a framing row");
-        const bool last = endsrows(count);
-        withrowlocation(in, row, key, [&] { framing.set(quad, last ? value(0) : count); });
-        if (last) return;
+        const bool end = endsrows(count);
+        withrowlocation(in, row, key, [&] { framing.set(quad, end ? value(0) : count); });
+        if (end) return;
     }
-}
-
-// Reads a section of single cubes into lines and into a block of points and quads. Returns the first line after them.
-int readcubesection(textinput& in, const char* key, int firstcube, int block, int group, int line) {
-    const int slot = (block - 1) * 2000 + 1;
-    cubeslots next{slot, slot, line};
-    findkey(in, key);
-    readsinglecubes(in, firstcube, maxcubes, next);
-    linecount[group] = next.line - line;
-    ptcount[block] = next.point - slot;
-    return next.line;
 }
 
 void readelementsections(textinput& in) {
     readwirecolours(in, 1, 7);
     readpoints(in);
-    int line = 1;  // the next one
+    int line = 1;
     const char* const keys[] = {"LINEG1:", "LINEG2:", "LINEG3:", "LINEG4:", "LINEG5:"};
     for (int group = 1; group <= 5; ++group) {
         const int count = readlinegroup(in, keys[group - 1], line);
         linecount[group] = count;
         line += count;
     }
-    line = readcubesection(in, "AUTOCUBE400:", 400, 3, 6, line);
-    readcubesection(in, "AUTOCUBE600:", 600, 4, 7, line);
+    line = readsinglecubes(in, "AUTOCUBE400:", 400, maxcubes, 6, line);
+    readsinglecubes(in, "AUTOCUBE600:", 600, maxcubes, 7, line);
     readplanes(in);
     readframing(in, "AUTOFRAMING1:", framing1);
     readframing(in, "AUTOFRAMING2:", framing2);
 }
 
 // Converts placex and placey from layout to world units.
-void placetoworld() {
+void convertplace() {
     placex = placex - planoriginx;
     placey = placey - planoriginy;
 }
 
-// Runs the placement that placemode selects. Returns false if it selects none.
+// Places the element as placemode selects. Returns false if placemode selects no placement.
 bool tryplace() {
     const double mode = placemode;
     if (mode == 0)
@@ -124,24 +113,24 @@ bool tryplace() {
 }  // namespace
 
 void readelements() {
-    // If placemode selects no placement, the file stays open on channel 1, so that the next element fails.
+    // Without a placement the file stays open on channel 1, so that the next element fails. This is intended.
     if (readshape(1, "element file", readelementsections) && tryplace()) plotshape(1);
 }
 
 void rotzplace() {
-    placetoworld();
-    rotatepoints(1, lastplaced, zaxis, radians(rotz), {placex, placey, placez});
+    convertplace();
+    rotatepoints(1, lastplacedpoint, zaxis, radians(rotz), {placex, placey, placez});
 }
 
 void rotxplace() {
-    placetoworld();
+    convertplace();
     rotx = radians(rotx);
-    rotatepoints(1, lastplaced, xaxis, rotx, {placex, placey, placez});
+    rotatepoints(1, lastplacedpoint, xaxis, rotx, {placex, placey, placez});
 }
 
 void shiftplace() {
-    placetoworld();
-    shiftpoints(1, lastplaced, 1);
+    convertplace();
+    shiftpoints(1, lastplacedpoint, 1);
 }
 
 bool readshape(int readernumber, const char* role, void (*readsections)(textinput& in)) {
@@ -153,9 +142,9 @@ bool readshape(int readernumber, const char* role, void (*readsections)(textinpu
     return !opened;
 }
 
-void plotshape(int blocks) {
+void plotshape(int newdrawset) {
     channelinput(1).close();
-    drawset = blocks;
+    drawset = newdrawset;
     plotgroups();
 }
 
@@ -175,9 +164,9 @@ void readwirecolours(textinput& in, int from, int to) {
 }
 
 cubediagonal readdiagonal(textinput& in) {
-    cubediagonal ends;
-    for (value& coordinate : ends) coordinate = readvalue(in, "a corner coordinate of a cube row");
-    return ends;
+    cubediagonal diagonal;
+    for (value& coordinate : diagonal) coordinate = readvalue(in, "a corner coordinate of a cube row");
+    return diagonal;
 }
 
 void expandcube(cubeslots& next, const cubediagonal& diagonal, const value& grade, const value& colour) {
@@ -214,15 +203,21 @@ void expandcube(cubeslots& next, const cubediagonal& diagonal, const value& grad
     next.quad += 10;
 }
 
-void readsinglecubes(textinput& in, int firstcube, int maxrows, cubeslots& next) {
+int readsinglecubes(textinput& in, const char* key, int firstcube, int maxrows, int group, int line) {
+    const int firstslot = 10 * firstcube + 1;
+    cubeslots next{firstslot, firstslot, line};
+    findkey(in, key);
     for (int c = firstcube; c < firstcube + maxrows; ++c) {
         const int label = readwholenumber(in, "the label of a cube row");
         const cubediagonal diagonal = readdiagonal(in);
         cubegrade.set(c, readvalue(in, "the grade of a cube row"));
         cubecolour.set(c, readvalue(in, "the colour of a cube row"));
-        if (label == sentinel) return;
+        if (label == sentinel) break;
         expandcube(next, diagonal, cubegrade[c], cubecolour[c]);
     }
+    linecount[group] = next.line - line;
+    ptcount[firstcube / 200 + 1] = next.point - firstslot;
+    return next.line;
 }
 
 }  // namespace tessaly

@@ -9,14 +9,15 @@
 
 namespace tessaly {
 
-// Reads "datah\" + datafile into the world tables, places it by placemode and plots it. If preopened is 1, the file is
-// already open on channel 1: reads it up to the end of its framing sections and returns.
+// Reads the file "datah\" + datafile into the world tables, places the element as placemode selects, and plots it. If
+// preopened is 1, the file is already open on channel 1; readelements then only reads it, up to the end of its framing
+// sections, and leaves it open.
 // reads: datafile, preopened, placemode, placex.., rotx, rotz; writes: the world tables, placex, placey, rotx, drawset;
-// draws on viewport; fails: file not found, file already open, input past end of file, overflow, subscript, type
-// mismatch, division by zero. A failure after the opening leaves channel 1 open.
+// draws on viewport; fails: file not found, file access error, file already open, input past end of file, overflow,
+// subscript, type mismatch, division by zero. If reading or placing fails, the file stays open.
 void readelements();
 
-// Move the points 1..100 from their base positions to placex, placey, placez and rotate them.
+// Rotate the base positions of the points 1..100 and shift them by placex, placey, placez.
 // reads: placex.., rotz or rotx; writes: ptx.., basex.., placex and placey (in world units afterwards).
 void rotzplace();   // rotates by rotz degrees about Z
 void rotxplace();   // rotates by rotx degrees about X; leaves radians in rotx
@@ -24,23 +25,23 @@ void shiftplace();  // does not rotate
 
 // ---- steps shared with the readers of axis-cube files ----
 
-// Clears the tables, opens datafile on channel 1 and reads it with readsections. If preopened is readernumber, the file
-// is open already. Returns whether it opened the file: the caller then places the element and calls plotshape. role:
-// what reports call the file.
+// Clears the tables and reads a file with readsections. If preopened is readernumber, the file is already open on
+// channel 1; otherwise readshape opens "datah\" + datafile. Returns whether it opened the file: the caller must then
+// place the element and call plotshape. role: the role of the file, for reports.
 bool readshape(int readernumber, const char* role, void (*readsections)(textinput& in));
 
 // Closes the file, sets drawset and plots.
-void plotshape(int blocks);
+void plotshape(int newdrawset);
 
-// Finishes a scene whose file the caller opened: runs its script, closes the file, loads the palette and plots.
-// writes: preopened, palette, viewprompt, plotstate, and everything plotgroups writes; draws on viewport; fails: as
-// readelements.
+// Finishes a scene whose file the caller opened: runs the file's script, closes the file, loads the palette and plots.
+// writes: preopened, palette, viewprompt, plotstate, and everything runtransforms and plotgroups write; draws on
+// viewport; fails: as readelements.
 void showscene();
 
-// Reads the section of the wire colours, which has one for each of the line groups from..to.
+// Reads the wire colours of the line groups from..to.
 void readwirecolours(textinput& in, int from, int to);
 
-// Indexes for the next cube.
+// The first point, quad and line of the next cube.
 struct cubeslots {
     int point, quad, line;
 };
@@ -49,11 +50,14 @@ struct cubeslots {
 using cubediagonal = std::array<value, 6>;
 cubediagonal readdiagonal(textinput& in);
 
-// Expands a cube into eight points, twelve lines and six faces; advances next by ten points and quads and twelve lines.
+// Expands a cube into eight points, twelve lines and six faces. Advances next by ten points, ten quads and twelve
+// lines.
 void expandcube(cubeslots& next, const cubediagonal& diagonal, const value& grade, const value& colour);
 
-// Reads rows of one cube each, up to the end row but at most maxrows, and expands them into the slots starting at next.
-// writes: cubegrade and cubecolour starting at firstcube, and everything expandcube writes; fails: as readelements.
-void readsinglecubes(textinput& in, int firstcube, int maxrows, cubeslots& next);
+// Reads a section with a row for each cube, at most maxrows, and expands the cubes. Their lines form a line group and
+// start at line; their points and quads start at ten times firstcube plus 1. Returns the first line after them. writes:
+// cubegrade and cubecolour starting at firstcube, linecount, ptcount, and everything expandcube writes; fails: as
+// readelements.
+int readsinglecubes(textinput& in, const char* key, int firstcube, int maxrows, int group, int line);
 
 }  // namespace tessaly

@@ -1,4 +1,4 @@
-// Sums and products are evaluated in the written order.
+// The order in which sums and products are evaluated affects the last digits and must not be changed.
 
 #include "data/pointtransforms.h"
 
@@ -18,7 +18,7 @@ void rotatepoints(double first, double last, axis about, double angle, const val
     if (first > last) return;  // without points the shift may contain texts
     const double c = cosineof(angle), s = sineof(angle);
     const double offset[] = {shift[xaxis], shift[yaxis], shift[zaxis]};
-    const std::size_t u = (about + 1) % 3, v = (about + 2) % 3;  // the other two axes; the rotation goes from u to v
+    const std::size_t u = (about + 1) % 3, v = (about + 2) % 3;  // a positive angle rotates axis u towards axis v
     foreachpoint(first, last, 1, [&](int i) {
         const double p[] = {basex[i], basey[i], basez[i]};
         double rotated[3];
@@ -36,7 +36,7 @@ void shiftpoints(double first, double last, int step) {
     });
 }
 
-void failpointrange(double first, double last) {
+void pointrangefailure(double first, double last) {
     throw failure(failurekind::subscript, "points " + plaintext(first) + ".." + plaintext(last) + ", points 0.." +
                                               std::to_string(lastpoint) + " were expected");
 }

@@ -1,4 +1,4 @@
-// Rotates points about an axis and moves them, starting from their base positions, for placements and scripts.
+// Rotating and shifting points, for placements and scripts. The new positions are computed from the base positions.
 #pragma once
 
 #include "core/world.h"
@@ -10,26 +10,27 @@ enum axis : std::size_t { xaxis, yaxis, zaxis };
 // Converts degrees to radians. Deliberately uses a truncated pi, which affects the coordinates.
 constexpr double radians(double degrees) { return degrees * 3.14159 / 180; }
 
-// Sets the position and the base position of point i.
+// Sets the working and the base coordinates of point i.
 void placepoint(int i, const value& x, const value& y, const value& z);
 
-// Rotates the base positions of the points first..last by an angle in radians about an axis, then adds shift (x, y, z).
-// The results are the new positions and base positions. fails: subscript, type mismatch.
+// Rotates the base coordinates of the points first..last by an angle in radians about an axis, then adds shift (x, y,
+// z). The results are the new working and base coordinates. fails: subscript, type mismatch.
 void rotatepoints(double first, double last, axis about, double angle, const value (&shift)[3]);
 
 // Shifts every step-th point of first..last by placex, placey, placez. fails: as rotatepoints.
 void shiftpoints(double first, double last, int step);
 
-[[noreturn]] void failpointrange(double first, double last);
+// Fails with subscript.
+[[noreturn]] void pointrangefailure(double first, double last);
 
-// Calls visit(i) for every step-th point from first to last; for none if first > last. Fails with subscript at the
+// Calls visit(i) for every step-th point from first to last, for no point if first > last. Fails with subscript at the
 // first point outside the tables.
 template <class procedure>
 void foreachpoint(double first, double last, int step, procedure visit) {
     if (first > last) return;
     const double end = nearestwhole(last);
     for (double i = nearestwhole(first); i <= end; i += step) {
-        if (i < 0 || i > lastpoint) failpointrange(first, last);
+        if (i < 0 || i > lastpoint) pointrangefailure(first, last);
         visit(static_cast<int>(i));
     }
 }

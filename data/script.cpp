@@ -1,5 +1,5 @@
-// Transformation scripts consist of blocks. Each begins with TRAN and a keyword, which selects the procedure applied to
-// each row.
+// A transformation script consists of blocks. Each block begins with TRAN and a keyword; the keyword selects the
+// procedure that is applied to each row.
 
 #include "data/script.h"
 
@@ -17,10 +17,7 @@ namespace tessaly {
 
 namespace {
 
-constexpr int maxrows = 7000, maxpairs = 10000;
-constexpr int maxfields = 6;
-
-// ---- one procedure per keyword; row holds the fields in file order ----
+// ---- the procedures of the keywords; row holds the fields in file order ----
 
 template <auto& working, auto& base>
 void setcoordinate(const value* row) {
@@ -61,14 +58,14 @@ void rotatetranslate(const value* row) {
     rotatepoints(row[0], row[1], about, angle, {placex, placey, placez});
 }
 
-// Makes `copies` passes over a range of points, ten indexes further each time. Pass k rotates by k * angle and shifts
-// along the axis by (startfactor + k) * k * rise.
+// Makes `copies` passes over a range of points, which starts ten indexes later in each pass. Pass k rotates by k *
+// angle about the axis and shifts along it by (startfactor + k) * k * rise.
 template <axis about>
 void wrap(const value* row) {
     const double first = row[0], last = row[1], angle = radians(row[2]), copies = row[3], startfactor = row[4],
                  rise = row[5];
     constexpr double maxpasses = 1e7;
-    // Without points the passes only add up the angle. Beyond maxpasses a product replaces the sum.
+    // Without points the passes only add up the angle. If there are too many, a product replaces the sum.
     if (first > last && copies > maxpasses) return storeangle(about, angle * std::floor(copies));
     double factor = startfactor, totalangle = 0, totalrise = 0;
     storeangle(about, totalangle);
@@ -83,43 +80,46 @@ void wrap(const value* row) {
     }
 }
 
-struct block {
+constexpr int maxfields = 6;
+struct blocktype {
     std::string_view keyword;
-    int fields, rows;
+    int fields, maxrows;
     void (*apply)(const value* row);
 };
 
-constexpr block blocks[] = {
+constexpr blocktype blocktypes[] = {
     // clang-format off
-    {"XTRANSFORMATIONS:",  2, maxpairs, setcoordinate<ptx, basex>},
-    {"YTRANSFORMATIONS:",  2, maxpairs, setcoordinate<pty, basey>},
-    {"ZTRANSFORMATIONS:",  2, maxpairs, setcoordinate<ptz, basez>},
-    {"RESIZE:",            5, maxrows,  resize},
-    {"XROTATETRANSLATE:",  6, maxrows,  rotatetranslate<xaxis>},
-    {"YROTATETRANSLATE:",  6, maxrows,  rotatetranslate<yaxis>},
-    {"ZROTATETRANSLATE:",  6, maxrows,  rotatetranslate<zaxis>},
-    {"TRANSLATE:",         5, maxrows,  translate<1>},
-    {"STEP10TRANSLATE:",   5, maxrows,  translate<10>},
-    {"ZWRAP:",             6, maxrows,  wrap<zaxis>},
-    {"XWRAP:",             6, maxrows,  wrap<xaxis>},
-    {"YWRAP:",             6, maxrows,  wrap<yaxis>},
+    // keyword       fields maxrows procedure
+    {"XTRANSFORMATIONS:",  2, 10000, setcoordinate<ptx, basex>},
+    {"YTRANSFORMATIONS:",  2, 10000, setcoordinate<pty, basey>},
+    {"ZTRANSFORMATIONS:",  2, 10000, setcoordinate<ptz, basez>},
+    {"RESIZE:",            5, 7000,  resize},
+    {"XROTATETRANSLATE:",  6, 7000,  rotatetranslate<xaxis>},
+    {"YROTATETRANSLATE:",  6, 7000,  rotatetranslate<yaxis>},
+    {"ZROTATETRANSLATE:",  6, 7000,  rotatetranslate<zaxis>},
+    {"TRANSLATE:",         5, 7000,  translate<1>},
+    {"STEP10TRANSLATE:",   5, 7000,  translate<10>},
+    {"ZWRAP:",             6, 7000,  wrap<zaxis>},
+    {"XWRAP:",             6, 7000,  wrap<xaxis>},
+    {"YWRAP:",             6, 7000,  wrap<yaxis>},
     // clang-format on
 };
 
-// Returns the block of a keyword. An unknown keyword is not an error: its rows are read as pairs of point and x.
-const block& blockof(std::string_view keyword) {
-    for (const block& b : blocks)
-        if (b.keyword == keyword) return b;
-    return blocks[0];
+// Returns the block type of a keyword. The rows of an unknown keyword are read as those of XTRANSFORMATIONS:. This is
+// intended.
+const blocktype& blocktypeof(std::string_view keyword) {
+    for (const blocktype& t : blocktypes)
+        if (t.keyword == keyword) return t;
+    return blocktypes[0];
 }
 
-void runblock(textinput& in, const block& b) {
-    for (int n = 1; n <= b.rows; ++n) {
+void runblock(textinput& in, const blocktype& type) {
+    for (int n = 1; n <= type.maxrows; ++n) {
         const fieldlocation start = skiptofield(in);
         value row[maxfields];
-        for (int f = 0; f < b.fields; ++f) row[f] = readvalue(in, "a field of a transformation row");
+        for (int f = 0; f < type.fields; ++f) row[f] = readvalue(in, "a field of a transformation row");
         if (endsrows(row[0])) return;
-        withrowlocation(in, start, b.keyword, [&] { b.apply(row); });
+        withrowlocation(in, start, type.keyword, [&] { type.apply(row); });
     }
 }
 
@@ -129,11 +129,11 @@ void runtransforms() {
     textinput& in = channelinput(1);
     std::string keyword;
     for (;;) {
-        // Each block needs a TRAN. If the keyword just read was TRAN, it introduces the next block.
+        // A keyword that is itself TRAN also introduces the next block.
         if (keyword != "TRAN") findkey(in, "TRAN");
         keyword = readtextfield(in, "the keyword after TRAN");
         if (keyword == "STOP") return;
-        runblock(in, blockof(keyword));
+        runblock(in, blocktypeof(keyword));
     }
 }
 

@@ -1,10 +1,10 @@
-// Transformation scripts: the last part of an element or cube file, which moves, scales and repeats its points.
+// Transformation scripts: the last part of an element or axis-cube file, which moves and scales the points.
 #pragma once
 
 namespace tessaly {
 
-// Runs the script of the file open on channel 1 up to its STOP. writes: ptx.., basex..; side effects on placex.., rotx
-// and rotz; fails: input past end of file, subscript, type mismatch, overflow.
+// Runs the script of the file open on channel 1 up to STOP and leaves the file open. writes: ptx.., basex.., placex..,
+// rotx, rotz; fails: input past end of file, subscript, type mismatch, overflow.
 void runtransforms();
 
 }  // namespace tessaly

@@ -25,7 +25,7 @@ void readdefaultview(textinput& in) {
     for (const viewvalue& v : viewvalues) v.number = readvalue(in, "a number of DEFAULTVIEW:");
 }
 
-// Stores the eye of a preset relative to its focus.
+// Reads a preset into viewpreset, starting at index first. Its eye is stored relative to its focus.
 void readpreset(textinput& in, const char* key, int first) {
     findkey(in, key);
     for (int i = 0; i < viewvaluecount; ++i) viewpreset.set(first + i, readvalue(in, "a number of a view preset"));
@@ -40,11 +40,7 @@ value readtextafter(textinput& in, const char* key) {
 void readstartfile() {
     textinput& in = openinput(1, "datah\\start.txt", "start file");
     readdefaultview(in);
-    int first = 1;
-    for (const char* key : presetkeys) {
-        readpreset(in, key, first);
-        first += viewvaluecount;
-    }
+    for (int preset = 0; const char* key : presetkeys) readpreset(in, key, 1 + viewvaluecount * preset++);
     palname = readtextafter(in, "DEFAULTPAL:");
     findkey(in, "BACKGROUNDCOLOR:");
     for (value* v : {&backred, &backgreen, &backblue}) *v = readvalue(in, "a component of BACKGROUNDCOLOR:");
@@ -54,7 +50,8 @@ void readstartfile() {
     in.close();
 }
 
-// Reads a start group with the reader selected by its prefix, and shows it. With any other prefix only its script runs.
+// Reads a start group with the reader that its prefix selects, and shows it. If the prefix selects no reader, only the
+// group's script runs.
 void showgroup(const value& name, int step) {
     struct reader {
         const char* prefix;
