@@ -2,8 +2,6 @@
 
 #include "view/quickviews.h"
 
-#include "core/viewvalues.h"
-
 #include <iterator>
 #include <string>
 #include <string_view>
@@ -14,7 +12,7 @@ namespace {
 
 constexpr quickview quickviews[] = {
     // clang-format off
-    // name               kind         figures          left  top
+    // name               kind         numbers          left  top
     {"perpx1800y0",       eyexy,    { 1800,     0},  4680, 8520},
     {"perpx1660y690",     eyexy,    { 1660,   690},  6480, 8280},
     {"perpx1270y1270",    eyexy,    { 1270,  1270},  7920, 7320},
@@ -55,36 +53,18 @@ constexpr std::string_view focuscopier = "perpx0ym1800";
 
 constexpr int buttonsize = 255;  // twips
 
-// What the buttons of a kind share: the view values that they write, colour and accessible name.
-struct kindrow {
-    viewvaluespan values;
-    colour back;
-    const char* accessiblename;
-};
-const kindrow kinds[] = {
-    // clang-format off
-    {eyevalues.first(2),   {192, 255, 192}, "Eye"},
-    {eyevalues.last(1),    {255, 192, 255}, "Eye"},
-    {focusvalues.first(2), {128, 128, 255}, "Focus"},
-    {focusvalues.last(1),  {255,   0,   0}, "Focus"},
-    // clang-format on
-};
-
-const kindrow& kindof(const quickview& q) { return kinds[q.kind]; }
-bool isheight(const quickview& q) { return kindof(q).values.size() == 1; }
-
 // Returns a name made of the numbers that the button writes: "Eye at X 1800, Y 0", "Focus at Z 850".
 std::string accessiblenameof(const quickview& q) {
     const std::string first = std::to_string(q.numbers[0]), second = std::to_string(q.numbers[1]);
-    return std::string(kindof(q).accessiblename) + " at " +
-           (isheight(q) ? "Z " + first : "X " + first + ", Y " + second);
+    return std::string(q.kind.accessiblename) + " at " +
+           (q.kind.values.size() == 1 ? "Z " + first : "X " + first + ", Y " + second);
 }
 
 void clickquickview(const quickview& q) {
     int i = 0;
-    for (const viewvalue& v : kindof(q).values) v.easyviewsbox->text = std::to_string(q.numbers[i++]);
+    for (const viewvalue& v : q.kind.values) v.easyviewsbox->text = std::to_string(q.numbers[i++]);
     if (q.name == focuscopier) focustxtx.text = efocusxbox.text;
-    for (const viewvalue& v : kindof(q).values) v.box.text = v.easyviewsbox->text;
+    for (const viewvalue& v : q.kind.values) v.box.text = v.easyviewsbox->text;
 }
 
 }  // namespace
@@ -105,7 +85,7 @@ void addquickviewbuttons() {
                     .name = q.name,
                     .bounds = {q.left, q.top, buttonsize, buttonsize},
                     .shown = true,
-                    .background = kindof(q).back,
+                    .background = q.kind.background,
                     .tooltip = accessiblenameof(q) + ": SET takes it (F5)",
                     .accessiblename = accessiblenameof(q),
                     .run = [&q] { clickquickview(q); }});

@@ -2,16 +2,26 @@
 // the focus. A click only writes numbers into boxes: the view changes at SET.
 #pragma once
 
+#include "core/viewvalues.h"
+
 #include <span>
 
 namespace tessaly {
 
-// The view values that a button writes: X and Y, or Z, of the eye or the focus.
-enum quickviewkind { eyexy, eyeheight, focusxy, focusheight };
+// What the buttons of a kind share.
+struct quickviewkind {
+    viewvaluespan values;  // those that a click writes
+    colour background;
+    const char* accessiblename;
+};
+inline constexpr quickviewkind eyexy{eyevalues.first(2), {192, 255, 192}, "Eye"};
+inline constexpr quickviewkind eyeheight{eyevalues.last(1), {255, 192, 255}, "Eye"};
+inline constexpr quickviewkind focusxy{focusvalues.first(2), {128, 128, 255}, "Focus"};
+inline constexpr quickviewkind focusheight{focusvalues.last(1), {255, 0, 0}, "Focus"};
 
 struct quickview {
     const char* name;  // of the button
-    quickviewkind kind;
+    const quickviewkind& kind;
     int numbers[2];  // model units, absolute: X and Y, or Z
     int left, top;   // twips on easyviews
 };

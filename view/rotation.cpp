@@ -56,7 +56,7 @@ void step(const side& s, double rotinc) {
 // Moves the eye along the current side by one step. If the limit of the side is reached before or after the step, goes
 // on with the next side. The loop ends because opposite sides cannot both be reached within one step.
 void walk(int side::*next) {
-    const double rotinc = pickedstep(rotincbox, usualwalk);
+    const double rotinc = pickedincrement(rotincbox, usualrotation);
     readeyeboxes();
     for (;;) {
         const side& s = currentside();
@@ -70,21 +70,16 @@ void walk(int side::*next) {
     }
 }
 
-void showleftarrow() {
-    show(rotleftbtn);
-    hide(rotrightbtn);
-}
-
-void showrightarrow() {
-    show(rotrightbtn);
-    hide(rotleftbtn);
+void showarrow(control& arrow, control& other) {
+    show(arrow);
+    hide(other);
 }
 
 }  // namespace
 
 void clickactivateleftbtn() {
     rotstage = 1;
-    showleftarrow();
+    showarrow(rotleftbtn, rotrightbtn);
     hide(activateleftbtn);
     show(rotincbtn);
     perpx = 1850;
@@ -100,12 +95,12 @@ void clickactivateleftbtn() {
 
 void clickrotleftbtn() {
     show(activaterightbtn);
-    showleftarrow();
+    showarrow(rotleftbtn, rotrightbtn);
     walk(&side::nextleft);
 }
 
 void clickrotrightbtn() {
-    showrightarrow();
+    showarrow(rotrightbtn, rotleftbtn);
     walk(&side::nextright);
 }
 
@@ -114,7 +109,7 @@ void clickactivaterightbtn() {
     if (rotboxy > -limit && rotboxx <= -limit) rotstage = 4;
     if (rotboxy >= limit && rotboxx > -limit) rotstage = 1;
     if (rotboxy < limit && rotboxx >= limit) rotstage = 2;
-    showrightarrow();
+    showarrow(rotrightbtn, rotleftbtn);
     show(reactivateleftbtn);
 }
 
@@ -123,7 +118,7 @@ void clickreactivateleftbtn() {
     if (rotboxx >= limit && rotboxy > -limit) rotstage = 4;
     if (rotboxx < limit && rotboxy >= limit) rotstage = 3;
     if (rotboxx <= -limit && rotboxy < limit) rotstage = 2;
-    showleftarrow();
+    showarrow(rotleftbtn, rotrightbtn);
 }
 
 }  // namespace tessaly

@@ -16,8 +16,8 @@ constexpr double magscale = 10;  // mag while displaying, divided by the number 
 
 // Moves the focus down or up. The eye is stored relative to the focus: it moves against the focus, so that its absolute
 // position is unchanged.
-void stepfocus(int sign, double by) {
-    focusinc = by;
+void stepfocus(int sign, double increment) {
+    focusinc = increment;
     focusz = focusz + sign * focusinc;
     focussign = sign;
     perpz = perpz - sign * focusinc;
@@ -30,8 +30,8 @@ void stepfocus(int sign, double by) {
 }
 
 // Moves the eye down or up.
-void stepperp(int sign, double by) {
-    focusstep = by;
+void stepperp(int sign, double increment) {
+    focusstep = increment;
     perpz = perpz + sign * focusstep;
     perprelz = perpz;
     settle();
@@ -40,8 +40,8 @@ void stepperp(int sign, double by) {
     copytoeasyviews(eyevalues[2]);
 }
 
-void stepmag(int sign, double by) {
-    maginc = by;
+void stepmag(int sign, double increment) {
+    maginc = increment;
     mag = mag + sign * (magscale * maginc);
     magshown = 0.1 * mag;
     settle();
@@ -57,8 +57,8 @@ double frontof(const value& shift) {
     return Val(front);
 }
 
-void stepshift(int sign, double by, const viewvalue& shift) {
-    shiftinc = by;
+void stepshift(int sign, double increment, const viewvalue& shift) {
+    shiftinc = increment;
     shift.number = frontof(shift.number) + sign * shiftinc;
     settle();
     replot();
@@ -69,25 +69,25 @@ void stepshift(int sign, double by, const viewvalue& shift) {
 struct steppair {
     control &down, &up, &list, &listbutton;
     double usual;  // step without a pick: model units, units of magtxt, viewport pixels
-    void (*step)(int sign, double by);
+    void (*step)(int sign, double increment);
 };
 const steppair pairs[] = {
     // clang-format off
     {vertfocusminusbtn, vertfocusplusbtn, incrementlist, incrementbtn, 50,        stepfocus},
     {vertperpminusbtn,  vertperpplusbtn,  incrementlist, incrementbtn, 100,       stepperp},
     {magminusbtn,       magplusbtn,       magincbox,     magincbtn,    0.001,     stepmag},
-    {vertdec,           vertinc,          incrementlist, incrementbtn, 50,        [](int sign, double by) { stepshift(sign, by, shiftvalues[0]); }},
-    {horizdec,          horizinc,         incrementlist, incrementbtn, 50,        [](int sign, double by) { stepshift(sign, by, shiftvalues[1]); }},
-    {rotleftbtn,        rotrightbtn,      rotincbox,     rotincbtn,    usualwalk, nullptr},  // the rotation has its own procedures
+    {vertdec,           vertinc,          incrementlist, incrementbtn, 50,        [](int sign, double increment) { stepshift(sign, increment, shiftvalues[0]); }},
+    {horizdec,          horizinc,         incrementlist, incrementbtn, 50,        [](int sign, double increment) { stepshift(sign, increment, shiftvalues[1]); }},
+    {rotleftbtn,        rotrightbtn,      rotincbox,     rotincbtn,    usualrotation, nullptr},  // the rotation has its own procedures
     // clang-format on
 };
 
 // Writes the step and the list where it was picked into the tooltips of the buttons.
 void notesteps() {
     for (const steppair& p : pairs) {
-        const bool picked = pickedstep(p.list, 0) != 0;
+        const bool picked = pickedincrement(p.list, 0) != 0;
         const std::string from = picked ? ", picked in \"" + p.listbutton.text + '"' : "";
-        p.down.tooltipsuffix = p.up.tooltipsuffix = " by " + boxtext(pickedstep(p.list, p.usual)) + from;
+        p.down.tooltipsuffix = p.up.tooltipsuffix = " by " + boxtext(pickedincrement(p.list, p.usual)) + from;
     }
 }
 
@@ -101,7 +101,7 @@ void preparesteps() {
 void clickstepbtn() {
     for (const steppair& p : pairs)
         if (usedcontrol == &p.down || usedcontrol == &p.up)
-            return p.step(usedcontrol == &p.up ? 1 : -1, pickedstep(p.list, p.usual));
+            return p.step(usedcontrol == &p.up ? 1 : -1, pickedincrement(p.list, p.usual));
 }
 
 void clicksteplistbtn() {
@@ -115,7 +115,7 @@ void picksteplist() {
     notesteps();
 }
 
-double pickedstep(const control& list, double usual) {
+double pickedincrement(const control& list, double usual) {
     const double step = Val(selectedtext(list));
     return step == 0 ? usual : step;
 }

@@ -6,7 +6,7 @@
 
 namespace tessaly {
 
-constexpr double usualwalk = 100;  // model units: step of the rotation arrows without a pick
+constexpr double usualrotation = 100;  // model units: step of the rotation arrows without a pick
 
 // Makes the ten buttons and the rotation arrows repeat while they are held, and writes their steps into their tooltips.
 void preparesteps();
@@ -23,6 +23,6 @@ void clicksteplistbtn();
 void picksteplist();
 
 // Returns the step picked in a list; usual if nothing or the blank item is selected.
-double pickedstep(const control& list, double usual);
+double pickedincrement(const control& list, double usual);
 
 }  // namespace tessaly

@@ -56,8 +56,8 @@ std::string unusablefolder() {
            ": start the program with ./run.sh in the folder of its sources, or with the installed command tessaly";
 }
 
-// Fills the lists of the main window and draws its opening scene, before the window is shown.
-void loadvistaplan() {
+void clickstartprogrambtn() {
+    hidewindow(startform);
     filllists();
     try {
         readfolders();
@@ -65,11 +65,6 @@ void loadvistaplan() {
         const std::string why = unusablefolder();
         throw failure(f.kind, f.detail, f.location, why.empty() ? f.remedy : why);
     }
-}
-
-void clickstartprogrambtn() {
-    hidewindow(startform);
-    loadvistaplan();
     showwindow(vistaplan);
 }
 
@@ -90,8 +85,6 @@ void clickdisplaycubebtn() {
     displaycube();
 }
 
-void clickfillscreen() { clearpicture(); }
-
 void clickexitbtn() {
     for (window* w : allwindows()) hidewindow(*w);
     programended = true;
@@ -108,7 +101,7 @@ struct handler {
 #define PICK(name) {&name, pick##name}
 const handler handlers[] = {
     // start, display, end
-    CLICK(startprogrambtn), CLICK(fillscreen), CLICK(groupbtn), CLICK(displaycubebtn), CLICK(exitbtn),
+    CLICK(startprogrambtn), {&fillscreen, clearpicture}, CLICK(groupbtn), CLICK(displaycubebtn), CLICK(exitbtn),
     // choice of elements
     {&orange1btn, clickpanelbtn}, {&orange2btn, clickpanelbtn}, {&orange3btn, clickpanelbtn},
     {&yellow1btn, clickpanelbtn}, {&yellow2btn, clickpanelbtn}, {&yellow3btn, clickpanelbtn},

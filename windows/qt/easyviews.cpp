@@ -44,10 +44,10 @@ void drawaxes(QPainter& painter) {
 }
 
 // Draws a scale to the right of the buttons of a kind: a line with a tick and a number for each of them.
-void drawscale(QPainter& painter, quickviewkind kind) {
+void drawscale(QPainter& painter, const quickviewkind& kind) {
     QPolygonF ticks;
     for (const quickview& q : allquickviews()) {
-        if (q.kind != kind) continue;
+        if (&q.kind != &kind) continue;
         ticks << middleof(q.name) + QPointF(17, 0);
         painter.drawLine(ticks.back() - QPointF(4, 0), ticks.back() + QPointF(4, 0));
         painter.drawText(ticks.back() + QPointF(10, 4), QString::number(q.numbers[0]));
