@@ -27,7 +27,7 @@ raster progress(progresswidth, progressheight);
 std::vector<const buttonposition*> positionsof(const char* kind) {
     std::vector<const buttonposition*> found;
     for (const buttonposition& p : allbuttonpositions())
-        if (std::string(p.family->record.kind) == kind) found.push_back(&p);
+        if (std::string(p.family->files.kind) == kind) found.push_back(&p);
     return found;
 }
 

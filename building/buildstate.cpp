@@ -18,13 +18,13 @@ void openlayout(window& layout) {
     showwindow(layout);
 }
 
-// Returns a number as a floor; 0 if it is not one.
+// Returns a number that is a floor, otherwise 0.
 int floorof(double number) {
     const bool isfloor = number >= lowestfloor && number <= highestfloor && number == std::floor(number);
     return isfloor ? static_cast<int>(number) : 0;
 }
 
-// Return the warning for the text of a box that readbuildstate reads; nullptr: no warning.
+// Return the warning for the text of a box; nullptr: no warning.
 const char* floorwarning(const std::string& text) {
     return floorof(Val(text)) != 0 ? nullptr : "no known floor, clicks build on the one before";
 }
@@ -57,16 +57,16 @@ void readbuildstate() {
     setfloor(floornum);
 }
 
-void setfloor(double number) {
-    const int known = floorof(number);
-    if (known == 0) return;
-    floorname = std::to_string(known);
-    placez = floorheight * (known - 1);
+void setfloor(double floornumber) {
+    const int number = floorof(floornumber);
+    if (number == 0) return;
+    floorname = std::to_string(number);
+    placez = floorheight * (number - 1);
 }
 
 value nextfloorname() {
-    const int known = floorof(Val(floor.text));
-    return known == 0 ? floorname : value(std::to_string(known));
+    const int number = floorof(Val(floor.text));
+    return number == 0 ? floorname : value(std::to_string(number));
 }
 
 const control* nextpanelbutton() {

@@ -8,29 +8,30 @@ namespace tessaly {
 
 struct control;
 
-// Reads record mode, draw mode and floor from their boxes. reads: writefilebox, wiresolid, floor;
-// writes: recordtext, recordmode, drawtext, drawmode, floornum, floorname, placez. A text that names no mode or floor
-// leaves that mode or floor unchanged.
+// Reads record mode, draw mode and floor from their boxes. If a box holds no known mode or floor, the mode or floor is
+// unchanged.
+// reads: writefilebox, wiresolid, floor; writes: recordtext, recordmode, drawtext, drawmode, floornum, floorname,
+// placez.
 void readbuildstate();
 
-// Sets floorname and placez for floor numbers 1..10; any other number leaves them unchanged.
-void setfloor(double number);
+// Sets floorname and placez for a floor number 1..10. For any other number they are unchanged.
+void setfloor(double floornumber);
 
-// Returns the floorname that the next click on a plan will set, according to the current text of the floor box.
+// Returns the floorname that the next click on a plan will use, according to the floor box.
 value nextfloorname();
 
-// Returns the button of the panel type that the next click on the panel layout places; nullptr before the first choice.
+// Returns the button of the panel type that the next click on the panel layout places, nullptr before the first choice.
 const control* nextpanelbutton();
 
-// Makes each box that readbuildstate reads show a warning if its text has no meaning or switches recording off.
+// Makes the boxes that readbuildstate reads warn of an unknown text. writefilebox also warns if recording is off.
 void setboxwarnings();
 
-// Open a layout window. reads: usedcontrol; clickpanelbtn, which all eight panel buttons run, writes panelprefix.
+// Open a layout window. clickpanelbtn, which all eight panel buttons run, also sets panelprefix. reads: usedcontrol.
 void clickpanelbtn();
 void clickpostbeambtn();
 void clickroofbtn();
 
-// Run by all three snip buttons: sets the text of panelsnipper. reads: usedcontrol.
+// Sets the text of panelsnipper; all three snip buttons run it. reads: usedcontrol.
 void clicksnipbtn();
 
 // Shows floorlist.
@@ -39,7 +40,8 @@ void clickfloorbtn();
 // Copies the picked floor to the floor box and hides the list.
 void pickfloorlist();
 
-// Switch their boxes between "solid" and "wireframe" and between "on" and "off"; any other text stays unchanged.
+// Switch wiresolid between "solid" and "wireframe", and writefilebox between "on" and "off". Any other text is
+// unchanged.
 void clickwiresolidbtn();
 void clickwritefilebtn();
 

@@ -1,4 +1,4 @@
-// Counts the records of each position.
+// Counts the records of each position of a plan in a design file.
 
 #include "building/builtelements.h"
 
@@ -37,8 +37,8 @@ int elementnumberof(const std::vector<value>& record, const window& plan) {
                y = fieldnumber(record[8]);
     for (const buttonposition& p : allbuttonpositions()) {
         const buttonfamily& f = *p.family;
-        if (f.layout == &plan && x == p.x && y == p.y && rotz == f.rotz && kind.is(f.record.kind) &&
-            (&f.record != &girderfiles || code == f.code))
+        if (f.layout == &plan && x == p.x && y == p.y && rotz == f.rotz && kind.is(f.files.kind) &&
+            (&f.files != &girderfiles || code == f.code))
             return p.number;
     }
     return 0;
@@ -57,7 +57,7 @@ void count(builtelements& built, const window& plan) {
 const fileclass& classof(const window& plan) {
     const auto families = allbuttonfamilies();
     return std::find_if(families.begin(), families.end(), [&](const buttonfamily& f) { return f.layout == &plan; })
-        ->record;
+        ->files;
 }
 
 // Size and time of a file, which a change of the file alters; both are zero if it does not exist.

@@ -1,5 +1,5 @@
-// The positions of a plan that are already built: those whose element is in the design file that a click would be
-// recorded in. Only the file decides; no table or scalar is changed.
+// Determines which positions of a plan are already built: those whose element is in the design file to which a click on
+// the plan would be recorded. No table or scalar is changed.
 #pragma once
 
 #include "core/controls.h"
@@ -18,14 +18,13 @@ struct builtelements {
     }
 };
 
-// Returns the built elements of the layout window's kind on the floor shown in the floor box. A position is identified
-// by kind, for girders also by code, and by fields 7, 8 and 9, compared as numbers. A file that cannot be read counts
-// as empty. The result is cached until the size or time of the file changes; the reference is valid until the next call
-// for this plan.
+// Returns the built elements of a layout window on the floor in the floor box. The kind of a record and its fields 7, 8
+// and 9 identify its position, for girders also field 5; numbers are compared, not texts. A file that cannot be read
+// counts as empty. The result is cached until the size or time of the file changes; the reference is valid until the
+// next call for this plan.
 const builtelements& builtelementsof(const window& plan);
 
-// Returns what the tooltip of a position button ends with: ", built 2 times in girders1.txt", or "" if its element is
-// not built.
+// Returns the end of a position button's tooltip: ", built 2 times in girders1.txt", or "" if its element is not built.
 std::string builtsuffix(const control& positionbutton, const builtelements& built);
 
 }  // namespace tessaly

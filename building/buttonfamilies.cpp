@@ -10,7 +10,7 @@ constexpr colour postred{128, 0, 0}, beamred{255, 128, 128}, panelorange{255, 19
 
 constexpr buttonfamily buttonfamilies[] = {
     // clang-format off
-//   prefix     layout         datafile       record       first cols rows   x0   y0 mode rotx rotz face code            dx    dy left   top pitch width height back         accessiblename
+//   prefix     layout         datafile       files        first cols rows   x0   y0 mode rotx rotz face code            dx    dy left   top pitch width height background   accessiblename
     {"postx",   &layoutgirder, "st-post.txt", girderfiles,    1,   6,   8,   0,  16,   2,  90,   0,   4, 41,             8,   -8, 480,  480, 1200,  255,   255, postred,     "Post"},
     {"beamx",   &layoutgirder, "st-beam.txt", girderfiles,   49,   6,   7,   0,  16,   3,   0,   0,   4, 42,             8,   88, 720,  480, 1200,  975,   255, beamred,     "Beam along Y"},
     {"vbeamx",  &layoutgirder, "st-beam.txt", girderfiles,   91,   5,   8,  16,  16,   4,   0, 270,   1, 43,            88,   -8, 480,  720, 1200,  255,   975, beamred,     "Beam along X"},
@@ -28,8 +28,8 @@ constexpr int countbuttons() {
     return count;
 }
 static_assert(countbuttons() == 329);
-static_assert(buttonfamilies[2].first + buttonfamilies[2].cols * buttonfamilies[2].rows - 1 == 130);
-static_assert(buttonfamilies[6].first + buttonfamilies[6].cols * buttonfamilies[6].rows - 1 == 164);
+static_assert(buttonfamilies[2].firstnumber + buttonfamilies[2].cols * buttonfamilies[2].rows - 1 == 130);
+static_assert(buttonfamilies[6].firstnumber + buttonfamilies[6].cols * buttonfamilies[6].rows - 1 == 164);
 
 }  // namespace
 

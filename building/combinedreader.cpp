@@ -1,5 +1,6 @@
-// The girder and panel file reader. It traps only the end of a design file; any other failure ends the program. It
-// never sets panelcode, so the painter's line density remains that of the last panel chosen or replayed singly.
+// The girder and panel file reader. A failure while it reads a design file ends that file; any other failure ends the
+// program. The reader does not set panelcode, so the painter's line density remains that of the last panel that was
+// chosen or replayed by the single file reader.
 
 #include "building/combinedreader.h"
 
@@ -13,7 +14,7 @@ namespace tessaly {
 
 namespace {
 
-// Clears the record tables before a design file is read.
+// Clears the element numbers and kinds of the record tables.
 void clearrecords() {
     for (int i = 1; i <= lastrecord; ++i) {
         for (auto* number : {&rdnumber, &rdroofnumber, &rdgirdernumber, &rdpanelnumber}) number->set(i, 0);
@@ -24,25 +25,25 @@ void clearrecords() {
 const std::vector<recordcolumn> designfilecolumns =
     designcolumns({nullptr, &rdnumber}, {&girdercode, &rdcode}, {nullptr, &rdtrailer});
 
-// Returns the twelve columns of the temporary files: first, the ten columns of a design record before its trailer,
+// Returns the twelve columns of the temporary files: first, the columns of a design record without its trailer, and
 // last.
-std::vector<recordcolumn> tempcolumns(recordcolumn first, recordcolumn last) {
+std::vector<recordcolumn> temporarycolumns(recordcolumn first, recordcolumn last) {
     std::vector<recordcolumn> all = designcolumns({&anynumber, &rdnumber}, {&anycode, &rdcode}, last);
     all.insert(all.begin(), first);
     return all;
 }
-const std::vector<recordcolumn> wirecolumns = tempcolumns({&placez, nullptr}, {nullptr, &rdtrailer});
-const std::vector<recordcolumn> solidcolumns = tempcolumns({}, {&placez, &rdplacez});
+const std::vector<recordcolumn> wirecolumns = temporarycolumns({&placez, nullptr}, {nullptr, &rdtrailer});
+const std::vector<recordcolumn> solidcolumns = temporarycolumns({}, {&placez, &rdplacez});
 
-// Format record i of the tables as a line of tempfile: the two columns around the fields of the design record without
-// its trailer differ.
+const recordcolumns columnswithouttrailer = recordcolumns(designfilecolumns).first(recordlength - 1);
+
+// Format record i of the tables as a line of tempfile.
 using lineformatter = std::string (*)(int i);
-const recordcolumns commoncolumns = recordcolumns(designfilecolumns).first(recordlength - 1);
-std::string wireline(int i) { return formatrecord(placez, commoncolumns, i, rdtrailer[i]); }
-std::string solidline(int i) { return formatrecord(i, commoncolumns, i, placez); }
+std::string wireline(int i) { return formatrecord(placez, columnswithouttrailer, i, rdtrailer[i]); }
+std::string solidline(int i) { return formatrecord(i, columnswithouttrailer, i, placez); }
 
-// Reads a design file into the record tables, adds its number of records to combinedcount and its records to tempfile.
-// Writes its name to filename.
+// Reads a design file into the record tables and appends its records to tempfile. Adds their number to combinedcount,
+// and stores the name of the file in filename.
 void addfile(const replayfile& file, value& filename, lineformatter line) {
     filename = file.name;
     clearrecords();
@@ -78,7 +79,7 @@ void pickfirst(control& list, control& secondlist, lineformatter line) {
 }
 
 // Hides the second list and its prompts, and returns the file picked in it.
-replayfile leavesecond(control& list) {
+replayfile acceptsecondfile(control& list) {
     hide(selectedbox);
     hide(list);
     hide(selectpanelfile);
@@ -86,20 +87,18 @@ replayfile leavesecond(control& list) {
     return pickedfile(list);
 }
 
-int recordsofboth() { return indexof(combinedcount, "combinedcount", 2 * lastrecord); }
-
-// Draws the records of tempfile as a wireframe, those of the first file first.
+// Draws the first combinedcount records of tempfile as a wireframe.
 void replaycombined() {
-    readtemporary(tempfile, recordsofboth(), wirecolumns,
+    readtemporary(tempfile, static_cast<int>(combinedcount), wirecolumns,
                   [](int, const auto&, const textinput& in, fieldlocation record) {
                       loadrecordelement(elementkind, anycode, in, record);
                   });
     deletetemporary(tempfile);
 }
 
-// Paints the records of both files in tempfile, farthest first. fails: subscript for record 1001.
+// Paints the first combinedcount records of tempfile, farthest first. Fails with subscript at record 1001.
 void replaycombinedsolid() {
-    const int n = recordsofboth();
+    const int n = static_cast<int>(combinedcount);
     readtemporary(tempfile, n, solidcolumns, [](int k, const std::vector<value>& fields, const auto&, auto) {
         storerecord(k, solidcolumns, fields);
     });
@@ -118,12 +117,12 @@ void pickautofile1() { pickfirst(autofile1, autofile2, wireline); }
 void pickautofile3() { pickfirst(autofile3, autofile4, solidline); }
 
 void pickautofile2() {
-    addfile(leavesecond(autofile2), secondfilename, wireline);
+    addfile(acceptsecondfile(autofile2), secondfilename, wireline);
     replaycombined();
 }
 
 void pickautofile4() {
-    addfile(leavesecond(autofile4), secondfilename, solidline);
+    addfile(acceptsecondfile(autofile4), secondfilename, solidline);
     replaycombinedsolid();
 }
 

@@ -1,36 +1,40 @@
-// The girder and panel file reader: replays two design files, picked one after the other, as one, over the picture: as
-// a wireframe, or solid with the elements of both files sorted together. Each record has the height of its floor
-// and its kind of element, so any two files can be combined. Design files are never written.
+// The girder and panel file reader. It replays two design files, which are picked one after the other, over the
+// picture: as a wireframe, or solid with the elements of both files sorted together. Each line of its temporary file
+// holds the kind of the element and the height of its floor, so any two design files can be combined. The reader does
+// not change design files.
 #pragma once
 
 #include "building/designfiles.h"
 
 namespace tessaly {
 
-// Refresh and show the first list, autofile1 or autofile3, with its prompt, the hint and the button that closes it.
+// Refresh and show the first list (autofile1 for wires, autofile3 for solid) with its prompt, the hint and the button
+// that closes it.
 void clickautowirebtn();
 void clickautosolidbtn();
 
-// Append at most 1000 records of the first file to tempfile, in the form for wires or for solid, and show the second
-// list. writes: firstfilename, combinedcount, floorname, floornum, placez, placement, record tables; fails: file not
-// found, file already open, file access error, type mismatch (a name without class or floor).
+// Append at most 1000 records of the picked file to tempfile and show the second list. The fields of the lines differ
+// between wires (pickautofile1) and solid (pickautofile3). writes: firstfilename, combinedcount, floorname, floornum,
+// placez, the placement, the record tables; fails: file not found, file already open, file access error, type mismatch
+// (a name without class or floor).
 void pickautofile1();
 void pickautofile3();
 
-// Appends the records of the second file to tempfile and draws all records of tempfile, in its order, as a wireframe.
-// writes: as the first, secondfilename, the world tables; draws on viewport; fails: as the first pick and readelements;
-// tempfile then stays.
+// Appends the records of the second file to tempfile and draws the first combinedcount records of tempfile as a
+// wireframe. writes: as the first pick, secondfilename, the world tables; draws on viewport; fails: as the first pick
+// and readelements; tempfile then remains.
 void pickautofile2();
 
-// Paints all records of both files, farthest first. They must not be more than 1000: one more fails with subscript out
-// of range. writes: as pickautofile2, quaddist, perpx.. (absolute until the next plotgroups);
-// draws on viewport and progressbar; fails: as pickautofile2, paintsolids; the temporary files then stay.
+// Appends the records of the second file to tempfile and paints the first combinedcount records of tempfile, farthest
+// first. More than 1000 records fail with subscript. writes: as pickautofile2, quaddist, perpx.. (absolute until the
+// next plotgroups); draws on viewport and progressbar; fails: as pickautofile2 and paintsolids; the temporary files
+// then remain.
 void pickautofile4();
 
-// Replays two files solid as the two picks do, and leaves the lists and prompts alone.
+// Replays two files solid, as the two picks do, without changing the lists and prompts.
 void replaypairsolid(const replayfile& first, const replayfile& second);
 
-// Whether a first file was picked and the second one is to be picked.
+// Returns whether a first file has been picked and the list for the second file is shown.
 bool awaitssecondfile();
 
 }  // namespace tessaly

@@ -1,4 +1,5 @@
-// Writes design records, and restores from codes and names the values that the click had set.
+// Writes design records. Also restores the values that a click had set, from the codes of records and the names of
+// files.
 
 #include "building/designfiles.h"
 
@@ -15,7 +16,7 @@ namespace {
 
 constexpr int recordtrailer = 64;
 
-// Returns the code as a number; 0, which no element has, for a text, even if it looks like a number.
+// Returns a code as a number. For a text, even one that looks like a number, returns 0, which no girder or panel has.
 double codenumber(const value& code) { return code.isnumber() ? double(code) : 0; }
 
 void setpanelfile(double code) {
@@ -41,7 +42,7 @@ std::string recordfile(const fileclass& files, const value& onfloor) {
 void elementfileforcode(const value& kind, const value& code) {
     const double number = codenumber(code);
     for (const buttonfamily& f : allbuttonfamilies()) {
-        if (!kind.is(f.record.kind) || (&f.record == &girderfiles && f.code != number)) continue;
+        if (!kind.is(f.files.kind) || (&f.files == &girderfiles && f.code != number)) continue;
         placemode = f.mode;
         if (*f.datafile) datafile = f.datafile;
     }
@@ -49,7 +50,7 @@ void elementfileforcode(const value& kind, const value& code) {
 }
 
 void elementfilefailure(const value& kind, const value& code, const textinput& in, fieldlocation record) {
-    constexpr int codefield = 4;  // after the record's first, its kind
+    constexpr int codefield = 4;  // fields from the kind to the code
     const bool girder = kind.is("girder"), known = girder || kind.is("panel");
     const value& wrong = known ? code : kind;
     if (known) record.field += codefield;

@@ -1,4 +1,4 @@
-// Design files: how a building is stored, one record of eleven fields per click, in the order of the clicks.
+// Design files, in which a building is stored: a record of eleven fields per click, in the order of the clicks.
 #pragma once
 
 #include "core/elementtypes.h"
@@ -11,19 +11,21 @@ namespace tessaly {
 // Returns "designs\" and the name.
 std::string designpath(const value& name);
 
-// Appends the record of a click to the design file of its class and floor, on channel 1. number, x, y, code: constants
-// of the clicked button. reads: elementkind, rotx, rotz, placex, placey, facecode, floorname; fails: file already open,
+// Appends the record of a click to the design file of its class and floor, on channel 1. number, x, y: constants of the
+// clicked button. reads: elementkind, rotx, rotz, placex, placey, facecode, floorname; fails: file already open,
 // file access error, file not found (the folder is missing).
 void recordelement(const fileclass& files, int number, int x, int y, const value& code);
 
 // Returns the bare name of the file in which a click on a floor records an element of a class.
 std::string recordfile(const fileclass& files, const value& onfloor);
 
-// Sets placemode and datafile from the kind and the code of a record. A kind other than "girder", "panel" and "roof"
-// changes neither; a code that is not in the tables leaves a panel's datafile and both values of a girder unchanged.
+// Sets placemode and datafile from the kind and the code of a record. For a kind other than "girder", "panel" and
+// "roof", and for a girder with an unknown code, both are unchanged. For a panel with an unknown code, only datafile is
+// unchanged.
 void elementfileforcode(const value& kind, const value& code);
 
-// Fails with invalid call: a record's kind and code determine no element file. record: its location in the file.
+// Fails with invalid call because the kind and code of a record select no element file. record: its location in the
+// file.
 [[noreturn]] void elementfilefailure(const value& kind, const value& code, const textinput& in, fieldlocation record);
 
 // Returns the floor digit in a design file's name, 0 for floor 10: the eighth character of a name that starts with
@@ -31,7 +33,7 @@ void elementfileforcode(const value& kind, const value& code);
 // name starts with other letters or that character is not a digit.
 int floordigit(const std::string& name);
 
-// A design file to replay. Its digit is that of its name, except for three files of wholebuilding.
+// A design file to replay. Its digit is that of its name, except for the files of floor 10 in wholebuilding.
 struct replayfile {
     std::string name;
     int digit;  // of its floor, 0 for floor 10; -1: none

@@ -1,5 +1,5 @@
-// The list of design files, in which a picked file can be deleted, and the button that closes the lists that the file
-// readers show first.
+// The list of design files, in which a picked file can be deleted. Also the button that closes the file lists of the
+// readers.
 #pragma once
 
 namespace tessaly {
@@ -13,11 +13,11 @@ void pickdesignfileslist();
 // Hides the list and its buttons.
 void clickclosefilelistbtn();
 
-// Deletes the picked design file at once and closes the list. writes: firstfilename, which the painter reads; fails:
-// file not found, file access error.
+// Deletes the picked design file without asking and closes the list. writes: firstfilename, which the painter reads;
+// fails: file not found, file access error.
 void clickkillfilebtn();
 
-// Hides the lists that both file readers show first, their prompts and the button itself.
+// Hides the lists in which both readers have a first file picked, their prompts and the button itself.
 void clickescapefilelistbtn();
 
 }  // namespace tessaly

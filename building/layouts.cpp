@@ -11,9 +11,9 @@ namespace tessaly {
 
 namespace {
 
-// One position breaks the rule of its family: panel 155 is recorded with Y 784, but is at 1168. This changes its order
-// in a solid replay and nothing else. It is intended.
-constexpr int oddpanel = 155, oddpanely = 784;
+// Panel 155 is recorded with Y 784 although it is at Y 1168. This affects only its order in a solid replay. It is
+// intended.
+constexpr int exceptionalpanel = 155, itsrecordedy = 784;
 
 std::vector<buttonposition> computebuttonpositions() {
     std::vector<buttonposition> all;
@@ -21,16 +21,16 @@ std::vector<buttonposition> computebuttonpositions() {
         for (int i = 0; i < f.cols; ++i)
             for (int j = 0; j < f.rows; ++j) {
                 const int x = f.x0 + layoutbay * i, y = f.y0 + layoutbay * j;
-                buttonposition p{&f, f.first + f.rows * i + j, x, y, x + f.dx, y + f.dy};
-                if (f.layout == &layoutpanels && p.number == oddpanel) p.middley = oddpanely;
+                buttonposition p{&f, f.firstnumber + f.rows * i + j, x, y, x + f.dx, y + f.dy};
+                if (f.layout == &layoutpanels && p.number == exceptionalpanel) p.middley = itsrecordedy;
                 all.push_back(p);
             }
     return all;
 }
 
 // Sets datafile and panelcode from panelprefix and the snip box, and resets the box to "Full panel". If the box holds
-// another text or no panel type is chosen, panelcode is unchanged: the record then names a different element from the
-// one drawn.
+// an unknown text, or no panel type has been chosen, panelcode is unchanged: the recorded code then does not match the
+// element drawn. This is intended.
 void choosepanelfile() {
     const value text = panelsnipper.text, prefix = panelprefix;
     panelsnipper.text = sniptypes[0].text;
@@ -46,7 +46,7 @@ void choosepanelfile() {
 void setplacement(const buttonposition& p) {
     const buttonfamily& f = *p.family;
     if (*f.datafile) datafile = f.datafile;
-    elementkind = f.record.kind;
+    elementkind = f.files.kind;
     rotx = f.rotx;
     rotz = f.rotz;
     placemode = f.mode;
@@ -77,7 +77,7 @@ void addlayoutbuttons() {
                     .name = positionname(p),
                     .bounds = {f.left0 + f.pitch * j, f.top0 + f.pitch * i, f.width, f.height},
                     .shown = true,
-                    .background = f.back,
+                    .background = f.background,
                     .tooltip = positionname(p) + element,
                     .accessiblename = std::string(f.accessiblename) + " at X " + std::to_string(p.x) + ", Y " +
                                       std::to_string(p.y) + element,
@@ -92,7 +92,7 @@ void clickposition(const buttonposition& p) {
     if (panel) choosepanelfile();
     readbuildstate();
     setplacement(p);
-    if (recordmode != 0) recordelement(f.record, p.number, p.middlex, p.middley, panel ? panelcode : value(f.code));
+    if (recordmode != 0) recordelement(f.files, p.number, p.middlex, p.middley, panel ? panelcode : value(f.code));
     readelements();
     if (!panel) rotx = 0;
     if (drawmode == 2) paintsolids();

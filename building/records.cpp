@@ -41,8 +41,8 @@ std::string formatrecord(const value& first, recordcolumns columns, const value&
 std::vector<value> readrecord(textinput& in, recordcolumns columns) {
     std::vector<value> fields;
     for (const recordcolumn& c : columns) {
-        const bool online = fields.empty() || in.nextlocation.field > 1;
-        const char* const what = online ? "a field of a design record" : "is there an empty line above?";
+        const bool sameline = fields.empty() || in.nextlocation.field > 1;
+        const char* const what = sameline ? "a field of a design record" : "is there an empty line above?";
         fields.push_back(c.text ? value(readrecordtext(in, what)) : readrecordfield(in, what));
         if (c.scalar) *c.scalar = fields.back();
     }

@@ -1,5 +1,5 @@
-// Records: the lines of design files and of the temporary files of a replay, and the only list of the columns of a
-// design record. The readers differ only in the columns that they pass.
+// Records: the lines of design files and of the temporary files of a replay. The columns of a design record are listed
+// only here; a reader passes the columns that it needs.
 #pragma once
 
 #include "core/textfiles.h"
@@ -12,25 +12,25 @@
 namespace tessaly {
 
 struct recordcolumn {
-    value* scalar = nullptr;                     // receives each field that is read; nullptr: none
-    table<value, lastrecord>* stored = nullptr;  // fields of all records, indexed by record; nullptr: not stored
-    bool text = false;                           // all fields are texts, even if they look like numbers
+    value* scalar = nullptr;                     // set to each field that is read; nullptr: none
+    table<value, lastrecord>* stored = nullptr;  // the fields of all records, indexed by record; nullptr: not stored
+    bool text = false;                           // fields are read as texts, even if they look like numbers
 };
 using recordcolumns = std::span<const recordcolumn>;
 
 constexpr int recordlength = 11;  // fields of a design record
 
-// Returns the eleven columns of a design record; the caller gives the three in which the readers differ.
+// Returns the columns of a design record. The caller gives the three columns in which the readers differ.
 std::vector<recordcolumn> designcolumns(recordcolumn number, recordcolumn code, recordcolumn trailer);
 
-// Formats fields as a line: texts in double quotes, numbers as they are, separated by commas, ending in CR LF.
+// Formats fields as a line: texts in double quotes, numbers without, separated by commas, ending in CR LF.
 std::string recordline(const std::vector<value>& fields);
 
-// Formats a line: first, the fields of record r in the tables of these columns, and last.
+// Formats a line that consists of first, the stored fields of record r in these columns, and last.
 std::string formatrecord(const value& first, recordcolumns columns, const value& r, const value& last);
 
-// Reads a record, each field into the scalar of its column, and returns the fields. If the record is cut short, the
-// scalars of the fields already read stay set. fails: input past end of file, overflow.
+// Reads a record and returns its fields. Also stores each field in the scalar of its column. If the file ends within
+// the record, the scalars of the fields before stay set. fails: input past end of file, overflow.
 std::vector<value> readrecord(textinput& in, recordcolumns columns);
 
 // Stores the fields of record i in the tables of its columns.

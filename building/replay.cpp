@@ -1,4 +1,4 @@
-// Steps shared by the file readers.
+// Steps shared by the file readers, and the progress strip of the solid replays.
 
 #include "building/replay.h"
 
@@ -17,8 +17,8 @@ namespace {
 
 constexpr double minsorteddistance = 1;  // model units; only records farther away are sorted
 
-// The progress strip, in its own pixels, y pointing down: rows from x 1 to x 17. stripbottom is one below the lowest
-// row.
+// The progress strip, in its pixels, y pointing down. Its rows are lines from x 1 to x 17; stripbottom is the row below
+// the lowest.
 constexpr float stripleft = 1, stripright = 17;
 constexpr int stripbottom = 701, striprows = 701, rowsperrecord = 4;
 constexpr colour lengthcolour{200, 200, 200}, stripcolour{100, 100, 100}, donecolour{250, 50, 50};
@@ -33,7 +33,7 @@ void drawstriprows(int count, colour c) {
     for (int row = stripbottom - 1; row >= stripbottom - count; --row) drawstriprow(row, c);
 }
 
-// Shows the strip for n records: dark, with four light rows per record and four more from the bottom up.
+// Shows the strip for n records: dark, with four light rows per record and four more at the bottom.
 void drawprogress(int n) {
     show(progressbar);
     drawstriprows(striprows, stripcolour);
@@ -41,14 +41,14 @@ void drawprogress(int n) {
     progresssurface->flush();
 }
 
-// Draws the red row of the k-th record, four rows above the one before. Rows above the strip are not visible.
+// Draws the red row of record k, four rows above that of the record before. Rows above the strip are not visible.
 void stepprogress(int k) {
     drawstriprow(stripbottom - rowsperrecord * k, donecolour);
     progresssurface->flush();
 }
 
-// Makes the eye absolute. Only the next plotgroups makes it relative again: after a replay without records the next
-// view step starts from the absolute eye.
+// Makes the eye absolute. The next plotgroups makes it relative again; after a replay without records, a view step
+// therefore starts from the absolute eye.
 void makeeyeabsolute() {
     perpx = perpx + focusx;
     perpy = perpy + focusy;
@@ -66,8 +66,8 @@ void shiftandmeasurerecords(int n) {
     }
 }
 
-// Sorts the records farthest first: rdorder[1..n] by quaddist, records of equal distance in the order of the file. Sets
-// quaddist of a sorted record to 0.
+// Sorts the records by quaddist into rdorder[1..n], farthest first, records of equal distance in their old order. Sets
+// quaddist of each sorted record to 0.
 void sortrecords(const table<value, lastrecord>& numbers, int n) {
     for (int slot = 1; slot <= n; ++slot) {
         double farthest = minsorteddistance;

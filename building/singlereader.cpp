@@ -1,5 +1,5 @@
-// The single file reader. The name of a file determines its class, and the class determines the meaning of a record's
-// code. Only the solid painter uses the kind in the record.
+// The single file reader. The name of a file determines its class. The class, not the kind in the record, determines
+// the meaning of a record's code; only the solid painter uses that kind.
 
 #include "building/singlereader.h"
 
@@ -32,8 +32,8 @@ replayfile acceptfile(control& list) {
     return pickedfile(list);
 }
 
-// Sets secondfilename and the floor from a file, and returns its class.
-const fileclass& setfile(const replayfile& file) {
+// Sets secondfilename and the floor from a file. Returns the class of the file.
+const fileclass& setsecondfile(const replayfile& file) {
     secondfilename = file.name;
     return floorfromname(file);
 }
@@ -45,7 +45,7 @@ void clickautowiresingle() { showlist(autofile); }
 void clickautosolidsingle() { showlist(autofile5); }
 
 void pickautofile() {
-    const fileclass& c = setfile(acceptfile(autofile));
+    const fileclass& c = setsecondfile(acceptfile(autofile));
     const std::vector<recordcolumn> columns = columnsof(c);
     textinput& in = openinput(2, designpath(secondfilename), "design file");
     repeatuntilfailure(maxwirerecords, [&](int) {
@@ -59,11 +59,12 @@ void pickautofile() {
 void pickautofile5() { replaysolid(acceptfile(autofile5)); }
 
 void replaysolid(const replayfile& file) {
-    const fileclass& c = setfile(file);
+    const fileclass& c = setsecondfile(file);
     for (int i = 1; i <= lastrecord; ++i) c.numbers.set(i, 0);
     std::vector<recordcolumn> columns = columnsof(c);
     const std::vector<recordorigin> records = loaddesignfile(2, secondfilename, columns);
-    columns.front() = {};  // in the temporary file the place in the order replaces the kind
+    // In the temporary file the place in the order replaces the kind. Roofs too have a trailer, left by another file.
+    columns.front() = {};
     columns.back().stored = &rdtrailer;
     paintsorted(tempfile, static_cast<int>(records.size()), columns, c.numbers, c.kind, c.code, records);
 }

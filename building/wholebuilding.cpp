@@ -1,4 +1,4 @@
-// The list of replays, and its execution.
+// Lists the replays of the whole building and carries them out.
 
 #include "building/wholebuilding.h"
 
@@ -19,23 +19,24 @@ namespace {
 constexpr int topfloor = 10;
 using rankedfiles = std::vector<countedfile>;  // files of one class and floor, in the order of their names
 
-// Returns a file with the digit of its floor. A file that clicks on floor 10 wrote belongs to floor 10 here; the
-// readers take it for floor 1 when it is picked.
-replayfile withfloor(const std::string& name) {
+// Returns a file with the digit of its floor. The files that clicks on floor 10 write, such as "girders10.txt", belong
+// to floor 10 here, although a reader in which they are picked draws them on floor 1.
+replayfile replayfileof(const std::string& name) {
     const fileclass* const found = classofname(name);
     if (found && name == recordfile(*found, topfloor)) return {name, 0};
     return {name, floordigit(name)};
 }
 
-rankedfiles filesof(const std::vector<countedfile>& files, const fileclass& wanted, int floornumber) {
+// Selects the files of a class and floor that have records.
+rankedfiles filesonfloor(const std::vector<countedfile>& sorted, const fileclass& wanted, int floornumber) {
     rankedfiles found;
-    for (const countedfile& f : files)
-        if (f.records > 0 && classofname(f.name) == &wanted && withfloor(f.name).digit == floornumber % topfloor)
+    for (const countedfile& f : sorted)
+        if (f.records > 0 && classofname(f.name) == &wanted && replayfileof(f.name).digit == floornumber % topfloor)
             found.push_back(f);
     return found;
 }
 
-// Reads all files of designs\; changes neither tables nor scalars.
+// Counts the records of all files in designs\ whose names have a floor digit. Changes no table or scalar.
 std::vector<countedfile> countfiles() {
     std::vector<countedfile> files;
     for (const std::string& name : filesin("designs\\"))
@@ -43,7 +44,7 @@ std::vector<countedfile> countfiles() {
     return files;
 }
 
-// What an interrupted replay left would be replayed in place of the last records.
+// Deletes the temporary files of an interrupted replay. Otherwise their records would be replayed instead of others.
 void deletetemporaryfiles() {
     for (temporaryfile* file : {&tempfile, &sortedtempfile}) {
         std::error_code ignored;
@@ -57,8 +58,8 @@ std::vector<replaystep> replaysteps(std::vector<countedfile> files) {
     std::sort(files.begin(), files.end(), [](const auto& a, const auto& b) { return a.name < b.name; });
     std::vector<replaystep> steps;
     for (int floornumber = 1; floornumber <= topfloor; ++floornumber) {
-        const rankedfiles girders = filesof(files, girderfiles, floornumber),
-                          panels = filesof(files, panelfiles, floornumber);
+        const rankedfiles girders = filesonfloor(files, girderfiles, floornumber),
+                          panels = filesonfloor(files, panelfiles, floornumber);
         for (std::size_t rank = 0; rank < std::max(girders.size(), panels.size()); ++rank) {
             const bool girder = rank < girders.size(), panel = rank < panels.size();
             if (girder && panel && girders[rank].records + panels[rank].records <= lastrecord) {
@@ -68,7 +69,7 @@ std::vector<replaystep> replaysteps(std::vector<countedfile> files) {
             if (girder) steps.push_back({girders[rank].name, ""});
             if (panel) steps.push_back({panels[rank].name, ""});
         }
-        for (const countedfile& roofs : filesof(files, rooffiles, floornumber)) steps.push_back({roofs.name, ""});
+        for (const countedfile& roofs : filesonfloor(files, rooffiles, floornumber)) steps.push_back({roofs.name, ""});
     }
     return steps;
 }
@@ -81,9 +82,9 @@ void drawwholebuilding() {
     deletetemporaryfiles();
     for (const replaystep& step : steps)
         if (step.second.empty())
-            replaysolid(withfloor(step.first));
+            replaysolid(replayfileof(step.first));
         else
-            replaypairsolid(withfloor(step.first), withfloor(step.second));
+            replaypairsolid(replayfileof(step.first), replayfileof(step.second));
 }
 
 }  // namespace tessaly

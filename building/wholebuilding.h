@@ -1,6 +1,6 @@
-// The whole building by one key: all design files replayed solid from the present view, floor after floor. The list of
-// replays is made first, from the names of the files and their numbers of records alone, and then carried out by the
-// readers' own procedures.
+// The key F6 draws the whole building: it replays all design files solid in the current view, floor after floor. First
+// it lists the replays, using only the names of the files and their numbers of records. Then the procedures of the two
+// readers carry them out.
 #pragma once
 
 #include <string>
@@ -8,27 +8,30 @@
 
 namespace tessaly {
 
-// A design file and the number of its complete records, at most 1000: a solid replay draws no more of a file.
+// A design file and the number of its complete records, at most 1000, because a solid replay draws no more of a file.
 struct countedfile {
     std::string name;
     int records;
 };
 
-// A replay of one file by the single file reader (second is empty), or of two by the girder and panel file reader.
+// A replay of one file with the single file reader (second is empty), or of two files with the girder and panel file
+// reader.
 struct replaystep {
     std::string first, second;
     bool operator==(const replaystep&) const = default;
 };
 
-// The replays that draw the whole building. The floors are in the order 1 to 10. On each floor the girder and panel
-// files, each in the order of their names, go in pairs by rank, one without a partner alone; a pair of more than 1000
-// records becomes two single replays, the girders first. The roof files of the floor follow. Files without a complete
-// record and names that the readers refuse are left out.
+// Returns the replays that draw the whole building, floor 1 first. On each floor, the girder files and the panel files
+// are sorted by name. The first girder file is replayed together with the first panel file, and so on; a file without a
+// partner is replayed alone. If a pair has more than 1000 records, it is replayed as two single files, the girders
+// first. The roof files of the floor follow. Files without a complete record and files without a floor digit are left
+// out.
 std::vector<replaystep> replaysteps(std::vector<countedfile> files);
 
-// F6. Clears the picture, deletes the temporary files of an interrupted replay and replays all files of designs\ solid.
-// Controls other than the view's stay as they are. Does nothing if there is nothing to replay or the reader for two
-// files waits for its second file. writes, fails: as pickautofile5 and pickautofile4; also if a file cannot be read.
+// Clears the picture, deletes the temporary files of an interrupted replay and replays all files of designs\ solid.
+// Does nothing if there is nothing to replay or if the girder and panel file reader is waiting for its second file.
+// writes: as pickautofile5 and pickautofile4, but no control except the boxes of the view; draws on viewport; fails: as
+// they do, and if a file cannot be read.
 void drawwholebuilding();
 
 }  // namespace tessaly

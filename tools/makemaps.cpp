@@ -116,14 +116,16 @@ void drawlegend(QPainter& p, const window& w) {
     for (const buttonfamily& f : allbuttonfamilies()) {
         if (f.layout != &w) continue;
         p.setPen(QPen(Qt::black, 1));
-        p.setBrush(shade(f.back));
+        p.setBrush(shade(f.background));
         p.drawRect(QRectF(planleft, y, f.width >= f.height ? 44 : 18, f.height >= f.width ? 30 : 18));
         p.setPen(Qt::black);
         p.setFont(font(21));
-        const int last = f.first + f.cols * f.rows - 1;
-        p.drawText(
-            QRectF(planleft + 64, y - 4, 1400, 34), Qt::AlignLeft | Qt::AlignVCenter,
-            QString("%1 to %2   %3   (buttons %4..y..)").arg(f.first).arg(last).arg(f.accessiblename, f.nameprefix));
+        const int last = f.firstnumber + f.cols * f.rows - 1;
+        p.drawText(QRectF(planleft + 64, y - 4, 1400, 34), Qt::AlignLeft | Qt::AlignVCenter,
+                   QString("%1 to %2   %3   (buttons %4..y..)")
+                       .arg(f.firstnumber)
+                       .arg(last)
+                       .arg(f.accessiblename, f.nameprefix));
         y += 38;
     }
 }
@@ -132,7 +134,7 @@ std::string descriptionof(const sheet& of) {
     std::string words = std::string(of.title) + '\n' + of.designs + '\n';
     for (const buttonfamily& f : allbuttonfamilies())
         if (f.layout == of.of)
-            words += std::string(f.nameprefix) + ' ' + std::to_string(f.first) + ' ' + f.accessiblename + '\n';
+            words += std::string(f.nameprefix) + ' ' + std::to_string(f.firstnumber) + ' ' + f.accessiblename + '\n';
     for (const control* c : of.of->controls)
         if (ispositionof(*of.of, *c)) words += descriptionof(*c);
     return words;
