@@ -1,4 +1,4 @@
-// Measures single actions: a click on a button of each button family, a view step, clearing the screen, the start.
+// Measures single actions: a click on a button of each button family, a view step, clearing, the start-up display.
 
 #include "bench/measure.h"
 #include "building/layouts.h"
@@ -16,12 +16,12 @@ void addclicks() {
         const auto& positions = allbuttonpositions();
         const std::string name = positionname(*std::find_if(positions.begin(), positions.end(), middle));
         for (const method m : {method::program, method::plain})
-            addmeasure(std::string("click/") + f.nameprefix, m, 1, [name] { playline("click " + name); });
+            addbenchmark(std::string("click/") + f.nameprefix, m, 1, [name] { playline("click " + name); });
     }
     for (const method m : {method::program, method::plain, method::qpainter}) {
-        addmeasure("view/step", m, 0, [] { playline("click horizinc"); });
-        addmeasure("view/full clear", m, 0, [] { playline("click fillscreen"); });
-        addmeasure("start/start-up display", m, 0, [] { playline("click groupbtn"); });
+        addbenchmark("view/step", m, 0, [] { playline("click horizinc"); });
+        addbenchmark("view/full clear", m, 0, [] { playline("click fillscreen"); });
+        addbenchmark("start/start-up display", m, 0, [] { playline("click groupbtn"); });
     }
 }
 

@@ -1,8 +1,9 @@
-// The benchmark program: checks that the program and the plain method have the same results, runs the benchmarks and
-// prints the ratios of the run.
+// The benchmark program: checks that the program and the plain method give the same results, runs the benchmarks and
+// prints the ratios.
 
 #include "bench/measure.h"
 #include "core/world.h"
+#include "player/checksum.h"
 #include "tools/workingfolder.h"
 
 #include <algorithm>
@@ -47,26 +48,29 @@ class ratios : public benchmark::ConsoleReporter {
     std::map<std::string, double> best;
 };
 
-// Returns all tables and the picture after the measured replay.
-std::vector<std::string> outcomeof(method m) {
-    building b(m);
+// Returns a checksum of all tables and of the picture after the measured replay.
+checksum resultof(method m) {
+    const startedprogram started(m);
     replaycombined(mixedfile(500), mixedfile(500));
-    std::vector<std::string> seen;
+    checksum sum;
     for (const tablebase* t = tablebase::first; t != nullptr; t = t->next)
-        for (const value& v : t->elements()) seen.push_back(v.isnumber() ? shortesttext(v) : '"' + v.text());
-    const auto& image = dynamic_cast<const raster&>(*b.viewport);
-    for (int i = 0; i < image.width() * image.height(); ++i) seen.push_back(std::to_string(image.pixels()[i]));
-    return seen;
+        for (const value& v : t->elements()) sum.add((v.isnumber() ? shortesttext(v) : '"' + v.text() + '"') + ' ');
+    const auto& image = dynamic_cast<const raster&>(*started.viewport);
+    for (int i = 0; i < image.width() * image.height(); ++i) sum.addword(image.pixels()[i]);
+    return sum;
 }
 
-int run(int argc, char** argv) {
+}  // namespace
+
+int main(int argc, char** argv) {
+    const workingfolder scratch(std::filesystem::current_path());
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
-    if (outcomeof(method::program) != outcomeof(method::plain)) {
+    if (resultof(method::program) != resultof(method::plain)) {
         std::puts("The program and the plain method differ in a table or in the picture.");
         return 1;
     }
-    std::puts("1000 records solid: the program and the plain method have the same tables and picture.");
+    std::puts("1000 records solid: the program and the plain method give the same tables and picture.");
     addclicks();
     addreplays();
     addlimit();
@@ -75,11 +79,4 @@ int run(int argc, char** argv) {
     benchmark::RunSpecifiedBenchmarks(&reporter);
     reporter.printall();
     return 0;
-}
-
-}  // namespace
-
-int main(int argc, char** argv) {
-    const workingfolder scratch(std::filesystem::current_path());
-    return run(argc, argv);
 }

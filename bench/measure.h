@@ -1,4 +1,4 @@
-// Registers a benchmark, which reports the time of one action, and elements and pixels per second.
+// Adds benchmarks that report the time of an action, and the elements and pixels per second.
 #pragma once
 
 #include "bench/scene.h"
@@ -12,8 +12,8 @@ namespace tessaly {
 
 inline benchmark::Counter persecond(double n) { return {n, benchmark::Counter::kIsIterationInvariantRate}; }
 
-// Returns the number of pixels that the lines of an action light if they are drawn one by one.
-inline double pixelsof(const std::function<void()>& action) {
+// Returns the number of pixels that an action sets if its lines are drawn one by one.
+inline double pixelsset(const std::function<void()>& action) {
     surface* const before = viewportsurface;
     pixelcounter counter;
     viewportsurface = &counter;
@@ -22,26 +22,26 @@ inline double pixelsof(const std::function<void()>& action) {
     return static_cast<double>(counter.pixels);
 }
 
-// Adds a benchmark of an action with a method. elements: the number of elements drawn. The pixels are those of the
-// plain method, so that the methods can be compared.
-inline void addmeasure(const std::string& name, method m, double elements, const std::function<void()>& action) {
+// Adds a benchmark of an action with a method. elements: the number of elements drawn. Whatever the method, the pixels
+// are those of the plain method, so that the methods can be compared.
+inline void addbenchmark(const std::string& name, method m, double elements, const std::function<void()>& action) {
     benchmark::RegisterBenchmark((name + "/" + nameof(m)).c_str(), [=](benchmark::State& state) {
-        building b(m);
+        const startedprogram started(m);
         action();
-        const double pixels = pixelsof(action);
+        const double pixels = pixelsset(action);
         for (auto _ : state) action();
         if (elements > 0) state.counters["elements/s"] = persecond(elements);
         if (pixels > 0) state.counters["pixels/s"] = persecond(pixels);
     })->Unit(benchmark::kMicrosecond);
 }
 
-// Register the benchmarks of the four files.
+// Add the benchmarks of the four files.
 void addclicks();
 void addreplays();
 void addlimit();
 void addshortcuts();
 
-// The replay that the methods are compared with, and the same with a tenth of the records.
+// The replay that all methods are compared with, the same with a tenth of the records, and its limit.
 constexpr const char* measuredreplay = "replay/combined 1000";
 constexpr const char* tenthofreplay = "replay/combined 100";
 constexpr const char* limitofreplay = "replay/combined 1000/limit";

@@ -20,16 +20,16 @@ void replaymixed(int n) { replaycombined(mixedfile(n / 2), mixedfile(n - n / 2))
 void addreplays() {
     for (const method m : {method::program, method::plain}) {
         for (const int n : {10, 100, 1000}) {
-            addmeasure("replay/wire " + std::to_string(n), m, n, [n] { replaywire(girdersfile(n)); });
-            addmeasure("replay/solid " + std::to_string(n), m, n, [n] { replaysolid(girdersfile(n)); });
+            addbenchmark("replay/wire " + std::to_string(n), m, n, [n] { replaywire(girdersfile(n)); });
+            addbenchmark("replay/solid " + std::to_string(n), m, n, [n] { replaysolid(girdersfile(n)); });
         }
-        addmeasure("replay/storey", m, storeygirders + storeypanels, [] { replaystorey(1); });
-        addmeasure("replay/tower", m, floors * (storeygirders + storeypanels), [] {
+        addbenchmark("replay/storey", m, storeygirders + storeypanels, [] { replaystorey(1); });
+        addbenchmark("replay/tower", m, floors * (storeygirders + storeypanels), [] {
             for (int onfloor = 1; onfloor <= floors; ++onfloor) replaystorey(onfloor);
         });
     }
-    addmeasure(tenthofreplay, method::program, 100, [] { replaymixed(100); });
-    for (const method m : allmethods) addmeasure(measuredreplay, m, 1000, [] { replaymixed(1000); });
+    addbenchmark(tenthofreplay, method::program, 100, [] { replaymixed(100); });
+    for (const method m : allmethods) addbenchmark(measuredreplay, m, 1000, [] { replaymixed(1000); });
 }
 
 }  // namespace tessaly

@@ -34,7 +34,7 @@ std::vector<const buttonposition*> positionsof(const char* kind) {
 // Panels with eleven to sixteen faces: orange 1 and yellow 1, with each of the four snip parts.
 constexpr int panelcodes[] = {1, 10, 2, 11, 3, 12, 31, 34};
 
-// Returns record i of a kind. The positions follow each other spread over the plan.
+// Returns record i of a kind. Successive records are spread over the plan.
 std::string recordof(const char* kind, std::size_t i) {
     const auto positions = positionsof(kind);
     const buttonposition& p = *positions[i * 29 % positions.size()];
@@ -45,12 +45,12 @@ std::string recordof(const char* kind, std::size_t i) {
 
 const char* mixedkind(std::size_t i) { return i % 10 == 9 ? "roof" : i % 2 == 0 ? "panel" : "girder"; }
 
-// Returns the name of a design file of n records. front selects the class of file, digitat is the index of the floor's
-// digit; the letters between them only have to differ for each n.
-std::string designname(std::string front, std::size_t digitat, int n, int onfloor) {
-    front += {static_cast<char>('a' + n / 100), static_cast<char>('a' + n % 100 / 10)};
-    front.resize(digitat, 's');
-    return front + std::to_string(onfloor % 10) + ".txt";
+// Returns the name of a design file of n records. The prefix selects the class of the file; the letters after it only
+// make the name different for each n.
+std::string designname(std::string prefix, std::size_t digitindex, int n, int onfloor) {
+    prefix += {static_cast<char>('a' + n / 100), static_cast<char>('a' + n % 100 / 10)};
+    prefix.resize(digitindex, 's');
+    return prefix + std::to_string(onfloor % 10) + ".txt";
 }
 
 template <class kinds>
@@ -62,12 +62,9 @@ std::string designfile(const std::string& name, int n, kinds kindof) {
 }
 
 std::unique_ptr<surface> surfaceof(method m) {
-    switch (m) {
-    case method::program:
-    case method::plain: return std::make_unique<raster>(viewportwidth, viewportheight);
-    case method::qpainter: return std::make_unique<painterimage>();
-    default: return std::make_unique<nosurface>();
-    }
+    if (m == method::qpainter) return std::make_unique<painterimage>();
+    if (m == method::nodrawing) return std::make_unique<nosurface>();
+    return std::make_unique<raster>(viewportwidth, viewportheight);
 }
 
 }  // namespace
@@ -82,17 +79,7 @@ std::string panelsfile(int n, int onfloor) {
 
 std::string mixedfile(int n) { return designfile(designname("girdm", 7, n, 1), n, mixedkind); }
 
-const char* nameof(method m) {
-    switch (m) {
-    case method::program: return "program";
-    case method::nodrawing: return "program,nothing drawn";
-    case method::plain: return "plain";
-    case method::qpainter: return "plain,QPainter";
-    }
-    return "";
-}
-
-building::building(method m) : viewport(surfaceof(m)) {
+startedprogram::startedprogram(method m) : viewport(surfaceof(m)) {
     noshortcuts = m == method::plain || m == method::qpainter;
     viewportsurface = viewport.get();
     progresssurface = &progress;
@@ -103,7 +90,7 @@ building::building(method m) : viewport(surfaceof(m)) {
     wiresolid.text = "solid";
 }
 
-building::~building() { noshortcuts = false; }
+startedprogram::~startedprogram() { noshortcuts = false; }
 
 void replaywire(const std::string& file) {
     playline("click autowiresingle");

@@ -1,4 +1,4 @@
-// The program, operated with lines of a player's script, and the design files of the benchmarks.
+// The program, controlled by lines of a player's script, and the design files of the benchmarks.
 #pragma once
 
 #include "render/raster.h"
@@ -8,32 +8,33 @@
 
 namespace tessaly {
 
-// ---- design files of the scene ------------------------------------------------------------------------------
-// Writes a file to designs\ if it does not exist, and returns its name. It has n records of one floor, 1..10, spread
-// over the plan. Of ten records of a mixed file four are girders, five panels and one a roof, with about ten faces
-// each.
+// ---- design files --------------------------------------------------------------------------------------------
+// Each writes a file to designs\ if it does not exist, and returns its name. The file has n records of one
+// floor, 1..10, spread over the plan. Of every ten records of a mixed file, four are girders, five panels and one a
+// roof, with about ten faces each.
 std::string girdersfile(int n, int onfloor = 1);
 std::string panelsfile(int n, int onfloor = 1);
 std::string mixedfile(int n);
 
-// ---- methods of drawing and working -------------------------------------------------------------------------
+// ---- methods, see BENCHMARKS.md -----------------------------------------------------------------------------
 enum class method { program, nodrawing, plain, qpainter };
 constexpr method allmethods[] = {method::program, method::nodrawing, method::plain, method::qpainter};
-const char* nameof(method m);
+inline const char* nameof(method m) {
+    constexpr const char* names[] = {"program", "program,nothing drawn", "plain", "plain,QPainter"};
+    return names[static_cast<int>(m)];
+}
 
-// The program, started with the drawing mode solid and its layout windows open. Works with this method until it is
+// Starts the program, with draw mode solid and its layout windows open. The program uses the method until the object is
 // destroyed.
-class building {
+class startedprogram {
   public:
-    explicit building(method m);
-    ~building();
-    building(const building&) = delete;
-    building& operator=(const building&) = delete;
+    explicit startedprogram(method m);
+    ~startedprogram();
 
     std::unique_ptr<surface> viewport;
 };
 
-// Replay design files, with the clicks of a user.
+// Replay design files with the clicks of a user.
 void replaywire(const std::string& file);
 void replaysolid(const std::string& file);
 void replaycombined(const std::string& first, const std::string& second);

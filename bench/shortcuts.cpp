@@ -1,4 +1,4 @@
-// Measures parts of an action, with the shortcuts and with the plain methods that they replace.
+// Measures parts of an action, with the shortcuts and with the plain method.
 
 #include "bench/measure.h"
 #include "core/world.h"
@@ -36,9 +36,9 @@ constexpr screenface faces[] = {
 
 void addshortcuts() {
     for (const method m : {method::program, method::plain, method::qpainter}) {
-        addmeasure("shortcut/read an element", m, 1, readpanel);
+        addbenchmark("shortcut/read an element", m, 1, readpanel);
         for (const screenface& f : faces)
-            addmeasure(std::string("face/") + f.name, m, 0, [&f] {
+            addbenchmark(std::string("face/") + f.name, m, 0, [&f] {
                 viewportsurface->fillface(f.corners, f.n, {180, 90, 20});
             });
     }

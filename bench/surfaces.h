@@ -1,4 +1,4 @@
-// Surfaces for benchmarks: one draws with QPainter, one draws nothing, one counts pixels.
+// Surfaces for benchmarks: one draws with QPainter, one draws nothing, and one counts pixels.
 #pragma once
 
 #include "render/raster.h"
@@ -33,7 +33,7 @@ class nosurface : public surface {
     void setpicture(const std::string&) override {}
 };
 
-// Counts the pixels of all lines, also of those that fill faces. A pixel drawn twice counts twice.
+// Counts the pixels of all lines, including those that fill faces. A pixel drawn twice counts twice.
 class pixelcounter : public nosurface {
   public:
     void line(float x1, float y1, float x2, float y2, colour c) override;

@@ -1,8 +1,8 @@
-// Plays the same buildings on any machine and writes checksums after each step, which must be equal on all machines: of
-// the picture, of the lines drawn, and of the numbers from which they were computed, because rounding hides small
-// differences.
+// Plays buildings and views, and writes three checksums after each step, which must be equal on all machines: of the
+// picture, of the lines drawn, and of the numbers from which the lines were computed. The numbers are included because
+// rounding to pixels hides small differences.
 //   everymachine ROOT         plays all steps with the data, scripts and samples of the repository ROOT; a row per step
-//   everymachine ROOT STEP    writes every line and number that is part of the checksums of that step
+//   everymachine ROOT STEP    writes every line and number in the checksums of this step
 
 #include "building/layouts.h"
 #include "core/controls.h"
@@ -31,10 +31,12 @@ namespace fs = std::filesystem;
 
 // ---- checksums ---------------------------------------------------------------------------
 
+int step = 1;             // the current step
 checksum lines, numbers;  // of the current step
-long drawn = 0;
-int step = 1, listedstep = 0;
+long linesdrawn = 0;      // in the current step
+int listedstep = 0;       // the step to write in full; 0: none
 
+// Adds numbers to a checksum; in the listed step, also writes them.
 void add(checksum& sum, const char* what, std::initializer_list<double> added) {
     for (const double number : added) sum.add(number);
     if (step != listedstep) return;
@@ -45,27 +47,27 @@ void add(checksum& sum, const char* what, std::initializer_list<double> added) {
 
 struct linesum : surface {
     void line(float x1, float y1, float x2, float y2, colour c) override {
-        ++drawn;
-        const auto full = [](float single) { return static_cast<double>(single); };
-        add(lines, "line", {full(x1), full(y1), full(x2), full(y2), c.red * 65536.0 + c.green * 256.0 + c.blue});
+        ++linesdrawn;
+        add(lines, "line",
+            {double(x1), double(y1), double(x2), double(y2), c.red * 65536.0 + c.green * 256.0 + c.blue});
     }
     void save(const std::string&) override {}
     void setpicture(const std::string&) override {}
 };
 
-// Draws the picture with the shortcuts of the program, and adds each line to the checksum.
+// Draws the picture as the program does, with its shortcuts, and adds each line to the checksum.
 struct measuredsurface : surface {
-    raster image{897, 581};
-    linesum summed;
+    raster image{viewportwidth, viewportheight};
+    linesum sum;
 
     void line(float x1, float y1, float x2, float y2, colour c) override {
         image.line(x1, y1, x2, y2, c);
-        summed.line(x1, y1, x2, y2, c);
+        sum.line(x1, y1, x2, y2, c);
     }
     void drawbetween(const facecorners& f, int n, colour c) override {
         image.drawbetween(f, n, c);
         add(numbers, "face", {f.x1, f.y1, f.x2, f.y2, f.x3, f.y3, f.x4, f.y4});
-        summed.drawbetween(f, n, c);
+        sum.drawbetween(f, n, c);
     }
     void save(const std::string& path) override { image.save(path); }
     void setpicture(const std::string& path) override { image.setpicture(path); }
@@ -77,7 +79,7 @@ void addpoint(int i) {
     add(numbers, "screen", {screenx[i], screeny[i]});
 }
 
-// Adds the element in the tables: its points, those of its last framing lines, and the distances of its faces.
+// Adds the element in the tables: its points, the points of its last framing lines, and the distances of its faces.
 void addelement() {
     constexpr int framingpoints = 60, faces = 100;
     pointblock blocks[4];
@@ -110,23 +112,24 @@ void play(const std::string& script) {
     addelement();
 }
 
-// Ends a step: writes its row if it drew anything.
+// Ends a step and writes its row. If nothing was drawn, the step continues.
 void endstep(const std::string& name) {
-    if (drawn == 0) return;
+    if (linesdrawn == 0) return;
     if (step == listedstep) std::exit(0);
     if (listedstep == 0) {
         checksum picture;
         for (int i = 0; i < measured.image.width() * measured.image.height(); ++i)
             picture.add(std::uint64_t{measured.image.pixels()[i]});
         std::printf("%s %s %s %7ld lines, step %d: %s\n", picture.text().c_str(), lines.text().c_str(),
-                    numbers.text().c_str(), drawn, step, name.c_str());
+                    numbers.text().c_str(), linesdrawn, step, name.c_str());
     }
     lines = numbers = {};
-    drawn = 0;
+    linesdrawn = 0;
     ++step;
 }
 
-void begin() {
+// Starts the program again in a new working folder.
+void restart() {
     folder.emplace(root);
     measured.image.clear();
     startprogram();
@@ -134,7 +137,7 @@ void begin() {
 }
 
 void playscript(const fs::path& path) {
-    begin();
+    restart();
     std::ifstream script(path);
     for (std::string line; std::getline(script, line);) {
         if (!line.starts_with("click") && !line.starts_with("pick") && !line.starts_with("type")) continue;
@@ -155,8 +158,8 @@ void replay(const std::string& design) {
     play("pick autofile5 \"" + design + ".txt\"");
 }
 
-void beginwithsamples() {
-    begin();
+void restartwithsamples() {
+    restart();
     for (const auto& sample : fs::directory_iterator(root / "samples"))
         if (sample.path().extension() == ".txt") fs::copy(sample.path(), "designs");
     play("click shopfm");
@@ -165,7 +168,7 @@ void beginwithsamples() {
 void playhouse() {
     constexpr const char* sides[][2] = {{"1850", "-1850"}, {"2600", "10"},  {"1850", "1850"},   {"20", "2600"},
                                         {"-1850", "1850"}, {"-2600", "30"}, {"-1850", "-1850"}, {"40", "-2600"}};
-    beginwithsamples();
+    restartwithsamples();
     for (const auto& [x, y] : sides) {
         setview({x, y, "830", "1", "2", "280", ".056", "170", "-270"});
         for (const char* design : {"girdhou1", "paneho1", "roofh1", "girdhou2", "paneho2", "roofh2"}) replay(design);
@@ -174,20 +177,19 @@ void playhouse() {
 }
 
 void playtower() {
-    beginwithsamples();
+    restartwithsamples();
     setview({"1850", "-1850", "1230", "1", "1", "600", ".036", "200", "-270"});
-    for (const char* floor : {"1", "2", "3", "4", "5", "6", "7", "8", "9", "0"}) {
-        for (const char* design : {"girdtow", "paneto"}) replay(std::string(design) + floor);
-        endstep(std::string("the tower, floor ") + floor);
+    for (const char floordigit : std::string("1234567890")) {
+        for (const char* design : {"girdtow", "paneto"}) replay(std::string(design) + floordigit);
+        endstep(std::string("the tower, floor ") + floordigit);
     }
     replay("rooft0");
     endstep("the tower, roof");
 }
 
-// Places each element at one position of each of its button families, which differ in rotation, and a panel with each
-// snip.
+// Places each element at one position of each of its button families, which differ in rotation; panels with each snip.
 void playelements(const std::string& mode) {
-    begin();
+    restart();
     play("type wiresolid \"" + mode + '"');
     for (const char* scene : {"groupbtn", "displaycubebtn"}) {
         play(std::string("click ") + scene);
@@ -208,20 +210,21 @@ void playelements(const std::string& mode) {
         }
 }
 
-// The raw numbers of this engine are used, because distributions differ between libraries.
-std::mt19937 random32;
-int within(int min, int max) { return min + static_cast<int>(random32() % static_cast<unsigned>(max - min + 1)); }
-std::string tenths(int min, int max) { return shortesttext(within(min, max) / 10.0); }
+// Random numbers, computed from those of the generator directly, because distributions differ between libraries.
+std::mt19937 generator;
+int randomint(int min, int max) { return min + static_cast<int>(generator() % static_cast<unsigned>(max - min + 1)); }
+std::string randomtenths(int min, int max) { return shortesttext(randomint(min, max) / 10.0); }
 
 // Plays random views, some from inside the building, each with an element at a random position.
 void playviews() {
-    begin();
+    restart();
     for (const char* opened : {"shopfm", "postbeambtn", "orange2btn", "roofbtn"}) play(std::string("click ") + opened);
     for (int view = 1; view <= 300; ++view) {
-        const int far = view % 3 == 0 ? 4000 : 30000;
-        setview({tenths(-far, far), tenths(-far, far), tenths(-far / 2, far), tenths(-3000, 3000), tenths(-3000, 3000),
-                 tenths(0, 6000), shortesttext(within(5, 105) / 1000.0), tenths(-3000, 3000), tenths(-6000, 3000)});
-        const buttonposition& p = allbuttonpositions()[static_cast<std::size_t>(within(0, 328))];
+        const int far = view % 3 == 0 ? 4000 : 30000;  // tenths of a model unit
+        setview({randomtenths(-far, far), randomtenths(-far, far), randomtenths(-far / 2, far),
+                 randomtenths(-3000, 3000), randomtenths(-3000, 3000), randomtenths(0, 6000),
+                 shortesttext(randomint(5, 105) / 1000.0), randomtenths(-3000, 3000), randomtenths(-6000, 3000)});
+        const buttonposition& p = allbuttonpositions()[static_cast<std::size_t>(randomint(0, 328))];
         play(std::string("type wiresolid \"") + (view % 4 == 0 ? "wireframe" : "solid") + '"');
         play(p.family->layout == &layoutpanels ? "click orange2btn"
              : p.family->layout == &layoutroof ? "click roofbtn"
@@ -233,11 +236,11 @@ void playviews() {
 
 // Replays a hand-written design file whose panels are rotated by arbitrary angles.
 void playrotated() {
-    begin();
+    restart();
     std::ofstream design("designs/panels1.txt", std::ios::binary);
     for (int i = 1; i <= 150; ++i)
-        design << "\"panel\"," << i << ",100,100," << within(1, 15) << ",0," << tenths(-7200, 7200) << ','
-               << tenths(0, 9600) << ',' << tenths(0, 13000) << ",4,64\r\n";
+        design << "\"panel\"," << i << ",100,100," << randomint(1, 15) << ",0," << randomtenths(-7200, 7200) << ','
+               << randomtenths(0, 9600) << ',' << randomtenths(0, 13000) << ",4,64\r\n";
     design.close();
     replay("panels1");
     endstep("panels at odd angles");

@@ -1,24 +1,27 @@
 // Shared by the generators. A generator either creates all its files or reports on standard error why it cannot.
 #pragma once
 
+#include "core/failure.h"
+
+#include <algorithm>
 #include <cstdio>
-#include <exception>
 #include <filesystem>
 #include <stdexcept>
+#include <string>
 
 namespace tessaly {
 
-// Runs a generator; returns its exit status: 1 after an exception, which is reported.
+// Runs a generator and returns its exit status: 1 after an exception, 2 after wrong arguments, both reported. usage is
+// the name of the generator and those of its arguments, separated by blanks.
 template <class procedure>
-int generate(const char* generator, procedure make) {
-    try {
-        make();
-        return 0;
-    } catch (const std::exception& failed) {
-        std::fprintf(stderr, "%s: %s\n", generator, failed.what());
-    } catch (...) {
-        std::fprintf(stderr, "%s: an unknown exception\n", generator);
+int generate(int argc, const std::string& usage, procedure make) {
+    if (argc != 1 + std::count(usage.begin(), usage.end(), ' ')) {
+        std::fprintf(stderr, "usage: %s\n", usage.c_str());
+        return 2;
     }
+    const std::string report = reportof(make);
+    if (report.empty()) return 0;
+    std::fprintf(stderr, "%s: %s\n", usage.substr(0, usage.find(' ')).c_str(), report.c_str());
     return 1;
 }
 

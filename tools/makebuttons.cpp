@@ -1,10 +1,11 @@
-// Generates the pictures of the ten element buttons and the three snip buttons. The engine draws the elements solid
-// from their element files at the size of the buttons, so that button and result look alike and every machine generates
-// the same pictures. makebuttons WORKINGFOLDER FOLDER draws with the data of the working folder, and writes
+// Generates the pictures of the ten element buttons and the three snip buttons. The engine draws the elements solid,
+// from their element files, at the size of the buttons. So a button looks like its element, and every machine generates
+// the same pictures. makebuttons WORKINGFOLDER FOLDER draws with the data of the working folder. It writes
 // FOLDER/<control>.png, and FOLDER/<control>@2x.png for screens of double density.
 
 #include "building/layouts.h"
 #include "core/controls.h"
+#include "core/elementtypes.h"
 #include "core/world.h"
 #include "picturefiles/picturefile.h"
 #include "render/projector.h"
@@ -15,7 +16,6 @@
 #include <QImage>
 
 #include <algorithm>
-#include <cstdio>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -27,11 +27,11 @@ namespace {
 
 struct viewpoint {
     double eyex, eyey, eyez;        // model units, relative to the focus
-    double focusx, focusy, focusz;  // model units; the focus is in the middle of the strip
-    double magnification;           // as in the magnification box, for a picture of single density
+    double focusx, focusy, focusz;  // model units; shown in the middle of the strip
+    double magnification;           // as in its box, for a picture of single density
 };
 
-// The ends of a panel are seen straight from the front, everything else at an angle from above.
+// The ends of a panel are seen from the front, everything else at an angle from above.
 constexpr viewpoint panelview{260, -900, 210, 3, -104, 62, 0.0425};
 constexpr viewpoint frameview{800, -800, 420, 0, 0, 56, 0.0255};
 constexpr viewpoint roofview{800, -800, 620, 0, 0, 127, 0.0379};
@@ -44,49 +44,39 @@ struct strip {
     int left, width;  // pixels of the picture
 };
 
-// The size of a picture for single density, which is the interior of its button, and how it is drawn.
+// The size of a picture for single density, equal to the interior of its button, and how it is drawn.
 struct pictureformat {
     int width, height;  // pixels
-    int dots;           // drawn per pixel in each direction, to smooth slanting edges; 1 if all edges are vertical
+    int dots;           // per pixel in each direction, to smooth slanting edges; 1 if no edge slants
     std::vector<strip> strips;
 };
 
 const pictureformat panelformat{101, 54, 4, {{panelview, 0, 101}}};
 const pictureformat frameformat{101, 54, 4, {{frameview, 0, 101}}};
 const pictureformat roofformat{101, 54, 4, {{roofview, 0, 101}}};
-const pictureformat endsformat{24, 24, 1, {{leftend, 0, 12}, {rightend, 12, 12}}};  // what is cut is a third of its end
+const pictureformat endsformat{24, 24, 1, {{leftend, 0, 12}, {rightend, 12, 12}}};
 
 struct picture {
-    const char* button;                  // of the main window or the panel layout
-    const char* element;                 // button that chooses the element
+    const control* button;               // shows the picture
+    const control* element;              // chooses the element
     const char* snip;                    // text of panelsnipper, "" for a complete element
     std::vector<const char*> positions;  // farthest first
     const pictureformat& format;
 };
 
-const std::vector<picture>& pictures() {
-    static const std::vector<const char*> wall{"pan0x384y576"};
-    static const std::vector<const char*> frame{"postx384y784", "beamx384y592",  "vbeamx400y784", "postx384y592",
-                                                "postx576y784", "vbeamx400y592", "beamx576y592",  "postx576y592"};
-    static const std::vector<picture> all{
-        {"orange1btn", "orange1btn", "", wall, panelformat},
-        {"orange2btn", "orange2btn", "", wall, panelformat},
-        {"orange3btn", "orange3btn", "", wall, panelformat},
-        {"yellow1btn", "yellow1btn", "", wall, panelformat},
-        {"yellow2btn", "yellow2btn", "", wall, panelformat},
-        {"yellow3btn", "yellow3btn", "", wall, panelformat},
-        {"door2btn", "door2btn", "", wall, panelformat},
-        {"door4btn", "door4btn", "", wall, panelformat},
-        {"postbeambtn", "postbeambtn", "", frame, frameformat},
-        {"roofbtn", "roofbtn", "", {"roofx384y576"}, roofformat},
-        {"snipleftbtn", "orange1btn", "snip left side", wall, endsformat},
-        {"sniprighbtn", "orange1btn", "snip right side", wall, endsformat},
-        {"snipbothbtn", "orange1btn", "snip both sides", wall, endsformat},
-    };
+std::vector<picture> allpictures() {
+    const std::vector<const char*> wall{"pan0x384y576"};
+    const std::vector<const char*> frame{"postx384y784", "beamx384y592",  "vbeamx400y784", "postx384y592",
+                                         "postx576y784", "vbeamx400y592", "beamx576y592",  "postx576y592"};
+    std::vector<picture> all{{&postbeambtn, &postbeambtn, "", frame, frameformat},
+                             {&roofbtn, &roofbtn, "", {"roofx384y576"}, roofformat}};
+    for (const paneltype& t : paneltypes) all.push_back({t.button, t.button, "", wall, panelformat});
+    for (const sniptype& s : sniptypes)
+        if (s.button) all.push_back({s.button, &orange1btn, s.text, wall, endsformat});
     return all;
 }
 
-// Sets a view whose focus is in the middle of the image. zoom is the number of dots per pixel of single density.
+// Sets a view with the focus in the middle of the image. zoom: dots per pixel of single density.
 void setview(const viewpoint& from, const raster& image, int zoom) {
     perprelx = from.eyex;
     perprely = from.eyey;
@@ -99,15 +89,15 @@ void setview(const viewpoint& from, const raster& image, int zoom) {
     horizshift = image.width() / 2 - 730;
 }
 
-void click(const char* name) { clickcontrol(*findcontrol(name)); }
+void click(const std::string& name) { clickcontrol(*findcontrol(name)); }
 
-// Draws the elements of a picture on an image; dots that are not drawn on are 0. A snipped panel is drawn over the
-// wires of the full one.
+// Draws the elements of a picture on an image, and leaves all other dots 0. Draws a snipped panel over the wires of the
+// full one.
 void drawelements(const picture& p, const viewpoint& from, raster& image, int zoom) {
     std::fill_n(image.pixels(), image.width() * image.height(), 0U);
     viewportsurface = &image;
     setview(from, image, zoom);
-    click(p.element);
+    click(p.element->name);
     if (*p.snip != '\0') {
         wiresolid.text = "wireframe";
         click(p.positions.front());
@@ -117,7 +107,7 @@ void drawelements(const picture& p, const viewpoint& from, raster& image, int zo
     for (const char* position : p.positions) click(position);
 }
 
-// Returns the pixel for a square of dots: the mean colour of the dots drawn on, with their share of the square as its
+// Returns the pixel for a square of dots: the mean colour of the drawn dots, with their share of the square as its
 // opacity. Integer arithmetic gives the same result on every machine.
 QRgb meanpixel(const raster& image, int left, int top, int dots) {
     int drawn = 0, red = 0, green = 0, blue = 0;
@@ -134,7 +124,8 @@ QRgb meanpixel(const raster& image, int left, int top, int dots) {
     return qRgba(mean(red, drawn), mean(green, drawn), mean(blue, drawn), mean(255 * drawn, dots * dots));
 }
 
-// Draws a picture for a screen of this density: its pixels per pixel of the design grid in each direction.
+// Draws a picture for a screen of this density, the number of its pixels per pixel of the design grid in each
+// direction.
 QImage drawpicture(const picture& p, int density) {
     const int dots = p.format.dots;
     QImage result(p.format.width * density, p.format.height * density, QImage::Format_ARGB32);
@@ -156,9 +147,9 @@ void makeall(const std::filesystem::path& folder) {
     startprogram();
     click("startprogrambtn");
     writefilebox.text = "off";
-    for (const picture& p : pictures())
+    for (const picture& p : allpictures())
         for (const auto& [density, ending] : {std::pair{1, ".png"}, std::pair{2, "@2x.png"}})
-            saveimage(drawpicture(p, density), folder / (p.button + std::string(ending)));
+            saveimage(drawpicture(p, density), folder / (p.button->name + ending));
 }
 
 }  // namespace
@@ -166,11 +157,7 @@ void makeall(const std::filesystem::path& folder) {
 }  // namespace tessaly
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fputs("usage: makebuttons WORKINGFOLDER FOLDER\n", stderr);
-        return 2;
-    }
-    return tessaly::generate("makebuttons", [argv] {
+    return tessaly::generate(argc, "makebuttons WORKINGFOLDER FOLDER", [argv] {
         const std::filesystem::path folder = std::filesystem::absolute(argv[2]);
         std::filesystem::current_path(argv[1]);
         tessaly::makeall(folder);

@@ -1,5 +1,5 @@
-// Generates the icon as one PNG per size, for desktops that do not support SVG, in the folders where desktops look for
-// icons. The build runs makeicons SVG FOLDER, which writes FOLDER/16x16/apps/tessaly.png and so on.
+// Generates the icon as PNG files of several sizes, for desktops that do not support SVG. The build runs makeicons SVG
+// FOLDER, which writes FOLDER/16x16/apps/tessaly.png and so on, the folders in which desktops look for icons.
 
 #include "tools/generator.h"
 
@@ -7,7 +7,6 @@
 #include <QPainter>
 #include <QSvgRenderer>
 
-#include <cstdio>
 #include <filesystem>
 #include <string>
 
@@ -30,11 +29,7 @@ void makeicon(QSvgRenderer& drawing, int size, const std::filesystem::path& fold
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fputs("usage: makeicons SVG FOLDER\n", stderr);
-        return 2;
-    }
-    return tessaly::generate("makeicons", [argv] {
+    return tessaly::generate(argc, "makeicons SVG FOLDER", [argv] {
         QSvgRenderer drawing(QString::fromLocal8Bit(argv[1]));
         if (!drawing.isValid()) throw std::runtime_error(std::string(argv[1]) + " is not a drawing");
         for (const int size : sizes) makeicon(drawing, size, argv[2]);

@@ -1,6 +1,6 @@
-// Generates the element maps of el-numbers for users who edit design files: one sheet per layout window, drawn from the
-// same table of position buttons, with every element number, the axes in layout units and a legend.
-// makemaps FOLDER writes girders.png, panels.png and roofs.png (A4 landscape at 150 dots per inch).
+// Generates the element maps of el-numbers for users who edit design files. Each layout window gives one sheet, drawn
+// from its position buttons, with all element numbers, the axes in layout units and a legend. makemaps FOLDER writes
+// girders.png, panels.png and roofs.png (A4 landscape, 150 dots per inch).
 
 #include "building/layouts.h"
 #include "core/controls.h"
@@ -11,8 +11,8 @@
 #include <QImage>
 #include <QPainter>
 
-#include <cstdio>
 #include <map>
+#include <vector>
 
 namespace tessaly {
 
@@ -21,16 +21,22 @@ namespace {
 constexpr int sheetwidth = 1754, sheetheight = 1240;  // dots
 constexpr int dotspermetre = 5906;
 constexpr int margin = 70, planleft = 160, plantop = 180, planbottom = 1030;
-constexpr double maxwidening = 1.4;
+constexpr double maxstretch = 1.4;  // of the width
 
 struct sheet {
-    window* of;
-    const char* file;
-    const char* title;
-    const char* designs;
+    const window& layout;
+    const char *file, *title, *designs;
+};
+const sheet sheets[] = {
+    {layoutgirder, "girders.png", "Tessaly: posts and beams of a floor",
+     "the first number of a line in designs\\girders1.txt .. girders10.txt"},
+    {layoutpanels, "panels.png", "Tessaly: panels of a floor",
+     "the first number of a line in designs\\panels1.txt .. panels10.txt"},
+    {layoutroof, "roofs.png", "Tessaly: roofs of a floor",
+     "the first number of a line in designs\\roofs1.txt .. roofs10.txt"},
 };
 
-// Converts twips of the window to dots of the sheet. The plan fills the height and is stretched to the width.
+// Converts twips of the window to dots of the sheet.
 struct scale {
     double across, down;
     int left, top;  // top left corner of the plan, twips
@@ -49,12 +55,18 @@ QFont font(int dots, bool bold = false) {
     return f;
 }
 
-bool ispositionof(const window& w, const control& c) { return c.parent == &w && c.elementnumber != 0; }
+// Returns the position buttons of a layout window.
+std::vector<const control*> positionsof(const window& w) {
+    std::vector<const control*> found;
+    for (const control* c : w.controls)
+        if (c->elementnumber != 0) found.push_back(c);
+    return found;
+}
 
+// Returns the scale at which the plan fills the height of the sheet, stretched towards its width.
 scale fit(const window& w) {
     int left = w.widthtwips, top = w.heighttwips, right = 0, bottom = 0;
-    for (const control* c : w.controls) {
-        if (!ispositionof(w, *c)) continue;
+    for (const control* c : positionsof(w)) {
         left = std::min(left, c->bounds.left);
         top = std::min(top, c->bounds.top);
         right = std::max(right, c->bounds.left + c->bounds.width);
@@ -62,41 +74,41 @@ scale fit(const window& w) {
     }
     const double across = double(sheetwidth - planleft - margin) / (right - left);
     const double down = double(planbottom - plantop) / (bottom - top);
-    return {std::min(across, down * maxwidening), down, left, top};
+    return {std::min(across, down * maxstretch), down, left, top};
 }
 
 void drawpositions(QPainter& p, const window& w, const scale& s) {
-    for (const control* c : w.controls) {
-        if (!ispositionof(w, *c)) continue;
+    for (const control* c : positionsof(w)) {
         const QRectF r = s.rect(c->bounds);
-        QColor fill = shade(*c->background);
+        const QColor fill = shade(*c->background);
+        const bool dark = fill.lightnessF() < 0.4;
         p.setPen(QPen(Qt::black, 1));
-        p.setBrush(fill.lightnessF() < 0.4 ? fill.lighter(100) : fill.lighter(115));
+        p.setBrush(dark ? fill : fill.lighter(115));
         p.drawRect(r);
-        p.setPen(fill.lightnessF() < 0.4 ? Qt::white : Qt::black);
+        p.setPen(dark ? Qt::white : Qt::black);
         p.setFont(font(r.width() > 90 && r.height() > 90 ? 40 : r.width() < 38 ? 17 : 19, true));
         p.drawText(r, Qt::AlignCenter, QString::number(c->elementnumber));
     }
 }
 
-// Coordinates by the dot where they are written; families in the same row or column share a label.
-using marks = std::map<int, QStringList>;
+// Labels of an axis by their distance in dots. Button families in the same row or column share a label.
+using axislabels = std::map<int, QStringList>;
 
-void addmark(marks& at, double dot, int coordinate) {
-    QStringList& label = at[qRound(dot)];
+void addcoordinate(axislabels& labels, double dot, int coordinate) {
+    QStringList& label = labels[qRound(dot)];
     if (!label.contains(QString::number(coordinate))) label += QString::number(coordinate);
 }
 
-// Writes the X coordinates at the left and the Y coordinates at the top, those of wide buttons nearer to the plan.
+// Writes the X coordinates at the left and the Y coordinates at the top. Those of wide buttons are nearer to the plan.
 void drawaxes(QPainter& p, const window& w, const scale& s) {
-    marks across, inneracross, down;
+    axislabels across, inneracross, down;
     for (const buttonfamily& f : allbuttonfamilies()) {
         if (f.layout != &w) continue;
         for (int j = 0; j < f.rows; ++j)
-            addmark(f.width > f.height ? inneracross : across,
-                    s.rect({f.left0 + f.pitch * j, 0, f.width, 0}).center().x(), f.y0 + 192 * j);
+            addcoordinate(f.width > f.height ? inneracross : across,
+                          s.rect({f.left0 + f.pitch * j, 0, f.width, 0}).center().x(), f.y0 + 192 * j);
         for (int i = 0; i < f.cols; ++i)
-            addmark(down, s.rect({0, f.top0 + f.pitch * i, 0, f.height}).center().y(), f.x0 + 192 * i);
+            addcoordinate(down, s.rect({0, f.top0 + f.pitch * i, 0, f.height}).center().y(), f.x0 + 192 * i);
     }
     p.setFont(font(17));
     p.setPen(Qt::black);
@@ -133,10 +145,9 @@ void drawlegend(QPainter& p, const window& w) {
 std::string descriptionof(const sheet& of) {
     std::string words = std::string(of.title) + '\n' + of.designs + '\n';
     for (const buttonfamily& f : allbuttonfamilies())
-        if (f.layout == of.of)
+        if (f.layout == &of.layout)
             words += std::string(f.nameprefix) + ' ' + std::to_string(f.firstnumber) + ' ' + f.accessiblename + '\n';
-    for (const control* c : of.of->controls)
-        if (ispositionof(*of.of, *c)) words += descriptionof(*c);
+    for (const control* c : positionsof(of.layout)) words += descriptionof(*c);
     return words;
 }
 
@@ -151,13 +162,19 @@ void drawsheet(const sheet& of, const std::filesystem::path& folder) {
     p.drawText(QRectF(margin, 24, 1100, 44), Qt::AlignLeft | Qt::AlignVCenter, of.title);
     p.setFont(font(21));
     p.drawText(QRectF(sheetwidth - margin - 900, 28, 900, 40), Qt::AlignRight | Qt::AlignVCenter, of.designs);
-    const scale s = fit(*of.of);
-    drawaxes(p, *of.of, s);
-    drawpositions(p, *of.of, s);
-    drawlegend(p, *of.of);
+    const scale s = fit(of.layout);
+    drawaxes(p, of.layout, s);
+    drawpositions(p, of.layout, s);
+    drawlegend(p, of.layout);
     p.end();
     setdescription(image, descriptionof(of));
     saveimage(image, folder / of.file);
+}
+
+void makeall(const std::filesystem::path& folder) {
+    resetcontrols();
+    addlayoutbuttons();
+    for (const sheet& s : sheets) drawsheet(s, folder);
 }
 
 }  // namespace
@@ -167,21 +184,5 @@ void drawsheet(const sheet& of, const std::filesystem::path& folder) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(argc, argv);
-    if (argc != 2) {
-        std::fputs("usage: makemaps FOLDER\n", stderr);
-        return 2;
-    }
-    tessaly::resetcontrols();
-    tessaly::addlayoutbuttons();
-    const tessaly::sheet sheets[] = {
-        {&tessaly::layoutgirder, "girders.png", "Tessaly: posts and beams of a floor",
-         "the first number of a line in designs\\girders1.txt .. girders10.txt"},
-        {&tessaly::layoutpanels, "panels.png", "Tessaly: panels of a floor",
-         "the first number of a line in designs\\panels1.txt .. panels10.txt"},
-        {&tessaly::layoutroof, "roofs.png", "Tessaly: roofs of a floor",
-         "the first number of a line in designs\\roofs1.txt .. roofs10.txt"},
-    };
-    return tessaly::generate("makemaps", [&] {
-        for (const tessaly::sheet& of : sheets) tessaly::drawsheet(of, argv[1]);
-    });
+    return tessaly::generate(argc, "makemaps FOLDER", [argv] { tessaly::makeall(argv[1]); });
 }

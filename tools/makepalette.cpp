@@ -1,9 +1,8 @@
-// Generates a palette from an editable list: any text, then one line per colour, "entry red green blue name".
-// makepalette LIST FOLDER writes FOLDER/<name of the list>.pal with eight bytes per entry. The entries of the list must
-// be numbered 1, 2, 3 and so on.
+// Generates a palette from an editable list of one line per colour: "entry red green blue name", with entries numbered
+// 1, 2, 3 and so on. Ignores lines that do not begin with a number. makepalette LIST FOLDER writes FOLDER/<name of the
+// list>.pal, with eight bytes per entry.
 #include "tools/generator.h"
 
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -12,7 +11,8 @@
 
 namespace {
 
-// Returns the eight bytes of a line, "" for a line of text. Fails if the entry is not number next, or is no colour.
+// Returns the eight bytes of an entry, "" for a line that is not an entry. Fails if the number of the entry is not
+// next, or if its colour is not valid.
 std::string record(const std::string& line, int next) {
     std::istringstream fields(line);
     int entry, red, green, blue;
@@ -45,9 +45,5 @@ void make(const std::filesystem::path& list, const std::filesystem::path& folder
 }  // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 3) {
-        std::fputs("usage: makepalette LIST FOLDER\n", stderr);
-        return 2;
-    }
-    return tessaly::generate("makepalette", [argv] { make(argv[1], argv[2]); });
+    return tessaly::generate(argc, "makepalette LIST FOLDER", [argv] { make(argv[1], argv[2]); });
 }

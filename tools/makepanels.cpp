@@ -1,13 +1,12 @@
 // Generates the element files of the 32 panels. Each of the eight types is described once, as tiles of a wall, and
-// cut at its ends into four files. A panel lies in the plane Y = 0 and faces minus Y; seen from outside, X runs from 0
-// at the left to 208 at the right, Z from 0 to 128, in model units. The tiles touch and do not overlap, so their
-// drawing order does not matter. The outer 16 units at each end are one vertical strip: neighbouring panels overlap
-// there, at the post. makepanels FOLDER writes the 32 files st-panels-<type>-<ends>.txt.
+// gives four files: complete, and cut at either or both ends. A panel is in the plane Y = 0, and its outside faces
+// minus Y. Seen from outside, X runs from 0 at the left to 208 at the right, Z from 0 to 128, in model units. Tiles do
+// not overlap, so their drawing order does not matter. The outer 16 units at each end are one vertical strip in front
+// of the post, where neighbouring panels overlap. makepanels FOLDER writes the 32 files st-panels-<type>-<ends>.txt.
 #include "tools/generator.h"
 #include "tools/shape.h"
 
 #include <algorithm>
-#include <cstdio>
 #include <fstream>
 #include <utility>
 
@@ -31,14 +30,14 @@ constexpr int
     orangewire = 70, yellowwire = 73,  doorwire = 76,    glasswire = 79;
 }  // clang-format on
 
-// Line groups of a panel. An edge that two pieces share is a line of the lower group.
+// Line groups of a panel. An edge shared by two pieces is a line of the lower group.
 enum : int { doorgroup = 1, glassgroup = 2, sashgroup = 3, wallgroup = 4, ribgroup = 5 };
 
-// A flat piece of wall with the corners 1, 2, 3, 4 as (x, z): bottom left, bottom right, top left, top right.
-// Framing lines divide it into columns and rows; 0 for none.
+// A flat piece of wall. Its corners 1, 2, 3, 4 are bottom left, bottom right, top left and top right. Framing lines
+// divide it into columns and rows; 0: there are none.
 struct piece {
     int group, colour;
-    std::array<corner, 4> at;
+    std::array<corner, 4> corners;
     int columns, rows;
 };
 
@@ -62,12 +61,17 @@ constexpr wall orangewall{paint::orange, paint::orangerib, paint::orangetrim};
 constexpr wall yellowwall{paint::yellow, paint::yellowboard, paint::yellowtrim};
 constexpr wall doorwall{paint::cream, paint::cream, paint::creamtrim};
 
-// Returns the strips at the posts, the band at the top, and with ground the band at the bottom.
-std::vector<piece> frame(const wall& w, bool ground) {
-    std::vector<piece> p{tile(wallgroup, w.trim, 0, left, 0, storey, 1, 1),
-                         tile(wallgroup, w.trim, right, panellength, 0, storey, 1, 1),
-                         tile(wallgroup, w.trim, left, right, cornice, storey, 0, 1)};
-    if (ground) p.push_back(tile(wallgroup, w.trim, left, right, 0, plinth, 0, 1));
+// Returns the strips at the posts and the band at the top, which every panel has.
+std::vector<piece> frame(const wall& w) {
+    return {tile(wallgroup, w.trim, 0, left, 0, storey, 1, 1),
+            tile(wallgroup, w.trim, right, panellength, 0, storey, 1, 1),
+            tile(wallgroup, w.trim, left, right, cornice, storey, 0, 1)};
+}
+
+// Returns the frame with the band at the bottom, which panels without doors have.
+std::vector<piece> closedframe(const wall& w) {
+    std::vector<piece> p = frame(w);
+    p.push_back(tile(wallgroup, w.trim, left, right, 0, plinth, 0, 1));
     return p;
 }
 
@@ -76,14 +80,14 @@ void operator+=(std::vector<piece>& all, const std::vector<piece>& more) {
 }
 
 std::vector<piece> ribs(const wall& w) {
-    std::vector<piece> p;
+    std::vector<piece> p = closedframe(w);
     for (int rib = 0; rib < 11; rib++)
         p.push_back(tile(ribgroup, rib % 2 ? w.rib : w.face, left + rib * 16, left + rib * 16 + 16, plinth, cornice));
     return p;
 }
 
 std::vector<piece> boards(const wall& w) {
-    std::vector<piece> p;
+    std::vector<piece> p = closedframe(w);
     for (int board = 0; board < 8; board++)
         p.push_back(
             tile(ribgroup, board % 2 ? w.rib : w.face, left, right, plinth + board * 13, plinth + board * 13 + 13));
@@ -105,16 +109,17 @@ std::vector<piece> window(double x0, double x1, double z0, double z1, int panes,
     return p;
 }
 
-// A row of windows of equal width, with equal stretches of wall between and beside them.
-struct row {
+// A row of windows of equal width, with equal widths of wall between and beside them.
+struct windowrow {
     int count;
     double width, sill, lintel;
-    int panes, columns, rows;  // panes of a window; columns and rows into which the bars divide a pane
+    int panes, columns, rows;  // panes per window; columns and rows into which bars divide a pane
 };
 
-std::vector<piece> windows(const wall& w, const row& r) {
-    std::vector<piece> p{tile(wallgroup, w.face, left, right, plinth, r.sill),
-                         tile(wallgroup, w.face, left, right, r.lintel, cornice)};
+std::vector<piece> windows(const wall& w, const windowrow& r) {
+    std::vector<piece> p = closedframe(w);
+    p.push_back(tile(wallgroup, w.face, left, right, plinth, r.sill));
+    p.push_back(tile(wallgroup, w.face, left, right, r.lintel, cornice));
     const double pier = (right - left - r.count * r.width) / (r.count + 1);
     double x = left;
     for (int n = 0; n < r.count; n++) {
@@ -126,11 +131,12 @@ std::vector<piece> windows(const wall& w, const row& r) {
     return p;
 }
 
-// Returns a row of doors of equal width, each with stiles, a top rail, a pane above, an infill below and a brass
-// handle.
+// Returns a row of doors of equal width: each has a frame of stiles and rails, a pane in its upper half, an infill in
+// its lower half, and a brass handle.
 std::vector<piece> doors(const wall& w, int count, double width, int leaf, int infill) {
     constexpr double head = 100, stile = 6, foot = 6, half = 50, pane = 56, rail = 92, handle = 42, grip = 50;
-    std::vector<piece> p{tile(wallgroup, w.face, left, right, head, cornice)};
+    std::vector<piece> p = frame(w);
+    p.push_back(tile(wallgroup, w.face, left, right, head, cornice));
     const double pier = (right - left - count * width) / (count + 1);
     double x = left;
     for (int n = 0; n < count; n++) {
@@ -152,20 +158,20 @@ std::vector<piece> doors(const wall& w, int count, double width, int leaf, int i
     return p;
 }
 
-// Returns an octagonal window in the middle: three panes in a white sash, and the wall around it in bands and corners.
+// Returns an octagonal window in the middle, with three panes in a white sash, and the wall around it.
 std::vector<piece> octagon(const wall& w) {
     constexpr double middle = panellength / 2.0, height = 64;
     struct ring {
         double reach, half;  // from the middle to a side; half the length of a side
-        // Return the corner in the direction of the signs of x and z, on the vertical or on the horizontal side.
+        // Return the corner of the octagon on a vertical or horizontal side; the signs of x and z select it.
         corner onvertical(int x, int z) const { return {middle + x * reach, height + z * half}; }
         corner onhorizontal(int x, int z) const { return {middle + x * half, height + z * reach}; }
     };
     constexpr ring out{44, 18}, in{39, 16};
     const double x0 = middle - out.reach, x1 = middle + out.reach, z0 = height - out.reach, z1 = height + out.reach;
-    std::vector<piece> p{tile(wallgroup, w.face, left, right, plinth, z0),
-                         tile(wallgroup, w.face, left, right, z1, cornice), tile(wallgroup, w.face, left, x0, z0, z1),
-                         tile(wallgroup, w.face, x1, right, z0, z1)};
+    std::vector<piece> p = closedframe(w);
+    p += {tile(wallgroup, w.face, left, right, plinth, z0), tile(wallgroup, w.face, left, right, z1, cornice),
+          tile(wallgroup, w.face, left, x0, z0, z1), tile(wallgroup, w.face, x1, right, z0, z1)};
     const auto put = [&](int group, int colour, corner one, corner two, corner three, corner four, int columns = 0) {
         p.push_back({group, colour, {{one, two, three, four}}, columns, 0});
     };
@@ -194,27 +200,16 @@ std::vector<panel> panels() {
     const std::array orangewires{0, glasswire, glasswire + 1, orangewire, orangewire + 1};
     const std::array yellowwires{0, glasswire, glasswire + 1, yellowwire, yellowwire + 1};
     const auto doorwires = [](int door) { return std::array{door, glasswire, 0, doorwire, 0}; };
-    const auto withframe = [](const wall& w, bool ground, const std::vector<piece>& field) {
-        auto p = frame(w, ground);
-        p += field;
-        return p;
-    };
-    const auto orange = [&](const std::vector<piece>& field) { return withframe(orangewall, true, field); };
-    const auto yellow = [&](const std::vector<piece>& field) { return withframe(yellowwall, true, field); };
-    const auto withdoors = [&](int count, double width, int leaf, int infill) {
-        return withframe(doorwall, false, doors(doorwall, count, width, leaf, infill));
-    };
     using namespace paint;
     return {
-        {"1or", "Orange panel 1: upright ribs", orange(ribs(orangewall)), orangewires},
-        {"2or", "Orange panel 2: three windows", orange(windows(orangewall, {3, 42, 42, 100, 1, 2, 2})), orangewires},
-        {"3or", "Orange panel 3: one tall window", orange(windows(orangewall, {1, 72, 18, 108, 2, 1, 4})), orangewires},
-        {"1yel", "Yellow panel 1: level boards", yellow(boards(yellowwall)), yellowwires},
-        {"2yel", "Yellow panel 2: a band of glass", yellow(windows(yellowwall, {1, 176, 50, 98, 4, 1, 1})),
-         yellowwires},
-        {"3yel", "Yellow panel 3: a window with eight sides", yellow(octagon(yellowwall)), yellowwires},
-        {"2door", "Panel with two doors", withdoors(2, 46, doorred, doorredin), doorwires(doorwire + 1)},
-        {"4door", "Panel with four doors", withdoors(4, 34, doorgreen, doorgreenin), doorwires(doorwire + 2)},
+        {"1or", "Orange panel 1: upright ribs", ribs(orangewall), orangewires},
+        {"2or", "Orange panel 2: three windows", windows(orangewall, {3, 42, 42, 100, 1, 2, 2}), orangewires},
+        {"3or", "Orange panel 3: one tall window", windows(orangewall, {1, 72, 18, 108, 2, 1, 4}), orangewires},
+        {"1yel", "Yellow panel 1: level boards", boards(yellowwall), yellowwires},
+        {"2yel", "Yellow panel 2: a band of glass", windows(yellowwall, {1, 176, 50, 98, 4, 1, 1}), yellowwires},
+        {"3yel", "Yellow panel 3: a window with eight sides", octagon(yellowwall), yellowwires},
+        {"2door", "Panel with two doors", doors(doorwall, 2, 46, doorred, doorredin), doorwires(doorwire + 1)},
+        {"4door", "Panel with four doors", doors(doorwall, 4, 34, doorgreen, doorgreenin), doorwires(doorwire + 2)},
     };
 }
 
@@ -231,20 +226,20 @@ constexpr ends cuts[] = {
     { "both", "Cut on both sides by the width of a post.",     left, right },
 };  // clang-format on
 
-// Adds the bars of a pane as lines, where the framing lines of its solid face are.
-void bars(shape& s, const quad& pane) {
-    const auto along = [&](int from, int to, int part, int parts) {
-        const corner a = s.points[static_cast<std::size_t>(pane.points[static_cast<std::size_t>(from)]) - 1];
-        const corner b = s.points[static_cast<std::size_t>(pane.points[static_cast<std::size_t>(to)]) - 1];
-        return corner{a.x + (b.x - a.x) * part / parts, a.z + (b.z - a.z) * part / parts};
+// Adds the bars of a pane as lines, at the framing lines of its solid face.
+void addbars(shape& s, const piece& pane) {
+    const auto& [one, two, three, four] = pane.corners;
+    const auto along = [](corner from, corner to, int part, int parts) {
+        return corner{from.x + (to.x - from.x) * part / parts, from.z + (to.z - from.z) * part / parts};
     };
     for (int n = 1; n < pane.columns; n++)
-        s.line(glassgroup, along(0, 1, n, pane.columns), along(2, 3, n, pane.columns));
-    for (int n = 1; n < pane.rows; n++) s.line(glassgroup, along(0, 2, n, pane.rows), along(1, 3, n, pane.rows));
+        s.addline(glassgroup, along(one, two, n, pane.columns), along(three, four, n, pane.columns));
+    for (int n = 1; n < pane.rows; n++)
+        s.addline(glassgroup, along(one, three, n, pane.rows), along(two, four, n, pane.rows));
 }
 
-// Returns the panel without the pieces that reach beyond the cut; no piece has to be divided, since the strips at the
-// ends are as wide as the cut.
+// Returns the panel without the pieces beyond the cut. The strips at the ends are as wide as the cut, so no piece has
+// to be divided.
 shape cut(const panel& p, const ends& e) {
     shape s;
     s.title = std::string(p.title) + " (" + e.name + ")";
@@ -252,11 +247,11 @@ shape cut(const panel& p, const ends& e) {
     s.wires = p.wires;
     const auto within = [&](corner c) { return c.x >= e.from && c.x <= e.to; };
     for (const piece& q : p.pieces) {
-        if (!std::all_of(std::begin(q.at), std::end(q.at), within)) continue;
-        s.face(q.group, q.colour, q.at, q.columns, q.rows);
-        if (q.group == glassgroup) bars(s, s.quads.back());
+        if (!std::all_of(q.corners.begin(), q.corners.end(), within)) continue;
+        s.addface(q.group, q.colour, q.corners, q.columns, q.rows);
+        if (q.group == glassgroup) addbars(s, q);
     }
-    s.split();
+    s.splitlines();
     return s;
 }
 
@@ -274,9 +269,5 @@ void makeall(const std::string& folder) {
 }  // namespace tessaly
 
 int main(int argc, char** argv) {
-    if (argc != 2) {
-        std::fputs("usage: makepanels FOLDER\n", stderr);
-        return 2;
-    }
-    return tessaly::generate("makepanels", [argv] { tessaly::makeall(argv[1]); });
+    return tessaly::generate(argc, "makepanels FOLDER", [argv] { tessaly::makeall(argv[1]); });
 }

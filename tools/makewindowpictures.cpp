@@ -1,10 +1,10 @@
 // Generates the pictures of the windows from the real windows: the five navigation pictures and the opening picture of
 // the instructions window, and the window pictures of the guide and the README. makewindowpictures ROOT HELPFOLDER
-// DOCFOLDER works in a scratch folder with the data and samples of ROOT.
+// DOCFOLDER works in a temporary folder with the data and samples of ROOT.
 
 #include "building/layouts.h"
 #include "core/controls.h"
-#include "core/world.h"
+#include "core/viewvalues.h"
 #include "picturefiles/picturefile.h"
 #include "tools/generator.h"
 #include "tools/picturedescription.h"
@@ -18,7 +18,6 @@
 
 #include <algorithm>
 #include <clocale>
-#include <cstdio>
 #include <filesystem>
 #include <fstream>
 #include <initializer_list>
@@ -57,14 +56,14 @@ void pick(const char* list, const std::string& item) {
     runevent([&] { pickitem(c, static_cast<int>(found - c.items.begin())); });
 }
 
-void replaysolid(std::initializer_list<const char*> names) {
-    for (const char* name : names) {
+void replaysolid(std::initializer_list<std::string> names) {
+    for (const std::string& name : names) {
         click("autosolidsingle");
-        pick("autofile5", std::string(name) + ".txt");
+        pick("autofile5", name + ".txt");
     }
 }
 
-// Returns whether the middle of a control is in a region of its window; neighbours may overlap the edge.
+// Returns whether the middle of a control is in a region of its window; its edges may be outside.
 bool isin(const twips& region, const control& c) {
     const int x = c.bounds.left + c.bounds.width / 2 - region.left, y = c.bounds.top + c.bounds.height / 2 - region.top;
     return x >= 0 && x < region.width && y >= 0 && y < region.height;
@@ -82,7 +81,7 @@ QImage render(const window& w, int multiple = 1) {
     return image;
 }
 
-// Describes the controls in a region of a window, sorted, and the pixels of viewport if it is one of them.
+// Returns a description of the controls in a region of a window, sorted, with the pixels of viewport if it is one.
 std::string descriptionof(const window& w, const twips& region) {
     std::set<std::string> lines;
     for (const control* c : w.controls)
@@ -137,9 +136,9 @@ void showonly(const twips& bounds) {
     for (const control* c : vistaplan.controls) widgetof(*c)->setVisible(c->shown && isin(bounds, *c));
 }
 
-// Saves a picture of each region, on the grey of the main window, in the size of its help button.
+// Saves a picture of each region, on the background of the main window, at the size of its help button.
 void makehelppictures(const fs::path& folder) {
-    constexpr int density = 2;
+    constexpr int density = 2;  // pixels of the picture per pixel of the button, in each direction
     const auto inimage = [](int twips) { return density * twips / twipsperpixel; };
     for (const region& r : regions) {
         QImage filled(picturesize(r.button) * density, QImage::Format_RGB32);
@@ -157,16 +156,11 @@ void makehelppictures(const fs::path& folder) {
     showonly(fullbounds(vistaplan));
 }
 
-// Sets a view of the complete tower, with SET as a user would.
+// Sets a view of the complete tower, with SET, as a user would.
 void setviewoftower() {
-    struct typed {
-        control& box;
-        const char* text;
-    };
-    const typed texts[] = {{perptxtx, "1850"}, {perptxty, "-1850"}, {perptxtz, "1230"},
-                           {focustxtx, "1"},   {focustxty, "1"},    {focustxtz, "600"},
-                           {magtxt, ".036"},   {verttxt, "200"},    {horiztxt, "-270"}};
-    for (const typed& t : texts) t.box.text = t.text;
+    const char* const texts[] = {"1850", "-1850", "1230", "1", "1", "600", ".036", "200", "-270"};
+    std::size_t i = 0;
+    for (const viewvalue& v : viewvalues) v.box.text = texts[i++];
     click("cventerbtn");
     click("groupbtn");
 }
@@ -188,9 +182,9 @@ void makeall(const fs::path& guide, const fs::path& help, const fs::path& docume
     replaysolid({"girdhou1", "paneho1", "roofh1", "girdhou2", "paneho2", "roofh2"});
     savewindow(vistaplan, documents, "main-window");
     setviewoftower();
-    replaysolid({"girdtow1", "paneto1",  "girdtow2", "paneto2",  "girdtow3", "paneto3",  "girdtow4",
-                 "paneto4",  "girdtow5", "paneto5",  "girdtow6", "paneto6",  "girdtow7", "paneto7",
-                 "girdtow8", "paneto8",  "girdtow9", "paneto9",  "girdtow0", "paneto0",  "rooft0"});
+    for (const char floordigit : std::string("1234567890"))
+        replaysolid({std::string("girdtow") + floordigit, std::string("paneto") + floordigit});
+    replaysolid({"rooft0"});
     savepicture(viewportimage(), (help / "startpicbox.png").string());
     destroywindows();
 }
@@ -206,10 +200,6 @@ void copysamples(const fs::path& from, const fs::path& to) {
 
 int main(int argc, char** argv) {
     namespace fs = std::filesystem;
-    if (argc != 4) {
-        std::fputs("usage: makewindowpictures ROOT HELPFOLDER DOCFOLDER\n", stderr);
-        return 2;
-    }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     for (const char* scaling : {"QT_SCALE_FACTOR", "QT_SCREEN_SCALE_FACTORS", "QT_FONT_DPI"}) qunsetenv(scaling);
     QApplication::setDesktopSettingsAware(false);
@@ -217,9 +207,8 @@ int main(int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     tessaly::setstyle();
     tessaly::usepicturefiles();
-    return tessaly::generate("makewindowpictures", [argv] {
-        const fs::path help = fs::absolute(argv[2]), documents = fs::absolute(argv[3]);
-        const fs::path root = fs::absolute(argv[1]);
+    return tessaly::generate(argc, "makewindowpictures ROOT HELPFOLDER DOCFOLDER", [argv] {
+        const fs::path root = fs::absolute(argv[1]), help = fs::absolute(argv[2]), documents = fs::absolute(argv[3]);
         const tessaly::workingfolder scratch(root);
         tessaly::copysamples(root / "samples", "designs");
         tessaly::makeall(root / "docs" / "guide.play", help, documents);

@@ -1,6 +1,6 @@
-// A description of what a picture shows, one line per control, stored in the PNG file. Qt renders text and shades
-// differently with other font libraries, so tests compare these descriptions to find out on any machine whether a
-// picture is stale. They change when a control is moved, added, renamed or recoloured, or shows another picture.
+// A description of the contents of a picture, one line per control, stored in the PNG file. The pixels depend on the
+// font libraries of the machine, so tests compare these descriptions to find out whether a picture is out of date. A
+// description changes if a control is moved, added, renamed or recoloured, or shows another picture.
 #pragma once
 
 #include "core/controls.h"

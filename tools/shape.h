@@ -1,5 +1,5 @@
-// A flat element in the plane Y = 0: points, lines in five groups and quads. A generator adds faces and lines by their
-// corners; the shape numbers the points, splits the lines, removes duplicates, and formats the element data file.
+// A flat element in the plane Y = 0: points, lines in five groups, and quads. A generator adds faces and lines by their
+// corners. The shape numbers the points, splits lines, leaves out duplicates and formats the element file.
 #pragma once
 
 #include <array>
@@ -14,7 +14,7 @@ struct corner {
     bool operator==(const corner&) const = default;
 };
 
-// A quad in the painter's corner order: 1-2 and 3-4 are opposite edges, so going around gives 1, 2, 4, 3.
+// A quad in the painter's corner order: edges 1-2 and 3-4 are opposite, so the corners follow each other as 1, 2, 4, 3.
 struct quad {
     std::array<int, 4> points;  // point numbers of corners 1, 2, 3, 4
     int colour;                 // palette entry
@@ -28,14 +28,14 @@ struct shape {
     std::array<std::vector<std::pair<int, int>>, 5> lines;  // point numbers
     std::vector<quad> quads;
 
-    int pointat(corner c);                     // returns the number of the point; adds it if it is new
-    void line(int group, corner a, corner b);  // group 1..5; adds nothing if any group already has the line
+    int pointnumber(corner c);                    // returns the number of the point; adds a new point
+    void addline(int group, corner a, corner b);  // group 1..5; adds nothing if any group already has the line
     // Adds a quad with its corners in the painter's order, and its edges as lines of the group.
-    void face(int group, int colour, const std::array<corner, 4>& at, int columns, int rows);
-    // Splits each line at the points on it, so that no two lines overlap; a shared part stays in the lower group.
-    void split();
+    void addface(int group, int colour, const std::array<corner, 4>& corners, int columns, int rows);
+    // Splits each line at the points on it, so that no two lines overlap. A shared part stays in the lower group.
+    void splitlines();
 
-    std::string text() const;  // returns the element data file
+    std::string text() const;  // returns the text of the element file
 };
 
 }  // namespace tessaly

@@ -16,25 +16,23 @@ class workingfolder {
         std::random_device random;
         do path = fs::temp_directory_path() / ("tessaly-" + std::to_string(random()));
         while (!fs::create_directory(path));
-        for (const char* written : {"designs", "bmps", "nonuser"}) fs::create_directory(path / written);
+        for (const char* folder : {"designs", "bmps", "nonuser"}) fs::create_directory(path / folder);
         for (const char* data : {"datah", "pals"}) {
-            if (source.empty())
-                fs::create_directory(path / data);
-            else
-                fs::copy(source / data, path / data);
+            fs::create_directory(path / data);
+            if (!source.empty()) fs::copy(source / data, path / data);
         }
         fs::current_path(path);
     }
     ~workingfolder() {
         std::error_code ignored;
-        std::filesystem::current_path(camefrom, ignored);
+        std::filesystem::current_path(previous, ignored);
         std::filesystem::remove_all(path, ignored);
     }
     workingfolder(const workingfolder&) = delete;
     workingfolder& operator=(const workingfolder&) = delete;
 
   private:
-    std::filesystem::path camefrom = std::filesystem::current_path(), path;
+    std::filesystem::path previous = std::filesystem::current_path(), path;
 };
 
 }  // namespace tessaly
