@@ -1,5 +1,5 @@
 #!/usr/bin/python3 -Wignore
-"""Plays a script in the running program by its accessibility interface alone, and looks through every window that opens.
+"""Plays a script in the running program through its accessibility interface alone, and checks every window that opens.
 Usage: accessibility.py SCRIPT FILE-FOR-THE-DUMP"""
 import re
 import sys
@@ -83,7 +83,7 @@ def lookthrough(window):
 
 
 def namesofcontrols():
-    """What each control is called, by the table; behind the lines of the script stand the names of places."""
+    """Yields each control of the table with its accessible name. Comments of the script name the position buttons."""
     for row in re.finditer(r'^CONTROL\(\w+, *\w+, *(\w+),.*?"(.*?)",.*"(.*)"\)$', table.read_text(), re.M):
         yield row[1], row[3] or " ".join(row[2].split())
 
