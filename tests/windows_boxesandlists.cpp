@@ -1,7 +1,10 @@
-// Boxes and lists in the real windows: typing, the tint of numbers that are not in force, tooltips, the wheel, rows.
+// Boxes and lists in the real windows: typing, the tint of numbers that are not in force, tooltips, the wheel, rows,
+// and the files of captures.
 
 #include "core/viewvalues.h"
+#include "picturefiles/rasterview.h"
 #include "tests/windowsession.h"
+#include "windows/qt/canvas.h"
 
 #include <QAbstractItemDelegate>
 #include <QAbstractItemView>
@@ -18,15 +21,19 @@ using windows_boxesandlists = windowsession;
 
 namespace {
 
-const QColor usualpaper(255, 255, 255);
-
-QColor paper(const control& box) { return widgetof(box)->palette().color(QPalette::Base); }
+// The colour of a box beside its text.
+std::string colourof(const control& box) {
+    const QPixmap seen = widgetof(box)->grab();
+    const int margin = qRound(4 * seen.devicePixelRatio());
+    const QColor colour = seen.toImage().pixelColor(seen.width() - margin, margin);
+    return colour.saturation() < 10 ? "white" : colour.hue() < 30 ? "red" : colour.hue() < 60 ? "yellow" : "other";
+}
 
 void expecttinted(const std::set<const control*>& tinted) {
     for (const window* w : {&vistaplan, &easyviews})
         for (const control* c : w->controls)
             if (c->kind == controlkind::textbox && frameof(*w) && widgetof(*c)->focusPolicy() != Qt::NoFocus) {
-                EXPECT_EQ(paper(*c) != usualpaper, tinted.contains(c)) << c->name << " " << c->text;
+                EXPECT_EQ(colourof(*c), tinted.contains(c) ? "yellow" : "white") << c->name << " " << c->text;
                 EXPECT_EQ(widgetof(*c)->toolTip().toStdString(), tooltipof(*c));
             }
 }
@@ -113,7 +120,7 @@ TEST_F(windows_boxesandlists, boxesWarnOfWhatClicksWouldNotDo) {
     };
     for (const auto& row : rows) {
         qobject_cast<QLineEdit*>(widgetof(row.box))->setText(row.text);
-        EXPECT_EQ(paper(row.box) != usualpaper, row.warns) << row.box.name << " " << row.text;
+        EXPECT_EQ(colourof(row.box), row.warns ? "red" : "white") << row.box.name << " " << row.text;
         EXPECT_EQ(widgetof(row.box)->toolTip().toStdString() != row.box.tooltip, row.warns) << row.text;
     }
 }
@@ -183,6 +190,21 @@ TEST_F(windows_boxesandlists, aListOpenedByTheMouseShowsNoRowUntilAKeyIsPressed)
     QTest::keyClick(rows, Qt::Key_Down);
     QTest::keyClick(rows, Qt::Key_Return);
     EXPECT_EQ(tessaly::floor.text, "9");
+}
+
+// Rows of the list: the picture, its record, and both under a name that is not valid UTF-8.
+TEST_F(windows_boxesandlists, eitherFileBringsThePictureBack) {
+    const auto surface = [] { return viewof(viewportimage()).copy(); };
+    keys("screencapbtn Return =capbox \"view.bmp\" Return -capbox");
+    const QImage captured = surface();
+    EXPECT_EQ(QImage("bmps/view.bmp"), captured);  // the image's own pixels, whatever the density of the screen
+    for (const std::string ending : {".bmp", ".txt"}) std::filesystem::copy("bmps/view" + ending, "bmps/\xE9" + ending);
+    for (const std::string row : {"", "Down", "Down Down"}) {
+        click(magplusbtn);
+        EXPECT_NE(surface(), captured);
+        keys("retrieveimagetbtn Return =bmplistbox " + row + " Return displayimagebtn Return -bmplistbox");
+        EXPECT_EQ(surface(), captured) << row;
+    }
 }
 
 }  // namespace tessaly
