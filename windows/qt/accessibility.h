@@ -8,7 +8,7 @@ class QWidget;
 
 namespace tessaly {
 
-// Sets the role of a widget. Call it before assistive technology first asks for the widget.
+// Sets the role of a widget. Call it before assistive technology first queries the widget.
 void setrole(QWidget& widget, QAccessible::Role role);
 
 // Installs the roles and names. Call it after the QApplication was created and before its first window.

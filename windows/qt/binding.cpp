@@ -31,7 +31,7 @@ namespace {
 struct boundcontrol {
     control* state;
     QWidget* widget;
-    std::string text = {};  // this and the next two as last copied between control and widget
+    std::string text = {};  // text, items and tint: as last copied between control and widget
     std::vector<std::string> items = {};
     boxtint tint = boxtint::none;
 };
@@ -52,7 +52,7 @@ bool ending = false;   // the program is ending
 
 // ---- creating widgets ---------------------------------------------------------------------------------------
 
-// Makes the user's clicks and picks on a widget events of its control.
+// Runs the control's procedure when the user clicks its widget or picks an item.
 void connectevents(QWidget* widget, control& c) {
     const auto click = [&c] { runevent([&c] { clickcontrol(c); }); };
     const auto pick = [&c](int item) { runevent([&c, item] { pickitem(c, item); }); };

@@ -17,7 +17,7 @@ namespace {
 
 constexpr qint64 flushinterval = 15;  // ms; repainting more often would only slow a replay
 
-// flush repaints only the strip; viewport, which is under it, is repainted at the end of the event.
+// Repaints its widget at each flush. viewport, behind the strip, is repainted at the end of the event.
 class progressraster : public raster {
   public:
     using raster::raster;
@@ -43,7 +43,7 @@ canvas::canvas(const raster& itsimage, QWidget* parent) : QWidget(parent), image
 
 void canvas::paintEvent(QPaintEvent*) {
     QPainter painter(this);
-    // At a whole scale each pixel becomes a square of screen pixels. At a fractional scale the image is smoothed:
+    // At an integer scale each pixel becomes a square of screen pixels. At a fractional scale the image is smoothed:
     // otherwise thin lines would vary in width.
     painter.setRenderHint(QPainter::SmoothPixmapTransform, devicePixelRatioF() != std::floor(devicePixelRatioF()));
     painter.drawImage(rect(), viewof(image));

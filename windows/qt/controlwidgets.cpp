@@ -52,7 +52,7 @@ class rowpainter : public QStyledItemDelegate {
     }
 };
 
-// Clicking a row picks it, even if it is selected already; so does Enter on the current row. Each pick emits clicked.
+// A click picks a row, even the selected one, and Return picks the current row. Each pick emits clicked.
 class list : public QListWidget {
   public:
     list(const control& itscontrol, QWidget* content) : QListWidget(content), listcontrol(itscontrol) {
@@ -63,31 +63,30 @@ class list : public QListWidget {
         setVerticalScrollMode(ScrollPerPixel);
         QListWidget::viewport()->setAttribute(Qt::WA_Hover);
         setItemDelegate(new rowpainter(this));
-        // Assistive technology selects a row without a click: this picks the row.
+        // Assistive technology picks a row by selecting it, without a click.
         connect(selectionModel(), &QItemSelectionModel::selectionChanged, this, [this](const QItemSelection& rows) {
-            if (!marking && !rows.isEmpty()) pick(rows.front().top());
+            if (!selecting && !rows.isEmpty()) pick(rows.front().top());
         });
     }
 
     int rowheight(int rows) const {
         if (listcontrol.kind == controlkind::filelist) return maxrowheight;
-        const int least = fontMetrics().height();
-        return std::clamp((height() - 2 * frameWidth()) / std::max(rows, 1), least, maxrowheight);
+        const int minheight = fontMetrics().height();
+        return std::clamp((height() - 2 * frameWidth()) / std::max(rows, 1), minheight, maxrowheight);
     }
 
     // Selects this row only and makes it the current row of the keyboard; -1: selects none.
-    void mark(int row) {
-        const QModelIndexList marked = selectedIndexes();
-        if (row < 0 ? marked.isEmpty() : !marked.isEmpty() && marked.front().row() == row) return;
-        const QModelIndex picked = model()->index(row, 0);
-        marking = true;
-        selectionModel()->setCurrentIndex(picked, QItemSelectionModel::NoUpdate);
-        selectionModel()->select(picked, QItemSelectionModel::ClearAndSelect);
-        marking = false;
+    void selectrow(int row) {
+        const QModelIndex index = model()->index(row, 0);
+        if (selectedIndexes().value(0) == index) return;
+        selecting = true;
+        selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+        selectionModel()->select(index, QItemSelectionModel::ClearAndSelect);
+        selecting = false;
     }
 
   protected:
-    // The selection shows the picked item: only mark changes it, not the arrow keys or the mouse.
+    // Only selectrow changes the selection, which shows the picked item: arrow keys and the mouse do not.
     QItemSelectionModel::SelectionFlags selectionCommand(const QModelIndex&, const QEvent*) const override {
         return QItemSelectionModel::NoUpdate;
     }
@@ -122,12 +121,12 @@ class list : public QListWidget {
     void pick(int row) { emit clicked(model()->index(row, 0)); }
 
     const control& listcontrol;
-    bool marking = false;  // the program changes the selection: this is no pick
+    bool selecting = false;  // in selectrow, whose changes of the selection are not picks
 };
 
 // ---- boxes --------------------------------------------------------------------------------------------------
 
-// A box whose text is usually replaced: the first click selects all of it, as Tab does; the next one sets the cursor.
+// A text box of one line. The first click selects its whole text, as Tab does; the next click sets the cursor.
 class linebox : public QLineEdit {
   public:
     explicit linebox(QWidget* content) : QLineEdit(content) {
@@ -151,10 +150,10 @@ class linebox : public QLineEdit {
     void mouseDoubleClickEvent(QMouseEvent*) override { selectAll(); }
 
   private:
-    bool untouched = false;  // no key and no click since it got the focus
+    bool untouched = false;  // neither key nor click since it received the focus
 };
 
-// Ignores the wheel unless it has the focus.
+// A combination box that ignores the wheel unless it has the focus.
 class snipbox : public QComboBox {
   public:
     explicit snipbox(QWidget* content) : QComboBox(content) {
@@ -204,11 +203,10 @@ QWidget* maketextbox(const control& c, QWidget* content) {
     return makepage(captionfont(), content);
 }
 
-// A picture box on which the program does not draw. Shows the picture of the control's name, and above it the control's
-// text.
-class stillpicture : public QWidget {
+// A picture box that shows the picture file of its control's name, with the control's text above it.
+class namedpicture : public QWidget {
   public:
-    stillpicture(const control& c, QWidget* content)
+    namedpicture(const control& c, QWidget* content)
         : QWidget(content), image(pictureof(c.name)), caption(QString::fromStdString(c.text)) {
         setFont(captionfont(letterpixels));
     }
@@ -229,7 +227,7 @@ class stillpicture : public QWidget {
 QWidget* makepicturebox(const control& c, QWidget* content) {
     if (&c == &viewport) return new canvas(viewportimage(), content);
     if (&c == &progressbar) return new canvas(progressimage(), content);
-    return new stillpicture(c, content);
+    return new namedpicture(c, content);
 }
 
 QWidget* makeframe(QWidget* content) {
@@ -313,7 +311,7 @@ void setitems(QWidget& widget, const std::vector<std::string>& items) {
 }
 
 void setselection(const control& c, QWidget& widget) {
-    if (auto* rows = dynamic_cast<list*>(&widget)) rows->mark(c.selected);
+    if (auto* rows = dynamic_cast<list*>(&widget)) rows->selectrow(c.selected);
     if (auto* push = dynamic_cast<button*>(&widget)) push->setchosen(c.chosen || opensshownwindow(c));
     if (auto* box = qobject_cast<QComboBox*>(&widget)) {
         const QString text = box->currentText();

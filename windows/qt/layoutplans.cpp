@@ -1,6 +1,6 @@
 // Decorates the three layout windows: draws the plan behind the position buttons, marks the buttons whose element is
-// built, and shows the panel type of the next click. The plan is computed from the positions of the buttons and labels,
-// in twips of the window; its X runs downward, its Y to the right.
+// built, and shows the panel type of the next click. The positions of the buttons and labels determine the plan. Its X
+// axis points downward and its Y axis to the right. Coordinates are twips of the window unless stated otherwise.
 
 #include "building/buildstate.h"
 #include "building/builtelements.h"
@@ -10,6 +10,7 @@
 #include "windows/qt/decoration.h"
 #include "windows/qt/style.h"
 
+#include <QLabel>
 #include <QPainter>
 
 #include <algorithm>
@@ -34,14 +35,14 @@ const planstyle planstyles[] = {
     // clang-format on
 };
 
-// The grid points of a plan, at each of which a post can be.
+// The grid points of a plan: the possible positions of posts.
 struct grid {
     int left0, top0, pitch, columns, rows;
     int left(int column) const { return left0 + pitch * column; }
     int top(int row) const { return top0 + pitch * row; }
 };
 
-// Returns the grid whose middle is that of the position buttons.
+// Returns the grid of a layout window, centred behind its position buttons.
 grid gridof(const window& layout) {
     grid g{0, 0, 0, allbuttonfamilies().front().rows, allbuttonfamilies().front().cols};  // of the posts
     QRect buttons;
@@ -124,8 +125,10 @@ void shownextpanel(windowframe& f) {
 void decoratelayout(windowframe& f) {
     const auto& p = *std::find_if(std::begin(planstyles), std::end(planstyles),
                                   [&f](const planstyle& style) { return style.layout == &f.definition; });
-    for (const control* label : {&p.labelx, &p.labely})
-        widgetof(*label)->setFont(captionfont(captionpixels, QFont::Bold));
+    for (const control* c : {&p.labelx, &p.labely}) {
+        widgetof(*c)->setFont(captionfont(captionpixels, QFont::Bold));
+        qobject_cast<QLabel*>(widgetof(*c))->setAlignment(Qt::AlignCenter);
+    }
     const bool panels = p.layout == &layoutpanels;
     f.paintbackground = [&p, panels](QPainter& painter) {
         drawplan(painter, p);

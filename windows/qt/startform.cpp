@@ -13,11 +13,11 @@ namespace {
 
 constexpr int titlepixels = 32, datepixels = 15, startpixels = 22;
 
-// The size of the frame.
+// The size of the steel frame.
 constexpr int baysacross = 5, baysdeep = 7, storeys = 3;
 
-// Returns a grid point of the frame, seen from a corner, in pixels of the content.
-QPointF corner(int across, int deep, int up) {
+// Returns the pixel of a joint of the steel frame, which is seen from one of its corners.
+QPointF joint(int across, int deep, int up) {
     return {370.0 + 46 * across - 46 * (deep - 2), 488.0 - 15 * across - 15 * deep - 46 * up};
 }
 
@@ -31,10 +31,10 @@ void drawframe(QPainter& painter) {
     for (int across = baysacross; across >= 0; --across)
         for (int deep = baysdeep; deep >= 0; --deep) {
             const int distance = across + deep;  // in bays
-            draw(corner(across, deep, 0), corner(across, deep, storeys), distance);
+            draw(joint(across, deep, 0), joint(across, deep, storeys), distance);
             for (int up = 1; up <= storeys; ++up) {
-                if (across < baysacross) draw(corner(across, deep, up), corner(across + 1, deep, up), distance);
-                if (deep < baysdeep) draw(corner(across, deep, up), corner(across, deep + 1, up), distance);
+                if (across < baysacross) draw(joint(across, deep, up), joint(across + 1, deep, up), distance);
+                if (deep < baysdeep) draw(joint(across, deep, up), joint(across, deep + 1, up), distance);
             }
         }
 }

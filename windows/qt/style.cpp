@@ -16,7 +16,7 @@ namespace tessaly {
 
 namespace {
 
-// The captions were measured with the letter widths of the first four; DejaVu Sans is wider.
+// The captions fit with the letter widths of the first four; DejaVu Sans is wider.
 const QStringList captionfamilies{"Liberation Sans", "Arimo", "Arial", "Helvetica", "DejaVu Sans"};
 const QStringList pagefamilies{"Fixedsys", "Fixedsys Excelsior 3.01", "Fixedsys Excelsior", "DejaVu Sans Mono",
                                "Liberation Mono"};

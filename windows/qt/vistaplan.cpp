@@ -1,4 +1,4 @@
-// Decorates the main window: opens it maximised, and gives it its keys and the tags of its boxes.
+// Decorates the main window: connects its keys, and shows the tags and hints of its boxes.
 
 #include "core/viewvalues.h"
 #include "windows/handlers.h"
@@ -17,13 +17,13 @@ namespace {
 const QColor tagcolour(80, 80, 80);
 const QColor hintcolour(255, 255, 225);
 
-// Runs the procedure of a key. Then selects the text of a focused box, so that typing replaces it.
+// Runs the procedure of a key, then selects the text of a focused box, so that typing replaces it.
 void presskey(const std::function<void()>& procedure) {
     runevent(procedure);
     if (auto* line = qobject_cast<QLineEdit*>(QApplication::focusWidget())) line->selectAll();
 }
 
-// Makes Return in a box click a button, while that is shown.
+// Makes Return in a box click a button if the button is shown.
 void clickonreturn(const control& box, control& button) {
     auto* line = qobject_cast<QLineEdit*>(widgetof(box));
     QObject::connect(line, &QLineEdit::returnPressed, line, [&button] {

@@ -1,4 +1,4 @@
-// Computes the bounds of a window from the screen and from the picture of the main window.
+// Computes the bounds of a window from those of the screen and of the main window's picture.
 
 #include "windows/qt/windowposition.h"
 
@@ -15,7 +15,7 @@ namespace tessaly {
 
 namespace {
 
-constexpr int titlebar = 30, edge = 4;  // pixels that the desktop may use above and around a window
+constexpr int titlebar = 30, border = 4;  // pixels reserved for the title bar and the border of a window
 
 // Returns the part of the screen that is available for the interior of a window.
 QRect availablefor(const windowframe& f) { return f.screen()->availableGeometry().adjusted(0, titlebar, 0, 0); }
@@ -40,15 +40,16 @@ int distancefromtop(const tessaly::window& w) {
     return found == std::end(layouts) ? 0 : increment * static_cast<int>(found - layouts);
 }
 
-// Returns the bounds of a window at the right of the picture, moved left or up if the screen ends before.
+// Returns the bounds of a window at the right of the picture, moved left or up if it would extend beyond the screen.
 QRect besidepicture(const windowframe& f) {
     const QRect available = availablefor(f);
     const QSize size = firstsize(f);
     const QWidget& picture = *widgetof(viewport);
-    const QPoint wanted = picture.mapToGlobal(QPoint(picture.width() + edge, distancefromtop(f.definition)));
-    const QPoint last = QPoint(available.right() + 1 - size.width(), available.bottom() + 1 - size.height());
-    return {{std::clamp(wanted.x(), available.left(), last.x()), std::clamp(wanted.y(), available.top(), last.y())},
-            size};
+    const QPoint wanted = picture.mapToGlobal(QPoint(picture.width() + border, distancefromtop(f.definition)));
+    const QPoint maximum = QPoint(available.right() + 1 - size.width(), available.bottom() + 1 - size.height());
+    return {
+        {std::clamp(wanted.x(), available.left(), maximum.x()), std::clamp(wanted.y(), available.top(), maximum.y())},
+        size};
 }
 
 }  // namespace
@@ -65,7 +66,7 @@ void openmaximised(windowframe& f) {
 void openbesidemain(windowframe& f) {
     f.setGeometry(besidepicture(f));
     f.setWindowFlags(Qt::Dialog);  // desktops show a dialog in front of its parent
-    f.winId();                     // creates the native window, whose parent is set here
+    f.winId();                     // creates the native window
     if (const windowframe* main = frameof(vistaplan)) f.windowHandle()->setTransientParent(main->windowHandle());
 }
 

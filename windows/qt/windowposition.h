@@ -8,11 +8,11 @@ namespace tessaly {
 // Centres a window on the screen.
 void openincentre(windowframe& f);
 
-// Maximises a window. Without a window manager it is as large as its content, at most as the screen.
+// Maximises a window. Without a window manager it is as large as its content, but at most as large as the screen.
 void openmaximised(windowframe& f);
 
-// Opens a window at the right of the main window's picture, or over the picture if the screen ends before. It stays in
-// front of the main window, even while the user works in that.
+// Opens a window at the right of the main window's picture, or over the picture on a small screen. The window stays in
+// front of the main window, even while the main window is active.
 void openbesidemain(windowframe& f);
 
 }  // namespace tessaly
