@@ -1,4 +1,5 @@
-// The view record takes the texts of the boxes, not the view: a number that was typed but not SET is recorded too.
+// The view record of a capture holds the texts of the boxes, not the view. A number that was typed, but not yet applied
+// with SET, is recorded too.
 
 #include "captures/capture.h"
 
@@ -19,7 +20,7 @@ std::string viewrecord() {
     return record + "\r\n";
 }
 
-// Fails with file access error if name would lead out of the folder or could not be the name of a file.
+// Fails with file access error if a name contains a slash, which would lead out of the folder, or a zero byte.
 void expectbarename(const std::string& name) {
     if (name.find_first_of(std::string_view("/\0", 2)) != std::string::npos)
         throw failure(failurekind::fileaccess, "a name without / was expected", shortpath("bmps\\" + name),

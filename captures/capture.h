@@ -1,4 +1,4 @@
-// Screen capture: the picture as a bitmap file in bmps, and the view, as the boxes show it, as a record beside it.
+// Screen capture: the picture is saved as a bitmap file in bmps, and the view in the boxes as a record beside it.
 #pragma once
 
 #include "core/value.h"
@@ -13,12 +13,12 @@ void clickscreencapbtn();
 // Closes the dialog and empties the name box. Writes no file.
 void clickcapescapebtn();
 
-// Appends a record of the nine boxes to the view record, closes the dialog, then saves the bitmap. An existing bitmap
-// of that name is replaced.
-// reads: capbox, the nine boxes; writes: capname, capsidecar; fails: before any file is written with invalid call for a
-// name of fewer than four characters, with file access error for one that contains a slash; then with file not found if
-// there is no folder bmps, file already open if channel 1 is in use, file access error if the record or the bitmap
-// cannot be written. The dialog stays open unless only the bitmap failed.
+// Appends a record of the nine boxes to the text file of the capture, closes the dialog, then saves the bitmap. An
+// existing bitmap of that name is replaced.
+// reads: capbox, the nine boxes; writes: capname, capsidecar; fails: before a file is written, invalid call (a name of
+// fewer than four characters) and file access error (a name with a slash); then file not found (no folder bmps), file
+// already open (channel 1) and file access error (the record or the bitmap cannot be written). If only the bitmap
+// cannot be written, the dialog is closed.
 void clickscreencapenter();
 
 // Returns a file name without its last four characters, whatever they are. Fails with invalid call if it has fewer.

@@ -1,5 +1,6 @@
-// What a failed retrieval leaves depends on the step. Before the record is complete nothing has changed, but a record
-// that is too short leaves channel 1 open. After that the view may be set in part, or only the picture may be missing.
+// The effect of a failed retrieval depends on the step that failed. Until the view record has been read, the view is
+// unchanged, but a record that is too short leaves channel 1 open. After that, the view may be partly set, or only the
+// bitmap may be missing.
 
 #include "captures/retrieval.h"
 
@@ -20,8 +21,9 @@ namespace tessaly {
 
 namespace {
 
-// Sets the names of the picked file's pair. For any other extension, bmpimage remains that of the last retrieval.
-void namefiles() {
+// Sets the names of the bitmap and the view record to which the picked file belongs. If it is neither a .txt nor a
+// .bmp, the bitmap is that of the last retrieval.
+void setfilenames() {
     const std::string name = bmpfile.text(), stem = stemof(bmpfile);
     bmpstem = stem;
     bmpext = name.substr(stem.size());
@@ -29,8 +31,8 @@ void namefiles() {
     bmpsidecar = stem + ".txt";
 }
 
-// Returns the first nine fields, as texts. If the record ends early, channel 1 stays open and every later opening of it
-// fails. This is intended.
+// Returns the first nine fields of the view record, as texts. If the file has fewer, channel 1 stays open, and every
+// later opening of the channel fails. This is intended.
 std::vector<value> readviewrecord() {
     const std::string path = "bmps\\" + bmpsidecar.text();
     std::vector<value> fields;
@@ -42,14 +44,14 @@ std::vector<value> readviewrecord() {
 }
 
 void restorecapture() {
-    namefiles();
+    setfilenames();
     const std::vector<value> fields = readviewrecord();
     perprelative = 0;
     restorepoints();
     auto field = fields.begin();
     for (const viewvalue& v : viewvalues) v.number = *field++;
     storeeye();
-    // A smaller area than other clears: the rest remains visible unless the bitmap covers it.
+    // Other clears draw more rows, but these also cover the complete picture, except row 0 and column 0.
     viewportsurface->fillrows(1, 1125, 1, 829, backgroundcolour());
     projectdraw();
     writeviewboxes(retrievalcuts, mag / 10);

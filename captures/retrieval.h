@@ -1,4 +1,4 @@
-// Image retrieval: the list of bmps, deleting a file in it, and restoring a capture, its picture and its view.
+// Image retrieval: the list of the files in bmps, in which a file can be deleted, or a capture restored with its view.
 #pragma once
 
 namespace tessaly {
@@ -10,12 +10,14 @@ void clickretrieveimagetbtn();
 // Hides the list and its buttons.
 void clickclosebmpbtn();
 
-// Deletes the picked file, not its partner. The list is not refreshed. A file that cannot be deleted is ignored.
+// Deletes the picked file, but not the other file of its capture. The list is not refreshed. A file that cannot be
+// deleted is ignored.
 // reads: bmplistbox; writes: bmpfile.
 void clickdelbmpbtn();
 
-// Restores the picked capture, by its bitmap or its record: the view in the first line of the record, then the bitmap
-// on top. Any failure ends the retrieval without a message, and its earlier steps are not undone; the list closes.
+// Restores the capture to which the picked file belongs: sets the view to the first line of its view record, then sets
+// its bitmap as the picture. A failure ends the retrieval without a message; the steps before it are not undone. The
+// list is closed in any case.
 // reads: bmplistbox; writes: bmpfile, bmpstem, bmpext, bmpimage, bmpsidecar, the view state, the nine boxes and their
 // copies on easyviews; draws on viewport.
 void clickdisplayimagebtn();

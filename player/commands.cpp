@@ -1,5 +1,5 @@
-// The commands of a script; the table at the end has a row for each of them. A command can use a control only if a user
-// could: the control and its window must be shown.
+// The commands of a script; the table at the end has a row for each command. A command can use a control only if a user
+// could, so the control and its window must be shown.
 
 #include "player/commands.h"
 
@@ -24,15 +24,15 @@ namespace tessaly {
 
 namespace {
 
-std::string nameof(scriptline& line) {
+std::string readname(scriptline& line) {
     std::string name(line.word());
     if (name.empty()) throw scripterror("a name was expected");
     return name;
 }
 
-// Returns the control of the next word, which must be of one of these kinds and visible.
+// Returns the control that the next word names. It must be shown and of one of these kinds.
 control& reachablecontrol(scriptline& line, std::initializer_list<controlkind> kinds, const char* wanted) {
-    const std::string name = nameof(line);
+    const std::string name = readname(line);
     control* const c = findcontrol(name);
     if (c == nullptr) throw scripterror("there is no control " + name);
     if (std::find(kinds.begin(), kinds.end(), c->kind) == kinds.end()) throw scripterror(name + " is not " + wanted);
@@ -64,7 +64,7 @@ void type(scriptline& line) {
 }
 
 void close(scriptline& line) {
-    const std::string name = nameof(line);
+    const std::string name = readname(line);
     line.expectend();
     window* const w = findwindow(name);
     if (w == nullptr) throw scripterror("there is no window " + name);
@@ -74,7 +74,7 @@ void close(scriptline& line) {
 
 // Presses a key that acts in any window.
 void key(scriptline& line) {
-    const std::string name = nameof(line);
+    const std::string name = readname(line);
     line.expectend();
     const auto keys = programkeys();
     const auto known = std::find_if(keys.begin(), keys.end(), [&](const programkey& k) { return k.name == name; });
@@ -147,9 +147,9 @@ struct editedfile {
     std::string before;
 };
 
-// Reads FILE "TEXT" "OTHER" and replaces the first TEXT in the file by OTHER; an empty TEXT is the complete file.
+// Reads FILE "TEXT" "OTHER" and replaces the first TEXT in the file with OTHER, or the complete file if TEXT is empty.
 editedfile editfile(scriptline& line) {
-    const auto path = ownfile(nameof(line));
+    const auto path = ownfile(readname(line));
     const std::string text = line.quoted(), other = line.quoted(), before = readfile(path);
     const std::size_t at = before.find(text);
     if (at == std::string::npos) throw scripterror(path.string() + " has no " + inquotes(text));
@@ -170,7 +170,7 @@ void deletefile(scriptline& line) {
 
 void playline(std::string_view text, std::string_view recorded);
 
-// Plays the rest of the line, which is expected to end the program with a failure.
+// Plays the rest of the line. Throws scripterror unless it ends the program with a failure.
 void playfailing(scriptline& line) {
     try {
         playline(line.rest(), line.text());
@@ -198,7 +198,7 @@ void mistake(scriptline& line) {
     restart();
 }
 
-// Opens the main window; the record does not show what this changes.
+// Opens the main window; the record does not show what changes.
 void start(scriptline& line) {
     line.expectend();
     scriptline button("startprogrambtn");
@@ -213,9 +213,9 @@ std::size_t indexin(std::string_view word) {
     return index;
 }
 
-// Writes a part of a table, also to the record, which otherwise shows only checksums of tables.
+// Writes a part of a table, also to the record. Other steps record only checksums of tables.
 void table(scriptline& line) {
-    const std::string name = nameof(line);
+    const std::string name = readname(line);
     const std::size_t from = indexin(line.word()), to = indexin(line.word());
     line.expectend();
     const auto text = tabletext(name, from, to);

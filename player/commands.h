@@ -4,7 +4,7 @@
 //   start                                    clicks startprogrambtn; the session's record does not show what it does
 //   edit FILE "TEXT" "OTHER", delete FILE    as in an editor or a file manager; an empty TEXT is the complete file
 //   fails STEP                               a step that must end the program with a report; then starts it again
-//   mistake FILE "TEXT" "OTHER" STEP         the same, with the file so edited during the step
+//   mistake FILE "TEXT" "OTHER" STEP         the same, with the file edited in that way during the step
 //   show, layout, table NAME FROM TO         windows, controls and scalars; how windows look; a part of a table
 //   say TEXT                                 a line of text
 //   lines FILE, picture FILE, record FILE    each line drawn from here on; the picture; what each step changes
@@ -16,7 +16,7 @@
 namespace tessaly {
 
 // Plays one line of a script; blank lines and comments do nothing. Throws scripterror for an action that no user could
-// carry out, such as a click on a hidden button. Throws the failures of the program, too.
+// carry out, such as a click on a hidden button. Also throws the failures of the program.
 void playline(std::string_view line);
 
 }  // namespace tessaly

@@ -1,5 +1,4 @@
-// While lines are logged or counted, drawbetween draws them one by one, so that each of them is in the log. The image
-// is the same.
+// While lines are logged or counted, drawbetween draws them one by one. The image is the same.
 
 #include "player/loggedsurface.h"
 

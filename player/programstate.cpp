@@ -1,4 +1,4 @@
-// Describes each window, control and scalar in an item or a line.
+// Describes windows, controls and scalars, each by an item of the state or a line of the layout.
 
 #include "player/programstate.h"
 

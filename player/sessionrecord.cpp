@@ -64,7 +64,7 @@ class changeline {
     std::string changes;
 };
 
-// Does not repeat a typed or picked text, with which the step ends.
+// Writes the changes of windows, controls and scalars, except a typed or picked text, with which the step itself ends.
 void writestate(std::string_view step, const snapshot& after) {
     changeline values("values"), texts("texts"), hidden("hidden"), shown("shown");  // written in reverse order
     for (std::size_t i = 0; i < after.state.size(); ++i) {

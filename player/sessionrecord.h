@@ -33,7 +33,7 @@ bool recordstep(std::string_view step);
 bool recordunseen(std::string_view step);
 bool recordfailure(std::string_view step, std::string_view report);
 
-// Makes the present state the one with which the next step is compared. Call it after the program was started again.
+// Takes the current state as the one with which the next step is compared. Call it after restarting the program.
 void recordrestart();
 
 }  // namespace tessaly

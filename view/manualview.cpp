@@ -10,8 +10,8 @@ namespace tessaly {
 
 namespace {
 
-// Compares texts character by character: "100" differs from "100.0", and a number differs from every text. An eye that
-// nudgeview has moved is a number, so it is excluded from the comparisons that follow.
+// Compares texts character by character: "100" differs from "100.0", and a number differs from every text. A coordinate
+// that nudgeview has moved is a number, so the comparisons that follow do not find it equal.
 bool sametext(const value& a, const value& b) { return a.istext() && b.istext() && a.text() == b.text(); }
 
 }  // namespace
@@ -57,8 +57,8 @@ void clickshopfm() {
     hide(shopfm);
 }
 
-// The first two pictures are shifted by the focus, because the working points are relative to the focus already; the
-// last one covers them.
+// The working points are relative to the focus already, so projectdraw and settle draw pictures that are shifted by the
+// focus. The replot after each of them draws the right picture.
 void drawrelativeview() {
     storeeye();
     projectdraw();

@@ -1,10 +1,11 @@
-// Manual entry of the view: SET applies all nine boxes at once, Default view restores fixed values, and two buttons
-// hide and show seven of the boxes. Typing in a box changes nothing until SET.
+// Manual entry of the view: SET applies all nine boxes at once, Default view sets fixed values, and two buttons hide
+// and show seven of the boxes. Typing in a box changes nothing until SET.
 #pragma once
 
 namespace tessaly {
 
-// SET: restores the placed points, reads the nine boxes into the view state, draws, and writes the boxes back, cut.
+// SET: restores the points as placed, reads the nine boxes into the view state, draws, and writes the numbers back to
+// the boxes, cut to a few characters.
 // reads: the nine boxes, shown or hidden; writes: view state, the boxes and their copies on easyviews; draws on
 // viewport; fails: type mismatch if a box does not hold a number, and as projectdraw.
 void clickcventerbtn();
@@ -17,9 +18,9 @@ void clickdefaultviewbtn();
 void clickhidpfm();
 void clickshopfm();
 
-// Draws a view whose eye was just set relative to the focus, from the current working points, and writes the nine
-// boxes. Default view and the start of the rotation share it. reads: perpx.. focusx.. mag, shifts; writes: perprelx..
-// perpabsx.. perpsumx.. and as projectdraw; fails: as projectdraw.
+// Draws a view, of which Default view or the start of the rotation has just set the eye relative to the focus, and
+// writes the nine boxes. reads: perpx.., focusx.., mag, vertshift, horizshift; writes: perprelx.., perpabsx..,
+// perpsumx.. and as projectdraw; fails: as projectdraw.
 void drawrelativeview();
 
 }  // namespace tessaly

@@ -1,4 +1,4 @@
-// The quick view buttons, one row per button, and a click on one of them. On the plan X grows downward, Y to the right.
+// The table of the quick view buttons, and the procedure of a click. On the plan X grows downward and Y to the right.
 
 #include "view/quickviews.h"
 
@@ -49,7 +49,7 @@ static_assert(std::size(quickviews) == 30);
 
 // One eye button also copies the focus X of easyviews to the main window. It is the only way in which a text typed on
 // easyviews reaches the main window. This is intended.
-constexpr std::string_view focuscopier = "perpx0ym1800";
+constexpr std::string_view focuscopyingbutton = "perpx0ym1800";
 
 constexpr int buttonsize = 255;  // twips
 
@@ -63,7 +63,7 @@ std::string accessiblenameof(const quickview& q) {
 void clickquickview(const quickview& q) {
     int i = 0;
     for (const viewvalue& v : q.kind.values) v.easyviewsbox->text = std::to_string(q.numbers[i++]);
-    if (q.name == focuscopier) focustxtx.text = efocusxbox.text;
+    if (q.name == focuscopyingbutton) focustxtx.text = efocusxbox.text;
     for (const viewvalue& v : q.kind.values) v.box.text = v.easyviewsbox->text;
 }
 

@@ -1,5 +1,5 @@
-// Quick view change: the easyviews window with its 30 buttons, each for a fixed X and Y, or a fixed Z, of the eye or
-// the focus. A click only writes numbers into boxes: the view changes at SET.
+// Quick view change: the easyviews window with 30 buttons. Each button stands for a fixed X and Y, or a fixed Z, of the
+// eye or the focus. A click only writes numbers into boxes; SET changes the view.
 #pragma once
 
 #include "core/viewvalues.h"
@@ -8,9 +8,9 @@
 
 namespace tessaly {
 
-// What the buttons of a kind share.
+// What the buttons for the same view values share.
 struct quickviewkind {
-    viewvaluespan values;  // those that a click writes
+    viewvaluespan values;  // X and Y, or Z, of the eye or the focus
     colour background;
     const char* accessiblename;
 };
@@ -22,7 +22,7 @@ inline constexpr quickviewkind focusheight{focusvalues.last(1), {255, 0, 0}, "Fo
 struct quickview {
     const char* name;  // of the button
     const quickviewkind& kind;
-    int numbers[2];  // model units, absolute: X and Y, or Z
+    int numbers[2];  // of the values: model units, absolute
     int left, top;   // twips on easyviews
 };
 
@@ -34,8 +34,8 @@ void clickfastchange();
 // Hides easyviews. The view is unchanged.
 void clickeasysetbtn();
 
-// Adds the 30 buttons to easyviews. A click on one writes its numbers to its boxes on easyviews and copies those boxes
-// to the main window.
+// Adds the 30 buttons to easyviews. A click on a button writes its numbers to the boxes of their values, on easyviews
+// and on the main window.
 void addquickviewbuttons();
 
 }  // namespace tessaly

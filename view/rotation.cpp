@@ -1,5 +1,5 @@
-// The walk of the eye. The limits of the square apply to the numbers read from the boxes, not to the eye itself: an eye
-// that is past a limit continues outside the square.
+// Moves the eye along the sides of the square. The limits of the square apply to the numbers read from the boxes, not
+// to the eye itself: an eye beyond a limit continues outside the square.
 
 #include "view/rotation.h"
 
@@ -14,12 +14,12 @@ namespace {
 
 constexpr double limit = 1800;  // model units, absolute: half the side of the square
 
-// A side of the square, in the order of rotstage: the coordinate that changes along it, and the next stages.
+// A side of the square, in the order of rotstage: the coordinate of the eye that changes along it, and the next stages.
 struct side {
-    value &eye, &relative, &seen;  // seen: the number last read from the box
+    value &eye, &storedeye, &boxnumber;  // boxnumber: as last read from the box
     control& box;
-    int sign;         // of a step of the coordinate
-    std::size_t cut;  // of the limit in the box; a Y of -1800 is shown as "-180" until the step that follows
+    int sign;         // direction in which the coordinate changes
+    std::size_t cut;  // number of characters to which the limit is cut in the box: Y -1800 becomes "-180"
     int nextleft, nextright;
 };
 const side sides[] = {
@@ -37,7 +37,7 @@ const side& currentside() {
     return sides[0];
 }
 
-bool limitmet(const side& s) { return s.sign < 0 ? s.seen <= -limit : s.seen >= limit; }
+bool limitmet(const side& s) { return s.sign < 0 ? s.boxnumber <= -limit : s.boxnumber >= limit; }
 
 void readeyeboxes() {
     rotboxx = Val(perptxtx.text);
@@ -46,15 +46,15 @@ void readeyeboxes() {
 
 void step(const side& s, double rotinc) {
     s.eye = s.eye + s.sign * rotinc;
-    s.relative = s.eye;
+    s.storedeye = s.eye;
     settle();
     replot();
     writeviewboxes(rotationcuts);
     readeyeboxes();
 }
 
-// Moves the eye along the current side by one step. If the limit of the side is reached before or after the step, goes
-// on with the next side. The loop ends because opposite sides cannot both be reached within one step.
+// Moves the eye along the current side by one step. If the limit of the side is reached before or after the step,
+// continues with the next side. The loop ends because a step is shorter than a side.
 void walk(int side::*next) {
     const double rotinc = pickedincrement(rotincbox, usualrotation);
     readeyeboxes();
@@ -64,8 +64,8 @@ void walk(int side::*next) {
             step(s, rotinc);
             if (!limitmet(s)) return;
         }
-        s.seen = s.sign * limit;
-        writebox(s.box, boxtext(s.seen, s.cut));
+        s.boxnumber = s.sign * limit;
+        writebox(s.box, boxtext(s.boxnumber, s.cut));
         rotstage = s.*next;
     }
 }

@@ -1,21 +1,18 @@
-// A step changes its value, rebases the points if needed, replots and writes the value's boxes.
+// A step changes a view value, rebases the points if needed, replots, and writes boxes of the view.
 
 #include "view/stepping.h"
 
 #include "core/viewvalues.h"
 #include "render/redraw.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace tessaly {
 
 namespace {
 
-constexpr double magscale = 10;  // mag while displaying, divided by the number in magtxt
+constexpr double magscale = 10;  // mag is this many times the number in magtxt
 
-// Moves the focus down or up. The eye is stored relative to the focus: it moves against the focus, so that its absolute
-// position is unchanged.
+// Moves the focus down or up. The eye, which is stored relative to the focus, moves in the opposite direction, so that
+// its absolute position is unchanged.
 void stepfocus(int sign, double increment) {
     focusinc = increment;
     focusz = focusz + sign * focusinc;
@@ -49,26 +46,26 @@ void stepmag(int sign, double increment) {
     writeviewboxes(magstepcuts);
 }
 
-// Returns the number that the first five characters of a shift hold; all others are lost. If they end within the
-// exponent of a large number, the digits before it count. fails: type mismatch if the shift does not begin as a number.
-double frontof(const value& shift) {
+// Returns the number in the first five characters of a shift; its other characters are lost. If they end within an
+// exponent, returns the number before the exponent. fails: type mismatch if neither they nor the shift are a number.
+double cutshift(const value& shift) {
     const std::string front = (shift.isnumber() ? plaindigits(shift) : shift.text()).substr(0, 5);
-    if (!strictnumber(front)) static_cast<void>(static_cast<double>(shift));
+    if (!strictnumber(front)) static_cast<void>(double(shift));  // fails for a text that is not a number
     return Val(front);
 }
 
 void stepshift(int sign, double increment, const viewvalue& shift) {
     shiftinc = increment;
-    shift.number = frontof(shift.number) + sign * shiftinc;
+    shift.number = cutshift(shift.number) + sign * shiftinc;
     settle();
     replot();
     writebox(shift.box, boxtext(shift.number, 5));
 }
 
-// A pair of buttons and the list that selects their step.
+// A pair of buttons, the list in which their increment is picked, and the button that shows the list.
 struct steppair {
     control &down, &up, &list, &listbutton;
-    double usual;  // step without a pick: model units, units of magtxt, viewport pixels
+    double usualincrement;  // without a pick: model units, units of magtxt, viewport pixels
     void (*step)(int sign, double increment);
 };
 const steppair pairs[] = {
@@ -78,46 +75,42 @@ const steppair pairs[] = {
     {magminusbtn,       magplusbtn,       magincbox,     magincbtn,    0.001,     stepmag},
     {vertdec,           vertinc,          incrementlist, incrementbtn, 50,        [](int sign, double increment) { stepshift(sign, increment, shiftvalues[0]); }},
     {horizdec,          horizinc,         incrementlist, incrementbtn, 50,        [](int sign, double increment) { stepshift(sign, increment, shiftvalues[1]); }},
-    {rotleftbtn,        rotrightbtn,      rotincbox,     rotincbtn,    usualrotation, nullptr},  // the rotation has its own procedures
+    {rotleftbtn,        rotrightbtn,      rotincbox,     rotincbtn,    usualrotation, nullptr},  // view/rotation has the procedures
     // clang-format on
 };
 
-// Writes the step and the list where it was picked into the tooltips of the buttons.
-void notesteps() {
+double pickedincrement(const steppair& p) { return pickedincrement(p.list, p.usualincrement); }
+
+// Adds each increment to the tooltips of its buttons. If it was picked, also adds the caption of the button that shows
+// its list.
+void settooltips() {
     for (const steppair& p : pairs) {
         const bool picked = pickedincrement(p.list, 0) != 0;
         const std::string from = picked ? ", picked in \"" + p.listbutton.text + '"' : "";
-        p.down.tooltipsuffix = p.up.tooltipsuffix = " by " + boxtext(pickedincrement(p.list, p.usual)) + from;
+        p.down.tooltipsuffix = p.up.tooltipsuffix = " by " + boxtext(pickedincrement(p)) + from;
     }
 }
 
 }  // namespace
 
 void preparesteps() {
-    for (const steppair& p : pairs) p.down.repeats = p.up.repeats = true;
-    notesteps();
-}
-
-void clickstepbtn() {
-    for (const steppair& p : pairs)
-        if (usedcontrol == &p.down || usedcontrol == &p.up)
-            return p.step(usedcontrol == &p.up ? 1 : -1, pickedincrement(p.list, p.usual));
-}
-
-void clicksteplistbtn() {
-    const auto p = std::find_if(std::begin(pairs), std::end(pairs),
-                                [](const steppair& s) { return &s.listbutton == usedcontrol; });
-    show(p->list);
-}
-
-void picksteplist() {
-    hide(*usedcontrol);
-    notesteps();
+    for (const steppair& p : pairs) {
+        p.down.repeats = p.up.repeats = true;
+        p.listbutton.run = [&p] { show(p.list); };
+        p.list.run = [&p] {
+            hide(p.list);
+            settooltips();
+        };
+        if (!p.step) continue;
+        p.down.run = [&p] { p.step(-1, pickedincrement(p)); };
+        p.up.run = [&p] { p.step(1, pickedincrement(p)); };
+    }
+    settooltips();
 }
 
 double pickedincrement(const control& list, double usual) {
-    const double step = Val(selectedtext(list));
-    return step == 0 ? usual : step;
+    const double increment = Val(selectedtext(list));
+    return increment == 0 ? usual : increment;
 }
 
 }  // namespace tessaly

@@ -1,5 +1,6 @@
 // The table of the named controls' procedures, the start and the end of the program, and the display buttons. The
-// generated buttons of the layouts and the quick views get their procedures where they are generated.
+// position buttons, the quick view buttons and the stepping controls get their procedures in building/layouts,
+// view/quickviews and view/stepping.
 
 #include "windows/handlers.h"
 
@@ -39,16 +40,15 @@ void filllists() {
     floorlist.items = {"9", "8", "7", "6", "5", "4", "3", "2", "1"};
 }
 
-void readfolders() {
+void setfolders() {
     setfolder(designfileslist, "designs\\");
     setfolder(bmplistbox, "bmps\\");
     for (control* list : {&autofile, &autofile1, &autofile2, &autofile3, &autofile4, &autofile5})
         setfolder(*list, "designs\\");
-    startdisplay();
 }
 
-// Returns why the program cannot run in the current folder; "" if it can.
-std::string unusablefolder() {
+// Returns why the program cannot run in the current folder, "" if it can.
+std::string folderproblem() {
     std::error_code failed;
     if (std::filesystem::is_directory("datah", failed)) return {};
     const std::string here = std::filesystem::current_path(failed).string();
@@ -60,10 +60,11 @@ void clickstartprogrambtn() {
     hidewindow(startform);
     filllists();
     try {
-        readfolders();
+        setfolders();
+        startdisplay();
     } catch (const failure& f) {
-        const std::string why = unusablefolder();
-        throw failure(f.kind, f.detail, f.location, why.empty() ? f.remedy : why);
+        const std::string problem = folderproblem();
+        throw failure(f.kind, f.detail, f.location, problem.empty() ? f.remedy : problem);
     }
     showwindow(vistaplan);
 }
@@ -90,10 +91,10 @@ void clickexitbtn() {
     programended = true;
 }
 
-// The procedures of the named controls. CLICK(x) is the row of control x and its procedure clickx; PICK(x) that of list
-// x and pickx.
+// The procedures of the named controls. CLICK(x) is the row of control x with the procedure clickx, PICK(x) that of
+// list x with the procedure pickx.
 struct handler {
-    control* clicked;
+    control* handled;
     void (*run)();
 };
 // clang-format off
@@ -116,12 +117,6 @@ const handler handlers[] = {
     CLICK(displayfilelistbtn), PICK(designfileslist), CLICK(killfilebtn), CLICK(closefilelistbtn),
     // rotation
     CLICK(activateleftbtn), CLICK(rotleftbtn), CLICK(rotrightbtn), CLICK(activaterightbtn), CLICK(reactivateleftbtn),
-    // steps of the view
-    {&vertfocusminusbtn, clickstepbtn}, {&vertfocusplusbtn, clickstepbtn}, {&vertperpminusbtn, clickstepbtn},
-    {&vertperpplusbtn, clickstepbtn}, {&magminusbtn, clickstepbtn}, {&magplusbtn, clickstepbtn},
-    {&vertdec, clickstepbtn}, {&vertinc, clickstepbtn}, {&horizdec, clickstepbtn}, {&horizinc, clickstepbtn},
-    {&incrementbtn, clicksteplistbtn}, {&magincbtn, clicksteplistbtn}, {&rotincbtn, clicksteplistbtn},
-    {&incrementlist, picksteplist}, {&magincbox, picksteplist}, {&rotincbox, picksteplist},
     // manual view and quick views
     CLICK(cventerbtn), CLICK(defaultviewbtn), CLICK(hidpfm), CLICK(shopfm), CLICK(fastchange), CLICK(easysetbtn),
     // captures
@@ -184,7 +179,7 @@ void startprogram() {
     addquickviewbuttons();
     setboxwarnings();
     preparesteps();
-    for (const handler& h : handlers) h.clicked->run = h.run;
+    for (const handler& h : handlers) h.handled->run = h.run;
     for (const helppage& p : helppages) p.page.text = p.text;
     for (const sniptype& s : sniptypes) panelsnipper.items.push_back(s.text);
     showwindow(startform);

@@ -1,5 +1,5 @@
-// The start of the program, which connects every control to its procedure, and the closing of its windows. No Qt here:
-// the windows and the player run the same procedures on the same controls.
+// The start of the program, which connects every control to its procedure, and the closing of windows. No Qt here: the
+// windows and the player run the same procedures on the same controls.
 #pragma once
 
 #include "core/controls.h"
@@ -9,10 +9,10 @@
 namespace tessaly {
 
 // Resets the program to its first state: all controls have their procedures, startform is shown, no file has been read.
-// Set viewportsurface and progresssurface before.
+// The caller must have set viewportsurface and progresssurface.
 void startprogram();
 
-// The keys that act in any window once the main window has been opened, and their procedures.
+// The keys that act in any window once the main window has been opened, with their procedures.
 struct programkey {
     const char* name;
     void (*press)();
@@ -20,9 +20,9 @@ struct programkey {
 std::span<const programkey> programkeys();
 
 // Handles the Escape key in window w. focused is the control with the keyboard focus, nullptr if there is none. Clicks
-// the closing button that belongs to focused, or else the first closing button shown in w; hides a layout window, which
-// has none. A focused list that closes only when an item is picked stays open and loses the focus to the control that
-// opened it.
+// the closing button to which focused belongs, otherwise the first closing button shown in w. Hides a layout window, as
+// it has no closing button. If focused is a list that only a pick closes, the list stays open, and the focus moves to
+// the control that opened it.
 void pressescape(window& w, const control* focused);
 
 // Closes a window for the user: startform and vistaplan end the program as exitbtn does, any other window is hidden.

@@ -1,4 +1,4 @@
-// The instructions window. No Qt here.
+// The instructions window: showing its pages, opening and closing it.
 #pragma once
 
 #include "core/controls.h"
@@ -7,7 +7,7 @@
 
 namespace tessaly {
 
-// Shows these pages of the window, hides the others and the start picture, and marks the clicked button as chosen.
+// Shows these pages, hides the other pages and the start picture, and marks the clicked button as chosen.
 // reads: usedcontrol.
 void showpages(std::initializer_list<control*> pages);
 
