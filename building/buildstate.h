@@ -1,5 +1,5 @@
-// The building state, which is stored in the text boxes of the main window and read at each click on a plan: panel type
-// and snip, floor, draw mode, record mode.
+// The building state: panel type, snip, floor, draw mode and record mode. It determines what a click on a plan does,
+// and is stored in text boxes, except for the panel type.
 #pragma once
 
 #include "core/value.h"

@@ -17,7 +17,7 @@ void clickclosefilelistbtn();
 // fails: file not found, file access error.
 void clickkillfilebtn();
 
-// Hides the lists in which both readers have a first file picked, their prompts and the button itself.
+// Hides the lists of both readers, except those for a second file, their prompts and the button itself.
 void clickescapefilelistbtn();
 
 }  // namespace tessaly

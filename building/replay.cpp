@@ -109,7 +109,8 @@ void appendtemporary(temporaryfile& file, const std::vector<recordorigin>& origi
 void readtemporary(const temporaryfile& file, int n, recordcolumns columns,
                    const std::function<void(int k, const std::vector<value>& fields, const textinput& in,
                                             fieldlocation record)>& use) {
-    const int firstfield = recordlength + 1 - static_cast<int>(columns.size());  // number in the record; 0: before it
+    const int firstfield =
+        recordlength + 1 - static_cast<int>(columns.size());  // its number in the record; 0: precedes it
     textinput& in = openinput(2, file.path, "temporary file");
     for (std::size_t i = 0; i < static_cast<std::size_t>(n); ++i) {
         if (i < file.origins.size() && !file.origins[i].path.empty()) {

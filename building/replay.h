@@ -13,7 +13,7 @@
 
 namespace tessaly {
 
-// Where the record of a temporary file's line was read, for reports.
+// The location in a design file from which the record in a line of a temporary file came, for reports.
 struct recordorigin {
     std::string path;  // of the design file; "": unknown
     int line;
@@ -43,8 +43,8 @@ void readtemporary(
 void deletetemporary(temporaryfile& file);
 
 // Runs step(1), step(2) .. step(maxsteps) until one of them fails, whatever the failure, and returns the number of
-// steps that succeeded. The readers do not test for the end of a file: the read that fails there ends their loop. No
-// other failure of a replay is caught.
+// steps that succeeded. The readers do not test for the end of a file: the read that fails there ends their loop. A
+// replay catches failures only here.
 template <class procedure>
 int repeatuntilfailure(int maxsteps, procedure step) {
     int done = 0;

@@ -31,7 +31,7 @@ std::vector<replaystep> replaysteps(std::vector<countedfile> files);
 // Clears the picture, deletes the temporary files of an interrupted replay and replays all files of designs\ solid.
 // Does nothing if there is nothing to replay or if the girder and panel file reader is waiting for its second file.
 // writes: as pickautofile5 and pickautofile4, but no control except the boxes of the view; draws on viewport; fails: as
-// they do, and if a file cannot be read.
+// these two, and if a file cannot be read.
 void drawwholebuilding();
 
 }  // namespace tessaly

@@ -44,7 +44,7 @@ void clickcapescapebtn() {
     hide(bmplabel);
 }
 
-// The record is written and the dialog closed before the bitmap is saved: if that fails, the record stays.
+// The record is written and the dialog closed before the bitmap is saved. If saving fails, the record stays.
 void clickscreencapenter() {
     hide(bmplabel);
     capname = capbox.text;

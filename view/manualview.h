@@ -18,8 +18,8 @@ void clickdefaultviewbtn();
 void clickhidpfm();
 void clickshopfm();
 
-// Draws a view, of which Default view or the start of the rotation has just set the eye relative to the focus, and
-// writes the nine boxes. reads: perpx.., focusx.., mag, vertshift, horizshift; writes: perprelx.., perpabsx..,
+// Draws the view after Default view or the start of the rotation has set the eye relative to the focus, and writes the
+// nine boxes. reads: perpx.., focusx.., mag, vertshift, horizshift; writes: perprelx.., perpabsx..,
 // perpsumx.. and as projectdraw; fails: as projectdraw.
 void drawrelativeview();
 

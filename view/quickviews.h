@@ -22,7 +22,7 @@ inline constexpr quickviewkind focusheight{focusvalues.last(1), {255, 0, 0}, "Fo
 struct quickview {
     const char* name;  // of the button
     const quickviewkind& kind;
-    int numbers[2];  // of the values: model units, absolute
+    int numbers[2];  // the values: model units, absolute
     int left, top;   // twips on easyviews
 };
 

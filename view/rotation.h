@@ -6,10 +6,9 @@
 
 namespace tessaly {
 
-// Sets the view in which the rotation starts, and shows the left arrow. The eye Z becomes the number in its box, which
-// is absolute, but from now on relative to the focus. reads: perptxtz, magtxt, verttxt, horiztxt; writes: view state,
-// rotstage, the nine boxes; draws on viewport; fails: type mismatch if a box does not hold a number, and as
-// projectdraw.
+// Sets the view in which the rotation starts, and shows the left arrow. The absolute number in the eye Z box becomes
+// the eye Z relative to the focus. reads: perptxtz, magtxt, verttxt, horiztxt; writes: view state, rotstage, the nine
+// boxes; draws on viewport; fails: type mismatch if a box does not hold a number, and as projectdraw.
 void clickactivateleftbtn();
 
 // Move the eye by one step, or by two if the first step reaches the limit of a side. reads: rotincbox, perptxtx,
