@@ -8,7 +8,12 @@ set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh
 
-target=${1:?"give a target: $(basename -s .play -a fuzz/*.play | xargs)"} seconds=${2:?"give a number of seconds"}
+if [ $# -lt 2 ]; then
+    echo "usage: ./fuzz.sh TARGET SECONDS [ARGUMENT...]" >&2
+    echo "targets: $(basename -s .play -a fuzz/*.play | xargs)" >&2
+    exit 2
+fi
+target=$1 seconds=$2
 case $target in
 element | script) shipped=(datah/st-*.txt) ;;
 cubes) shipped=(datah/az-*.txt) ;;

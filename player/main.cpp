@@ -63,7 +63,7 @@ int play(std::istream& script, const std::string& name) {
 
 int main(int count, char** words) {
     if (count != 2) {
-        std::fputs("usage: play SCRIPT    (- is standard input)\n", stderr);
+        std::fputs("usage: play SCRIPT    (- reads the script from standard input)\n", stderr);
         return scriptfailed;
     }
     const std::string name = words[1];

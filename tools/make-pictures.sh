@@ -2,6 +2,10 @@
 # tools/make-pictures.sh PLAY FOLDER: draws the pictures of the panels, the sample tower and the guide's building, and
 # saves them in FOLDER (docs/pictures). Uses the player PLAY in temporary working folders.
 set -euo pipefail
+if [ $# -ne 2 ]; then
+    echo "usage: tools/make-pictures.sh PLAY FOLDER" >&2
+    exit 2
+fi
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/tools/workingfolder.sh"
 TMPDIR=$(mktemp -d)

@@ -2,6 +2,10 @@
 # tools/make-samples.sh PLAY FOLDER: builds the sample designs and saves their design files in FOLDER, under names that
 # differ from the standard ones. Uses clicks in the player PLAY, in a temporary working folder.
 set -euo pipefail
+if [ $# -ne 2 ]; then
+    echo "usage: tools/make-samples.sh PLAY FOLDER" >&2
+    exit 2
+fi
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/tools/workingfolder.sh"
 TMPDIR=$(mktemp -d)
