@@ -93,7 +93,8 @@ void addelement() {
             {quadcornerdist1[q], quadcornerdist2[q], quadcornerdist3[q], quadcornerdist4[q], double(quadorder[q])});
 }
 
-// A replay flushes its progress strip before each element, while the tables still hold the previous one.
+// Adds each element of a replay. The replay flushes its progress strip before it reads an element, while the tables
+// still hold the previous one.
 struct measuredstrip : linesum {
     void line(float, float, float, float, colour) override {}
     void flush() override { addelement(); }
