@@ -35,10 +35,7 @@ TEST_F(windows_keys, theFocusGoesBackToWhatOpenedAControlThatHidesItself) {
 }
 
 TEST_F(windows_keys, escapeClosesWhatIsOpenAndNothingElse) {
-    session::write("designs/girders1.txt", "");
     keys(R"(autosolidsingle Return =autofile5 Escape =autosolidsingle
-        autowirebtn Return =autofile1 Escape =autowirebtn
-        displayfilelistbtn Return =designfileslist Escape =displayfilelistbtn
         retrieveimagetbtn Return =bmplistbox capbox Return bmplistbox Escape =retrieveimagetbtn
         postbeambtn Return =layoutgirder Escape -layoutgirder
         orange1btn Return =layoutpanels Escape -layoutpanels
