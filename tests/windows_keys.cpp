@@ -85,16 +85,17 @@ TEST_F(windows_keys, arrowsWalkThePlans) {
         fastchange Return focusx0y0 Up =perpxm1800y0)");
     for (const window* plan : {&layoutgirder, &layoutpanels, &layoutroof}) {
         std::set<const QWidget*> reached;
-        std::vector<QWidget*> ways{frameof(*plan)->content()};
-        ways.front()->setFocus();
+        std::vector<QWidget*> unvisited{frameof(*plan)->content()};
+        unvisited.front()->setFocus();
         keys(std::string("=") + plan->name);
-        while (!ways.empty()) {
-            QWidget* const from = ways.back();
-            ways.pop_back();
+        while (!unvisited.empty()) {
+            QWidget* const from = unvisited.back();
+            unvisited.pop_back();
             for (const auto key : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down}) {
                 from->setFocus();
                 QTest::keyClick(from, key);
-                if (reached.insert(frameof(*plan)->focusWidget()).second) ways.push_back(frameof(*plan)->focusWidget());
+                if (reached.insert(frameof(*plan)->focusWidget()).second)
+                    unvisited.push_back(frameof(*plan)->focusWidget());
             }
         }
         for (const control* c : plan->controls)

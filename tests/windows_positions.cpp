@@ -18,10 +18,10 @@ namespace {
 
 constexpr int minpixels = 10;  // of readable letters
 
-bool isatitsposition(const control& c, const QRect& seen) {
-    const QRect place(c.bounds.left / twipsperpixel, c.bounds.top / twipsperpixel, c.bounds.width / twipsperpixel,
-                      c.bounds.height / twipsperpixel);
-    return place.adjusted(-1, -1, 1, 1).contains(seen) && seen.adjusted(-1, -1, 1, 1).contains(place);
+bool hasbounds(const control& c, const QRect& seen) {
+    const QRect bounds(c.bounds.left / twipsperpixel, c.bounds.top / twipsperpixel, c.bounds.width / twipsperpixel,
+                       c.bounds.height / twipsperpixel);
+    return bounds.adjusted(-1, -1, 1, 1).contains(seen) && seen.adjusted(-1, -1, 1, 1).contains(bounds);
 }
 
 bool captionfits(const control& c, const QWidget& widget) {
@@ -34,7 +34,7 @@ bool captionfits(const control& c, const QWidget& widget) {
 }
 
 // Positions that meet, as a beam and its posts or the panels around a corner, share their rims by design.
-bool liesover(const control& a, const control& b) {
+bool covers(const control& a, const control& b) {
     if (!a.shown || !b.shown || b.kind == controlkind::frame) return false;
     const QRect shared = widgetof(a)->geometry() & widgetof(b)->geometry();
     return std::min(shared.width(), shared.height()) > (a.elementnumber && b.elementnumber ? 5 : 0);
@@ -52,7 +52,7 @@ TEST_F(windows_positions, controlsAreAtTheirPositionsAndCompletelyVisible) {
             SCOPED_TRACE(c->name + ": " + c->text);
             ASSERT_TRUE(widgetof(*c));
             const QWidget& widget = *widgetof(*c);
-            EXPECT_TRUE(isatitsposition(*c, widget.geometry()));
+            EXPECT_TRUE(hasbounds(*c, widget.geometry()));
             EXPECT_EQ(widget.objectName().toStdString(), c->name);
             EXPECT_EQ(widget.isHidden(), !c->shown);
             EXPECT_TRUE(captionfits(*c, widget));
@@ -60,7 +60,7 @@ TEST_F(windows_positions, controlsAreAtTheirPositionsAndCompletelyVisible) {
             if (c->kind == controlkind::frame) continue;
             EXPECT_FALSE(widget.accessibleName().isEmpty());  // what a screen reader says
             EXPECT_TRUE(c->accessiblename.empty() || widget.accessibleName().toStdString() == c->accessiblename);
-            for (const control* other : w->controls) EXPECT_FALSE(other != c && liesover(*c, *other)) << other->name;
+            for (const control* other : w->controls) EXPECT_FALSE(other != c && covers(*c, *other)) << other->name;
         }
     EXPECT_EQ(widgetof(viewport)->geometry(), QRect(120, 0, 897, 581));
     EXPECT_EQ(widgetof(*findcontrol("beamx192y400"))->geometry(), QRect(208, 112, 65, 17));
@@ -79,7 +79,7 @@ TEST_F(windows_positions, windowsOpenAtTheRightAndOnTheScreen) {
     constexpr int border = 2;  // pixels: by which the desktop moves the interior
     const QRect screen = frameof(vistaplan)->screen()->availableGeometry().adjusted(0, 0, border, border);
     EXPECT_TRUE(screen.contains(frameof(vistaplan)->geometry()));
-    int above = -1;
+    int previoustop = -1;
     runevent([] {
         for (control* opener : {&postbeambtn, &orange1btn, &roofbtn, &fastchange, &instructionsbtn})
             clickcontrol(*opener);
@@ -91,8 +91,8 @@ TEST_F(windows_positions, windowsOpenAtTheRightAndOnTheScreen) {
         EXPECT_NEAR(f.geometry().right(), screen.right(), border);
         EXPECT_EQ(f.windowHandle()->transientParent(), frameof(vistaplan)->windowHandle());
         EXPECT_EQ(f.windowFlags() & Qt::WindowType_Mask, Qt::Dialog);
-        EXPECT_TRUE(screen.height() < 600 || w == &easyviews || w == &instructions || f.geometry().top() > above);
-        above = f.geometry().top();
+        EXPECT_TRUE(screen.height() < 600 || w == &easyviews || w == &instructions || f.geometry().top() > previoustop);
+        previoustop = f.geometry().top();
     }
     frameof(layoutgirder)->showMinimized();
     runevent([] { clickcontrol(postbeambtn); });

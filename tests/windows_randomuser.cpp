@@ -25,12 +25,12 @@ namespace tessaly {
 
 namespace {
 
-unsigned fromenvironment(const char* name, unsigned usual) {
+unsigned fromenvironment(const char* name, unsigned fallback) {
     const char* const text = std::getenv(name);
-    return text ? static_cast<unsigned>(std::atoi(text)) : usual;
+    return text ? static_cast<unsigned>(std::atoi(text)) : fallback;
 }
 
-std::string shownby(const QWidget& widget) {
+std::string textshownby(const QWidget& widget) {
     for (const char* property : {"text", "plainText", "currentText"})
         if (const QVariant shown = widget.property(property); shown.isValid()) return shown.toString().toStdString();
     return {};
@@ -38,7 +38,7 @@ std::string shownby(const QWidget& widget) {
 
 class windows_randomuser : public windowsession {
   protected:
-    void use(unsigned seed, unsigned& actions) {
+    void playsession(unsigned seed, unsigned& actions) {
         random.seed(seed);
         script = "click startprogrambtn\n";
         report.clear();
@@ -52,41 +52,45 @@ class windows_randomuser : public windowsession {
 
     bool ended() const { return programended || !report.empty(); }
 
-    unsigned oneof(std::size_t count) { return static_cast<unsigned>(random() % count); }
+    unsigned randombelow(std::size_t count) { return static_cast<unsigned>(random() % count); }
 
     // A window or a control that the user can reach.
     const window& anywindow() {
         std::vector<const window*> shown;
         for (const window* w : allwindows())
             if (w->shown) shown.push_back(w);
-        return *shown[oneof(shown.size())];
+        return *shown[randombelow(shown.size())];
     }
     control* anycontrol(std::initializer_list<controlkind> kinds) {
         std::vector<control*> found;
         for (control* c : anywindow().controls)
             if (c->shown && std::ranges::count(kinds, c->kind) > 0) found.push_back(c);
-        return found.empty() ? nullptr : found[oneof(found.size())];
+        return found.empty() ? nullptr : found[randombelow(found.size())];
     }
 
     void act() {
-        const unsigned what = oneof(100);
-        what < 3 ? pressf6() : what < 55 ? pressany() : what < 75 ? pickany() : what < 95 ? typeany() : closeany();
+        const unsigned percent = randombelow(100);
+        percent < 3    ? pressf6()
+        : percent < 55 ? pressany()
+        : percent < 75 ? pickany()
+        : percent < 95 ? typeany()
+                       : closeany();
     }
 
     void pressf6() {
         script += "key F6\n";
-        event(nullptr, [&] { QTest::keyClick(frameof(anywindow()), Qt::Key_F6); });
+        userevent(nullptr, [&] { QTest::keyClick(frameof(anywindow()), Qt::Key_F6); });
     }
 
     // Uses the keyboard as often as the mouse.
     void pressany() {
         control* const c = anycontrol({controlkind::button, controlkind::picturebutton});
-        if (!c || (c == &exitbtn && oneof(4) > 0)) return;
+        if (!c || (c == &exitbtn && randombelow(4) > 0)) return;
         script += "click " + c->name + '\n';
         QWidget* const widget = widgetof(*c);
-        if (oneof(2) == 0) return event(c, [&] { QTest::mouseClick(widget, Qt::LeftButton); });
-        if (c == &cventerbtn) return event(nullptr, [&] { QTest::keyClick(frameof(anywindow()), Qt::Key_F5); });
-        event(c, [&] {
+        if (randombelow(2) == 0) return userevent(c, [&] { QTest::mouseClick(widget, Qt::LeftButton); });
+        if (c == &cventerbtn) return userevent(nullptr, [&] { QTest::keyClick(frameof(anywindow()), Qt::Key_F5); });
+        userevent(c, [&] {
             widget->setFocus(Qt::TabFocusReason);
             QTest::keyClick(widget, Qt::Key_Return);
         });
@@ -97,15 +101,15 @@ class windows_randomuser : public windowsession {
         control* const c = anycontrol({controlkind::list, controlkind::filelist, controlkind::combobox});
         if (!c || c->items.empty()) return;
         auto* const box = qobject_cast<QComboBox*>(widgetof(*c));
-        const int row = box                                 ? box->currentIndex() + 1
-                        : c->selected >= 0 && oneof(2) == 0 ? c->selected
-                                                            : static_cast<int>(oneof(c->items.size()));
+        const int row = box                                       ? box->currentIndex() + 1
+                        : c->selected >= 0 && randombelow(2) == 0 ? c->selected
+                                                                  : static_cast<int>(randombelow(c->items.size()));
         if (row == static_cast<int>(c->items.size())) return;
         script += "pick " + c->name + " \"" + c->items[static_cast<std::size_t>(row)] + "\"\n";
-        event(c, [&] {
+        userevent(c, [&] {
             auto* const rows = qobject_cast<QListWidget*>(widgetof(*c));
-            const QPoint place = rows ? rows->visualItemRect(rows->item(row)).center() : QPoint();
-            if (rows && oneof(2) == 0) return QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, place);
+            const QPoint middle = rows ? rows->visualItemRect(rows->item(row)).center() : QPoint();
+            if (rows && randombelow(2) == 0) return QTest::mouseClick(rows->viewport(), Qt::LeftButton, {}, middle);
             widgetof(*c)->setFocus(Qt::TabFocusReason);
             if (box) return QTest::keyClick(box, Qt::Key_Down);
             QTest::keyClick(rows, Qt::Key_Home);
@@ -122,19 +126,19 @@ class windows_randomuser : public windowsession {
         if (!c || widgetof(*c)->focusPolicy() == Qt::NoFocus) return;
         const bool word = c == &wiresolid || c == &writefilebox || c == &floor;
         const auto& texts = c == &capbox ? names : c == &panelsnipper ? snips : word ? words : numbers;
-        const char* const text = texts[oneof(texts.size())];
+        const char* const text = texts[randombelow(texts.size())];
         script += "type " + c->name + " \"" + text + "\"\n";
-        event(c, [&] {
+        userevent(c, [&] {
             widgetof(*c)->setFocus(Qt::TabFocusReason);
             QTest::keyClick(widgetof(*c), Qt::Key_A, Qt::ControlModifier);
             QTest::keyClicks(widgetof(*c), text);
             runevent([] {});
         });
         EXPECT_EQ(c->text, text);
-        const bool sets = std::ranges::any_of(viewvalues, [c](const viewvalue& v) { return &v.box == c; });
-        if (!sets || oneof(2) == 0) return;
+        const bool isviewbox = std::ranges::any_of(viewvalues, [c](const viewvalue& v) { return &v.box == c; });
+        if (!isviewbox || randombelow(2) == 0) return;
         script += "click cventerbtn\n";
-        event(nullptr, [&] { QTest::keyClick(widgetof(*c), Qt::Key_Return); });
+        userevent(nullptr, [&] { QTest::keyClick(widgetof(*c), Qt::Key_Return); });
         EXPECT_EQ(usedcontrol, &cventerbtn);
     }
 
@@ -142,12 +146,12 @@ class windows_randomuser : public windowsession {
         const window& w = anywindow();
         if (&w == &vistaplan) return;
         script += std::string("close ") + w.name + '\n';
-        event(nullptr, [&] { frameof(w)->close(); });
+        userevent(nullptr, [&] { frameof(w)->close(); });
     }
 
     // Runs an action of the user and checks all windows after it.
-    template <class doing>
-    void event(const control* used, doing run) {
+    template <class action>
+    void userevent(const control* used, action run) {
         std::map<const window*, const control*> before;
         for (const window* w : allwindows()) before[w] = w->shown ? focusedcontrol(*w) : nullptr;
         run();
@@ -169,7 +173,7 @@ class windows_randomuser : public windowsession {
         }
         const auto* const box = qobject_cast<const QComboBox*>(&widget);
         const auto* const rows = qobject_cast<const QListWidget*>(&widget);
-        EXPECT_TRUE(c.kind == controlkind::picturebox || rows || shownby(widget) == c.text) << shownby(widget);
+        EXPECT_TRUE(c.kind == controlkind::picturebox || rows || textshownby(widget) == c.text) << textshownby(widget);
         EXPECT_TRUE(!box || box->currentIndex() == box->findText(QString::fromStdString(c.text), Qt::MatchExactly));
         if (!rows || !c.shown) return;  // a hidden list may be filled later
         std::vector<std::string> items;
@@ -181,25 +185,27 @@ class windows_randomuser : public windowsession {
     // The focus is on a list or box that has just been opened, otherwise on the used control, or where it was. If that
     // control is now hidden, it is on the control that opened it.
     static void expectfocus(const window& w, const control* used, const control* before) {
-        const control *const now = focusedcontrol(w), *const had = used && used->parent == &w ? used : before;
+        const control *const now = focusedcontrol(w), *const focused = used && used->parent == &w ? used : before;
         if (now && now->openedby == used && (now == &capbox || islist(*now))) return;
         const auto nameof = [](const control* c) { return c ? c->name : "nothing"; };
-        EXPECT_EQ(nameof(now), nameof(had && !had->shown ? focusafter(*had) : had)) << "was on " << nameof(had);
+        EXPECT_EQ(nameof(now), nameof(focused && !focused->shown ? focusafter(*focused) : focused))
+            << "was on " << nameof(focused);
     }
 
     // Compares the status, report, files and picture of the player.
     void comparewithplayer(const std::string& reported) {
         ASSERT_TRUE(ended() || widgetof(viewport)->grab().save("screen.png"));
-        const std::string here = std::filesystem::current_path();
+        const std::string windowfolder = std::filesystem::current_path();
         workingfolder played(TESSALY_SOURCE_DIR);
         std::ofstream("actions.play") << script << (ended() ? "" : "picture screen.png\n");
         EXPECT_EQ(std::system((playcommand + " actions.play 2>report.txt").c_str()) != 0, !report.empty());
         EXPECT_EQ(session::file("report.txt"), reported);
-        for (const std::string kept : {"designs", "bmps", "nonuser"})
-            EXPECT_EQ(std::system(("diff -r " + kept + " " + shellquoted(here + "/" + kept)).c_str()), 0) << "after\n"
-                                                                                                          << script;
+        for (const std::string written : {"designs", "bmps", "nonuser"})
+            EXPECT_EQ(std::system(("diff -r " + written + " " + shellquoted(windowfolder + "/" + written)).c_str()), 0)
+                << "after\n"
+                << script;
         if (ended()) return;
-        const QImage seen((here + "/screen.png").c_str()), wanted("screen.png");
+        const QImage seen((windowfolder + "/screen.png").c_str()), wanted("screen.png");
         EXPECT_EQ(seen, wanted.scaled(seen.size()).convertToFormat(seen.format())) << "after\n" << script;
     }
 
@@ -215,7 +221,7 @@ TEST_F(windows_randomuser, leavesWhatThePlayerLeaves) {
     for (unsigned seed = fromenvironment("TESSALY_SEED", 1); actions > 0 && !HasFailure(); ++seed) {
         SCOPED_TRACE("TESSALY_SEED=" + std::to_string(seed));
         testing::internal::CaptureStderr();
-        use(seed, actions);
+        playsession(seed, actions);
         const std::string errors = testing::internal::GetCapturedStderr();
         if (HasFailure()) return;
         const std::size_t line = std::min(errors.find("failure "), errors.size());

@@ -35,14 +35,14 @@ class windowsession : public testing::Test {
   protected:
     windowsession() {
         startapplication();
-        reader.callOnTimeout([this] {
+        messagereader.callOnTimeout([this] {
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!box) return;
             report = box->text().toStdString();
             runevent([] { ADD_FAILURE() << "an event behind the message"; });
             box->accept();
         });
-        reader.start(5);
+        messagereader.start(5);
     }
 
     void SetUp() override {
@@ -67,7 +67,7 @@ class windowsession : public testing::Test {
 
     // What a user does by the keyboard alone, word by word:
     //   Return   presses a key where the focus is
-    //   "kept"   types
+    //   "text"   types
     //   floor    goes to a control, by Tab
     //   =floor   expects the focus on a control, or on none of a window's
     //   -floor   expects a control or a window to be hidden
@@ -80,7 +80,7 @@ class windowsession : public testing::Test {
             else if (word.front() == '"')
                 type(word.substr(1, word.size() - 2));
             else
-                look(word.front(), word.find_first_of("=-") == 0 ? word.substr(1) : word);
+                gotoorcheck(word.front(), word.find_first_of("=-") == 0 ? word.substr(1) : word);
         }
     }
 
@@ -89,18 +89,18 @@ class windowsession : public testing::Test {
 
   private:
     void type(const std::string& text) {
-        ASSERT_TRUE(frameof(*has)->focusWidget()) << "nothing has the focus in " << has->name;
-        QTest::keyClicks(frameof(*has)->focusWidget(), text.c_str());
+        ASSERT_TRUE(frameof(*activewindow)->focusWidget()) << "nothing has the focus in " << activewindow->name;
+        QTest::keyClicks(frameof(*activewindow)->focusWidget(), text.c_str());
     }
 
     void press(Qt::Key key) {
-        ASSERT_TRUE(frameof(*has)->focusWidget()) << "nothing has the focus in " << has->name;
-        QTest::keyClick(frameof(*has)->focusWidget(), key);
-        const auto* line = qobject_cast<QLineEdit*>(frameof(*has)->focusWidget());
+        ASSERT_TRUE(frameof(*activewindow)->focusWidget()) << "nothing has the focus in " << activewindow->name;
+        QTest::keyClick(frameof(*activewindow)->focusWidget(), key);
+        const auto* line = qobject_cast<QLineEdit*>(frameof(*activewindow)->focusWidget());
         EXPECT_TRUE(key != Qt::Key_Tab || !line || line->selectedText() == line->text());  // to be typed over
     }
 
-    void look(char mark, const std::string& name) {
+    void gotoorcheck(char mark, const std::string& name) {
         const control* const c = findcontrol(name);
         const window* const w = c ? c->parent : findwindow(name);
         ASSERT_TRUE(w) << "no control and no window";
@@ -109,7 +109,7 @@ class windowsession : public testing::Test {
             EXPECT_FALSE(c ? widgetof(*c)->isVisible() : frameof(*w)->isVisible());
             return;
         }
-        has = w;
+        activewindow = w;
         frameof(*w)->activateWindow();
         ASSERT_TRUE(QTest::qWaitFor([w] { return QApplication::activeWindow() == frameof(*w); }));
         for (int tabs = 0; mark != '=' && focusedcontrol(*w) != c && tabs < 400; ++tabs) press(Qt::Key_Tab);
@@ -119,8 +119,8 @@ class windowsession : public testing::Test {
                                        << (focused ? qPrintable(focused->objectName()) : "nothing");
     }
 
-    const window* has = &vistaplan;  // the keyboard, as the desktop gives it
-    QTimer reader;
+    const window* activewindow = &vistaplan;  // to which the desktop sends keys
+    QTimer messagereader;
 };
 
 }  // namespace tessaly
