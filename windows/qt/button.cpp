@@ -27,18 +27,18 @@ QColor mixed(const QColor& colour, const QColor& other, int percent) {
 
 captionlayout layoutcaption(const QString& caption, QSize size, QFont font) {
     const QRect inner = QRect({0, 0}, size).adjusted(3, 1, -3, -1);
-    const auto linesin = [&](const QRect& bounds) {
-        return QFontMetrics(font).boundingRect(bounds, captionflags, caption);
+    const auto wrapped = [&](const QRect& into) {
+        return QFontMetrics(font).boundingRect(into, captionflags, caption);
     };
-    while (!inner.contains(linesin(inner)) && font.pixelSize() > minpixels) font.setPixelSize(font.pixelSize() - 1);
-    const int height = linesin(inner).height();
+    while (!inner.contains(wrapped(inner)) && font.pixelSize() > minpixels) font.setPixelSize(font.pixelSize() - 1);
+    const int height = wrapped(inner).height();
     QRect bounds = inner;
     for (QRect narrower = inner; narrower.width() > 0; narrower.adjust(1, 0, -1, 0)) {
-        const QRect lines = linesin(narrower);
+        const QRect lines = wrapped(narrower);
         if (lines.height() > height || lines.width() > narrower.width()) break;
         bounds = narrower;
     }
-    return {font, bounds, inner.contains(linesin(bounds))};
+    return {font, bounds, inner.contains(wrapped(bounds))};
 }
 
 button::button(const QColor& itsbackground, QWidget* parent) : QPushButton(parent), background(itsbackground) {

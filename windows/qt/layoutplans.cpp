@@ -24,7 +24,7 @@ struct planstyle {
     const window* layout;
     const control &labelx, &labely;
     QColor axescolour, gridcolour;
-    int beamwidth, postwidth;  // twips; 0: hidden by the buttons
+    int beamwidth, postwidth;  // twips; 0: not drawn, since the buttons would hide them
     QColor beamcolour, postcolour;
 };
 const planstyle planstyles[] = {
@@ -44,7 +44,8 @@ struct grid {
 
 // Returns the grid of a layout window, centred behind its position buttons.
 grid gridof(const window& layout) {
-    grid g{0, 0, 0, allbuttonfamilies().front().rows, allbuttonfamilies().front().cols};  // of the posts
+    const buttonfamily& posts = allbuttonfamilies().front();
+    grid g{0, 0, 0, posts.rows, posts.cols};
     QRect buttons;
     for (const buttonfamily& f : allbuttonfamilies()) {
         if (f.layout != &layout) continue;
@@ -72,7 +73,7 @@ void drawposts(QPainter& painter, const grid& g) {
 }
 
 void drawarrow(QPainter& painter, QPointF from, QPointF to) {
-    const QPointF along = (to - from) / std::hypot(to.x() - from.x(), to.y() - from.y());
+    const QPointF along = (to - from) / QLineF(from, to).length();
     const QPointF across(-along.y(), along.x());
     painter.drawLine(from, to);
     painter.drawLine(to, to - along * 6 + across * 3);
