@@ -1,6 +1,6 @@
 #!/usr/bin/python3 -Wignore
-"""Plays a script in the running program through its accessibility interface alone, and checks every window that opens.
-Usage: accessibility.py SCRIPT FILE-FOR-THE-DUMP"""
+"""Plays a script in the running program through the accessibility interface only, and checks the controls of each window.
+Usage: accessibility.py SCRIPT LIST, where LIST is a file to which it writes the controls"""
 import re
 import sys
 import time
@@ -12,27 +12,23 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
 table = Path(__file__).parent.parent / "core/controls.def"
-roles = {"push button", "text", "list", "list item", "combo box", "image", "label", "panel", "scroll bar"}
-acting = {"push button", "list item", "combo box", "text"}
-dump = open(sys.argv[2], "w", encoding="utf-8")
+acting = {"push button", "list item", "combo box", "text"}  # roles of controls that need an action
+roles = acting | {"list", "image", "label", "panel", "scroll bar"}
+controls = open(sys.argv[2], "w", encoding="utf-8")
 
 
 def has(control, state):
     return control.get_state_set().contains(state)
 
 
-def below(control):
-    for i in range(control.get_child_count()):
-        child = control.get_child_at_index(i)
-        if child:
-            yield child
-            yield from below(child)
+def children(parent):
+    return [child for child in map(parent.get_child_at_index, range(parent.get_child_count())) if child]
 
 
-def program():
-    desktop = Atspi.get_desktop(0)
-    found = [desktop.get_child_at_index(i) for i in range(desktop.get_child_count())]
-    return next((one for one in found if one and one.get_name() == "tessaly"), None)
+def descendants(parent):
+    for child in children(parent):
+        yield child
+        yield from descendants(child)
 
 
 def waitfor(what, look):
@@ -45,63 +41,50 @@ def waitfor(what, look):
     sys.exit(f"waited in vain for {what}")
 
 
+def program():
+    return next((p for p in children(Atspi.get_desktop(0)) if p.get_name() == "tessaly"), None)
+
+
 def find(role, name):
-    def shown():
-        return next((c for c in below(program()) if c.get_role_name() == role and c.get_name() == name
-                     and has(c, Atspi.StateType.SHOWING)), None)
-    return waitfor(f"the {role} {name!r}", shown)
+    return waitfor(f"the {role} {name!r}", lambda: next((
+        c for c in descendants(program())
+        if c.get_role_name() == role and c.get_name() == name and has(c, Atspi.StateType.SHOWING)), None))
 
 
-def fault(control, role, name):
-    if role not in roles:
-        return "has a role that no control has"
-    if not name:
-        return "has no name"
-    if name.lower() in control.get_description().lower():
-        return f"has a description that repeats its name: {control.get_description()}"
+def check(control, window):
+    role, name, description = control.get_role_name(), control.get_name(), control.get_description()
+    if role == "filler" or role == "scroll bar" and not has(control, Atspi.StateType.SHOWING):
+        return  # a filler only contains other controls
+    print(f"{window}: {role} {name!r} {control.get_n_actions()} actions {description!r}", file=controls)
     readonly = has(control, Atspi.StateType.READ_ONLY)
-    if name.startswith("Prompt") and not readonly:
-        return "can be typed into"
-    if role in acting and not readonly and not control.get_n_actions():
-        return "has no action"
-    return None
-
-
-def lookthrough(window):
-    title = window.get_name()
-    if window.get_role_name() not in ("frame", "dialog") or not title:
-        sys.exit(f"the window {title!r} is neither frame nor dialog with a name")
-    for control in below(window):
-        role, name = control.get_role_name(), control.get_name()
-        if role == "filler" or role == "scroll bar" and not has(control, Atspi.StateType.SHOWING):
-            continue  # a filler only holds others
-        actions = [Atspi.Action.get_action_name(control, i) for i in range(control.get_n_actions())]
-        print(f"{title}: {role} {name!r} {actions} {control.get_description()!r}", file=dump)
-        wrong = fault(control, role, name)
+    for wrong, fault in (
+            (role not in roles, "has a role that no control has"),
+            (not name, "has no name"),
+            (name.lower() in description.lower(), f"has a description that repeats its name: {description}"),
+            (name.startswith("Prompt") and not readonly, "can be typed into"),
+            (role in acting and not readonly and not control.get_n_actions(), "has no action")):
         if wrong:
-            sys.exit(f"{title}: the {role} {name!r} {wrong}")
-
-
-def namesofcontrols():
-    """Yields each control of the table with its accessible name. Comments of the script name the position buttons."""
-    for row in re.finditer(r'^CONTROL\(\w+, *\w+, *(\w+),.*?"(.*?)",.*"(.*)"\)$', table.read_text(), re.M):
-        yield row[1], row[3] or " ".join(row[2].split())
+            sys.exit(f"{window}: the {role} {name!r} {fault}")
 
 
 waitfor("the program", program)
-names = dict(namesofcontrols())
-lookedthrough, pressed = [], None
+# Accessible names by control; the names of position buttons are in the comments of the script.
+names = {row[1]: row[3] or " ".join(row[2].split()) for row in
+         re.finditer(r'^CONTROL\(\w+, *\w+, *(\w+),.*?"(.*?)",.*"(.*)"\)$', table.read_text(), re.M)}
+checked, pressed = [], None
 for line in open(sys.argv[1], encoding="utf-8"):
-    played = re.match(r'(click|pick|type) (\w+)(?: "(.*)")? *(?:# \d+ \d+ ?(.*))?', line)
-    if not played:
+    step = re.match(r'(click|pick|type) (\w+)(?: "(.*)")? *(?:# \d+ \d+ ?(.*))?', line)
+    if not step:
         continue
-    command, control, text, place = played.groups()
-    found = find({"click": "push button", "pick": "list", "type": "text"}[command], names.get(control, place))
-    for i in range(program().get_child_count()):
-        window = program().get_child_at_index(i)
-        if has(window, Atspi.StateType.SHOWING) and window not in lookedthrough:
-            lookedthrough.append(window)
-            lookthrough(window)
+    command, control, text, position = step.groups()
+    found = find({"click": "push button", "pick": "list", "type": "text"}[command], names.get(control, position))
+    for window in children(program()):
+        if has(window, Atspi.StateType.SHOWING) and window not in checked:
+            checked.append(window)
+            if window.get_role_name() not in ("frame", "dialog") or not window.get_name():
+                sys.exit(f"the window {window.get_name()!r} is not a frame or dialog with a name")
+            for descendant in descendants(window):
+                check(descendant, window.get_name())
     waitfor("the last button's release", lambda: not pressed or not has(pressed, Atspi.StateType.PRESSED))
     if command == "click":
         pressed = found
@@ -109,4 +92,4 @@ for line in open(sys.argv[1], encoding="utf-8"):
     elif command == "type":
         Atspi.EditableText.set_text_contents(found, text)
     else:
-        next(row for row in below(found) if row.get_name() == text).do_action(0)
+        next(row for row in descendants(found) if row.get_name() == text).do_action(0)
