@@ -12,57 +12,54 @@ namespace {
 
 std::string document(const fs::path& path) { return session::file(fs::path(TESSALY_SOURCE_DIR) / path); }
 
-// Returns a page with "#-" and its anchor in place of each heading, such as "#-taking-back-a-click".
-std::string withanchors(const std::string& page) {
-    std::string made = std::regex_replace(page, std::regex("[^[:alnum:]# \n-]"), "");
-    for (char& c : made) c = c == ' ' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    return made;
+// Returns the text with each heading as its anchor after "#-", such as "#-taking-back-a-click".
+std::string withanchors(const std::string& text) {
+    std::string anchors = std::regex_replace(text, std::regex("[^[:alnum:]# \n-]"), "");
+    for (char& c : anchors) c = c == ' ' ? '-' : static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+    return anchors;
 }
 
-std::set<std::string> alltexts(const std::string& text, const char* pattern) {
+// Returns what the groups of a pattern match; a line end becomes a blank.
+std::set<std::string> matches(const std::string& text, const char* pattern) {
     std::set<std::string> found;
-    const std::regex wanted(pattern);
-    for (std::sregex_iterator at(text.begin(), text.end(), wanted), end; at != end; ++at)
+    const std::regex regex(pattern);
+    for (std::sregex_iterator at(text.begin(), text.end(), regex), end; at != end; ++at)
         found.insert(std::regex_replace((*at)[1].str(), std::regex("\n"), " "));
     return found;
 }
 
 }  // namespace
 
-// Catches an entry that no test shows, and one that has changed where tests name it.
+// Catches an entry that no test names, and a title that differs from the one in the tests.
 TEST(documents, eachEntryOfNotBugsIsNamedWhereATestShowsIt) {
-    const std::set<std::string> triedbyhand{"Two programs that replay in one folder mix up their elements, or end"};
+    const std::set<std::string> withouttest{"Two programs that replay in one folder mix up their elements, or end"};
     std::string tests;
     for (const auto& file : fs::recursive_directory_iterator(TESSALY_SOURCE_DIR "/tests"))
         if (file.path().extension() == ".play" || file.path().extension() == ".cpp")
             tests += session::file(file.path());
-    const auto titles = alltexts(document("NOT-BUGS.md"), R"(\n\*\*([^*]+)\.\*\*)");
-    const auto named = alltexts(tests, R"(\n(?:#|//) NOT-BUGS: (.+))");
+    const auto titles = matches(document("NOT-BUGS.md"), R"(\n\*\*([^*]+)\.\*\*)");
+    const auto named = matches(tests, R"(\n(?:#|//) NOT-BUGS: (.+))");
     EXPECT_GT(titles.size(), 70u);
-    for (const std::string& title : titles) EXPECT_NE(named.contains(title), triedbyhand.contains(title)) << title;
-    for (const auto* known : {&named, &triedbyhand})
+    for (const std::string& title : titles) EXPECT_NE(named.contains(title), withouttest.contains(title)) << title;
+    for (const auto* known : {&named, &withouttest})
         for (const std::string& title : *known) EXPECT_TRUE(titles.contains(title)) << title;
 }
 
-TEST(documents, noLinkLeadsNowhereAndNoPictureIsLeftOut) {
+TEST(documents, linksLeadSomewhereAndPicturesAreShown) {
     const std::string pages = document("docs/guide.md") + document("README.md");
     for (const auto& picture : fs::directory_iterator(TESSALY_SOURCE_DIR "/docs/pictures"))
         EXPECT_NE(pages.find("pictures/" + picture.path().filename().string() + ")"), std::string::npos) << picture;
-    const std::regex link(R"(\]\(([^)#:]*)(?:#([^)]*))?\))");
-    for (const fs::path page :
-         {"README.md", "NOT-BUGS.md", "ARCHITECTURE.md", "BENCHMARKS.md", "CONTRIBUTING.md", "docs/guide.md"}) {
-        const std::string text = document(page);
-        for (std::sregex_iterator found(text.begin(), text.end(), link), end; found != end; ++found) {
-            const std::string file = (*found)[1], anchor = (*found)[2];
-            const std::string target = file.empty() ? text : document(page.parent_path() / file);
-            EXPECT_NE(target, "(none)") << page << ": " << file;
-            EXPECT_TRUE(anchor.empty() || withanchors(target).find("#-" + anchor + '\n') != std::string::npos)
-                << page << ": " << file << '#' << anchor;
+    for (const fs::path page : {"README.md", "NOT-BUGS.md", "ARCHITECTURE.md", "docs/guide.md"})
+        for (const std::string& link : matches(document(page), R"(\]\(([^):]*)\))")) {
+            const std::string file = link.substr(0, link.find('#')), anchor = link.substr(file.size());
+            const std::string target = document(file.empty() ? page : page.parent_path() / file);
+            EXPECT_NE(target, "(none)") << page << ": " << link;
+            EXPECT_TRUE(anchor.empty() || withanchors(target).find("#-" + anchor.substr(1) + '\n') != std::string::npos)
+                << page << ": " << link;
         }
-    }
 }
 
-// A desktop finds the entry of a running window by this name.
+// A desktop finds the entry of a window by this name.
 TEST(documents, theDesktopEntryNamesTheWindowsAsTheProgramDoes) {
     const std::string entry = document("packaging/tessaly.desktop"), program = document("windows/qt/program/main.cpp");
     EXPECT_NE(entry.find("\nStartupWMClass=tessaly\n"), std::string::npos);

@@ -1,5 +1,4 @@
-// Committed files equal those that their generators write now: panels, palette, maps, samples, pictures.
-
+// Committed files equal the files that their generators write now.
 #include "tests/commandline.h"
 #include "tools/workingfolder.h"
 
@@ -27,8 +26,8 @@ std::string bytesof(const fs::path& path) {
     return {std::istreambuf_iterator(in), {}};
 }
 
-// Letters and blended pixels differ with the version of the toolkit and of the font library: one pixel in twenty-five
-// differs clearly if only the hinting of letters differs.
+// Letters and blended pixels depend on the versions of Qt and the font library: if only the hinting of letters differs,
+// one pixel in twenty-five differs clearly.
 bool looksalike(const QImage& a, const QImage& b) {
     if (a.size() != b.size()) return false;
     int clearlydifferent = 0;
@@ -43,15 +42,15 @@ bool looksalike(const QImage& a, const QImage& b) {
 
 std::string descriptionof(const QImage& picture) { return picture.text("Shows").toStdString(); }
 
-// A picture with a description of what it shows is compared by the description, and only roughly by its pixels. All
-// others come from the engine's arithmetic alone and are the same to the pixel.
-void expectsame(const fs::path& made, const fs::path& committed) {
-    SCOPED_TRACE(committed.string() + " differs from what is made now: run its generator again");
-    if (made.extension() != ".png") {
-        EXPECT_TRUE(bytesof(made) == bytesof(committed));
+// Compares a picture that has a description by this description, and only roughly by its pixels. All other pictures are
+// drawn by the engine only, and their pixels must be equal.
+void expectsame(const fs::path& generated, const fs::path& committed) {
+    SCOPED_TRACE(committed.string() + " differs from the generated file: run its generator");
+    if (generated.extension() != ".png") {
+        EXPECT_TRUE(bytesof(generated) == bytesof(committed));
         return;
     }
-    const QImage now(made.c_str()), before(committed.c_str());
+    const QImage now(generated.c_str()), before(committed.c_str());
     ASSERT_FALSE(now.isNull());
     EXPECT_EQ(descriptionof(now), descriptionof(before));
     EXPECT_TRUE(descriptionof(now).empty() ? now == before : looksalike(now, before));
@@ -61,11 +60,12 @@ void expectsame(const fs::path& made, const fs::path& committed) {
 void expectcommitted(const fs::path& generator, const std::string& arguments, const std::vector<fs::path>& folders,
                      int files) {
     const tessaly::workingfolder scratch(source);
-    fs::create_directory("made");
-    std::string command = "timeout 60 " + shellquoted(generator) + ' ' + arguments;  // a failure's window would wait
-    for (std::size_t n = 0; n < folders.size(); ++n) command += " made";
-    EXPECT_EQ(std::system(command.c_str()), 0);
-    for (const auto& file : fs::directory_iterator("made")) {
+    fs::create_directory("generated");
+    std::string command =
+        "timeout 60 " + shellquoted(generator) + ' ' + arguments;  // a window that reports a failure would wait
+    for (std::size_t n = 0; n < folders.size(); ++n) command += " generated";
+    EXPECT_EQ(tessaly::run(command), 0);
+    for (const auto& file : fs::directory_iterator("generated")) {
         const fs::path name = file.path().filename();
         expectsame(file.path(), (fs::exists(folders.front() / name) ? folders.front() : folders.back()) / name);
         --files;
@@ -75,33 +75,33 @@ void expectcommitted(const fs::path& generator, const std::string& arguments, co
 
 const fs::path programs = fs::path(TESSALY_PLAY).parent_path(), scripts = source / "tools";
 
-// Catches a panel changed by hand, or in its description with the files left as they were: the four ends of a type and
-// the types among themselves would no longer agree.
+// Catches a panel that was edited by hand, and a changed description without new files: the panels of a type would no
+// longer agree.
 TEST(generators, panelsAreCommitted) { expectcommitted(programs / "makepanels", "", {source / "datah"}, 32); }
 
-// Catches a colour changed in the list alone or in the palette alone.
+// Catches a colour that was changed only in the list or only in the palette.
 TEST(generators, paletteIsCommitted) {
     expectcommitted(programs / "makepalette", "pals/tessaly.txt", {source / "pals"}, 1);
 }
 
-// Catches a layout changed with the maps of el-numbers left as they were.
+// Catches a changed layout without new maps in el-numbers.
 TEST(generators, mapsAreCommitted) { expectcommitted(programs / "makemaps", "", {source / "el-numbers"}, 3); }
 
-// Catches an element changed with its button's picture left as it was.
+// Catches a changed element without a new picture for its button.
 TEST(generators, buttonPicturesAreCommitted) { expectcommitted(programs / "makebuttons", ".", {pictures}, 26); }
 
-// Catches a control moved, added or renamed, or an element changed, with the pictures of it left as they were.
+// Catches a changed control or element without new pictures of its window.
 TEST(generators, windowPicturesAreCommitted) {
     expectcommitted(programs / "makewindowpictures", shellquoted(source), {pictures, documents}, 12);
 }
 
-// Catches a layout, a record or the script changed with the sample buildings left as they were.
+// Catches a changed layout, record or script without new sample buildings.
 TEST(generators, samplesAreCommitted) {
     expectcommitted(scripts / "make-samples.sh", playcommand, {source / "samples"}, 27);
 }
 
-// Catches a change of buttons, data, colours or drawing that the guide does not follow; a replay that loses, moves or
-// adds an element; a capture that does not bring its picture back.
+// Catches a changed button, data file, colour or drawing without new pictures in the guide, a replay with a missing,
+// moved or surplus element, and a capture whose retrieval does not restore the picture.
 // NOT-BUGS: The last click covers elements that are nearer
 // NOT-BUGS: Posts show in front of the panels at outside corners
 TEST(generators, buildingPicturesAreCommitted) {

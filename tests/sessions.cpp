@@ -1,7 +1,6 @@
-// Whole sessions: each script of tests/sessions is played in a scratch folder, over the shipped data and the files of
-// the folder of its name, and what each step changed is compared with the expected record beside it.
-// tools/make-sessions.sh writes the records again; each line of the difference is reviewed like a change of the
-// program.
+// Sessions: each script of tests/sessions is played in a temporary working folder with the shipped data and the files
+// of the folder with its name. What each step changed is compared with the expected record. tools/make-sessions.sh
+// writes the records again; review each line of the difference like a change of the program.
 #include "picturefiles/picturefile.h"
 #include "player/commands.h"
 #include "tests/commandline.h"
@@ -28,23 +27,19 @@ class playedsession : public testing::Test {
         session s;
         const fs::path files = sessions / name;
         if (fs::exists(files)) fs::copy(files, ".", fs::copy_options::recursive | fs::copy_options::overwrite_existing);
-        play(script);
-        EXPECT_EQ(std::system(("diff -U2 " + shellquoted(expected) + " record.txt").c_str()), 0);
+        usepicturefiles();
+        for (loggedsurface* surface : {&playedsurface, &playedstrip}) surface->image.clear();
+        viewportsurface = &playedsurface;
+        progresssurface = &playedstrip;
+        std::ifstream lines(script);
+        try {
+            for (std::string line; !programended && std::getline(lines, line);) playline(line);
+        } catch (const failure&) {  // the record shows it
+        }
+        EXPECT_EQ(run("diff -U2 " + shellquoted(expected) + " record.txt"), 0);
     }
 
   private:
-    static void play(const std::string& path) {
-        usepicturefiles();
-        for (loggedsurface* drawnon : {&playedsurface, &playedstrip}) drawnon->image.clear();
-        viewportsurface = &playedsurface;
-        progresssurface = &playedstrip;
-        std::ifstream script(path);
-        try {
-            for (std::string line; !programended && std::getline(script, line);) playline(line);
-        } catch (const failure&) {  // it is in the record
-        }
-    }
-
     std::string name;
 };
 
@@ -52,7 +47,7 @@ class playedsession : public testing::Test {
     std::set<std::string> names;
     for (const auto& entry : fs::directory_iterator(sessions)) names.insert(entry.path().stem());
     for (const std::string& name : names) {
-        std::string testname = name;  // in a filter of tests '-' means "but not"
+        std::string testname = name;  // in a test filter '-' excludes tests
         std::replace(testname.begin(), testname.end(), '-', '_');
         testing::RegisterTest("sessions", testname.c_str(), nullptr, nullptr, __FILE__, __LINE__,
                               [name] { return new playedsession(name); });

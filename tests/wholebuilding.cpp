@@ -1,4 +1,4 @@
-// F6: the list of its replays, and the state that it leaves compared with that after the same picks by hand.
+// F6: the list of its replays, and the state after it compared with the state after the same picks by hand.
 #include "building/wholebuilding.h"
 #include "core/viewvalues.h"
 #include "tests/session.h"
@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// "girders1.txt:5 roofs1.txt" as files; without a number a file has one record.
+// Returns "girders1.txt:5 roofs1.txt" as files with 5 records and with 1.
 std::vector<countedfile> countedfiles(const std::string& words) {
     std::vector<countedfile> files;
     std::istringstream all(words);
@@ -22,7 +22,7 @@ std::vector<countedfile> countedfiles(const std::string& words) {
     return files;
 }
 
-// "girders1.txt+panels1.txt roofs1.txt": two replays, of which the first is of a pair.
+// Returns replays as "girders1.txt+panels1.txt roofs1.txt": of a pair, then of a single file.
 std::string textof(const std::vector<replaystep>& steps) {
     std::string text;
     for (const replaystep& s : steps)
@@ -30,19 +30,22 @@ std::string textof(const std::vector<replaystep>& steps) {
     return text;
 }
 
-// The text of the view's boxes, or the state of all other controls.
-std::string controls(bool ofview) {
-    std::string all;
-    for (const stateitem& s : programstate())
-        if (s.kind == "control" && ofview == std::any_of(std::begin(viewvalues), std::end(viewvalues),
-                                                         [&](const viewvalue& v) { return s.name == v.box.name; }))
-            all += s.name + ' ' + s.text + (ofview ? "" : s.visibility == "shown" ? " shown" : " hidden") + '\n';
-    return all;
+// Returns the script that picks such replays by hand; the names are without endings.
+std::string picks(const std::string& steps) {
+    std::string script;
+    std::istringstream words(steps);
+    for (std::string word; words >> word;) {
+        const std::size_t plus = word.find('+');
+        script += plus == std::string::npos ? "click autosolidsingle\npick autofile5 \"" + word + ".txt\"\n"
+                                            : "click autosolidbtn\npick autofile3 \"" + word.substr(0, plus) +
+                                                  ".txt\"\npick autofile4 \"" + word.substr(plus + 1) + ".txt\"\n";
+    }
+    return script;
 }
 
-// Starts with the samples of the house (h) or the tower (t) as designs, changes the view and plays the steps. Returns
-// the state after that.
-std::string played(const std::string& samples, const std::string& view, const std::string& steps) {
+// Copies the samples of the house (h) or the tower (t) to designs, starts the program and plays a script. Returns the
+// state after it.
+std::string stateafter(const std::string& samples, const std::string& script) {
     session s;
     for (const auto& file : fs::directory_iterator(TESSALY_SOURCE_DIR "/samples"))
         if (samples.find(file.path().filename().string()[4]) != std::string::npos) fs::copy(file.path(), "designs");
@@ -50,40 +53,18 @@ std::string played(const std::string& samples, const std::string& view, const st
     progresssurface = &playedstrip;
     playedsurface.image.clear();
     s.start();
-    std::istringstream script(view + steps);
-    for (std::string line; std::getline(script, line);) {
-        const std::string before = controls(false);
-        playline(line);
-        EXPECT_TRUE(line != "key F6" || controls(false) == before);
-    }
-    std::string left = worldtext(playedsurface.image) + controls(true);
-    for (const auto& file : fs::directory_iterator("nonuser")) left += file.path().string() + '\n';
-    return left;
+    std::istringstream lines(script);
+    for (std::string line; std::getline(lines, line);) playline(line);
+    std::string state = worldtext(playedsurface.image);
+    for (const viewvalue& v : viewvalues) state += v.box.text + '\n';
+    for (const auto& file : fs::directory_iterator("nonuser")) state += file.path().string() + '\n';
+    return state;
 }
 
-std::string pair(const std::string& girders, const std::string& panels) {
-    return "click autosolidbtn\npick autofile3 \"" + girders + ".txt\"\npick autofile4 \"" + panels + ".txt\"\n";
-}
-
-std::string single(const std::string& name) { return "click autosolidsingle\npick autofile5 \"" + name + ".txt\"\n"; }
-
-const std::string house =
-    pair("girdhou1", "paneho1") + single("roofh1") + pair("girdhou2", "paneho2") + single("roofh2");
-
-std::string towerfloor(const std::string& digit) { return pair("girdtow" + digit, "paneto" + digit); }
-
-std::string tower(int fromfloor) {
-    std::string all;
-    for (int n = fromfloor; n <= 10; ++n) all += towerfloor(std::to_string(n % 10));
-    return all + single("rooft0");
-}
-
-const std::string both = pair("girdhou1", "paneho1") + towerfloor("1") + single("roofh1") +
-                         pair("girdhou2", "paneho2") + towerfloor("2") + single("roofh2") + tower(3);
-
-void expectsamebyhand(const std::string& samples, const std::string& view, const std::string& byhand) {
-    SCOPED_TRACE(view);
-    EXPECT_EQ(played(samples, view, "key F6\n"), played(samples, view, "click fillscreen\n" + byhand));
+void expectsamebyhand(const std::string& samples, const std::string& before, const std::string& steps) {
+    EXPECT_EQ(stateafter(samples, before + "key F6\n"),
+              stateafter(samples, before + "click fillscreen\n" + picks(steps)))
+        << before;
 }
 
 }  // namespace
@@ -98,12 +79,12 @@ TEST(wholebuilding, listsItsReplaysWithoutDrawing) {
         {"girders1.txt:0 panels1.txt:0", ""},
         {"girders1.txt", "girders1.txt"},
         {"roofs1.txt panels1.txt girders1.txt", "girders1.txt+panels1.txt roofs1.txt"},
-        // groups: by rank in the order of the names, the rest alone, the roofs last
+        // pairs of a floor in the order of their names, then single files, then roofs
         {"girdersa.txt girdera1.txt girders1.txt panels1.txt roofb1.txt roofa1.txt",
          "girdera1.txt+panels1.txt girders1.txt roofa1.txt roofb1.txt"},
         {"girders1.txt panela1.txt panelb1.txt", "girders1.txt+panela1.txt panelb1.txt"},
-        {"girdera1.txt:0 girders1.txt panels1.txt", "girders1.txt+panels1.txt"},  // an empty file has no rank
-        // floors: 1 to 9, then 10, which is the digit 0 or one of three names
+        {"girdera1.txt:0 girders1.txt panels1.txt", "girders1.txt+panels1.txt"},  // an empty file is not paired
+        // floors 1 to 9, then 10: a name with the digit 0, or one of three names
         {"girders2.txt girder10.txt girders9.txt panels1.txt", "panels1.txt girders2.txt girders9.txt girder10.txt"},
         {"girders10.txt panels10.txt roofs10.txt girders1.txt panels1.txt roofs1.txt",
          "girders1.txt+panels1.txt roofs1.txt girders10.txt+panels10.txt roofs10.txt"},
@@ -114,7 +95,7 @@ TEST(wholebuilding, listsItsReplaysWithoutDrawing) {
         {"girders1.txt:601 panels1.txt:400 girdert1.txt:5 panelt1.txt:5",
          "girders1.txt panels1.txt girdert1.txt+panelt1.txt"},
         {"girders1.txt:1000 panels1.txt:1000", "girders1.txt panels1.txt"},
-        // names that the readers refuse, and odd ones that they take
+        // names that the readers refuse, and unusual names that they accept
         {"Girders1.txt girdersx.txt house1.txt gird roof notes panels.txt", ""},
         {"gird5 roof4 pane1s3.txt girde\u00e9s3.txt", "girde\u00e9s3.txt+pane1s3.txt roof4 gird5"},
     };
@@ -124,6 +105,7 @@ TEST(wholebuilding, listsItsReplaysWithoutDrawing) {
 TEST(wholebuilding, leavesWhatThePicksByHandLeave) {
     const char* const set =
         "click shopfm\ntype perptxtx \"1500\"\ntype perptxtz \"1200\"\ntype magtxt \".04\"\nclick cventerbtn\n";
+    const std::string house = "girdhou1+paneho1 roofh1 girdhou2+paneho2 roofh2";
     for (const char* view :
          {"", "click vertperpplusbtn\n", "click vertfocusminusbtn\n", "click magplusbtn\nclick magplusbtn\n",
           "click vertinc\nclick horizdec\n", "click defaultviewbtn\n", "click groupbtn\n",
@@ -132,10 +114,11 @@ TEST(wholebuilding, leavesWhatThePicksByHandLeave) {
           "click screencapbtn\ntype capbox \"a.bmp\"\nclick screencapenter\nclick vertinc\nclick retrieveimagetbtn\n"
           "pick bmplistbox \"a.bmp\"\nclick displayimagebtn\n"})
         expectsamebyhand("h", view, house);
-    // files of a click, and a list that is open
+    // with files of a click, and a list that is open
     expectsamebyhand("h", "click yellow2btn\nclick pan0x0y0\nclick roofbtn\nclick roofx0y0\nclick autosolidsingle\n",
-                     pair("girdhou1", "paneho1") + single("panels1") + single("roofh1") + single("roofs1") +
-                         pair("girdhou2", "paneho2") + single("roofh2"));
-    expectsamebyhand("t", set, tower(1));
-    expectsamebyhand("ht", set, both);
+                     "girdhou1+paneho1 panels1 roofh1 roofs1 girdhou2+paneho2 roofh2");
+    expectsamebyhand("ht", set,
+                     "girdhou1+paneho1 girdtow1+paneto1 roofh1 girdhou2+paneho2 girdtow2+paneto2 roofh2 "
+                     "girdtow3+paneto3 girdtow4+paneto4 girdtow5+paneto5 girdtow6+paneto6 girdtow7+paneto7 "
+                     "girdtow8+paneto8 girdtow9+paneto9 girdtow0+paneto0 rooft0");
 }
