@@ -30,7 +30,7 @@ class loggedsurface : public surface {
     bool flushlog();
     bool endlog();
 
-    // Counts each line drawn from here on; returns the count and starts again from 0.
+    // starttally starts counting the lines drawn; taketally returns the tally and starts a new one.
     void starttally() { tally.emplace(); }
     linetally taketally() { return std::exchange(*tally, {}); }
 
@@ -51,8 +51,8 @@ class loggedsurface : public surface {
     std::optional<linetally> tally;
 };
 
-// The surfaces that scripts draw on, to which viewportsurface and progresssurface are set: the building, and the strip
-// that shows the progress of a replay.
+// The surfaces on which scripts draw: the building and the progress strip of a replay. The player sets viewportsurface
+// and progresssurface to them.
 extern loggedsurface playedsurface, playedstrip;
 
 }  // namespace tessaly

@@ -1,7 +1,7 @@
 // The program without its windows: plays a script of user actions in the working folder.
 //   play SCRIPT        "-" is standard input
-// Status 0: played to its end or to exitbtn; 1: the program failed; 2: the script asks for something that no user
-// could do, or output could not be written.
+// The exit status is 0 if the script was played to its end or to exitbtn, 1 if the program failed, and 2 if the script
+// cannot be read, asks for something that no user could do, or its output cannot be written.
 // All output is flushed after each line of the script, so that another program can send a line and wait for its answer.
 
 #include "core/controls.h"
@@ -33,7 +33,7 @@ void playscript(std::istream& script, int& number) {
         playline(line);
         flushall();
     }
-    // A failed read of standard input, such as of a folder, looks like its end to the stream.
+    // The stream reports a failed read of standard input as the end of the input, for example if it is a folder.
     if (script.bad() || std::ferror(stdin) != 0) throw scripterror("the script cannot be read");
     if (!playedsurface.endlog()) throw scripterror("the file of the drawn lines cannot be written");
 }

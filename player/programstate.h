@@ -17,16 +17,16 @@ struct stateitem {
     std::string text;             // "\"1\"" for a control, "0.56" for a value; "" for a window
 };
 
-// Returns windows, controls and reported scalars, each in the order of its table. Every
-// call after startprogram returns the same items.
+// Returns windows, controls and reported scalars, each in the order of its table. Every call after startprogram returns
+// items with the same names in the same order.
 std::vector<stateitem> programstate();
 
 // Returns a value as the state shows it: "empty", the shortest text of its number, or its text in quotes.
 std::string statetext(const value& v);
 
-// Returns a line for each window and control, with its title or text, bounds in twips and colour, and if it has them:
-// "hidden", element number, tooltip, accessible name, items. Only the first and the last button of a button family are
-// listed; the others follow from them.
+// Returns a line for each window and control: its name, title or text, bounds in twips, colour, whether it is hidden,
+// element number, tooltip, accessible name and items, as far as it has them. Of each button family, only the first and
+// the last button are listed, from which the others follow.
 std::vector<std::string> programlayout();
 
 }  // namespace tessaly

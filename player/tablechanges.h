@@ -1,5 +1,5 @@
-// Finds out which tables of the world a step changed. The checksum of a group of tables covers only the changed
-// elements, so that a wrong element shows only at the steps that write it.
+// Determines which tables of the world a step changed. The checksum of a group of tables covers only the changed
+// elements, so a wrong element affects only the steps that write it.
 #pragma once
 
 #include "core/table.h"

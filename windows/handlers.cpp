@@ -144,7 +144,8 @@ constexpr programkey keys[] = {
      }},
 };
 
-// The buttons that the Escape key clicks. Each belongs to some controls: Escape clicks it if one of them has the focus.
+// The buttons that the Escape key clicks. Controls belong to each button: if one of them has the focus, Escape clicks
+// this button.
 struct closingbutton {
     control* button;
     const control* controls[4];
@@ -159,14 +160,14 @@ const closingbutton closingbuttons[] = {
 };
 
 control* closingbuttonof(const window& w, const control* focused) {
-    control* first = nullptr;
+    control* firstshown = nullptr;
     for (const closingbutton& c : closingbuttons) {
         if (c.button->parent != &w || !c.button->shown) continue;
         const bool belongs = std::find(std::begin(c.controls), std::end(c.controls), focused) != std::end(c.controls);
         if (focused && (focused == c.button || belongs)) return c.button;
-        if (!first) first = c.button;
+        if (!firstshown) firstshown = c.button;
     }
-    return first;
+    return firstshown;
 }
 
 }  // namespace
