@@ -164,15 +164,9 @@ TEST_F(windows_boxesandlists, longNamesInAListHaveATooltip) {
 }
 
 TEST_F(windows_boxesandlists, promptsAndHintsAreOnlyRead) {
-    click(autosolidbtn);
     for (const control* c : {&selectgirderfile, &selectpanelfile, &selectedbox, &autohintbox}) {
-        SCOPED_TRACE(c->name);
-        EXPECT_TRUE(widgetof(*c)->property("readOnly").toBool());
-        EXPECT_EQ(widgetof(*c)->focusPolicy(), Qt::NoFocus);
-        if (!c->shown) continue;
-        widgetof(*c)->setFocus(Qt::MouseFocusReason);
-        QTest::keyClicks(widgetof(*c), "x");
-        EXPECT_NE(c->text.front(), 'x');
+        EXPECT_TRUE(widgetof(*c)->property("readOnly").toBool()) << c->name;
+        EXPECT_EQ(widgetof(*c)->focusPolicy(), Qt::NoFocus) << c->name;
     }
 }
 

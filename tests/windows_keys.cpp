@@ -55,13 +55,14 @@ TEST_F(windows_keys, escapeOnEachControlClosesWhatItBelongsTo) {
     session::write("designs/girders1.txt", "");
     session::write("bmps/house.bmp", "");
     const std::vector<std::vector<control*>> groups{
-        {&capbox, &screencapenter, &capescapebtn},
-        {&autofile, &autofile1, &autofile3, &autofile5, &escapefilelistbtn},
-        {&designfileslist, &killfilebtn, &closefilelistbtn},
-        {&bmplistbox, &displayimagebtn, &delbmpbtn, &closebmpbtn},
+        {&capescapebtn, &capbox, &screencapenter},
+        {&escapefilelistbtn, &autofile, &autofile1, &autofile3, &autofile5},
+        {&closefilelistbtn, &designfileslist, &killfilebtn},
+        {&closebmpbtn, &bmplistbox, &displayimagebtn, &delbmpbtn},
     };
     for (const auto& group : groups)
         for (const control* focused : group) {
+            SCOPED_TRACE(focused->name);
             runevent([] {
                 for (control* opener : {&screencapbtn, &autowiresingle, &autosolidsingle, &autowirebtn, &autosolidbtn,
                                         &displayfilelistbtn, &retrieveimagetbtn})
@@ -71,8 +72,7 @@ TEST_F(windows_keys, escapeOnEachControlClosesWhatItBelongsTo) {
             widgetof(*focused)->setFocus();
             QTest::keyClick(widgetof(*focused), Qt::Key_Escape);
             for (const auto& other : groups)
-                for (const control* c : other)  // the box for a name is common to both kinds of captures
-                    EXPECT_TRUE(c == &capbox || c->shown == (other != group)) << focused->name << ": " << c->name;
+                EXPECT_EQ(other.front()->shown && other.back()->shown, other != group) << other.front()->name;
         }
 }
 
@@ -103,43 +103,32 @@ TEST_F(windows_keys, arrowsWalkThePlans) {
     }
 }
 
-TEST_F(windows_keys, aBuildingByTheKeyboardAlone) {
+TEST_F(windows_keys, tabGoesThroughTheBoxesOfTheViewAndF5SetsThem) {
     keys(R"(postbeambtn Return =layoutgirder Right Return Down Down Return Escape
-        orange1btn Space =layoutpanels panelsnipper Down pan270x0y208 Return Escape
+        orange1btn Space =layoutpanels panelsnipper Down pan270x0y208 Return
         autosolidbtn Return =autofile3 Return =autofile4 Down Return =autosolidbtn
         shopfm Return perptxtx "1700" Tab =perptxty Tab =perptxtz Tab =focustxtx Tab =focustxty Tab =focustxtz
-        Tab =magtxt Tab =verttxt Tab =horiztxt F5
-        screencapbtn Return =capbox "keys.bmp" Return =screencapbtn
-        vertperpplusbtn Return retrieveimagetbtn Return =bmplistbox Down Return displayimagebtn Return)");
+        Tab =magtxt Tab =verttxt Tab =horiztxt F5)");
     EXPECT_EQ(combinedcount, 3);
-    EXPECT_EQ(perptxtx.text + " " + perptxtz.text, "1700 830");
+    EXPECT_EQ(perptxtx.text, "1700");
     keys("fastchange Return perpx0y1800 Return F5 =perpx0y1800");
     EXPECT_EQ(perptxtx.text + " " + perptxty.text, "0.1 1800");
-    EXPECT_EQ(session::file("designs/girders1.txt"),
-              "\"girder\",1,8,8,41,90,0,0,16,4,64\r\n\"girder\",9,200,8,41,90,0,192,16,4,64\r\n");
-    EXPECT_EQ(session::file("designs/panels1.txt"), "\"panel\",1,0,104,2,0,270,0,208,2,64\r\n");
 }
 
 // A held key presses once; only buttons that step repeat.
 TEST_F(windows_keys, aHeldKeyIsOnePressButForSteps) {
+    // p: press, R: repeat that Qt marks, u: release. On X11 Qt may not mark a repeat, a release and a press at one
+    // time.
     const auto hold = [](const control& c, Qt::Key key) {
-        QWidget& widget = *widgetof(c);
-        widget.setFocus();
+        widgetof(c)->setFocus();
         quint64 time = 1000;  // ms
-        const auto send = [&](QEvent::Type type, bool repeats) {
-            QKeyEvent event(type, key, Qt::NoModifier, key == Qt::Key_Space ? " " : "", repeats);
+        for (const char step : std::string("pRupRupRupu")) {
+            time += step == 'u' ? 40 : 0;
+            QKeyEvent event(step == 'u' ? QEvent::KeyRelease : QEvent::KeyPress, key, Qt::NoModifier,
+                            key == Qt::Key_Space ? " " : "", step == 'R');
             event.setTimestamp(time);
-            QApplication::sendEvent(&widget, &event);
-        };
-        send(QEvent::KeyPress, false);
-        for (int repeat = 0; repeat < 3; ++repeat) {  // with the mark of a repeat, and without, as after X11 lost it
-            send(QEvent::KeyPress, true);
-            time += 40;
-            send(QEvent::KeyRelease, false);
-            send(QEvent::KeyPress, false);
+            QApplication::sendEvent(widgetof(c), &event);
         }
-        time += 40;
-        send(QEvent::KeyRelease, false);
     };
     const auto records = [] {
         const std::string file = session::file("designs/girders1.txt");
