@@ -1,5 +1,5 @@
-// Picture files through Qt Gui. The kind of a file is determined by its contents, whatever its name says: kinds that
-// run instructions or refer to other files, such as SVG, are never passed to Qt.
+// Picture files through Qt Gui. The contents of a file determine its kind, not its name. Kinds that can contain
+// instructions or refer to other files, such as SVG, are never passed to Qt.
 
 #include "picturefiles/picturefile.h"
 
@@ -21,29 +21,31 @@ namespace {
 
 constexpr int maxmegabytes = 64;  // of a picture in memory, at four bytes per pixel
 
-// Returns a BMP as it is. Fails if it has fewer bytes than its header says: Qt would show the missing rows as black.
+// Returns a BMP unchanged. Fails if it has fewer bytes than its header says: Qt would show the missing rows in black.
 std::string completebmp(std::string bytes) {
-    constexpr std::size_t sizeat = 2, headbytes = 14;
-    if (bytes.size() >= headbytes && qFromLittleEndian<quint32>(bytes.data() + sizeat) <= bytes.size()) return bytes;
+    constexpr std::size_t sizeoffset = 2, headersize = 14;
+    if (bytes.size() >= headersize && qFromLittleEndian<quint32>(bytes.data() + sizeoffset) <= bytes.size())
+        return bytes;
     throw failure(failurekind::invalidcall, "the file is not complete");
 }
 
 // Returns a PNG without its ancillary chunks: a few megabytes of compressed texts can expand to gigabytes.
 std::string criticalchunks(std::string bytes) {
-    constexpr std::size_t signature = 8, typeat = 4, withoutdata = 12;
+    constexpr std::size_t signaturesize = 8, typeoffset = 4, emptychunk = 12;
     constexpr char ancillary = 0x20;
-    std::string critical = bytes.substr(0, signature);
-    for (std::size_t at = signature; at + withoutdata <= bytes.size();) {
-        const quint64 length = quint64{qFromBigEndian<quint32>(bytes.data() + at)} + withoutdata;
-        const auto present = static_cast<std::size_t>(std::min<quint64>(length, bytes.size() - at));
-        if (!(bytes[at + typeat] & ancillary)) critical.append(bytes, at, present);
-        at += present;
+    std::string critical = bytes.substr(0, signaturesize);
+    for (std::size_t at = signaturesize; at + emptychunk <= bytes.size();) {
+        const quint64 length = quint64{qFromBigEndian<quint32>(bytes.data() + at)} + emptychunk;
+        const auto available = static_cast<std::size_t>(std::min<quint64>(length, bytes.size() - at));
+        if (!(bytes[at + typeoffset] & ancillary)) critical.append(bytes, at, available);
+        at += available;
     }
     return critical;
 }
 
-// Returns a JPEG as it is. Fails if it has thousands of scans, which take hours; a usual one has a dozen at most.
-std::string fewscans(std::string bytes) {
+// Returns a JPEG unchanged. Fails if it has more than 100 scans: usual files have a dozen at most, and decoding
+// thousands would take hours.
+std::string limitedscans(std::string bytes) {
     constexpr int maxscans = 100;
     int scans = 0;
     for (std::size_t at = 0; (at = bytes.find("\xFF\xDA", at)) != std::string::npos; ++at) ++scans;
@@ -54,18 +56,16 @@ std::string fewscans(std::string bytes) {
 
 std::string unchanged(std::string bytes) { return bytes; }
 
-// The kinds that are read: Qt's name, the first bytes of such a file, and the function that makes its bytes safe for
-// Qt.
 struct picturekind {
-    const char* name;
-    std::string_view start;
-    std::string (*safebytes)(std::string bytes);
+    const char* qtformat;
+    std::string_view signature;                   // the first bytes of such a file
+    std::string (*safebytes)(std::string bytes);  // returns what Qt can decode safely
 };
 constexpr picturekind kinds[] = {
     // clang-format off
     {"bmp",  "BM",                    completebmp},
     {"png",  "\x89PNG\r\n\x1A\n", criticalchunks},
-    {"jpeg", "\xFF\xD8\xFF",       fewscans},
+    {"jpeg", "\xFF\xD8\xFF",       limitedscans},
     {"gif",  "GIF8",                  unchanged},
     // clang-format on
 };
@@ -78,11 +78,11 @@ void writepng(const raster& image, const std::string& path) {
     replacefile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())}, "picture");
 }
 
-// Decodes the upper left part that viewport can show.
+// Decodes the upper left part of a picture, at most the size of viewport.
 QImage decode(const picturekind& kind, const std::string& bytes) {
     QByteArray contents = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
     QBuffer buffer(&contents);
-    QImageReader reader(&buffer, kind.name);
+    QImageReader reader(&buffer, kind.qtformat);
     reader.setAutoDetectImageFormat(false);
     const QSize size = reader.size();
     if (qint64{size.width()} * size.height() > (qint64{maxmegabytes} << 20) / 4)
@@ -95,16 +95,16 @@ QImage decode(const picturekind& kind, const std::string& bytes) {
     return picture;
 }
 
-QImage readshown(const std::string& bytes) {
+QImage decode(const std::string& bytes) {
     for (const picturekind& kind : kinds)
-        if (bytes.starts_with(kind.start)) return decode(kind, kind.safebytes(bytes));
+        if (bytes.starts_with(kind.signature)) return decode(kind, kind.safebytes(bytes));
     throw failure(failurekind::invalidcall, "a BMP, PNG, JPEG or GIF picture was expected");
 }
 
 bitmap readimage(const std::string& path) {
     QImage picture;
     try {
-        picture = readshown(filebytes(path, "picture"));
+        picture = decode(filebytes(path, "picture"));
     } catch (failure& f) {
         f.addlocation(path + " (picture)");
         throw;
