@@ -3,12 +3,10 @@
 // program plays the lines of the paragraph; these lines use the input:
 //   # input FILE     writes the input to this file
 //   # script FILE    appends the input, as the script of this element file, to its sections
-//   # typed          types the input's lines into the boxes; then each byte of a line clicks a button or picks an entry
-//   # played         plays the input's lines up to the first that no user could carry out
+//   # played         plays the input's lines, except those that no user could carry out
 // Every input may end in a failure. Anything else is a finding: a crash, a sanitizer's report, another exception, or
 // more than two seconds of work.
 
-#include "core/controls.h"
 #include "core/failure.h"
 #include "core/textfiles.h"
 #include "player/commands.h"
@@ -71,30 +69,12 @@ std::string nextline(std::istream& input) {
     return leavesfolder(line) ? "" : line;
 }
 
-void act(std::size_t choice) {
-    std::vector<control*> reached;
-    for (const window* w : allwindows())
-        for (control* c : w->controls) {
-            const bool list = c->kind == controlkind::list || c->kind == controlkind::filelist;
-            const bool button = c->kind == controlkind::button || c->kind == controlkind::picturebutton;
-            if (w->shown && c->shown && (button || (list && !c->items.empty()))) reached.push_back(c);
-        }
-    control& c = *reached[choice % reached.size()];
-    c.items.empty() ? clickcontrol(c) : pickitem(c, static_cast<int>(choice % c.items.size()));
-}
-
-void typed(std::istream& input) {
-    for (control* box : {&perptxtx, &perptxty, &perptxtz, &focustxtx, &focustxty, &focustxtz, &magtxt, &verttxt,
-                         &horiztxt, &tessaly::floor, &writefilebox, &wiresolid, &panelsnipper, &capbox})
-        box->text = nextline(input);
-    for (const char choice : nextline(input))
-        if (!programended) act(static_cast<unsigned char>(choice));
-}
-
 void played(std::istream& input) {
-    try {
-        while (!programended && input) playline(nextline(input));
-    } catch (const scripterror&) {
+    while (!programended && input) {
+        try {
+            playline(nextline(input));
+        } catch (const scripterror&) {
+        }
     }
     playedsurface.endlog();
 }
@@ -108,7 +88,6 @@ void play(const std::string& variant, const std::string& input) {
         if (!line.starts_with('#')) playline(line);
         if (line.starts_with("# input")) write(name, input);
         if (line.starts_with("# script")) write(name, sections(filebytes(name, "element")) + input);
-        if (line == "# typed") typed(inputlines);
         if (line == "# played") played(inputlines);
     }
 }

@@ -2,7 +2,6 @@
 // folder.
 #include "data/cubes.h"
 #include "data/elements.h"
-#include "render/painter.h"
 #include "tests/session.h"
 
 using namespace tessaly;
@@ -50,8 +49,7 @@ TEST(readers, unusualPlacements) {
     EXPECT_EQ(failureof([&] { readfile(e, 3); })->kind, failurekind::filealreadyopen);
 }
 
-// An axis-cube file that is not part of the scene: its script runs, and all four blocks are drawn. If its faces were
-// painted, a report would name the row of a bad colour or framing.
+// An axis-cube file that is not part of the scene: its script runs, and all four blocks are drawn.
 TEST(readers, cubesOutsideTheScene) {
     std::string cubes = "WIRECOLORS:\n6,7,8,9\n";
     for (const char* key : {"000:", "100:", "200:", "300:", "400:", "500:"})
@@ -62,21 +60,12 @@ TEST(readers, cubesOutsideTheScene) {
     setview(1850, -1850, 550);
     focusx = focusy = focusz = 0.5;
     datafile = "az-test.txt";
-    const auto paint = [&](const char* field, const char* replacement) {
-        s.write("datah/az-test.txt", replaced(cubes, field, replacement));
-        readcubez();
-        paintsolids();
-    };
     s.write("datah/az-test.txt", cubes);
     for (const auto readcubes : {readcubex, readcubey, readcubez}) {
         drawset = 1;
         readcubes();
         EXPECT_EQ(joined(basex[1], drawset, ptz[2009]), "11 2 -0.5");
     }
-    expectfailure(failureof([&] { paint("100,4,60", "100,4,300"); }), failurekind::subscript,
-                  "AUTOCUBE100:, tenth number: palette");
-    expectfailure(failureof([&] { paint("1,21,4", "1,21,1501"); }), failurekind::subscript,
-                  "AUTOFRAMING1:, face 1: framing");
 }
 
 // A start in a wrong or damaged folder: the load of the main window fails with a report before anything is drawn.

@@ -1,4 +1,4 @@
-// Values, and numbers and text at their edges.
+// Values, and the conversion of numbers and texts.
 #include "tests/session.h"
 
 #include <cmath>
@@ -26,7 +26,7 @@ TEST(value, textsAreNumbersAsAWholeOrByTheirLeadingDigits) {
     for (const char* text : {"1e999", "-1e999"}) EXPECT_TRUE(std::isfinite(Val(text))) << text;
 }
 
-// Fifteen digits, cut and not rounded by a box; whole numbers take the even half.
+// A number is written with 15 digits; a box truncates the text. Halves are rounded to even whole numbers.
 TEST(value, numbersBecomeTextsAndWholes) {
     const std::pair<double, const char*> texts[] = {
         {0.1 + 0.2, "0.3"}, {-0.0, "0"},      {1.0 / 3, "0.333333333333333"},    {-1234.5678, "-1234.5678"},
@@ -34,15 +34,15 @@ TEST(value, numbersBecomeTextsAndWholes) {
     for (const auto& [number, text] : texts) EXPECT_EQ(generaltext(number), text);
     EXPECT_EQ(boxtext(-1234.5678, 5), "-1234");
     EXPECT_EQ(boxtext(value(), 5), "");
-    EXPECT_EQ(boxtext(-3.087e-05), "-0.00003087");  // never the front of a number with its exponent cut off
+    EXPECT_EQ(boxtext(-3.087e-05), "-0.00003087");  // not -3.08, its first five characters
     EXPECT_EQ(boxtext(3.087e-05, 5), "0.000");
     EXPECT_EQ(shortesttext(0.1 + 0.2), "0.30000000000000004");
     const double halves[][2] = {{0.5, 0}, {1.5, 2}, {2.5, 2}, {-0.5, 0}, {-1.5, -2}, {2.500001, 3}};
     for (const auto& [number, whole] : halves) EXPECT_EQ(nearestwhole(number), whole);
 }
 
-// The text of a box is converted to a number when it is first used. The report names its origin, and can be read
-// whatever the text contains.
+// A text is converted to a number when it is first used. The report of a failure names its origin, and is readable for
+// any text.
 TEST(value, textMeetsArithmetic) {
     EXPECT_EQ(joined(value() + 1, value("12") * 2, value("12").isnumber()), "1 24 0");
     EXPECT_EQ(joined(value("a").is("a"), value().is(""), value(0).is("0"), value("a").is("A")), "1 1 0 0");
@@ -61,32 +61,28 @@ TEST(value, textMeetsArithmetic) {
              "... (1000000 characters)\" is not a number: a number such as 12.5 belongs here (type mismatch)"}};
     for (const auto& [text, origin, report] : mistakes)
         EXPECT_EQ(failureof([text = text, origin = origin] { return value(text, origin) + 1; })->what(), report);
-    std::string name;  // characters of two bytes are not cut in two
+    std::string name;  // a character of two bytes is not cut
     for (int i = 0; i < 100; ++i) name += "\xC3\xA9";
     EXPECT_EQ(excerpt(name), name.substr(0, 120) + "... (100 characters)");
     EXPECT_EQ(shortpath("designs\\" + name + ".txt"),
               "designs\\" + name.substr(0, 44) + "..." + name.substr(0, 52) + ".txt");
 }
 
-// resetworld clears 1..7000 (700 of cubecolour) and nothing above; a miss names the table.
+// resetworld clears 1..7000 (700 of cubecolour). A report of a bad index names the table.
 TEST(value, resetClearsItsRangeOnly) {
     session s(inownfolder);
-    for (const int i : {0, 1, 7000, 7001}) {
-        basex.set(i, 5);
-        quad4.set(i, 5);
-        savex.set(i, 5);
-    }
-    cubecolour.set(700, 5);
-    cubecolour.set(701, 5);
+    for (const int i : {0, 1, 7000, 7001}) basex.set(i, 5);
+    for (const int i : {1, 7000, 7001}) quad4.set(i, 5);
+    for (const int i : {700, 701}) cubecolour.set(i, 5);
+    savex.set(1, 5);
     linecount7 = ptcount2 = 5;
     resetworld();
-    EXPECT_EQ(joined(basex[1], basex[7000], quad4[7000], cubecolour[700]), "0 0 0 0");
-    EXPECT_EQ(joined(linecount7, ptcount2), "0 0");
+    EXPECT_EQ(joined(basex[1], basex[7000], quad4[1], quad4[7000], cubecolour[700], linecount7, ptcount2),
+              "0 0 0 0 0 0 0");
     EXPECT_EQ(joined(basex[0], basex[7001], quad4[7001], savex[1], cubecolour[701]), "5 5 5 5 5");
     expectfailure(failureof([] { basex.set(10001, 1); }), failurekind::subscript,
                   "basex has no index 10001, an index 0..10000 was expected");
-    expectfailure(failureof([] { return lineend1[value(-2.75)]; }), failurekind::subscript,
-                  "-2.75, an index 0..20000 was expected");
+    expectfailure(failureof([] { return lineend1[value(-2.75)]; }), failurekind::subscript, "-2.75, an index 0..20000");
     expectfailure(failureof([] { return palred[value(5e12)]; }), failurekind::subscript,
                   "5000000000000, an index 0..256");
 }
