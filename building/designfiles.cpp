@@ -51,14 +51,14 @@ void elementfileforcode(const value& kind, const value& code) {
 
 void elementfilefailure(const value& kind, const value& code, const textinput& in, fieldlocation record) {
     constexpr int codefield = 4;  // fields from the kind to the code
-    const bool girder = kind.is("girder"), known = girder || kind.is("panel");
-    const value& wrong = known ? code : kind;
-    if (known) record.field += codefield;
+    const bool girder = kind.is("girder"), hascode = girder || kind.is("panel");
+    const value& wrong = hascode ? code : kind;
+    if (hascode) record.field += codefield;
     throw failure(failurekind::invalidcall,
                   (wrong.isnumber() ? wrong.text() : '"' + excerpt(wrong.text()) + '"') + " is not " +
-                      (girder  ? "the code of a girder (41, 42, 43)"
-                       : known ? "the code of a panel (1 to 24, 31 to 38)"
-                               : "a kind of element (girder, panel, roof)"),
+                      (girder    ? "the code of a girder (41, 42, 43)"
+                       : hascode ? "the code of a panel (1 to 24, 31 to 38)"
+                                 : "a kind of element (girder, panel, roof)"),
                   in.location(record));
 }
 

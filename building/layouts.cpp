@@ -1,4 +1,4 @@
-// The position buttons, generated from the button families.
+// Generates the position buttons from the button families.
 
 #include "building/layouts.h"
 

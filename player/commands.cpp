@@ -205,7 +205,8 @@ void start(scriptline& line) {
     click(button);
 }
 
-std::size_t indexin(std::string_view word) {
+std::size_t readindex(scriptline& line) {
+    const std::string_view word = line.word();
     std::size_t index = 0;
     const auto read = std::from_chars(word.data(), word.data() + word.size(), index);
     if (word.empty() || read.ptr != word.data() + word.size() || read.ec != std::errc())
@@ -216,7 +217,7 @@ std::size_t indexin(std::string_view word) {
 // Writes a part of a table, also to the record. Other steps record only checksums of tables.
 void table(scriptline& line) {
     const std::string name = readname(line);
-    const std::size_t from = indexin(line.word()), to = indexin(line.word());
+    const std::size_t from = readindex(line), to = readindex(line);
     line.expectend();
     const auto text = tabletext(name, from, to);
     if (!text) throw scripterror("there is no table " + name + " with these elements");
