@@ -1,4 +1,4 @@
-// What other programs read and write as well: bitmap files, texts in Windows-1252, and names of captures.
+// Formats shared with other programs: picture files, texts in Windows-1252, and the names of captures.
 #include "core/windows1252.h"
 #include "picturefiles/picturefile.h"
 #include "render/raster.h"
@@ -8,8 +8,8 @@
 
 using namespace tessaly;
 
-// The bytes of the file, with 3780 dots per metre, and the pixels that are read from it.
-TEST(formats, isOneFileAndComesBackWhole) {
+// The file has 3780 dots per metre. A pixel outside the picture that is read becomes white.
+TEST(formats, bitmapsAreWrittenAndReadExactly) {
     session s;
     raster made(3, 2), read(2, 3);
     for (std::uint32_t i = 0; i < 6; ++i) made.pixels()[i] = 0xff000000 | (0x010203 * (i + 1));
@@ -31,9 +31,9 @@ TEST(formats, isOneFileAndComesBackWhole) {
     expectfailure(failureof([&] { made.save("bmps\\b.bmp"); }), failurekind::fileaccess, "bmps\\b.bmp");
 }
 
-// Pictures of other programs are read as far as viewport shows them. A file is refused, whatever its name, if it could
-// refer to others (SVG), is truncated, or would take gigabytes or hours.
-TEST(formats, areReadIfTheyAreBitmapsOfReasonableSize) {
+// The part of a picture that viewport shows is read. A file with any name is refused if it could refer to other files
+// (SVG), is truncated, or would need gigabytes or hours.
+TEST(formats, picturesOfReasonableSizeAreRead) {
     const session s;
     usepicturefiles();
     const auto read = [] { return readpicture("bmps\\a.bmp"); };
@@ -71,10 +71,10 @@ TEST(windows1252, everyByteComesBack) {
         fromwindows1252("\x80\x82\x83\x84\x85\x86\x87\x88\x89\x8A\x8B\x8C\x8E\x91\x92\x93\x94\x95\x96\x97\x98\x99\x9A"
                         "\x9B\x9C\x9E\x9F \xA0\xFF"),
         "€‚ƒ„…†‡ˆ‰Š‹ŒŽ‘’“”•–—˜™š›œžŸ \xC2\xA0ÿ");
-    EXPECT_EQ(towindows1252("\xF0\x9F\x8F\xA0 \xFFx\xE2\x82"), "? ?x?");  // outside the set; no UTF-8; cut off
+    EXPECT_EQ(towindows1252("\xF0\x9F\x8F\xA0 \xFFx\xE2\x82"), "? ?x?");  // not in the set; not UTF-8; truncated
 }
 
-// A name may contain a backslash or bytes that are no UTF-8. A record is in Windows-1252.
+// A name may contain a backslash or bytes that are not UTF-8. A view record is in Windows-1252.
 TEST(formats, capturesOfAnyNameAreRetrievedAndDeleted) {
     session s;
     s.start();

@@ -1,5 +1,5 @@
-// A scratch working folder with the program started in it, and a surface that stores every drawn line. Tests act as a
-// user does (click, pick, type) or set the world's tables themselves and call one procedure.
+// A temporary working folder with the program started in it, and a surface that stores every drawn line. Tests click,
+// pick and type like a user, or set the tables themselves and call one procedure.
 #pragma once
 
 #include "core/controls.h"
@@ -37,7 +37,7 @@ inline std::ostream& operator<<(std::ostream& out, const drawnline& l) {
                << ' ' << int{l.c.blue};
 }
 
-class recorder : public surface {
+class linestore : public surface {
   public:
     void line(float x1, float y1, float x2, float y2, colour c) override { drawn.push_back({x1, y1, x2, y2, c}); }
     void save(const std::string&) override {}
@@ -46,7 +46,8 @@ class recorder : public surface {
 };
 
 using filesbypath = std::map<std::string, std::string>;
-inline const filesbypath inownfolder{{"datah/.own", ""}};  // no shipped data: a test writes its own
+inline const filesbypath inownfolder{
+    {"datah/.own", ""}};  // for a session without shipped data: the test writes its files
 
 class session {
   public:
@@ -60,16 +61,16 @@ class session {
     ~session() { resetchannels(); }
     session(const session&) = delete;
 
-    // ---- what a user does; using a hidden control is an error of the test ----
+    // ---- actions of a user; using a hidden control is an error of the test ----
     void start() { click("startprogrambtn"); }
     void click(const std::string& name) { playline("click " + name); }
     void type(const std::string& name, const std::string& text) { playline("type " + name + ' ' + inquotes(text)); }
     void pick(const std::string& name, const std::string& item) { playline("pick " + name + ' ' + inquotes(item)); }
 
-    // ---- what came of it ----
+    // ---- results ----
     const std::vector<drawnline>& lines() const { return viewport.drawn; }
     std::vector<drawnline> takelines() { return std::exchange(viewport.drawn, {}); }
-    // The bytes of a file of the working folder; "(none)" if it does not exist.
+    // Returns the bytes of a file in the working folder; "(none)" if it does not exist.
     static std::string file(const std::string& path) {
         std::ifstream in(path, std::ios::binary);
         return in ? (std::ostringstream() << in.rdbuf()).str() : "(none)";
@@ -78,13 +79,14 @@ class session {
         std::ofstream(path, std::ios::binary) << bytes;
     }
 
-    recorder viewport, progress;
+    linestore viewport, progress;
 
   private:
     workingfolder folder;
 };
 
-// Everything that later steps depend on, line by line: each scalar, and checksums of each table and of the picture.
+// Returns everything that later steps depend on, line by line: each scalar, and checksums of each table and the
+// picture.
 inline std::string worldtext(const raster& image) {
     std::string all = tablesums();
     for (const scalar& s : scalars()) all += s.name + ' ' + statetext(*s.variable) + '\n';
@@ -93,7 +95,7 @@ inline std::string worldtext(const raster& image) {
     return all + "picture " + pixels.text() + '\n';
 }
 
-// The values with blanks between them, to compare several at once: a failure shows which of them differs.
+// Returns the values with blanks between them, so that one comparison of several shows which one differs.
 template <class... values>
 std::string joined(const values&... all) {
     std::string text;
@@ -101,10 +103,10 @@ std::string joined(const values&... all) {
     return text;
 }
 
-// Messages of failed tests show a value as the state of the program does.
+// Writes a value in messages of failed tests.
 inline void PrintTo(const value& v, std::ostream* out) { *out << statetext(v); }
 
-// The failure that a procedure ends with; nothing if it succeeds.
+// Returns the failure with which a procedure ends; nothing if it succeeds.
 template <class procedure>
 std::optional<failure> failureof(procedure run) {
     try {
@@ -121,14 +123,14 @@ inline void expectfailure(const std::optional<failure>& f, failurekind kind, con
     EXPECT_NE(std::string(f->what()).find(report), std::string::npos) << f->what() << "\nexpected: " << report;
 }
 
-// A text with the first occurrence of another text, which it must contain, replaced.
-inline std::string replaced(std::string text, const std::string& taken, const std::string& put) {
-    const std::size_t at = text.find(taken);
-    if (at == std::string::npos) throw std::logic_error("there is no " + taken);
-    return text.replace(at, taken.size(), put);
+// Returns a text with its first occurrence of old, which must exist, replaced by fresh.
+inline std::string replaced(std::string text, const std::string& old, const std::string& fresh) {
+    const std::size_t at = text.find(old);
+    if (at == std::string::npos) throw std::logic_error("there is no " + old);
+    return text.replace(at, old.size(), fresh);
 }
 
-// An element file section by section. A section that a test does not set is empty but for its end row.
+// An element file section by section. A section that a test does not set has only its end row.
 struct elementtext {
     std::string wirecolours = "1,2,3,4,5,6,7", points = "", lines[5] = {}, cubes400 = "", cubes600 = "", planes = "",
                 framing1 = "", framing2 = "", script = "TRAN\nSTOP\n";
@@ -148,7 +150,7 @@ inline colour testcolour(int k) {
     return {static_cast<std::uint8_t>(k), static_cast<std::uint8_t>(2 * k), static_cast<std::uint8_t>(255 - k)};
 }
 
-// Sets the view as after the start, with the eye at (x, y, z) from the focus, and a palette of testcolour.
+// Sets a view with the eye at (x, y, z) relative to the focus, as after the start, and a palette of test colours.
 inline void setview(double x, double y, double z, double magnification = 0.56) {
     perprelx = perpx = x;
     perprely = perpy = y;
