@@ -11,20 +11,20 @@ namespace {
 
 // Reads fields as given by letters: v value, r record field, s its text, l label, t text field. Returns them with
 // blanks between them: texts in quotes, "-" for empty, the kind of a failure.
-std::string readall(const std::string& bytes, const std::string& reads) {
+std::string readall(const std::string& bytes, const std::string& kinds) {
     session::write("f.txt", bytes);
     textinput& in = openinput(1, "f.txt", "test");
     std::string result;
     const auto shown = [](const value& v) { return v.empty() ? "-" : v.isnumber() ? v.text() : '"' + v.text() + '"'; };
     const auto quoted = [](std::string_view text) { return '"' + std::string(text) + '"'; };
-    for (const char read : reads) {
+    for (const char kind : kinds) {
         if (!result.empty()) result += ' ';
         const auto failed = failureof([&] {
-            if (read == 'v') result += shown(readvalue(in, "it"));
-            if (read == 'r') result += shown(readrecordfield(in, "it"));
-            if (read == 'l') result += std::to_string(readwholenumber(in, "it"));
-            if (read == 's') result += quoted(readrecordtext(in, "it"));
-            if (read == 't') result += quoted(readtextfield(in, "it"));
+            if (kind == 'v') result += shown(readvalue(in, "it"));
+            if (kind == 'r') result += shown(readrecordfield(in, "it"));
+            if (kind == 'l') result += std::to_string(readwholenumber(in, "it"));
+            if (kind == 's') result += quoted(readrecordtext(in, "it"));
+            if (kind == 't') result += quoted(readtextfield(in, "it"));
         });
         if (failed) result += kindname(failed->kind);
     }
@@ -34,9 +34,9 @@ std::string readall(const std::string& bytes, const std::string& reads) {
 
 }  // namespace
 
-TEST(fields, rulesAtTheirEdges) {
+TEST(fields, areReadByTheRules) {
     struct {
-        const char *bytes, *reads, *expected;
+        const char *bytes, *kinds, *expected;
     } const cases[] = {
         {"1,2\r\n3", "vvv", "1 2 3"},
         {"1 ,2", "vv", "1 2"},  // a number ends at a blank and takes one separator with it
@@ -44,22 +44,22 @@ TEST(fields, rulesAtTheirEdges) {
         {"1 , ,2", "vvv", "1 - 2"},
         {"1,,2", "vvv", "1 - 2"},
         {",5", "vv", "- 5"},
-        {"1,\n2, \r\n\n3,\n4", "vvll", "1 2 3 4"},  // a row may be broken after a comma
+        {"1,\n2, \r\n\n3,\n4", "vvll", "1 2 3 4"},  // a row may continue on the next line after a comma
         {"a,\nb,c,\n\nd", "ttttt", "\"a\" \"b\" \"c\" \"\" \"d\""},
-        {"1,\n2,\nx", "rrrss", "1 - 2 \"\" \"x\""},  // but not a record's
+        {"1,\n2,\nx", "rrrss", "1 - 2 \"\" \"x\""},  // but a design record may not
         {"\n \r\n\n 5", "v", "5"},                   // blank lines are skipped where a number is expected
-        {"\n5", "rr", "- 5"},                        // but are a field of a record
+        {"\n5", "rr", "- 5"},                        // but are an empty field of a record
         {"5\n\n6", "rrr", "5 - 6"},
         {"a b ,c", "tt", "\"a b \" \"c\""},
         {"a, b\nc", "ttt", "\"a\" \"b\" \"c\""},
         {"\n\nx", "ttt", "\"\" \"\" \"x\""},
         {"\"a,\nb\",3", "vv", "\"a,\nb\" 3"},
-        {"\"12\" , 4", "vv", "\"12\" 4"},  // quoted: a text, whatever it looks like
+        {"\"12\" , 4", "vv", "\"12\" 4"},  // a quoted field is a text
         {"\"a\"\n\"b\"", "rr", "\"a\" \"b\""},
         {"12abc,3", "vv", "\"12abc\" 3"},
         {"12 abc,3", "vvv", "12 \"abc\" 3"},
         {"x 1,3", "vv", "\"x 1\" 3"},
-        {"-1.5e2\r7", "vv", "-150 7"},  // a lone carriage return ends a line too
+        {"-1.5e2\r7", "vv", "-150 7"},  // a carriage return alone also ends a line
         {"2.5,3.5,-0.5,abc,\"7\",8.49", "llllll", "2 4 0 0 7 8"},
         {"abc def,8", "ll", "0 8"},
         {"32767.4,-32768", "ll", "32767 -32768"},
@@ -74,7 +74,7 @@ TEST(fields, rulesAtTheirEdges) {
     session s(inownfolder);
     for (const bool plain : {true, false}) {
         noshortcuts = plain;
-        for (const auto& c : cases) EXPECT_EQ(readall(c.bytes, c.reads), c.expected) << c.bytes << " by " << c.reads;
+        for (const auto& c : cases) EXPECT_EQ(readall(c.bytes, c.kinds), c.expected) << c.bytes << " as " << c.kinds;
     }
 }
 
