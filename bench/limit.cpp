@@ -53,7 +53,7 @@ class limitcollector : public nosurface {
         for (int y = inside(top - 1, viewportheight); y <= inside(bottom + 1, viewportheight); ++y)
             for (int x = inside(left - 1, viewportwidth); x <= inside(right + 1, viewportwidth); ++x) {
                 const int index = y * viewportwidth + x;
-                if (image.pixels()[index] != pixel) continue;
+                if (image.pixels.data()[index] != pixel) continue;
                 const bool continues = !runs.empty() && x > 0 && runs.back().first + runs.back().length == index;
                 continues ? void(++runs.back().length) : runs.push_back({index, 1});
             }
@@ -74,7 +74,7 @@ void measurelimit(benchmark::State& state) {
     for (auto _ : state) {
         for (const std::string& file : collected.files) benchmark::DoNotOptimize(filebytes(file, "file of a replay"));
         std::uint32_t pixel = 0xff000000;
-        for (const pixelrun& r : collected.runs) std::fill_n(image.pixels() + r.first, r.length, ++pixel);
+        for (const pixelrun& r : collected.runs) std::fill_n(image.pixels.data() + r.first, r.length, ++pixel);
         for (const drawnline& l : collected.lines) image.line(l.x1, l.y1, l.x2, l.y2, {});
     }
     state.counters["files"] = static_cast<double>(collected.files.size());

@@ -56,7 +56,7 @@ checksum resultof(method m) {
     for (const tablebase* t = tablebase::first; t != nullptr; t = t->next)
         for (const value& v : t->elements()) sum.add((v.isnumber() ? shortesttext(v) : '"' + v.text() + '"') + ' ');
     const auto& image = dynamic_cast<const raster&>(*started.viewport);
-    for (int i = 0; i < image.width() * image.height(); ++i) sum.addword(image.pixels()[i]);
+    for (const std::uint32_t pixel : image.pixels) sum.addword(pixel);
     return sum;
 }
 

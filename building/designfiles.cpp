@@ -6,9 +6,9 @@
 #include "building/buildstate.h"
 #include "building/buttonfamilies.h"
 #include "building/records.h"
+#include "core/characters.h"
 #include "core/failure.h"
 #include "core/textfiles.h"
-#include "core/windows1252.h"
 
 namespace tessaly {
 
@@ -64,14 +64,8 @@ void elementfilefailure(const value& kind, const value& code, const textinput& i
 
 int floordigit(const std::string& name) {
     const fileclass* const found = classofname(name);
-    const std::size_t maxcharacters = found ? found->stem.size() + 1 : 0;
-    std::size_t characters = 0;
-    char last = ' ';
-    for (const char byte : name) {
-        if (!continuescharacter(byte)) ++characters;
-        if (characters > maxcharacters) break;
-        last = byte;
-    }
+    const std::string_view start = firstcharacters(name, found ? found->stem.size() + 1 : 0);
+    const char last = start.empty() ? ' ' : start.back();
     return last < '0' || last > '9' ? -1 : last - '0';
 }
 

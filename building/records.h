@@ -12,9 +12,9 @@
 namespace tessaly {
 
 struct recordcolumn {
-    value* scalar = nullptr;                     // set to each field that is read; nullptr: none
-    table<value, lastrecord>* stored = nullptr;  // the fields of all records, indexed by record; nullptr: not stored
-    bool text = false;                           // fields are read as texts, even if they look like numbers
+    value* scalar = nullptr;        // set to each field that is read; nullptr: none
+    recordtable* stored = nullptr;  // the fields of all records, indexed by record; nullptr: not stored
+    bool text = false;              // fields are read as texts, even if they look like numbers
 };
 using recordcolumns = std::span<const recordcolumn>;
 

@@ -68,7 +68,7 @@ void shiftandmeasurerecords(int n) {
 
 // Sorts the records by quaddist into rdorder[1..n], farthest first, records of equal distance in their old order. Sets
 // quaddist of each sorted record to 0.
-void sortrecords(const table<value, lastrecord>& numbers, int n) {
+void sortrecords(const recordtable& numbers, int n) {
     for (int slot = 1; slot <= n; ++slot) {
         double farthest = minsorteddistance;
         for (int j = 1; j <= lastrecord; ++j) {
@@ -158,8 +158,8 @@ void loadrecordelement(const value& kind, const value& code, const textinput& in
     rotx = 0;
 }
 
-void paintsorted(temporaryfile& file, int n, recordcolumns columns, const table<value, lastrecord>& numbers,
-                 const value& kind, const value& code, const std::vector<recordorigin>& origins) {
+void paintsorted(temporaryfile& file, int n, recordcolumns columns, const recordtable& numbers, const value& kind,
+                 const value& code, const std::vector<recordorigin>& origins) {
     makeeyeabsolute();
     shiftandmeasurerecords(n);
     sortrecords(numbers, n);

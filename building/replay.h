@@ -76,7 +76,7 @@ void loadrecordelement(const value& kind, const value& code, const textinput& in
 // was just read; origins: of the records. reads: focusx.., the record tables; writes: perpx.. (absolute until the next
 // plotgroups), rdx, rdy (world units), rdorder, quaddist, as readelements and paintsolids; draws on viewport and
 // progressbar; fails: type mismatch, as appendtemporary, readelements and paintsolids.
-void paintsorted(temporaryfile& file, int n, recordcolumns columns, const table<value, lastrecord>& numbers,
-                 const value& kind, const value& code, const std::vector<recordorigin>& origins);
+void paintsorted(temporaryfile& file, int n, recordcolumns columns, const recordtable& numbers, const value& kind,
+                 const value& code, const std::vector<recordorigin>& origins);
 
 }  // namespace tessaly

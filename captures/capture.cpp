@@ -3,10 +3,10 @@
 
 #include "captures/capture.h"
 
+#include "core/characters.h"
 #include "core/failure.h"
 #include "core/textfiles.h"
 #include "core/viewvalues.h"
-#include "core/windows1252.h"
 #include "render/surface.h"
 
 namespace tessaly {
@@ -59,16 +59,14 @@ void clickscreencapenter() {
 }
 
 std::string stemof(const value& name) {
+    constexpr std::size_t extension = 4;  // characters
     const std::string whole = name.text();
-    std::size_t end = whole.size();
-    for (int dropped = 0; dropped < 4; ++dropped) {
-        if (end == 0)
-            throw failure(failurekind::invalidcall,
-                          "\"" + whole + "\" as a file name in bmps: four characters or more were expected", {},
-                          "type a name such as tower.bmp");
-        for (--end; end > 0 && continuescharacter(whole[end]);) --end;  // a UTF-8 character
-    }
-    return whole.substr(0, end);
+    const std::size_t count = charactercount(whole);
+    if (count < extension)
+        throw failure(failurekind::invalidcall,
+                      "\"" + whole + "\" as a file name in bmps: four characters or more were expected", {},
+                      "type a name such as tower.bmp");
+    return std::string(firstcharacters(whole, count - extension));
 }
 
 }  // namespace tessaly

@@ -5,11 +5,11 @@
 #include "captures/retrieval.h"
 
 #include "captures/capture.h"
+#include "core/characters.h"
 #include "core/failure.h"
 #include "core/fields.h"
 #include "core/textfiles.h"
 #include "core/viewvalues.h"
-#include "core/windows1252.h"
 #include "render/palette.h"
 #include "render/projector.h"
 #include "render/redraw.h"

@@ -1,4 +1,4 @@
-// The windows and the named controls with their first state, and the operations on them.
+// The windows and the named controls, their first state, and the operations on them.
 
 #include "core/controls.h"
 
@@ -32,17 +32,10 @@ window easyviews   {"easyviews",    "Easy views",               14745, 10515, {1
 window instructions{"instructions", "Tessaly Panel and Girder", 19200, 12990, {177, 199, 228}};
 // clang-format on
 
-// clang-format off
-#define CONTROL(parent, kind, name, left, top, width, height, text, shown, background, tooltip, accessiblename)                          \
-    control name{&parent, controlkind::kind, #name, {left, top, width, height}, text, shown, background, tooltip, accessiblename};
-// clang-format on
+#define CONTROL(parent, kind, name, left, top, width, height, text, shown, background, tooltip, accessiblename)        \
+    control name;
 #include "core/controls.def"
 #undef CONTROL
-
-control* usedcontrol = nullptr;
-control* wantedfocus = nullptr;
-std::function<void()> repaintmainwindow;
-bool programended = false;
 
 const std::vector<window*>& allwindows() {
     static const std::vector<window*> windows{&startform,  &vistaplan, &layoutgirder, &layoutpanels,
@@ -65,12 +58,6 @@ std::string tooltipof(const control& c) {
 }
 
 void resetcontrols() {
-#define CONTROL(parent, kind, name, left, top, width, height, text, shown, background, tooltip, accessiblename)        \
-    {&name, name},
-    static const std::pair<control*, control> firststates[] = {
-#include "core/controls.def"
-    };
-#undef CONTROL
     addedcontrols.clear();
     for (window* w : allwindows()) {
         w->shown = false;
@@ -78,10 +65,16 @@ void resetcontrols() {
         w->controls.clear();
         w->openedby = nullptr;
     }
-    for (const auto& [named, state] : firststates) {
-        *named = state;
-        named->parent->controls.push_back(named);
-    }
+    const auto resetcontrol = [](control& c, control first) {
+        c = std::move(first);
+        c.parent->controls.push_back(&c);
+    };
+    // clang-format off
+#define CONTROL(parent, kind, name, left, top, width, height, text, shown, background, tooltip, accessiblename) \
+    resetcontrol(name, {&parent, controlkind::kind, #name, {left, top, width, height}, text, shown, background, tooltip, accessiblename});
+    // clang-format on
+#include "core/controls.def"
+#undef CONTROL
     usedcontrol = wantedfocus = nullptr;
     programended = false;
 }
@@ -125,7 +118,7 @@ void show(control& c) {
     c.shown = true;
     if (usedcontrol == nullptr || usedcontrol == &c) return;
     c.openedby = usedcontrol;
-    if (c.kind == controlkind::list || c.kind == controlkind::filelist) wantedfocus = &c;
+    if (islist(c)) wantedfocus = &c;
 }
 
 void clickcontrol(control& c) {
@@ -156,10 +149,10 @@ void refresh(control& filelist) {
 }
 
 control* focusafter(const control& c) {
-    constexpr int longestchain = 8;  // controls that show each other in turn form a ring
-    control* back = c.openedby;
-    for (int step = 0; back != nullptr && !back->shown && step < longestchain; ++step) back = back->openedby;
-    return back != nullptr && back->shown ? back : nullptr;
+    constexpr int maxsteps = 8;  // controls that show each other form a ring
+    control* opener = c.openedby;
+    for (int step = 0; opener != nullptr && !opener->shown && step < maxsteps; ++step) opener = opener->openedby;
+    return opener != nullptr && opener->shown ? opener : nullptr;
 }
 
 }  // namespace tessaly

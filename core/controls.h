@@ -21,10 +21,10 @@ struct twips {  // bounds on the window's design grid; 15 twips are one pixel
 };
 constexpr int twipsperpixel = 15;
 
-struct control;
-
 // The tint of a box: none, the text has not been applied yet, or the text needs attention.
 enum class boxtint { none, edited, warning };
+
+struct control;
 
 struct window {
     const char* name;
@@ -33,7 +33,7 @@ struct window {
     colour background;
     bool shown = false;
     int raiseorder = 0;                   // grows with each showwindow: the window with the highest number is in front
-    std::vector<control*> controls = {};  // in the order of the tables
+    std::vector<control*> controls = {};  // the named ones in the order of controls.def, then those that were added
     control* openedby = nullptr;          // the element button that opened it last
 };
 
@@ -51,14 +51,13 @@ struct control {
     std::function<void()> run = {};    // procedure of a click or a picked item; set when the program starts
     std::string folder = {};           // of a file list, with backslashes
     std::vector<std::string> items = {};
-    int selected = -1;               // index into items, -1: none
-    control* openedby = nullptr;     // the control whose event showed it last
-    bool chosen = false;             // a button that looks pressed until another is chosen
-    bool repeats = false;            // a button that goes on being clicked while it is held, by mouse or key
-    std::string tooltipsuffix = {};  // the part of the tooltip that changes
-    std::optional<std::string> programtext =
-        {};  // last written by the program into a box of the view; nullopt: none yet
-    const char* (*warningof)(const std::string& text) = nullptr;  // of a box: what is odd about a text, or nullptr
+    int selected = -1;                            // index into items, -1: none
+    control* openedby = nullptr;                  // the control whose event showed it last
+    bool chosen = false;                          // a button that looks pressed until another is chosen
+    bool repeats = false;                         // a button that is clicked repeatedly while mouse or key hold it
+    std::string tooltipsuffix = {};               // the part of the tooltip that changes
+    std::optional<std::string> programtext = {};  // of a box of the view: text last written by the program, if any
+    const char* (*warningof)(const std::string& text) = nullptr;  // of a box: the warning for a text, nullptr: none
 };
 
 // The windows, in the order in which reports list them.
@@ -71,69 +70,69 @@ const std::vector<window*>& allwindows();
 #include "core/controls.def"
 #undef CONTROL
 
-// Returns the tint of a box for its present text.
-boxtint tintof(const control& box);
+// The control whose event runs or ran last.
+inline control* usedcontrol = nullptr;
 
-// Returns the complete tooltip of a control, with its suffix or the warning for its text.
-std::string tooltipof(const control& c);
+// The control that gets the keyboard focus after this event; nullptr: the focus does not move.
+inline control* wantedfocus = nullptr;
 
-// Resets windows and controls: each window's list holds its named controls, all windows are hidden, controls that
-// addcontrol added are gone.
+// Repaints the surface of the main window; set by the window layer.
+inline std::function<void()> repaintmainwindow;
+
+// Set by exitbtn: the program ends with status 0 after the event.
+inline bool programended = false;
+
+// Resets windows and controls: all windows are hidden, and each window's list holds its named controls in their first
+// state. Controls that addcontrol added are gone.
 void resetcontrols();
 
 // Adds a copy of a control to the end of its window's list; it exists until the next resetcontrols.
 void addcontrol(control added);
 
-// Find a control in any window, or a window, by its name; nullptr if no such name exists.
+// Find a control of any window, or a window, by its name; nullptr if no such name exists.
 control* findcontrol(std::string_view name);
 window* findwindow(std::string_view name);
+
+inline bool islist(const control& c) { return c.kind == controlkind::list || c.kind == controlkind::filelist; }
 
 // Returns the text of the selected item, "" if nothing is selected.
 const std::string& selectedtext(const control& list);
 
-inline bool islist(const control& c) { return c.kind == controlkind::list || c.kind == controlkind::filelist; }
+// Returns the tint of a box for its current text.
+boxtint tintof(const control& box);
+
+// Returns the complete tooltip of a control, with its suffix or the warning for its text.
+std::string tooltipof(const control& c);
 
 // Shows a window in front of the others.
 void showwindow(window& w);
 inline void hidewindow(window& w) { w.shown = false; }
 
-// Show and hide a control. show also stores the control whose event runs in openedby, and asks for the keyboard focus
-// if c is a list.
+// Returns whether a window is shown that was last opened by this button.
+bool opensshownwindow(const control& c);
+
+// Show and hide a control. show also stores the control whose event runs in openedby, and requests the keyboard focus
+// for c if c is a list.
 void show(control& c);
 inline void hide(control& c) { c.shown = false; }
 
-// Runs the procedure of a control as a click does; a control without a procedure ignores the click.
-// fails: as the procedure.
-void clickcontrol(control& c);
-
-// Selects an item of a list, file list or combination box, then runs its procedure. fails: as the procedure.
-void pickitem(control& c, int item);
-
-// Writes a number of the program to a box of the view. A text that does not come this way is tinted as not applied yet.
-void writebox(control& box, std::string text);
-
-// setfolder sets the folder of a file list and reads it; refresh reads it again. The items are the bare names of its
-// visible files, nothing is selected. fails: file not found if the folder is missing.
-void setfolder(control& filelist, std::string_view folder);
-void refresh(control& filelist);
-
-// The control whose event runs or ran last.
-extern control* usedcontrol;
-
-// Returns whether a window that is shown was opened by this button last.
-bool opensshownwindow(const control& c);
-
-// The control that gets the keyboard focus after this event; nullptr: the focus does not move.
-extern control* wantedfocus;
-
-// Returns the control that gets the focus when c is hidden: the control that opened c; if that is hidden too, the one
-// that opened it, and so on; nullptr if none of them is shown.
+// Returns the control that gets the focus when c is hidden: the control that opened c; if that is hidden too, the
+// control that opened it, and so on; nullptr if none of them is shown.
 control* focusafter(const control& c);
 
-// Repaints the surface of the main window; set by the window layer.
-extern std::function<void()> repaintmainwindow;
+// Runs the procedure of a control as a click does; a control without a procedure ignores the click.
+// fails: as the procedure does.
+void clickcontrol(control& c);
 
-// Set by exitbtn: the program ends with status 0 after the event.
-extern bool programended;
+// Selects an item of a list, file list or combination box, then runs its procedure. fails: as the procedure does.
+void pickitem(control& c, int item);
+
+// Writes a number of the program to a box of the view. Any other text in the box is tinted as not applied yet.
+void writebox(control& box, std::string text);
+
+// setfolder sets the folder of a file list and reads it; refresh reads it again. The items are the names of its
+// files, and none is selected. fails: file not found if the folder is missing.
+void setfolder(control& filelist, std::string_view folder);
+void refresh(control& filelist);
 
 }  // namespace tessaly

@@ -49,11 +49,11 @@ static_assert(twodoorpanel.button == &door2btn);
 
 // ---- classes of design files -------------------------------------------------------------------
 struct fileclass {
-    const char* kind;                          // elementkind of its records
-    std::string_view stem;                     // of the file names, before the floor's digit
-    value& code;                               // code of the record being replayed
-    table<value, lastrecord>&numbers, &codes;  // of all records
-    table<value, lastrecord>* trailers;        // nullptr: trailers are not stored
+    const char* kind;              // elementkind of its records
+    std::string_view stem;         // of the file names, before the floor's digit
+    value& code;                   // code of the record being replayed
+    recordtable &numbers, &codes;  // of all records
+    recordtable* trailers;         // nullptr: trailers are not stored
 
     // The letters that select the class; the other letters of a name can be anything.
     constexpr std::string_view firstletters() const { return stem.substr(0, 4); }

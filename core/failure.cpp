@@ -1,8 +1,9 @@
-// The words of failures. Texts from files enter reports, so characters that a terminal or a window would obey do not.
+// The wording of failures. Reports quote texts from files, so characters that would control a terminal or a window are
+// replaced.
 
 #include "core/failure.h"
 
-#include "core/windows1252.h"
+#include "core/characters.h"
 
 #include <algorithm>
 #include <utility>
@@ -35,60 +36,47 @@ const kindwords& wordsof(failurekind kind) {
 
 constexpr std::size_t maxshown = 60;  // characters of a text or path
 
-bool begins(char c) { return !continuescharacter(c); }
-
-std::size_t characters(std::string_view text) {
-    return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), begins));
-}
-
-// The end of the first n characters, in bytes.
-std::size_t endof(std::string_view text, std::size_t n) {
-    std::size_t end = 0;
-    for (std::size_t begun = 0; end < text.size() && (begun += begins(text[end])) <= n;) ++end;
-    return end;
-}
-
-// Control characters, line ends, invisible characters and changes of direction become "?".
+// Replaces control characters, line ends, invisible characters and changes of direction with "?".
 std::string printable(std::string_view text) {
     using namespace std::string_view_literals;
-    static constexpr std::pair<std::string_view, std::string_view> hidden[] = {{"\0"sv, "\x1F"},
-                                                                               {"\x7F", "\x7F"},
-                                                                               {"\xC2\x80", "\xC2\x9F"},
-                                                                               {"\xD8\x9C", "\xD8\x9C"},
-                                                                               {"\xE2\x80\x8B", "\xE2\x80\x8F"},
-                                                                               {"\xE2\x80\xA8", "\xE2\x80\xAE"},
-                                                                               {"\xE2\x81\xA6", "\xE2\x81\xA9"}};
-    std::string shown;
+    static constexpr std::pair<std::string_view, std::string_view> unprintable[] = {
+        // clang-format off
+        {"\0"sv, "\x1F"}, {"\x7F", "\x7F"}, {"\xC2\x80", "\xC2\x9F"}, {"\xD8\x9C", "\xD8\x9C"},
+        {"\xE2\x80\x8B", "\xE2\x80\x8F"}, {"\xE2\x80\xA8", "\xE2\x80\xAE"}, {"\xE2\x81\xA6", "\xE2\x81\xA9"},
+        // clang-format on
+    };
+    std::string result;
     while (!text.empty()) {
-        const std::string_view next = text.substr(0, std::max<std::size_t>(endof(text, 1), 1));
-        const bool hides = std::any_of(std::begin(hidden), std::end(hidden), [next](const auto& range) {
-            return next >= range.first && next <= range.second;
-        });
-        shown += hides ? "?" : next;
-        text.remove_prefix(next.size());
+        const std::string_view character = firstcharacters(text, 1);
+        const bool replaced =
+            std::any_of(std::begin(unprintable), std::end(unprintable), [character](const auto& range) {
+                return character >= range.first && character <= range.second;
+            });
+        result += replaced ? "?" : character;
+        text.remove_prefix(character.size());
     }
-    return shown;
+    return result;
 }
 
 }  // namespace
 
 std::string_view kindname(failurekind kind) { return wordsof(kind).name; }
 
-failure::failure(failurekind failed, std::string why, std::string where, std::string whattodo)
-    : kind(failed), detail(std::move(why)), location(std::move(where)),
-      remedy(whattodo.empty() ? wordsof(failed).remedy : std::move(whattodo)) {
+failure::failure(failurekind itskind, std::string itsdetail, std::string itslocation, std::string itsremedy)
+    : kind(itskind), detail(std::move(itsdetail)), location(std::move(itslocation)),
+      remedy(itsremedy.empty() ? wordsof(itskind).remedy : std::move(itsremedy)) {
     compose();
 }
 
-void failure::addlocation(const std::string& where) {
+void failure::addlocation(const std::string& added) {
     if (!location.empty()) return;
-    location = where;
+    location = added;
     compose();
 }
 
 void failure::compose() {
-    report = (location.empty() ? "" : location + ": ") + detail + ": " + remedy;
-    report = printable(report) + " (" + wordsof(kind).name + ")";
+    report = printable((location.empty() ? "" : location + ": ") + detail + ": " + remedy);
+    report += " (" + std::string(kindname(kind)) + ")";
 }
 
 std::string numberlocation(const std::string& row, int number) {
@@ -98,16 +86,17 @@ std::string numberlocation(const std::string& row, int number) {
 }
 
 std::string excerpt(std::string_view text) {
-    const std::size_t count = characters(text);
+    const std::size_t count = charactercount(text);
     if (count <= maxshown) return std::string(text);
-    return std::string(text.substr(0, endof(text, maxshown))) + "... (" + std::to_string(count) + " characters)";
+    return std::string(firstcharacters(text, maxshown)) + "... (" + std::to_string(count) + " characters)";
 }
 
 std::string shortpath(std::string_view path) {
-    const std::size_t count = characters(path);
+    const std::size_t count = charactercount(path);
     if (count <= maxshown) return std::string(path);
-    return std::string(path.substr(0, endof(path, maxshown / 2))) + "..." +
-           std::string(path.substr(endof(path, count - maxshown / 2)));
+    const std::string_view start = firstcharacters(path, maxshown / 2),
+                           dropped = firstcharacters(path, count - maxshown / 2);
+    return std::string(start) + "..." + std::string(path.substr(dropped.size()));
 }
 
 }  // namespace tessaly

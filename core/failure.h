@@ -3,7 +3,6 @@
 // is reported and ends the program.
 #pragma once
 
-#include <cstddef>
 #include <exception>
 #include <string>
 #include <string_view>
@@ -13,39 +12,40 @@ namespace tessaly {
 enum class failurekind {
     filenotfound,     // no such file or folder
     fileaccess,       // the system refuses to read, write or delete it
-    filealreadyopen,  // the channel is still in use
+    filealreadyopen,  // the channel is in use
     inputpastend,     // a read past the last field of a file
     overflow,         // a number outside its range
     subscript,        // an index outside a table
     typemismatch,     // arithmetic on a text that is not a number
     divisionbyzero,   // a division by 0
-    invalidcall,      // an operation given something it cannot work on
+    invalidcall,      // an operation on something that it cannot use
 };
 
-// The name of a kind in reports, such as "file not found".
+// Returns the name of a kind in reports, such as "file not found".
 std::string_view kindname(failurekind kind);
 
 class failure : public std::exception {
   public:
-    // why: what was found and what was expected. where: file, line and field, or text box; empty if there is none.
-    // remedy: what the user can do; if empty, the usual remedy for the kind.
-    failure(failurekind failed, std::string why, std::string where = {}, std::string remedy = {});
+    // An empty remedy stands for the usual remedy of the kind.
+    failure(failurekind itskind, std::string itsdetail, std::string itslocation = {}, std::string itsremedy = {});
 
-    // Adds the location unless the failure has one already.
-    void addlocation(const std::string& where);
+    // Sets the location if it is empty.
+    void addlocation(const std::string& added);
 
-    // The report as one line: "location: detail: remedy (kind)".
+    // Returns the report, one line: "location: detail: remedy (kind)".
     const char* what() const noexcept override { return report.c_str(); }
 
     failurekind kind;
-    std::string detail, location, remedy;
+    std::string detail;    // what was found, and what was expected
+    std::string location;  // file, line and field, or text box; empty if there is none
+    std::string remedy;    // what the user can do
 
   private:
     void compose();
     std::string report;
 };
 
-// Runs step; returns the report of the exception that ends it, whatever its type, or "" if there is none.
+// Runs step. Returns the report of the exception that ends it, of any type, or "" if step succeeds.
 template <class procedure>
 std::string reportof(procedure step) {
     try {
@@ -58,9 +58,9 @@ std::string reportof(procedure step) {
     }
 }
 
-// Runs step. If step fails because a number from a data file is a bad subscript, adds location(), where that number is.
-template <class locating, class procedure>
-void withsubscriptlocation(locating location, procedure step) {
+// Runs step. If step fails because of a bad subscript from a data file, adds location(), the location of that number.
+template <class locator, class procedure>
+void withsubscriptlocation(locator location, procedure step) {
     try {
         step();
     } catch (failure& f) {
@@ -71,13 +71,13 @@ void withsubscriptlocation(locating location, procedure step) {
 
 // ---- texts of reports ----
 
-// The location of the first to tenth number of a row, such as "LINEG3:, row 4, second number".
+// Returns the location of a number in a row, such as "LINEG3:, row 4, second number". number: 1 to 10.
 std::string numberlocation(const std::string& row, int number);
 
-// The text; if it is long, its beginning and its number of characters.
+// Returns a text. If it is long, returns its beginning and its number of characters.
 std::string excerpt(std::string_view text);
 
-// The path; if it is long, without its middle, so that the folder and the end of the name stay readable.
+// Returns a path. If it is long, omits its middle, so that the folder and the end of the name stay readable.
 std::string shortpath(std::string_view path);
 
 }  // namespace tessaly

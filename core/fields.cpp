@@ -1,200 +1,167 @@
-// The field rules, in one scanner over the bytes of the open file.
+// The field rules, in one scanner over the bytes of an open file.
 
 #include "core/fields.h"
 
-#include "core/failure.h"
-#include "core/textfiles.h"
 #include "core/world.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstdint>
+#include <cstdlib>
 
 namespace tessaly {
 
 namespace {
 
 bool islineend(char c) { return c == '\n' || c == '\r'; }
+bool isseparator(char c) { return c == ',' || islineend(c); }
 
 struct scanner {
     textinput& in;
-    const std::string& bytes;
-    const char* what;
+    const char* role;  // of the field, for reports
 
-    scanner(textinput& from, const char* sought) : in(from), bytes(in.bytes), what(sought) {}
+    bool atend() const { return in.position >= in.bytes.size(); }
+    char next() const { return in.bytes[in.position]; }  // 0 at the end of the file
+    std::string location() const { return in.location() + " (" + role + ")"; }
 
-    bool atend() const { return in.position >= bytes.size(); }
-    char next() const { return bytes[in.position]; }
-
-    [[noreturn]] void pastend() const {
-        throw failure(failurekind::inputpastend, std::string("the file ends while looking for ") + what, in.location());
+    // Returns the bytes before the next one for which ends is true, or before the end of the file.
+    template <class predicate>
+    std::string_view upto(predicate ends) const {
+        const char *const start = in.bytes.data() + in.position, *const fileend = in.bytes.data() + in.bytes.size();
+        return {start, static_cast<std::size_t>(std::find_if(start, fileend, ends) - start)};
     }
     void skipblanks() {
-        while (!atend() && isblank(next())) ++in.position;
+        while (isblank(next())) ++in.position;
     }
-    // Takes a line end, carriage return and line feed counting as one.
+    // A carriage return and a line feed count as one line end.
     void takelineend() {
-        if (next() == '\r' && in.position + 1 < bytes.size() && bytes[in.position + 1] == '\n') ++in.position;
+        if (next() == '\r' && in.bytes[in.position + 1] == '\n') ++in.position;
         ++in.position;
         ++in.nextlocation.line;
         in.nextlocation.field = 1;
     }
-    // Takes the separator that closes a field, if one stands here.
+    // Ends a field. After a number that a blank ends, no separator need follow.
     void takeseparator() {
         if (atend()) return;
-        if (next() == ',') {
-            ++in.position;
-            ++in.nextlocation.field;
-        } else if (islineend(next())) {
-            takelineend();
-        } else {
-            ++in.nextlocation.field;
-        }
+        if (islineend(next())) return takelineend();
+        if (next() == ',') ++in.position;
+        ++in.nextlocation.field;
     }
-    // Blank lines, and the line end of a row that is broken after a comma.
+    // Skips blank lines, and the line end after the comma of a row that continues.
     void skiplineends() {
+        for (skipblanks(); islineend(next()); skipblanks()) takelineend();
+    }
+    // Skips the line end after the comma of a row that continues.
+    void skipcontinuation() {
         skipblanks();
-        while (!atend() && islineend(next())) {
-            takelineend();
+        if (in.nextlocation.field > 1 && islineend(next())) takelineend();
+        skipblanks();
+    }
+    // Takes a text, in quotes or up to the comma or line end, and the separator after it. Quotes may contain line ends.
+    std::string_view taketext() {
+        if (atend())
+            throw failure(failurekind::inputpastend, std::string("the file ends while looking for ") + role,
+                          in.location());
+        const bool quoted = next() == '"';
+        if (quoted) ++in.position;
+        const std::string_view text = upto([quoted](char c) { return quoted ? c == '"' : isseparator(c); });
+        in.position += text.size();
+        if (quoted) {
+            in.nextlocation.line += static_cast<int>(std::count(text.begin(), text.end(), '\n'));
+            if (!atend()) ++in.position;
             skipblanks();
         }
-    }
-    // Blanks, and the line end of a row that is broken after a comma.
-    void skipbreak() {
-        skipblanks();
-        if (in.nextlocation.field > 1 && !atend() && islineend(next())) takelineend();
-        skipblanks();
-    }
-    // From the opening quote to the next one, line ends included; then the separator.
-    std::string_view takequoted() {
-        const std::size_t from = ++in.position;
-        while (!atend() && next() != '"') {
-            if (next() == '\n') ++in.nextlocation.line;
-            ++in.position;
-        }
-        const std::string_view text(bytes.data() + from, in.position - from);
-        if (!atend()) ++in.position;
-        skipblanks();
         takeseparator();
         return text;
     }
-    std::string_view tocommaorlineend() {
-        const std::size_t from = in.position;
-        while (!atend() && next() != ',' && !islineend(next())) ++in.position;
-        return {bytes.data() + from, in.position - from};
-    }
-    // The front of the field up to a blank: the whole of it, or the number that ends there.
-    std::string_view toblank() const {
-        std::size_t to = in.position;
-        while (to < bytes.size() && bytes[to] != ',' && !islineend(bytes[to]) && !isblank(bytes[to])) ++to;
-        return {bytes.data() + in.position, to - in.position};
-    }
-    // A whole number of up to fifteen digits that a separator follows: most fields are.
+    // Takes a whole number of up to fifteen digits if a separator follows it. Most fields are such numbers.
     std::optional<double> takewhole() {
-        std::size_t to = in.position;
-        const bool negative = to < bytes.size() && bytes[to] == '-';
-        const std::size_t firstdigit = to += negative;
+        constexpr std::int64_t limit = 1'000'000'000'000'000;
+        const char *const start = in.bytes.data() + in.position, *const fileend = in.bytes.data() + in.bytes.size();
         std::int64_t whole = 0;
-        while (to < bytes.size() && to - firstdigit < 16 && bytes[to] >= '0' && bytes[to] <= '9')
-            whole = whole * 10 + (bytes[to++] - '0');
-        if (to == firstdigit || to - firstdigit > 15) return std::nullopt;
-        if (to < bytes.size() && bytes[to] != ',' && !islineend(bytes[to])) return std::nullopt;
-        in.position = to;
+        const auto [end, error] = std::from_chars(start, fileend, whole);
+        if (error != std::errc() || std::abs(whole) >= limit || !isseparator(*end)) return std::nullopt;
+        if (whole == 0 && *start == '-') return std::nullopt;  // -0
+        in.position += static_cast<std::size_t>(end - start);
         takeseparator();
-        const double number = static_cast<double>(whole);
-        return negative ? -number : number;
+        return static_cast<double>(whole);
     }
     std::optional<double> takenumber() {
         if (!noshortcuts)
             if (const auto whole = takewhole()) return whole;
-        const std::string_view front = toblank();
-        std::optional<double> number;
+        const std::string_view text = upto([](char c) { return isblank(c) || isseparator(c); });
         try {
-            number = strictnumber(front);
-        } catch (const failure& beyond) {
-            throw failure(beyond.kind, beyond.detail + " (" + what + ")", in.location());
-        }
-        if (number) {
-            in.position += front.size();
+            const auto number = strictnumber(text);
+            if (!number) return std::nullopt;
+            in.position += text.size();
             skipblanks();
             takeseparator();
+            return number;
+        } catch (failure& f) {
+            f.addlocation(location());
+            throw;
         }
-        return number;
     }
-    // The field that begins here, its blanks skipped.
+    // Takes the field that starts here, after its blanks.
     value takevalue() {
-        if (atend()) pastend();
-        const std::string origin = next() == '"' ? in.location() + " (" + what + ")" : std::string();
-        if (next() == '"') return value(takequoted(), origin);
-        if (const auto number = takenumber()) return value(*number);
-        const std::string location = in.location() + " (" + what + ")";
-        const std::string_view text = tocommaorlineend();
-        takeseparator();
-        return text.empty() ? value() : value(text, location);
+        const bool quoted = next() == '"';
+        if (!quoted)
+            if (const auto number = takenumber()) return *number;
+        const std::string origin = location();
+        const std::string_view text = taketext();
+        return text.empty() && !quoted ? value() : value(text, origin);
     }
 };
 
 }  // namespace
 
-value readvalue(textinput& in, const char* what) {
-    scanner s(in, what);
-    s.skiplineends();
-    return s.takevalue();
+value readvalue(textinput& in, const char* role) {
+    skiptofield(in);
+    return scanner{in, role}.takevalue();
 }
 
-value readrecordfield(textinput& in, const char* what) {
-    scanner s(in, what);
+value readrecordfield(textinput& in, const char* role) {
+    scanner s{in, role};
     s.skipblanks();
     return s.takevalue();
 }
 
-int readwholenumber(textinput& in, const char* what) {
-    scanner s(in, what);
-    s.skiplineends();
-    if (s.atend()) s.pastend();
-    const fieldlocation start = in.nextlocation;
-    double label = 0;
-    if (s.next() == '"') {
-        label = strictnumber(s.takequoted()).value_or(0);
-    } else if (const auto number = s.takenumber()) {
-        label = *number;
-    } else {
-        s.tocommaorlineend();
-        s.takeseparator();
-    }
-    label = nearestwhole(label);
-    if (label < -32768 || label > 32767)
+int readwholenumber(textinput& in, const char* role) {
+    const fieldlocation start = skiptofield(in);
+    const value field = readvalue(in, role);
+    const double number = nearestwhole(field.isnumber() ? double(field) : strictnumber(field.text()).value_or(0));
+    if (number < -32768 || number > 32767)
         throw failure(failurekind::overflow,
-                      plaintext(label) + " as " + s.what + ", a whole number -32768..32767 was expected",
+                      plaintext(number) + " as " + role + ", a whole number -32768..32767 was expected",
                       in.location(start));
-    return static_cast<int>(label);
+    return static_cast<int>(number);
 }
 
-std::string_view readtextfield(textinput& in, const char* what) {
-    scanner(in, what).skipbreak();
-    return readrecordtext(in, what);
+std::string_view readtextfield(textinput& in, const char* role) {
+    scanner{in, role}.skipcontinuation();
+    return readrecordtext(in, role);
 }
 
-std::string_view readrecordtext(textinput& in, const char* what) {
-    scanner s(in, what);
+std::string_view readrecordtext(textinput& in, const char* role) {
+    scanner s{in, role};
     s.skipblanks();
-    if (s.atend()) s.pastend();
-    if (s.next() == '"') return s.takequoted();
-    const std::string_view text = s.tocommaorlineend();
-    s.takeseparator();
-    return text;
+    return s.taketext();
 }
 
 void findkey(textinput& in, const char* key) {
-    const int from = in.nextlocation.line;
-    for (scanner s(in, key);;) {
-        s.skipbreak();
+    const int firstline = in.nextlocation.line;
+    for (scanner s{in, key};;) {
+        s.skipcontinuation();
         if (s.atend())
             throw failure(failurekind::inputpastend,
-                          "the key " + std::string(key) + " is missing from line " + std::to_string(from) + " on",
+                          "the key " + std::string(key) + " is missing from line " + std::to_string(firstline) + " on",
                           shortpath(in.path));
-        if (readrecordtext(in, key) == key) return;
+        if (s.taketext() == key) return;
     }
 }
 
 fieldlocation skiptofield(textinput& in) {
-    scanner(in, "a number").skiplineends();
+    scanner{in, ""}.skiplineends();
     return in.nextlocation;
 }
 

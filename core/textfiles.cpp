@@ -1,15 +1,13 @@
-// Text files on numbered channels. A record is appended with one write and removed again if it was not written
-// completely, so that a design file never holds half a record.
+// Text files on numbered channels. If a text cannot be appended completely, the part that was written is removed, so
+// that a design file never holds half a record.
 
 #include "core/textfiles.h"
 
 #include "core/failure.h"
-#include "core/openflags.h"
-#include "core/value.h"
+#include "core/systemfiles.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <csignal>
 #include <cstring>
 #include <filesystem>
@@ -17,7 +15,6 @@
 #include <utility>
 
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace tessaly {
 
@@ -34,70 +31,64 @@ std::array<channelstate, lastchannel + 1> channels;
 
 channelstate& channelof(int channel) { return channels.at(static_cast<std::size_t>(channel)); }
 
-[[noreturn]] void systemfailure(const std::string& path, const char* what, int error) {
+std::string filelocation(const std::string& path, const char* note) { return shortpath(path) + " (" + note + ")"; }
+
+// Reports an error of the system. note: the role of the file, or what did not happen to it.
+[[noreturn]] void systemfailure(const std::string& path, const char* note, int error) {
     const auto kind = error == ENOENT || error == ENOTDIR ? failurekind::filenotfound : failurekind::fileaccess;
-    const std::string where = shortpath(path) + " (" + what + ")";
+    const std::string location = filelocation(path, note);
     const std::size_t folderend = path.find('\\');
     std::error_code ignored;
     if (kind == failurekind::filenotfound && folderend != std::string::npos) {
         const std::string folder = path.substr(0, folderend);
         if (!std::filesystem::is_directory(folder, ignored))
-            throw failure(kind, "the folder " + folder + " is missing", where, "make it");
+            throw failure(kind, "the folder " + folder + " is missing", location, "make it");
     }
-    throw failure(kind, error == ENOENT ? "this file does not exist" : std::strerror(error), where);
+    throw failure(kind, error == ENOENT ? "this file does not exist" : std::strerror(error), location);
 }
 
 void expectfree(int channel, std::string_view path) {
     const channelstate& c = channelof(channel);
     if (!c.input && !c.output) return;
-    const std::string& open = c.input ? c.input->path : c.output->path;
+    const std::string& openpath = c.input ? c.input->path : c.output->path;
     throw failure(failurekind::filealreadyopen,
-                  shortpath(open) + " is still open on channel " + std::to_string(channel), shortpath(path));
+                  shortpath(openpath) + " is still open on channel " + std::to_string(channel), shortpath(path));
 }
 
 // Opens a regular file. Anything else is refused: a pipe may block, and a device may never end.
-int openregular(const std::string& path, const char* what, int flags) {
+int openregular(const std::string& path, const char* role, int flags) {
     const int handle = ::open(systempath(path).c_str(), flags | openflags, 0666);
     struct stat s {};
     if (handle >= 0 && ::fstat(handle, &s) == 0 && S_ISREG(s.st_mode)) return handle;
     const int error = handle < 0 ? errno : ENXIO;
     if (handle >= 0) ::close(handle);
-    if (error != ENXIO) systemfailure(path, what, error);  // a pipe without a reader also gives ENXIO
-    throw failure(failurekind::fileaccess, "this is not a regular file", shortpath(path) + " (" + what + ")",
-                  "move it away");
+    if (error != ENXIO) systemfailure(path, role, error);  // a pipe without a reader also gives ENXIO
+    throw failure(failurekind::fileaccess, "this is not a regular file", filelocation(path, role), "move it away");
 }
 
 // Reads to the end of the file, or stops slightly beyond maxbytes. Returns 0 or the error number.
 int readwhole(int handle, std::string& bytes) {
     char block[1 << 16];
     while (bytes.size() <= maxbytes) {
-        const ssize_t got = ::read(handle, block, sizeof block);
-        if (got < 0 && errno == EINTR) continue;
-        if (got <= 0) return got < 0 ? errno : 0;
-        bytes.append(block, static_cast<std::size_t>(got));
+        const auto count = ::read(handle, block, sizeof block);
+        if (count < 0 && errno == EINTR) continue;
+        if (count <= 0) return count < 0 ? errno : 0;
+        bytes.append(block, static_cast<std::size_t>(count));
     }
     return 0;
 }
 
-// Appends text to a file. On an error, tries to restore the length of the file. Returns 0 or the error number; sets
+// Appends text to a file. If that fails, tries to restore the length of the file. Returns 0 or the error number; sets
 // changed to whether the file may have changed.
-int appendwhole(int handle, const std::string& text, bool& changed) {
+int append(int handle, std::string_view text, bool& changed) {
     changed = false;
     struct stat before {};
     if (::fstat(handle, &before) != 0) return errno;
-    std::size_t done = 0;
-    while (done < text.size()) {
-        const ssize_t wrote = ::write(handle, text.data() + done, static_cast<unsigned>(text.size() - done));
-        if (wrote < 0 && errno == EINTR) continue;
-        if (wrote <= 0) {
-            const int error = wrote < 0 ? errno : ENOSPC;
-            changed = done > 0 && ::ftruncate(handle, before.st_size) != 0;
-            return error;
-        }
-        done += static_cast<std::size_t>(wrote);
-    }
-    changed = done > 0;
-    return 0;
+    std::string_view unwritten = text;
+    const int error = writeall(handle, unwritten);
+    const bool wrote = unwritten.size() < text.size();
+    changed = wrote && (error == 0 || ::ftruncate(handle, before.st_size) != 0);
+    return error;
 }
 
 }  // namespace
@@ -109,8 +100,8 @@ std::string systempath(std::string_view path) {
     return result;
 }
 
-std::string textinput::location(fieldlocation of) const {
-    return shortpath(path) + ", line " + std::to_string(of.line) + ", field " + std::to_string(of.field);
+std::string textinput::location(fieldlocation field) const {
+    return shortpath(path) + ", line " + std::to_string(field.line) + ", field " + std::to_string(field.field);
 }
 
 void textinput::close() {
@@ -118,35 +109,35 @@ void textinput::close() {
         if (c.input && &*c.input == this) return c.input.reset();
 }
 
-std::string filebytes(std::string_view path, const char* what) {
+std::string filebytes(std::string_view path, const char* role) {
     const std::string name(path);
-    const int handle = openregular(name, what, O_RDONLY);
+    const int handle = openregular(name, role, O_RDONLY);
     struct stat s {};
     int error = ::fstat(handle, &s) == 0 ? 0 : errno;
     const auto size = static_cast<std::size_t>(s.st_size);
     std::string bytes;
     if (error == 0 && size <= maxbytes) error = readwhole(handle, bytes);
     ::close(handle);
-    if (error != 0) systemfailure(name, what, error);
-    const std::size_t found = std::max(size, bytes.size());
-    if (found <= maxbytes) return bytes;
+    if (error != 0) systemfailure(name, role, error);
+    const std::size_t foundbytes = std::max(size, bytes.size());
+    if (foundbytes <= maxbytes) return bytes;
     throw failure(failurekind::fileaccess,
-                  "the file has " + std::to_string(found) + " bytes, " + std::to_string(maxbytes) +
+                  "the file has " + std::to_string(foundbytes) + " bytes, " + std::to_string(maxbytes) +
                       " at most were expected",
-                  shortpath(name) + " (" + what + ")", "move it away, or split it");
+                  filelocation(name, role), "move it away, or split it");
 }
 
-textinput& openinput(int channel, std::string_view path, const char* what) {
+textinput& openinput(int channel, std::string_view path, const char* role) {
     expectfree(channel, path);
-    return channelof(channel).input.emplace(textinput{std::string(path), filebytes(path, what)});
+    return channelof(channel).input.emplace(textinput{std::string(path), filebytes(path, role)});
 }
 
-textoutput& openappend(int channel, std::string_view path, const char* what) {
+textoutput& openappend(int channel, std::string_view path, const char* role) {
     expectfree(channel, path);
-    return channelof(channel).output.emplace(path, what);
+    return channelof(channel).output.emplace(path, role);
 }
 
-textoutput::textoutput(std::string_view filepath, const char* what) : path(filepath) {
+textoutput::textoutput(std::string_view itspath, const char* role) : path(itspath) {
 #ifdef SIGXFSZ
     std::signal(SIGXFSZ, SIG_IGN);  // exceeding the file size limit then fails the write instead of ending the process
 #endif
@@ -154,8 +145,8 @@ textoutput::textoutput(std::string_view filepath, const char* what) : path(filep
     handle = ::open(systempath(path).c_str(), flags | O_EXCL | openflags, 0666);
     created = handle >= 0;
     if (created) return;
-    if (errno != EEXIST) systemfailure(path, what, errno);  // a second try could create the file unnoticed
-    handle = openregular(path, what, flags);
+    if (errno != EEXIST) systemfailure(path, role, errno);  // a second try could create the file unnoticed
+    handle = openregular(path, role, flags);
 }
 
 textoutput::~textoutput() {
@@ -164,14 +155,14 @@ textoutput::~textoutput() {
 
 void textoutput::close() {
     bool changed = false;
-    int error = appendwhole(handle, unwritten, changed);
-    if (::close(std::exchange(handle, -1)) != 0 && error == 0 && errno != EINTR) error = errno;
+    int error = append(handle, unwritten, changed);
+    error = closewith(error, std::exchange(handle, -1));
     if (error != 0 && created && !changed) ::unlink(systempath(path).c_str());
-    const std::string closed = path;
+    const std::string closedpath = path;
     for (channelstate& c : channels)
         if (c.output && &*c.output == this) c.output.reset();
     if (error != 0)
-        systemfailure(closed,
+        systemfailure(closedpath,
                       changed ? "could not be written completely: look at the end of the file"
                               : "could not be written, it is unchanged",
                       error);

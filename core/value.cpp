@@ -1,102 +1,71 @@
-// Values and the one place where numbers and text meet.
+// Values, and all conversions between numbers and texts.
 
 #include "core/value.h"
 
 #include "core/failure.h"
-#include "core/windows1252.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <charconv>
 #include <cmath>
 #include <deque>
 #include <limits>
+#include <locale>
+#include <sstream>
 #include <unordered_map>
-
-#ifndef __cpp_lib_to_chars
-#include <locale.h>
-#include <stdlib.h>
-#endif
 
 namespace tessaly {
 
 namespace {
 
-struct pooled {
-    std::string text;
-    std::string origin;
+struct pooledtext {
+    std::string text, origin;
 };
 
-std::deque<pooled>& pool() {
-    static std::deque<pooled> texts(2);  // the first two indexes mean empty and number
+std::deque<pooledtext>& pool() {
+    static std::deque<pooledtext> texts(2);  // the first two indexes mean empty and number
     return texts;
 }
 
 std::uint32_t poolindex(std::string_view text, std::string_view origin) {
     static std::unordered_map<std::string, std::uint32_t> indexes;
-    std::string key(text);
-    key += '\0';
-    key += origin;
     const auto next = static_cast<std::uint32_t>(pool().size());
-    const auto [found, fresh] = indexes.emplace(std::move(key), next);
-    if (fresh) pool().push_back({std::string(text), std::string(origin)});
-    return found->second;
+    const auto [entry, isnew] = indexes.emplace(std::string(text) + '\0' + std::string(origin), next);
+    if (isnew) pool().push_back({std::string(text), std::string(origin)});
+    return entry->second;
 }
 
 bool isdigit(char c) { return c >= '0' && c <= '9'; }
 
-// The length of the number at the front of text (sign, digits, point, digits, exponent), 0 when there are no digits.
+// Returns the length of the number at the start of a text (sign, digits with one point, exponent), 0 if there is none.
 std::size_t numberlength(std::string_view text) {
-    std::size_t at = 0;
-    std::size_t digits = 0;
-    if (at < text.size() && (text[at] == '+' || text[at] == '-')) ++at;
-    for (; at < text.size() && isdigit(text[at]); ++at) ++digits;
-    if (at < text.size() && text[at] == '.')
-        for (++at; at < text.size() && isdigit(text[at]); ++at) ++digits;
+    std::size_t end = 0, digits = 0;
+    if (end < text.size() && (text[end] == '+' || text[end] == '-')) ++end;
+    for (; end < text.size() && isdigit(text[end]); ++end) ++digits;
+    if (end < text.size() && text[end] == '.')
+        for (++end; end < text.size() && isdigit(text[end]); ++end) ++digits;
     if (digits == 0) return 0;
-    if (at < text.size() && (text[at] == 'e' || text[at] == 'E')) {
-        std::size_t power = at + 1;
-        if (power < text.size() && (text[power] == '+' || text[power] == '-')) ++power;
-        if (power < text.size() && isdigit(text[power])) {
-            while (power < text.size() && isdigit(text[power])) ++power;
-            at = power;
-        }
+    if (end < text.size() && (text[end] == 'e' || text[end] == 'E')) {
+        std::size_t exponent = end + 1;
+        if (exponent < text.size() && (text[exponent] == '+' || text[exponent] == '-')) ++exponent;
+        for (; exponent < text.size() && isdigit(text[exponent]); ++exponent) end = exponent + 1;
     }
-    return at;
+    return end;
 }
 
-// Whether a number beyond double precision is so by being too small: the place of its first digit that is not 0, and
-// its exponent, tell.
-bool vanishes(std::string_view number) {
-    const std::size_t power = std::min(number.find_first_of("eE"), number.size());
-    const std::size_t point = std::min(number.find('.'), power);
-    double exponent = 0;  // of up to a file's length of digits
-    for (const char c : number.substr(power))
-        if (isdigit(c)) exponent = exponent * 10 + (c - '0');
-    if (number.find('-', power) != std::string_view::npos) exponent = -exponent;
-    return static_cast<double>(point) - static_cast<double>(number.find_first_of("123456789")) + exponent < 0;
-}
-
-// Reads the number that text consists of. Returns false if it is too large or too small for a double.
-bool readdouble(std::string_view text, double& number) {
-#ifdef __cpp_lib_to_chars
-    if (text.front() == '+') text.remove_prefix(1);
-    return std::from_chars(text.data(), text.data() + text.size(), number).ec == std::errc();
-#else  // slower, and rounds to the same double
-    static const locale_t decimalpoint = ::newlocale(LC_ALL_MASK, "C", nullptr);
-    errno = 0;
-    number = ::strtod_l(std::string(text).c_str(), nullptr, decimalpoint);
-    return errno != ERANGE || (number != 0 && std::isfinite(number));
-#endif
-}
-
-// text holds a number and nothing else. Beyond double precision: infinity with its sign, or 0.
+// Converts a text that is a number and nothing else. Returns infinity with its sign if the number is too large for a
+// double.
 double parsed(std::string_view text) {
     double number = 0;
-    if (readdouble(text, number)) return number;
-    if (vanishes(text)) return 0;
-    const double huge = std::numeric_limits<double>::infinity();
-    return text.front() == '-' ? -huge : huge;
+#ifdef __cpp_lib_to_chars  // faster, but does not say whether a number is too large or too small
+    const std::string_view unsignedtext = text.substr(text.front() == '+' ? 1 : 0);
+    const char* const end = unsignedtext.data() + unsignedtext.size();
+    if (std::from_chars(unsignedtext.data(), end, number).ec == std::errc()) return number;
+#endif
+    std::istringstream stream{std::string(text)};
+    stream.imbue(std::locale::classic());
+    stream >> number;
+    const bool toolarge = stream.fail() && std::abs(number) > 1;
+    return toolarge ? std::copysign(std::numeric_limits<double>::infinity(), number) : number;
 }
 
 }  // namespace
@@ -114,18 +83,18 @@ std::string value::text() const {
 }
 
 double value::converted() const {
-    const pooled& held = pool()[kind];
-    std::string pointed = held.text;
+    const auto& [text, origin] = pool()[kind];
+    std::string pointed = text;
     std::replace(pointed.begin(), pointed.end(), ',', '.');
     try {
-        if (const auto strict = strictnumber(held.text)) return *strict;
+        if (const auto strict = strictnumber(text)) return *strict;
         if (strictnumber(pointed))
-            throw failure(failurekind::typemismatch, held.text + " is not a number", {},
+            throw failure(failurekind::typemismatch, text + " is not a number", {},
                           "type " + pointed + " (with a point)");
         throw failure(failurekind::typemismatch,
-                      held.text.empty() ? "this is empty" : '"' + excerpt(held.text) + "\" is not a number");
+                      text.empty() ? "this is empty" : '"' + excerpt(text) + "\" is not a number");
     } catch (failure& f) {
-        f.addlocation(held.origin);
+        f.addlocation(origin);
         throw;
     }
 }
@@ -151,15 +120,11 @@ double Val(std::string_view text) {
 std::string generaltext(double number) {
     if (number == 0) return "0";  // also -0
     char digits[40];
-    constexpr double fifteendigits = 1e15;
-    if (std::abs(number) < fifteendigits && number == std::trunc(number)) {
-        const auto whole = static_cast<std::int64_t>(number);
-        return std::string(digits, std::to_chars(digits, digits + sizeof digits, whole).ptr);
-    }
-    const auto end = std::to_chars(digits, digits + sizeof digits, number, std::chars_format::general, 15).ptr;
-    std::string text(digits, end);
-    for (char& c : text)
-        if (c == 'e') c = 'E';
+    if (std::abs(number) < 1e15 && number == std::trunc(number))
+        return std::string(digits,
+                           std::to_chars(digits, digits + sizeof digits, static_cast<std::int64_t>(number)).ptr);
+    std::string text(digits, std::to_chars(digits, digits + sizeof digits, number, std::chars_format::general, 15).ptr);
+    std::replace(text.begin(), text.end(), 'e', 'E');
     return text;
 }
 
@@ -170,20 +135,20 @@ std::string shortesttext(double number) {
 
 std::string plaintext(double number) {
     char digits[40];
-    constexpr double twentydigits = 1e20;  // the exponent of a larger one reads better
-    if (!(std::abs(number) < twentydigits)) return shortesttext(number);
-    const auto written = std::to_chars(digits, digits + sizeof digits, number, std::chars_format::fixed);
-    return written.ec == std::errc() ? std::string(digits, written.ptr) : shortesttext(number);
+    constexpr double limit = 1e20;  // a larger number is easier to read with an exponent
+    const auto fixed = std::to_chars(digits, digits + sizeof digits, number, std::chars_format::fixed);
+    const bool fits = fixed.ec == std::errc() && std::abs(number) < limit;
+    return fits ? std::string(digits, fixed.ptr) : shortesttext(number);
 }
 
 std::string plaindigits(double number) {
     std::string text = generaltext(number);
-    const std::size_t power = text.find("E-");
-    if (power == std::string::npos) return text;
-    std::string digits = text.substr(0, power);
+    const std::size_t exponent = text.find("E-");
+    if (exponent == std::string::npos) return text;
+    std::string digits = text.substr(0, exponent);
     const bool negative = digits.front() == '-';
     std::erase_if(digits, [](char c) { return c == '.' || c == '-'; });
-    const auto zeros = static_cast<std::size_t>(std::stoi(text.substr(power + 2)) - 1);
+    const auto zeros = static_cast<std::size_t>(std::stoi(text.substr(exponent + 2)) - 1);
     return (negative ? "-0." : "0.") + std::string(zeros, '0') + digits;
 }
 

@@ -1,6 +1,6 @@
 // Values of scalars and table elements. A value is empty, a number or a text, in 16 bytes. Texts are stored in a pool
-// with the location from which they were read, so that a report can name file, line and field of a bad number.
-// Conversions between numbers and texts happen in this file and do not depend on the locale.
+// with the location from which they were read, so that a report can name file, line and field of a bad number. All
+// conversions between numbers and texts are in this file. They do not depend on the locale.
 #pragma once
 
 #include <cstdint>
@@ -26,8 +26,8 @@ class value {
     bool empty() const { return kind == isempty; }
     bool isnumber() const { return kind == isnumeric; }
     bool istext() const { return kind > isnumeric; }
-    // Returns true for a text of exactly these characters. An empty value equals the empty text; a number equals no
-    // text.
+    // Returns whether this is a text of exactly these characters. An empty value equals the empty text; a number equals
+    // no text.
     bool is(std::string_view text) const;
 
     // Returns the number: 0 for empty; a text is converted strictly. Fails with type mismatch if it is not a number,
@@ -49,11 +49,11 @@ static_assert(sizeof(value) <= 16);
 // Returns whether c may surround a number or precede a field.
 inline bool isblank(char c) { return c == ' ' || c == '\t'; }
 
-// Converts a text that consists of a number: blanks around it, sign, digits with one point, exponent. Returns nothing
-// for any other text; fails with overflow if the number is too large for a double.
+// Converts a text that is a number: sign, digits with one point, exponent, with blanks around them. Returns nothing for
+// any other text. Fails with overflow if the number is too large for a double.
 std::optional<double> strictnumber(std::string_view text);
 
-// Returns the number at the start of a text (blanks, sign, digits with one point, exponent); 0 if there is none. Never
+// Returns the number at the start of a text (blanks, sign, digits with one point, exponent), 0 if there is none. Never
 // fails: a number that is too large becomes the largest double.
 double Val(std::string_view text);
 
@@ -63,16 +63,15 @@ std::string generaltext(double number);
 // Returns the shortest text that converts back to the same number.
 std::string shortesttext(double number);
 
-// Returns a number as reports show it: all its digits, as a file would hold them; with an exponent from 1e20 up, and
-// where the digits would be more than 40.
+// Returns a number as reports show it: all its digits without an exponent. From 1e20 up, and if there were more than 40
+// characters, returns the shortest text.
 std::string plaintext(double number);
 
 // Returns the general text of a number, but without an exponent near zero: "-0.00003087".
 std::string plaindigits(double number);
 
-// Returns the plain digits of v, cut to the first n characters without rounding, as the boxes show numbers; all digits
-// without n. A text that was typed or read ("1234.") is converted first ("1234"). Fails with type mismatch if it is not
-// a number.
+// Returns the plain digits of v as a box shows them: cut to the first n characters without rounding; "" for empty. A
+// text ("1234.") is converted first ("1234"). Fails with type mismatch if it is not a number.
 std::string boxtext(const value& v, std::size_t n = std::string::npos);
 
 // Rounds to the nearest whole number, halves to even.

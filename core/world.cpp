@@ -1,5 +1,5 @@
-// Defines and registers the tables and scalars of the world, and clears them. All tables are defined in this file,
-// group after group, because their addresses decide which cache lines they share.
+// Defines the tables of the world, lists the scalars, and clears both. All tables are defined in this file, group after
+// group, because their addresses decide which cache lines they share.
 
 #include "core/world.h"
 
@@ -13,81 +13,63 @@
 
 namespace tessaly {
 
-tablebase* tablebase::first = nullptr;
-bool noshortcuts = false;
-
 #define TABLE(name) name(#name)
-table<value, lastpoint, clearedpoints> TABLE(basex), TABLE(basey), TABLE(basez), TABLE(ptx), TABLE(pty), TABLE(ptz);
+pointtable TABLE(basex), TABLE(basey), TABLE(basez), TABLE(ptx), TABLE(pty), TABLE(ptz);
 table<value, lastpoint> TABLE(savex), TABLE(savey), TABLE(savez);
 table<double, lastpoint> TABLE(planex), TABLE(planey), TABLE(planez), TABLE(planedist), TABLE(planecos), TABLE(planeup),
     TABLE(planeside), TABLE(screenx), TABLE(screeny);
-table<value, lastline> TABLE(lineend1), TABLE(lineend2);
+linetable TABLE(lineend1), TABLE(lineend2);
 table<value, lastgroup> TABLE(groupfirst), TABLE(grouplast);
-table<value, lastquad, clearedpoints> TABLE(quad1), TABLE(quad2), TABLE(quad3), TABLE(quad4), TABLE(quadcolour),
-    TABLE(quadface), TABLE(quadgrade), TABLE(framing1), TABLE(framing2);
+quadtable TABLE(quad1), TABLE(quad2), TABLE(quad3), TABLE(quad4), TABLE(quadcolour), TABLE(quadface), TABLE(quadgrade),
+    TABLE(framing1), TABLE(framing2);
 table<double, lastquad> TABLE(quaddist), TABLE(quadcornerdist1), TABLE(quadcornerdist2), TABLE(quadcornerdist3),
     TABLE(quadcornerdist4);
 table<value, lastquad> TABLE(quadorder);
-table<value, lastquad, clearedpoints> TABLE(cubegrade);
+quadtable TABLE(cubegrade);
 table<value, lastquad, clearedcubecolours> TABLE(cubecolour);
 table<value, lastcolour> TABLE(palred), TABLE(palgreen), TABLE(palblue);
 table<value, 12 * 9> TABLE(viewpreset);
-table<value, lastrecord> TABLE(rdnumber), TABLE(rdgirdernumber), TABLE(rdpanelnumber), TABLE(rdroofnumber),
-    TABLE(rdcode), TABLE(rdgirdercode), TABLE(rdpanelcode), TABLE(rdroofcode), TABLE(rdx), TABLE(rdy), TABLE(rdrotx),
-    TABLE(rdrotz), TABLE(rdplacex), TABLE(rdplacey), TABLE(rdplacez), TABLE(rdface), TABLE(rdtrailer), TABLE(rdkind),
-    TABLE(rdorder);
+recordtable TABLE(rdnumber), TABLE(rdgirdernumber), TABLE(rdpanelnumber), TABLE(rdroofnumber), TABLE(rdcode),
+    TABLE(rdgirdercode), TABLE(rdpanelcode), TABLE(rdroofcode), TABLE(rdx), TABLE(rdy), TABLE(rdrotx), TABLE(rdrotz),
+    TABLE(rdplacex), TABLE(rdplacey), TABLE(rdplacez), TABLE(rdface), TABLE(rdtrailer), TABLE(rdkind), TABLE(rdorder);
 #undef TABLE
 
-double planeseedx, planeseedy, planeseedz, planecentrex, planecentrey, planecentrez;
-int walkcount, divisions;
-
-namespace {
-
-std::vector<scalar>& registered() {
-    static std::vector<scalar> all;
+std::span<const scalar> scalars() {
+// clang-format off
+#define RECORDED(name) {#name, &name, true}
+#define UNRECORDED(name) {#name, &name, false}
+    static const scalar all[] = {
+        RECORDED(perpx), RECORDED(perpy), RECORDED(perpz), RECORDED(focusx), RECORDED(focusy), RECORDED(focusz),
+        RECORDED(mag), RECORDED(vertshift), RECORDED(horizshift), RECORDED(perprelx), RECORDED(perprely),
+        RECORDED(perprelz), RECORDED(perpabsx), RECORDED(perpabsy), RECORDED(perpabsz), RECORDED(perprelative),
+        RECORDED(viewprompt), RECORDED(refready), RECORDED(plotstate), RECORDED(skipfixup), RECORDED(rebasedone),
+        RECORDED(magshown), RECORDED(floorname), RECORDED(floornum), RECORDED(drawmode), RECORDED(recordmode),
+        RECORDED(palname), RECORDED(panelcode), RECORDED(firstfilename), RECORDED(secondfilename), RECORDED(preopened),
+        RECORDED(datafile), RECORDED(elementkind), RECORDED(placemode), RECORDED(placex), RECORDED(placey),
+        RECORDED(placez), RECORDED(rotz), RECORDED(rotx), RECORDED(facecode), RECORDED(rotstage), RECORDED(rotboxx),
+        RECORDED(rotboxy), RECORDED(drawset), RECORDED(panelprefix), RECORDED(combinedcount), RECORDED(bmpimage),
+        RECORDED(linecount1), RECORDED(linecount2), RECORDED(linecount3), RECORDED(linecount4), RECORDED(linecount5),
+        RECORDED(linecount6), RECORDED(linecount7), RECORDED(linecount8), RECORDED(linecount9), RECORDED(linecount10),
+        RECORDED(ptcount1), RECORDED(ptcount2), RECORDED(ptcount3), RECORDED(ptcount4),
+        UNRECORDED(wirecolour1), UNRECORDED(wirecolour2), UNRECORDED(wirecolour3), UNRECORDED(wirecolour4),
+        UNRECORDED(wirecolour5), UNRECORDED(wirecolour6), UNRECORDED(wirecolour7), UNRECORDED(wirecolour8),
+        UNRECORDED(wirecolour9), UNRECORDED(wirecolour10), UNRECORDED(shapefile), UNRECORDED(rowgrade),
+        UNRECORDED(rowcolour), UNRECORDED(backred), UNRECORDED(backgreen), UNRECORDED(backblue),
+        UNRECORDED(curwirecolour), UNRECORDED(recordtext), UNRECORDED(drawtext), UNRECORDED(girdercode),
+        UNRECORDED(roofcode), UNRECORDED(anycode), UNRECORDED(startgroup1), UNRECORDED(startgroup2),
+        UNRECORDED(startgroup3), UNRECORDED(startprefix), UNRECORDED(startdone), UNRECORDED(focusinc),
+        UNRECORDED(focusstep), UNRECORDED(maginc), UNRECORDED(shiftinc), UNRECORDED(perpsumx), UNRECORDED(perpsumy),
+        UNRECORDED(perpsumz), UNRECORDED(facecolour), UNRECORDED(framecolour), UNRECORDED(railstart1),
+        UNRECORDED(railend1), UNRECORDED(railstart2), UNRECORDED(railend2), UNRECORDED(framen), UNRECORDED(capname),
+        UNRECORDED(capsidecar), UNRECORDED(bmpfile), UNRECORDED(bmpstem), UNRECORDED(bmpext), UNRECORDED(bmpsidecar),
+        UNRECORDED(curgroup), UNRECORDED(startstep), UNRECORDED(spareface), UNRECORDED(anynumber),
+        UNRECORDED(focussign), UNRECORDED(framesecond),
+    };
+#undef RECORDED
+#undef UNRECORDED
+    // clang-format on
     return all;
 }
-
-// Registers a scalar, or the elements of an array starting at 1: linecount1, linecount2 ..
-struct entry {
-    entry(const char* name, value& held, bool reported) { registered().push_back({name, &held, reported}); }
-    entry(const char* word, std::span<value> held, bool reported) {
-        for (std::size_t i = 1; i < held.size(); ++i)
-            registered().push_back({word + std::to_string(i), &held[i], reported});
-    }
-};
-
-}  // namespace
-
-// Each scalar with its entry. SHOWN ones are part of the recorded state, in this order.
-// clang-format off
-#define SHOWN(name) value name; const entry name##entry(#name, name, true)
-#define KEPT(name) value name; const entry name##entry(#name, name, false)
-SHOWN(perpx); SHOWN(perpy); SHOWN(perpz); SHOWN(focusx); SHOWN(focusy); SHOWN(focusz); SHOWN(mag);
-SHOWN(vertshift); SHOWN(horizshift); SHOWN(perprelx); SHOWN(perprely); SHOWN(perprelz);
-SHOWN(perpabsx); SHOWN(perpabsy); SHOWN(perpabsz); SHOWN(perprelative); SHOWN(viewprompt); SHOWN(refready);
-SHOWN(plotstate); SHOWN(skipfixup); SHOWN(rebasedone); SHOWN(magshown);
-SHOWN(floorname); SHOWN(floornum); SHOWN(drawmode); SHOWN(recordmode); SHOWN(palname); SHOWN(panelcode);
-SHOWN(firstfilename); SHOWN(secondfilename); SHOWN(preopened);
-SHOWN(datafile); SHOWN(elementkind); SHOWN(placemode); SHOWN(placex); SHOWN(placey); SHOWN(placez);
-SHOWN(rotz); SHOWN(rotx); SHOWN(facecode);
-SHOWN(rotstage); SHOWN(rotboxx); SHOWN(rotboxy); SHOWN(drawset); SHOWN(panelprefix); SHOWN(combinedcount);
-SHOWN(bmpimage);
-value linecount[linegroups + 1]; const entry linecounts("linecount", linecount, true);
-value ptcount[5]; const entry ptcounts("ptcount", ptcount, true);
-value wirecolour[linegroups + 1]; const entry wirecolours("wirecolour", wirecolour, false);
-KEPT(shapefile); KEPT(rowgrade); KEPT(rowcolour); KEPT(backred); KEPT(backgreen); KEPT(backblue);
-KEPT(curwirecolour); KEPT(recordtext); KEPT(drawtext); KEPT(girdercode); KEPT(roofcode); KEPT(anycode);
-KEPT(startgroup1); KEPT(startgroup2); KEPT(startgroup3); KEPT(startprefix); KEPT(startdone);
-KEPT(focusinc); KEPT(focusstep); KEPT(maginc); KEPT(shiftinc); KEPT(perpsumx); KEPT(perpsumy); KEPT(perpsumz);
-KEPT(facecolour); KEPT(framecolour); KEPT(railstart1); KEPT(railend1); KEPT(railstart2); KEPT(railend2); KEPT(framen);
-KEPT(capname); KEPT(capsidecar); KEPT(bmpfile); KEPT(bmpstem); KEPT(bmpext); KEPT(bmpsidecar);
-KEPT(curgroup); KEPT(startstep); KEPT(spareface); KEPT(anynumber); KEPT(focussign); KEPT(framesecond);
-// clang-format on
-#undef SHOWN
-#undef KEPT
-
-std::span<const scalar> scalars() { return registered(); }
 
 void subscriptfailure(const char* tablename, double index, int last) {
     throw failure(failurekind::subscript, std::string(tablename) + " has no index " + plaintext(index) +
@@ -103,11 +85,7 @@ int roundedindex(const value& v, const char* tablename, int last) {
 void resetworld() {
     std::fill(linecount + 1, std::end(linecount), value(0));
     std::fill(ptcount + 1, std::end(ptcount), value(0));
-    for (auto* t : {&ptx, &pty, &ptz, &basex, &basey, &basez}) t->clear();
-    for (auto* t : {&quad1, &quad2, &quad3, &quad4, &framing1, &framing2, &quadface, &quadgrade, &quadcolour})
-        t->clear();
-    cubegrade.clear();
-    cubecolour.clear();
+    for (tablebase* t = tablebase::first; t != nullptr; t = t->next) t->clear();
 }
 
 void restartworld() {

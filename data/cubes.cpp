@@ -43,7 +43,7 @@ void readcuberow(textinput& in, axis stepaxis, int firstcube, cubeslots& next) {
 
 // Reads rows of first quad, last quad and count. Each sets the count for the same face of several cubes: their quads
 // are ten slots apart. The end row clears the slot at which the loop of the previous row stopped.
-void readcubeframing(textinput& in, const char* key, table<value, lastquad, clearedpoints>& framing) {
+void readcubeframing(textinput& in, const char* key, quadtable& framing) {
     findkey(in, key);
     double slot = 0;
     for (;;) {

@@ -59,7 +59,7 @@ void readplanes(textinput& in) {
     }
 }
 
-void readframing(textinput& in, const char* key, table<value, lastquad, clearedpoints>& framing) {
+void readframing(textinput& in, const char* key, quadtable& framing) {
     findkey(in, key);
     for (;;) {
         const fieldlocation row = skiptofield(in);

@@ -132,7 +132,7 @@ void usepicturefiles() {
 
 void savepicture(const raster& image, const std::string& path) {
     if (endswithnocase(path, ".png")) return writepng(image, path);
-    if (endswithnocase(path, ".bmp")) return writebitmap(image.picture(), path);
+    if (endswithnocase(path, ".bmp")) return writebitmap(image, path);
     throw failure(failurekind::fileaccess, "a name that ends in .png or .bmp was expected", shortpath(path));
 }
 

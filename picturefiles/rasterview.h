@@ -9,7 +9,7 @@ namespace tessaly {
 
 // Returns a QImage that shares the raster's pixels; the raster must outlive it.
 inline QImage viewof(const raster& image) {
-    return QImage(reinterpret_cast<const uchar*>(image.pixels()), image.width(), image.height(), image.width() * 4,
+    return QImage(reinterpret_cast<const uchar*>(image.pixels.data()), image.width, image.height, image.width * 4,
                   QImage::Format_RGB32);
 }
 

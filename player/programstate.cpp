@@ -68,7 +68,7 @@ std::vector<stateitem> programstate() {
     for (const window* w : allwindows())
         for (const control* c : w->controls) state.push_back({"control", c->name, visibility(c->shown), statetext(*c)});
     for (const scalar& s : scalars())
-        if (s.reported) state.push_back({"value", s.name, "", statetext(*s.variable)});
+        if (s.recorded) state.push_back({"value", s.name, "", statetext(*s.variable)});
     return state;
 }
 

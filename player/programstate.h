@@ -17,7 +17,7 @@ struct stateitem {
     std::string text;             // "\"1\"" for a control, "0.56" for a value; "" for a window
 };
 
-// Returns windows, controls and reported scalars, each in the order of its table. Every call after startprogram returns
+// Returns windows, controls and recorded scalars, each in the order of its table. Every call after startprogram returns
 // items with the same names in the same order.
 std::vector<stateitem> programstate();
 

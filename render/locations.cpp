@@ -48,7 +48,7 @@ std::string locationofwirecolour(int group) {
     return numberlocation(insection("WIRECOLORS:"), group - (holdscubes() ? 5 : 0));
 }
 
-std::string locationofcorner(int face) {
+std::string locationofbadcorner(int face) {
     const value corners[] = {quad1[face], quad3[face], quad2[face], quad4[face]};  // in the order of a row
     const auto nopoint = [](const value& corner) { return !(corner >= -0.5 && corner <= lastpoint + 0.5); };
     const auto found = std::find_if(std::begin(corners), std::end(corners), nopoint);

@@ -9,7 +9,7 @@ namespace tessaly {
 
 std::string locationofend(int group, int row, int end);  // end 1 or 2 of a line
 std::string locationofwirecolour(int group);
-std::string locationofcorner(int face);  // the first corner that is not a point
+std::string locationofbadcorner(int face);  // the first corner that is not a point
 std::string locationofcolour(int face);
 std::string locationofframing(int face, int direction);  // by face: framing rows come in any order
 

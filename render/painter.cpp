@@ -41,7 +41,7 @@ void fillface(int q) {
 
 // Builds one rail of a framing direction: count points at s / count of its length, and line ends at them. The points
 // are in model space, so the lines have the right perspective. The closing edge is the end of the last interval.
-void buildrail(const value& start, const value& end, int firstpoint, int count, table<value, lastline>& ends) {
+void buildrail(const value& start, const value& end, int firstpoint, int count, linetable& ends) {
     for (int s = 0; s < count; ++s) {
         const double share = static_cast<double>(s) / count;
         ptx.set(firstpoint + s, ptx[start] + share * (ptx[end] - ptx[start]));
@@ -55,7 +55,7 @@ void buildrail(const value& start, const value& end, int firstpoint, int count, 
 // rails.
 struct direction {
     int number;
-    const table<value, lastquad, clearedpoints>&counts, &firstend, &secondstart;
+    const quadtable &counts, &firstend, &secondstart;
 };
 const direction directions[] = {{1, framing1, quad2, quad3}, {2, framing2, quad3, quad2}};
 

@@ -16,28 +16,25 @@ namespace {
 constexpr int recordbytes = 8;
 constexpr int lastrecordread = 236;
 
-// Returns the signed 16-bit little-endian number that starts at a byte of the file, 0 after its end.
-int numberat(const std::string& bytes, std::size_t at) {
-    if (at + 1 >= bytes.size()) return 0;
-    const auto low = static_cast<unsigned char>(bytes[at]), high = static_cast<unsigned char>(bytes[at + 1]);
+// Returns the signed 16-bit little-endian number that starts at an offset in the file, 0 after the end of the file.
+int numberat(const std::string& bytes, std::size_t offset) {
+    if (offset + 1 >= bytes.size()) return 0;
+    const auto low = static_cast<unsigned char>(bytes[offset]), high = static_cast<unsigned char>(bytes[offset + 1]);
     return static_cast<std::int16_t>(low | (high << 8));
 }
 
-// Returns a component as a byte. fails: as palettecolour, with location().
-template <class locating>
-std::uint8_t component(const value& number, locating location) {
-    try {
-        const double rounded = nearestwhole(number);
-        if (!(rounded >= -32768 && rounded <= 32767))
-            throw failure(failurekind::overflow,
-                          "colour component " + plaintext(number) + ", a whole number -32768..32767 was expected");
-        if (rounded < 0)
-            throw failure(failurekind::invalidcall, "colour component " + plaintext(number) + ", 0..255 was expected");
-        return static_cast<std::uint8_t>(std::min(rounded, 255.0));
-    } catch (failure& f) {
-        f.addlocation(location());
-        throw;
-    }
+// Returns a component as a byte. fails: as palettecolour does, with location().
+template <class locator>
+std::uint8_t component(const value& number, locator location) {
+    const double rounded = nearestwhole(number);
+    if (!(rounded >= -32768 && rounded <= 32767))
+        throw failure(failurekind::overflow,
+                      "colour component " + plaintext(number) + ", a whole number -32768..32767 was expected",
+                      location());
+    if (rounded < 0)
+        throw failure(failurekind::invalidcall, "colour component " + plaintext(number) + ", 0..255 was expected",
+                      location());
+    return static_cast<std::uint8_t>(std::min(rounded, 255.0));
 }
 
 }  // namespace

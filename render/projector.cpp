@@ -116,7 +116,7 @@ void mapend(int e, double scale, double shiftright, double shiftup) {
 }
 
 // Returns a line end as a point index. A report names the row that gave it.
-int lineend(const table<value, lastline>& ends, int line, int end) {
+int lineend(const linetable& ends, int line, int end) {
     const value& named = ends[line];
     const double whole = nearestwhole(named);
     if (whole >= 0 && whole <= lastpoint) return static_cast<int>(whole);
@@ -183,13 +183,13 @@ void projectdraw() {
     writeviewback();
 }
 
-int blocksinuse(pointblock (&blocks)[4]) {
-    int count = 0;
-    blocks[count++] = {1, indexof(ptcount1, "ptcount1", lastpoint)};
-    if (drawset.isnumber() && drawset == 2) blocks[count++] = {2001, 2000 + indexof(ptcount2, "ptcount2", lastpoint)};
-    blocks[count++] = {4001, 4000 + indexof(ptcount3, "ptcount3", lastpoint)};
-    blocks[count++] = {6001, 6000 + indexof(ptcount4, "ptcount4", lastpoint)};
-    return count;
+void foreachpointinuse(const std::function<void(int)>& step) {
+    constexpr int before[] = {0, 0, 2000, 4000, 6000};  // last index before each block
+    for (const int block : {1, 2, 3, 4}) {
+        if (block == 2 && !(drawset.isnumber() && drawset == 2)) continue;
+        const int last = before[block] + indexof(ptcount[block], "ptcount", lastpoint);
+        for (int i = before[block] + 1; i <= last; ++i) step(i);
+    }
 }
 
 void setplane() {

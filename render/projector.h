@@ -4,6 +4,8 @@
 
 #include "core/value.h"
 
+#include <functional>
+
 namespace tessaly {
 
 // Computes the bounds of the ten line groups, restores the eye of the present view and draws.
@@ -20,14 +22,8 @@ void projectdraw();
 
 // ---- the projector's steps, shared with redraw and painter ----------------------------------------------
 
-// The first and last point of a block of points in use.
-struct pointblock {
-    int first, last;
-};
-// Calls step(i) for every point of the blocks that drawset selects, in ascending order within each block.
-template <class procedure>
-void foreachpointinuse(procedure step);
-int blocksinuse(pointblock (&blocks)[4]);
+// Calls step(i) for every point of the blocks that drawset selects, in ascending order.
+void foreachpointinuse(const std::function<void(int)>& step);
 
 // Sets the reference point, and the seed and centre of the picture plane, from the eye. fails: division by zero, type
 // mismatch.
@@ -54,13 +50,5 @@ void nudgeview(bool (*same)(const value& focus, const value& eye));
 
 // Subtracts the focus from the working points in use and copies them to savex, savey, savez.
 void rebaseonfocus();
-
-template <class procedure>
-void foreachpointinuse(procedure step) {
-    pointblock blocks[4];
-    const int count = blocksinuse(blocks);
-    for (int b = 0; b < count; ++b)
-        for (int i = blocks[b].first; i <= blocks[b].last; ++i) step(i);
-}
 
 }  // namespace tessaly

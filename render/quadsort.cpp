@@ -6,6 +6,7 @@
 #include "core/world.h"
 #include "render/locations.h"
 
+#include <algorithm>
 #include <cmath>
 #include <vector>
 
@@ -13,8 +14,8 @@ namespace tessaly {
 
 namespace {
 
-constexpr int lastsorted = 7000;                               // highest slot that the sort considers
-constexpr double farthest = 1000000, alreadychosen = 2000000;  // model units
+constexpr int lastsorted = 7000;                                    // highest slot that the sort considers
+constexpr double distancelimit = 1000000, alreadychosen = 2000000;  // model units
 static_assert(lastsorted == clearedpoints);  // so that a slot not written since the last clear is empty
 
 double eyedistance(const value& point) {
@@ -28,26 +29,22 @@ void measurecorners(int i) {
     quadcornerdist2.set(i, eyedistance(quad3[i]));
     quadcornerdist3.set(i, eyedistance(quad2[i]));
     quadcornerdist4.set(i, eyedistance(quad4[i]));
-    double nearest = quadcornerdist1[i];
-    if (quadcornerdist2[i] < nearest) nearest = quadcornerdist2[i];
-    if (quadcornerdist3[i] < nearest) nearest = quadcornerdist3[i];
-    if (quadcornerdist4[i] < nearest) nearest = quadcornerdist4[i];
-    quaddist.set(i, nearest);
+    quaddist.set(i, std::min({quadcornerdist1[i], quadcornerdist2[i], quadcornerdist3[i], quadcornerdist4[i]}));
 }
 
 void measurequad(int i) {
     // Deliberately tests quad4[0], not quad4[i]: here three corners decide whether a quad is empty.
     if (quad1[i] == 0 && quad2[i] == 0 && quad3[i] == 0 && quad4[0] == 0) return;
-    withsubscriptlocation([i] { return locationofcorner(i); }, [i] { measurecorners(i); });
+    withsubscriptlocation([i] { return locationofbadcorner(i); }, [i] { measurecorners(i); });
 }
 
 // Returns the slots that may hold quads, ascending.
 std::vector<int> writtenslots() {
     writtenpages pages = quad1.written();
     for (const auto* corner : {&quad2, &quad3, &quad4}) pages |= corner->written();
-    if (quad4[0] != 0) pages.markall();  // then measurequad treats no slot as empty
+    if (quad4[0] != 0) pages.set();  // then measurequad treats no slot as empty
     std::vector<int> slots;
-    pages.visit(lastsorted, [&slots](int first, int last) {
+    visitpages(pages, lastsorted, [&slots](int first, int last) {
         for (int i = first; i <= last; ++i) slots.push_back(i);
     });
     return slots;
@@ -61,10 +58,10 @@ void orderquads() {
     if (!noshortcuts) std::erase_if(slots, emptyquad);
     for (const int i : slots) {
         if (emptyquad(i)) continue;
-        double best = farthest;
+        double nearest = distancelimit;
         for (const int j : slots) {
-            if (emptyquad(j) || !(quaddist[j] < best)) continue;
-            best = quaddist[j];
+            if (emptyquad(j) || !(quaddist[j] < nearest)) continue;
+            nearest = quaddist[j];
             quadorder.set(i, j);
         }
         quaddist.set(quadorder[i], alreadychosen);

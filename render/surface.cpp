@@ -4,9 +4,6 @@
 
 namespace tessaly {
 
-surface* viewportsurface = nullptr;
-surface* progresssurface = nullptr;
-
 void surface::drawbetween(const facecorners& f, int n, colour c) {
     for (int t = 0; t <= n; ++t) {
         const double fraction = static_cast<double>(t) / n;

@@ -15,10 +15,7 @@ struct facecorners {
 
 class surface {
   public:
-    surface() = default;
     virtual ~surface() = default;
-    surface(const surface&) = delete;
-    surface& operator=(const surface&) = delete;
 
     // Draws a straight line, 1 pixel wide, opaque, both ends included.
     virtual void line(float x1, float y1, float x2, float y2, colour c) = 0;
@@ -46,7 +43,7 @@ class surface {
 // The building's surface and the progress strip of the solid replays, in pixels. Set by the program.
 constexpr int viewportwidth = 897, viewportheight = 581;
 constexpr int progresswidth = 17, progressheight = 705;
-extern surface* viewportsurface;
-extern surface* progresssurface;
+inline surface* viewportsurface = nullptr;
+inline surface* progresssurface = nullptr;
 
 }  // namespace tessaly

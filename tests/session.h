@@ -91,7 +91,7 @@ inline std::string worldtext(const raster& image) {
     std::string all = tablesums();
     for (const scalar& s : scalars()) all += s.name + ' ' + statetext(*s.variable) + '\n';
     checksum pixels;
-    for (const std::uint32_t pixel : image.picture().pixels) pixels.addword(pixel);
+    for (const std::uint32_t pixel : image.pixels) pixels.addword(pixel);
     return all + "picture " + pixels.text() + '\n';
 }
 

@@ -82,9 +82,7 @@ void addpoint(int i) {
 // Adds the element in the tables: its points, the points of its last framing lines, and the distances of its faces.
 void addelement() {
     constexpr int framingpoints = 60, faces = 100;
-    pointblock blocks[4];
-    for (int b = 0, count = blocksinuse(blocks); b < count; ++b)
-        for (int i = blocks[b].first; i <= blocks[b].last; ++i) addpoint(i);
+    foreachpointinuse(addpoint);
     for (int i = framingscratch; i < framingscratch + framingpoints; ++i) addpoint(i);
     addpoint(referencepoint);
     add(numbers, "plane centre", {planecentrex, planecentrey, planecentrez});
@@ -119,8 +117,7 @@ void endstep(const std::string& name) {
     if (step == listedstep) std::exit(0);
     if (listedstep == 0) {
         checksum picture;
-        for (int i = 0; i < measured.image.width() * measured.image.height(); ++i)
-            picture.add(std::uint64_t{measured.image.pixels()[i]});
+        for (const std::uint32_t pixel : measured.image.pixels) picture.add(std::uint64_t{pixel});
         std::printf("%s %s %s %7ld lines, step %d: %s\n", picture.text().c_str(), lines.text().c_str(),
                     numbers.text().c_str(), linesdrawn, step, name.c_str());
     }

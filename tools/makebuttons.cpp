@@ -85,8 +85,8 @@ void setview(const viewpoint& from, const raster& image, int zoom) {
     focusy = from.focusy;
     focusz = from.focusz;
     mag = 10 * from.magnification * zoom;
-    vertshift = 490 - image.height() / 2;
-    horizshift = image.width() / 2 - 730;
+    vertshift = 490 - image.height / 2;
+    horizshift = image.width / 2 - 730;
 }
 
 void click(const std::string& name) { clickcontrol(*findcontrol(name)); }
@@ -94,7 +94,7 @@ void click(const std::string& name) { clickcontrol(*findcontrol(name)); }
 // Draws the elements of a picture on an image, and leaves all other dots 0. Draws a snipped panel over the wires of the
 // full one.
 void drawelements(const picture& p, const viewpoint& from, raster& image, int zoom) {
-    std::fill_n(image.pixels(), image.width() * image.height(), 0U);
+    std::fill(image.pixels.begin(), image.pixels.end(), 0U);
     viewportsurface = &image;
     setview(from, image, zoom);
     click(p.element->name);
@@ -113,7 +113,7 @@ QRgb meanpixel(const raster& image, int left, int top, int dots) {
     int drawn = 0, red = 0, green = 0, blue = 0;
     for (int y = top; y < top + dots; ++y)
         for (int x = left; x < left + dots; ++x) {
-            const QRgb dot = image.pixels()[y * image.width() + x];
+            const QRgb dot = image.pixels.data()[y * image.width + x];
             drawn += dot != 0;
             red += qRed(dot);
             green += qGreen(dot);

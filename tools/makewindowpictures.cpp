@@ -89,8 +89,7 @@ std::string descriptionof(const window& w, const twips& region) {
     std::string words = std::accumulate(lines.begin(), lines.end(), std::string());
     if (&w != &vistaplan || !isin(region, viewport)) return words;
     checksum pixels;
-    for (int i = 0; i < viewportimage().width() * viewportimage().height(); ++i)
-        pixels.add(std::uint64_t{viewportimage().pixels()[i]});
+    for (const std::uint32_t pixel : viewportimage().pixels) pixels.add(std::uint64_t{pixel});
     return words + "on viewport " + pixels.text() + '\n';
 }
 
