@@ -111,6 +111,11 @@ TEST_F(windows_painting, buttonsShowTheirState) {
         keys(std::string("=") + c->parent->name + " " + c->name);
         EXPECT_NE(lightnessat(*c, 8, 0), rim);  // the ring of the keyboard
     }
+    const QImage exit = widgetof(exitbtn)->grab().toImage();
+    int brightest = 0;
+    for (int x = 0; x < exit.width(); ++x)
+        brightest = std::max(brightest, exit.pixelColor(x, exit.height() / 2).lightness());
+    EXPECT_GT(brightest, 200);  // white letters on red
 }
 
 // Catches a button that looks pressed without its window, and a window whose last button does not.
