@@ -10,6 +10,7 @@
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QComboBox>
+#include <QLabel>
 #include <QPainter>
 #include <QWheelEvent>
 
@@ -47,8 +48,8 @@ void turnwheel(QWidget& over) {
     QApplication::sendEvent(&over, &turn);
 }
 
-// The colour of a row's end in a state.
-QColor paintedrow(const QListWidget& rows, QStyle::State state) {
+// A row of a list in a state.
+QImage paintedrow(const QListWidget& rows, QStyle::State state) {
     QImage image(60, 17, QImage::Format_RGB32);
     image.fill(Qt::white);
     QPainter painter(&image);
@@ -56,7 +57,7 @@ QColor paintedrow(const QListWidget& rows, QStyle::State state) {
     row.rect = image.rect();
     row.state = QStyle::State_Enabled | state;
     rows.itemDelegate()->paint(&painter, row, rows.model()->index(3, 0));
-    return image.pixelColor(55, 8);
+    return image;
 }
 
 }  // namespace
@@ -67,6 +68,8 @@ TEST_F(windows_boxesandlists, typingAfterAClickReplacesTheNumberAndReturnSetsIt)
     for (const viewvalue& v : viewvalues) {
         const std::string typed = &v.box == &magtxt ? "0.08" : std::to_string(++number);
         EXPECT_EQ(frontat(v.box), widgetof(v.box));  // not behind the picture
+        const auto* const tag = widgetof(v.box)->findChild<QLabel*>();
+        EXPECT_EQ(tag ? tag->text().toStdString() : "", v.tag ? v.tag : "");
         click(v.box);
         keys("=" + v.box.name + " \"" + typed + '"');
         EXPECT_EQ(v.box.text, typed) << v.box.name;
@@ -178,7 +181,8 @@ TEST_F(windows_boxesandlists, aListOpenedByTheMouseShowsNoRowUntilAKeyIsPressed)
     auto* const rows = qobject_cast<QListWidget*>(widgetof(floorlist));
     EXPECT_TRUE(rows->hasFocus());
     EXPECT_EQ(rows->currentRow(), -1);
-    EXPECT_NE(paintedrow(*rows, QStyle::State_MouseOver), paintedrow(*rows, QStyle::State_None));
+    for (const auto state : {QStyle::State_MouseOver, QStyle::State_HasFocus})
+        EXPECT_NE(paintedrow(*rows, state), paintedrow(*rows, QStyle::State_None)) << int{state};
     QTest::keyClick(rows, Qt::Key_Return);
     EXPECT_TRUE(floorlist.shown);
     QTest::keyClick(rows, Qt::Key_Down);

@@ -100,7 +100,7 @@ TEST_F(windows_painting, buttonsShowTheirState) {
     click(postbeambtn);
     for (control* c : {findcontrol("postx0y16"), &fillscreen}) {
         SCOPED_TRACE(c->name);
-        const int usual = lightnessat(*c, 4, 4), rim = lightnessat(*c, 8, 0);
+        const int usual = lightnessat(*c, 4, 4);
         EXPECT_TRUE(widgetof(*c)->testAttribute(Qt::WA_Hover));
         widgetof(*c)->setAttribute(Qt::WA_UnderMouse);
         widgetof(*c)->update();
@@ -109,7 +109,8 @@ TEST_F(windows_painting, buttonsShowTheirState) {
         EXPECT_LT(lightnessat(*c, 4, 4), usual - 15);
         frameof(*c->parent)->content()->setFocus();
         keys(std::string("=") + c->parent->name + " " + c->name);
-        EXPECT_NE(lightnessat(*c, 8, 0), rim);  // the ring of the keyboard
+        qobject_cast<QPushButton*>(widgetof(*c))->setDown(false);
+        EXPECT_GT(std::abs(lightnessat(*c, 8, 1) - lightnessat(*c, 8, 4)), 80);  // the ring of the keyboard
     }
     const QImage exit = widgetof(exitbtn)->grab().toImage();
     int brightest = 0;
