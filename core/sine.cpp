@@ -9,7 +9,7 @@ namespace tessaly {
 
 namespace {
 
-constexpr double maxangle = 1e9;  // radians; the spacing of doubles beyond this makes an angle meaningless
+constexpr double maxangle = 1e9;  // radians
 
 // A number as the unevaluated sum of two doubles; low is the rounding error of high.
 struct pair {
@@ -17,8 +17,8 @@ struct pair {
 };
 
 pair exactsum(double a, double b) {
-    const double sum = a + b, second = sum - a;
-    return {sum, (a - (sum - second)) + (b - second)};
+    const double sum = a + b, roundedb = sum - a;
+    return {sum, (a - (sum - roundedb)) + (b - roundedb)};
 }
 
 // Returns the upper half of the significant bits of a; products of halves are exact.
@@ -60,14 +60,14 @@ double series(pair first, pair x, double n) {
     return sum.high;
 }
 
-// Returns the sine of angle + quarters * pi / 2. First reduces the angle to its difference from the nearest multiple of
-// pi / 2.
-double shiftedsine(double angle, double quarters) {
-    constexpr double quarter[] = {0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54, -0x1.f1976b7ed8fbcp-110};  // pi / 2
-    const double nearest = std::floor(angle / quarter[0] + 0.5);
+// Returns the sine of angle + quarterturns * pi / 2. First reduces the angle to its difference from the nearest
+// multiple of pi / 2.
+double shiftedsine(double angle, double quarterturns) {
+    constexpr double quarterturn[] = {0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54, -0x1.f1976b7ed8fbcp-110};  // pi / 2
+    const double nearest = std::floor(angle / quarterturn[0] + 0.5);
     pair remainder{angle, 0};
-    for (const double part : quarter) remainder = remainder + exactproduct(-nearest, part);
-    const double signedquadrant = std::fmod(nearest + quarters, 4);
+    for (const double part : quarterturn) remainder = remainder + exactproduct(-nearest, part);
+    const double signedquadrant = std::fmod(nearest + quarterturns, 4);
     const double quadrant = signedquadrant < 0 ? signedquadrant + 4 : signedquadrant;
     const bool odd = quadrant == 1 || quadrant == 3;
     const double sine = odd ? series({1, 0}, remainder, 0) : series(remainder, remainder, 1);

@@ -26,10 +26,10 @@ void addnumber(std::string& bytes, std::uint32_t number, int count) {
     for (; count > 0; --count, number >>= 8) bytes += static_cast<char>(number & 255);
 }
 
-std::uint32_t numberat(std::string_view bytes, std::size_t at, int count) {
+std::uint32_t numberat(std::string_view bytes, std::size_t offset, int count) {
     std::uint32_t number = 0;
     for (; count > 0; --count)
-        number = number << 8 | static_cast<unsigned char>(bytes[at + static_cast<std::size_t>(count) - 1]);
+        number = number << 8 | static_cast<unsigned char>(bytes[offset + static_cast<std::size_t>(count) - 1]);
     return number;
 }
 
@@ -57,13 +57,13 @@ void writebitmap(const bitmap& picture, const std::string& path) { replacefile(p
 
 bitmap readbitmap(const std::string& path) {
     const std::string bytes = filebytes(path, "picture");
-    const auto number = [&](std::size_t at, int count) { return numberat(bytes, at, count); };
+    const auto number = [&](std::size_t offset, int count) { return numberat(bytes, offset, count); };
     if (bytes.size() < headbytes || !bytes.starts_with("BM") || number(infoat, 4) != infobytes ||
         number(depthat, 2) != 8 * pixelbytes || number(packedat, 4) != 0)
         throw failure(failurekind::invalidcall, "a bitmap of 24 bits per pixel was expected",
                       shortpath(path) + " (picture)");
     const std::size_t width = number(widthat, 4), height = number(heightat, 4), start = number(startat, 4);
-    // Dividing, because a product may overflow on 32 bits.
+    // Divides, because a product could overflow with 32 bits.
     if (std::max(width, height) > maxside || start > bytes.size() ||
         (height > 0 && rowbytes(width) > (bytes.size() - start) / height))
         throw failure(failurekind::invalidcall, "the file is not complete", shortpath(path) + " (picture)");

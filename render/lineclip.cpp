@@ -1,5 +1,5 @@
-// Lines with an end beyond exactlimit are clipped in double precision, starting at the nearer end: unless both ends are
-// that far away the pixels are the exact ones, except perhaps at the border. No real building has such lines.
+// Lines with an end beyond exactlimit are clipped in double precision, starting at the nearer end. If only one end is
+// that far away, the pixels are the exact ones, except perhaps at the border. No real building has such lines.
 
 #include "render/lineclip.h"
 
@@ -25,7 +25,7 @@ int pixelat(double start, double delta, double t) {
     return static_cast<int>(std::floor(std::clamp<double>(start + t * delta, -exactlimit, exactlimit) + 0.5));
 }
 
-// Sets l to the part of the line within exactlimit; returns false as topixels does.
+// Sets l to the part of the line within exactlimit; returns false if nothing can be drawn.
 bool cliptopixels(double x1, double y1, double x2, double y2, pixelline& l) {
     if (!std::isfinite(x1) || !std::isfinite(y1) || !std::isfinite(x2) || !std::isfinite(y2)) return false;
     if (std::max(std::abs(x2), std::abs(y2)) < std::max(std::abs(x1), std::abs(y1))) {
@@ -92,14 +92,14 @@ int drawpixels(const pixelline& l, bitmap& image, std::uint32_t pixel) {
         error = increment * from + half - moves * threshold;
     }
     bstride *= direction;
-    std::uint32_t* at = image.pixels.data() + (a1 + from) * astride + b1 * std::abs(bstride) + moves * bstride;
-    for (std::int64_t left = to - from; left >= 0; --left) {
-        *at = pixel;
-        at += astride;
+    std::uint32_t* lit = image.pixels.data() + (a1 + from) * astride + b1 * std::abs(bstride) + moves * bstride;
+    for (std::int64_t u = from; u <= to; ++u) {
+        *lit = pixel;
+        lit += astride;
         error += increment;
         if (error >= threshold) {
             error -= threshold;
-            at += bstride;
+            lit += bstride;
         }
     }
     return static_cast<int>(to - from + 1);

@@ -1,6 +1,5 @@
-// Lines in whole pixels, clipped to an image: exact, whichever end comes first and however far outside the ends are, up
-// to exactlimit. A line lights one pixel for each step along its longer axis. The other coordinate is the nearest
-// pixel, halves up.
+// Lines in whole pixels, clipped to an image. They are exact for ends in any order and up to exactlimit. A line lights
+// one pixel for each step along its longer axis. The other coordinate is rounded to the nearest pixel, halves up.
 #pragma once
 
 #include "render/bitmap.h"

@@ -39,28 +39,28 @@ void fillface(int q) {
     viewportsurface->fillface(f, divisions, palettecolour(facecolour));
 }
 
-// Builds one rail of a framing direction: count points at s / count of its length, and line ends at them. The points
-// are in model space, so the lines have the right perspective. The closing edge is the end of the last interval.
+// Builds one rail of a framing direction: count points at s / count of its length for s = 0..count - 1, and line ends
+// at them. The points are in model space, so the lines have the right perspective. The closing edge is drawn
+// separately.
 void buildrail(const value& start, const value& end, int firstpoint, int count, linetable& ends) {
     for (int s = 0; s < count; ++s) {
-        const double share = static_cast<double>(s) / count;
-        ptx.set(firstpoint + s, ptx[start] + share * (ptx[end] - ptx[start]));
-        pty.set(firstpoint + s, pty[start] + share * (pty[end] - pty[start]));
-        ptz.set(firstpoint + s, ptz[start] + share * (ptz[end] - ptz[start]));
+        const double fraction = static_cast<double>(s) / count;
+        ptx.set(firstpoint + s, ptx[start] + fraction * (ptx[end] - ptx[start]));
+        pty.set(firstpoint + s, pty[start] + fraction * (pty[end] - pty[start]));
+        ptz.set(firstpoint + s, ptz[start] + fraction * (ptz[end] - ptz[start]));
         ends.set(framingscratch + s, firstpoint + s);
     }
 }
 
-// A direction of framing. Its rails begin at corners 1 and secondstart and end at firstend and 4; its lines join the
-// rails.
+// A direction of framing. Its lines join two rails: one from corner 1 to firstend, one from secondstart to corner 4.
 struct direction {
     int number;
     const quadtable &counts, &firstend, &secondstart;
 };
 const direction directions[] = {{1, framing1, quad2, quad3}, {2, framing2, quad3, quad2}};
 
-// The scratch points have no saved and no base positions: a near-side walk starts from whatever the tables hold there,
-// and the restoring overwrites the points. This is intended.
+// Nothing sets the saved and base positions of the scratch points: a near-side walk starts from whatever the tables
+// hold there, and restoring the position after projection overwrites a point. This is intended.
 void framelines() {
     constexpr int maxlines = (lastpoint - framingscratch + 1) / 2;
     const int count = indexof(framen, "framing", maxlines);

@@ -7,7 +7,7 @@ namespace tessaly {
 // Paints the element that readelements has just drawn.
 // reads: quads, framing counts, rotz, panelcode, firstfilename, secondfilename, elementkind, eye, ptx.., screenx..;
 // writes: quaddist, quadcornerdist1..4, quadorder, quadcolour on turned elements, scratch points and lines from 7001,
-// group 11; draws on viewport; fails: as projectdraw, and subscript for a framing count beyond the tables.
+// group 11; draws on viewport; fails: as projectdraw does, and subscript for a framing count beyond the tables.
 void paintsolids();
 
 }  // namespace tessaly

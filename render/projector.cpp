@@ -20,7 +20,7 @@ namespace {
 constexpr int fullwalk = 299;  // steps into which a near-side walk divides a line
 constexpr double mappingscale = 15.2, mappingx = 730, mappingy = 490;  // viewport pixels
 
-// Eye, plane and focus as plain numbers, converted once per pass. A text that is not a number fails here.
+// Eye, plane and focus as plain numbers, converted once per pass. Conversion fails for a text that is not a number.
 struct sight {
     double ex, ey, ez;  // eye
     double dx, dy, dz;  // plane seed
@@ -96,9 +96,9 @@ bool walktofarside(const sight& s, int p, int o) {
             screeny.set(p, sentinel);
             return false;
         }
-        const double share = static_cast<double>(walkcount) / fullwalk;
-        setpoint(p, share * (savex[p] - ptx[o]) + ptx[o], share * (savey[p] - pty[o]) + pty[o],
-                 share * (savez[p] - ptz[o]) + ptz[o]);
+        const double fraction = static_cast<double>(walkcount) / fullwalk;
+        setpoint(p, fraction * (savex[p] - ptx[o]) + ptx[o], fraction * (savey[p] - pty[o]) + pty[o],
+                 fraction * (savez[p] - ptz[o]) + ptz[o]);
     }
     return true;
 }
@@ -115,14 +115,14 @@ void mapend(int e, double scale, double shiftright, double shiftup) {
     screeny.set(e, ((scale * -mappingscale) * planeup[e] + mappingy) - shiftup);
 }
 
-// Returns a line end as a point index. A report names the row that gave it.
+// Returns a line end as a point index. A report names the row that contains it.
 int lineend(const linetable& ends, int line, int end) {
-    const value& named = ends[line];
-    const double whole = nearestwhole(named);
+    const value& number = ends[line];
+    const double whole = nearestwhole(number);
     if (whole >= 0 && whole <= lastpoint) return static_cast<int>(whole);
     const int group = static_cast<int>(double(curgroup)), row = line - static_cast<int>(double(groupfirst[group])) + 1;
     throw failure(failurekind::subscript,
-                  "point " + plaintext(named) + ", a point 0.." + std::to_string(lastpoint) + " was expected",
+                  "point " + plaintext(number) + ", a point 0.." + std::to_string(lastpoint) + " was expected",
                   locationofend(group, row, end));
 }
 
@@ -256,15 +256,15 @@ void makeeyerelative() {
 }
 
 void nudgeview(bool (*same)(const value& focus, const value& eye)) {
-    constexpr double shares[] = {0.997, 0.998, 0.999}, replacement = 0.1;
-    if (same(focusx, perpx) && same(focusy, perpy)) perpx = perpx * shares[0];
-    if (same(focusx, perpx) && same(focusz, perpz)) perpx = perpx * shares[1];
-    if (same(focusy, perpy) && same(focusz, perpz)) perpy = perpy * shares[2];
+    constexpr double factors[] = {0.997, 0.998, 0.999}, replacement = 0.1;
+    if (same(focusx, perpx) && same(focusy, perpy)) perpx = perpx * factors[0];
+    if (same(focusx, perpx) && same(focusz, perpz)) perpx = perpx * factors[1];
+    if (same(focusy, perpy) && same(focusz, perpz)) perpy = perpy * factors[2];
     for (value* number : {&focusy, &focusx, &focusz, &perpx, &perpy, &perpz})
         if (*number == 0) *number = replacement;  // so that no divisor below is 0
-    if (perpx / perpy == focusx / focusy) perpx = perpx * shares[0];
-    if (perpx / perpz == focusx / focusz) perpx = perpx * shares[1];
-    if (perpy / perpz == focusy / focusz) perpy = perpy * shares[2];
+    if (perpx / perpy == focusx / focusy) perpx = perpx * factors[0];
+    if (perpx / perpz == focusx / focusz) perpx = perpx * factors[1];
+    if (perpy / perpz == focusy / focusz) perpy = perpy * factors[2];
 }
 
 void rebaseonfocus() {

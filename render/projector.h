@@ -8,9 +8,9 @@
 
 namespace tessaly {
 
-// Computes the bounds of the ten line groups, restores the eye of the present view and draws.
+// Computes the bounds of the ten line groups, restores the eye of the current view and draws.
 // reads: linecount1..10, plotstate, perprelx..; writes: groupfirst, grouplast, perpx.., refready, skipfixup;
-// fails: as projectdraw.
+// fails: as projectdraw does.
 void plotgroups();
 
 // Prepares the view (fix-up, scale, eye relative to the focus), makes the working points relative to the focus, draws

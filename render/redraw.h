@@ -7,7 +7,7 @@ namespace tessaly {
 // Clears viewport in the background colour, except row 0 and column 0. fails: as backgroundcolour.
 void clearpicture();
 
-// Clears viewport from (2, 2) on and draws the ten groups from the working points.
+// Clears viewport except its first two rows and columns, and draws the ten groups from the working points.
 // reads: points, groups, eye, mag, shifts, refready; writes: plane and screen tables, refready; fails: as projectdraw.
 void replot();
 
