@@ -1,4 +1,4 @@
-// The types of building elements, with one table each for panel types, snip parts and classes of design files.
+// The types of building elements, with one table each for panel types, snip types and classes of design files.
 // Names, codes and buttons of elements are derived from these rows and are written nowhere else.
 #pragma once
 
@@ -10,12 +10,11 @@
 
 namespace tessaly {
 
-// ---- snip parts: which ends of a panel are cut -------------------------------------------------
+// ---- snip types: which ends of a panel are cut -------------------------------------------------
 struct sniptype {
     const char* text;       // item of panelsnipper
     const control* button;  // sets that item; nullptr: the item has no button
-    const char*
-        nameinfix;  // after the prefix in the names of element files; four letters each, so "righ" is deliberate
+    const char* nameinfix;  // follows the prefix in names of element files; four letters, so "righ" is deliberate
 };
 inline constexpr sniptype sniptypes[] = {
     // clang-format off
@@ -30,7 +29,7 @@ inline constexpr sniptype sniptypes[] = {
 struct paneltype {
     const control* button;
     const char* prefix;               // of the names of element files
-    int codes[std::size(sniptypes)];  // in design records, by snip part
+    int codes[std::size(sniptypes)];  // in design records, by snip type
 };
 inline constexpr paneltype paneltypes[] = {
     // clang-format off

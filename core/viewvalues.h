@@ -40,13 +40,13 @@ inline constexpr viewvaluespan taggedvalues = viewvaluespan(viewvalues).first(7)
 // Sets a view value to the text of its box. It stays a text until arithmetic converts it; a failure then names the box.
 void readbox(const viewvalue& v);
 
-// Where a writer of the boxes takes the eye from: perpabsx.., which the projector computes, or perpsumx.., which
+// The sources of the absolute eye for the boxes: perpabsx.., which the projector computes, or perpsumx.., which
 // writeviewboxes computes.
 inline constexpr const value* absoluteeye[] = {&perpabsx, &perpabsy, &perpabsz};
 inline constexpr const value* summedeye[] = {&perpsumx, &perpsumy, &perpsumz};
 
-// The number of characters to which a writer cuts each number; 0: it does not write these boxes. The differences are
-// intended: SET on a shift of -1270 leaves "-127" in its box, and the next SET reads that.
+// The number of characters to which each number is cut; 0: these boxes are not written. The differences are intended:
+// SET with a shift of -1270 leaves "-127" in its box, and the next SET reads that.
 struct boxcuts {
     const value* const* eyesource;
     std::size_t eye, focus, mag, shifts;

@@ -11,6 +11,6 @@ std::string locationofend(int group, int row, int end);  // end 1 or 2 of a line
 std::string locationofwirecolour(int group);
 std::string locationofbadcorner(int face);  // the first corner that is not a point
 std::string locationofcolour(int face);
-std::string locationofframing(int face, int direction);  // by face: framing rows come in any order
+std::string locationofframing(int face, int direction);  // names the face, because framing rows come in any order
 
 }  // namespace tessaly
