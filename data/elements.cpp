@@ -24,9 +24,10 @@ void readpoints(textinput& in) {
     findkey(in, "STANDARD:");
     for (int n = 1; n <= lastpoint; ++n) {
         const int label = readwholenumber(in, "the label of a STANDARD: row");
-        const value x = readvalue(in, "x of a STANDARD: row"), y = readvalue(in, "y of a STANDARD: row"),
-                    z = readvalue(in, "z of a STANDARD: row");
-        placepoint(n, x, y, z);
+        ptx.set(n, readvalue(in, "x of a STANDARD: row"));
+        pty.set(n, readvalue(in, "y of a STANDARD: row"));
+        ptz.set(n, readvalue(in, "z of a STANDARD: row"));
+        placepoint(n, ptx[n], pty[n], ptz[n]);
         if (label == sentinel) {
             ptcount1 = n - 1;
             return;

@@ -35,6 +35,14 @@ TEST(readers, sectionsWithoutAnEndRowStopAtTheirLimit) {
     EXPECT_EQ(joined(ptcount1, linecount1, drawset), "0 0 1");
 }
 
+TEST(readers, fieldsBeforeAFailureStayInTheTables) {
+    session s(inownfolder);
+    session::write("datah/st-test.txt", "WIRECOLORS:\n1,2,3,4,5,6,7\nSTANDARD:\n1,20,30\n");
+    datafile = "st-test.txt";
+    EXPECT_EQ(failureof(readelements)->kind, failurekind::inputpastend);
+    EXPECT_EQ(joined(ptx[1], pty[1], basex[1]), "20 30 0");
+}
+
 TEST(readers, unusualPlacements) {
     session s(inownfolder);
     setview(1850, -1850, 550);
