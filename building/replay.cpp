@@ -113,10 +113,9 @@ void readtemporary(const temporaryfile& file, int n, recordcolumns columns,
         recordlength + 1 - static_cast<int>(columns.size());  // its number in the record; 0: precedes it
     textinput& in = openinput(2, file.path, "temporary file");
     for (std::size_t i = 0; i < static_cast<std::size_t>(n); ++i) {
-        if (i < file.origins.size() && !file.origins[i].path.empty()) {
-            in.path = file.origins[i].path;
-            in.nextlocation = {file.origins[i].line, firstfield};
-        }
+        const bool known = i < file.origins.size() && !file.origins[i].path.empty();
+        in.path = known ? file.origins[i].path : file.path;
+        in.nextlocation = known ? fieldlocation{file.origins[i].line, firstfield} : fieldlocation{int(i) + 1, 1};
         const fieldlocation record = {in.nextlocation.line, 1};
         const std::vector<value> fields = readrecord(in, columns);
         use(static_cast<int>(i) + 1, fields, in, record);

@@ -34,8 +34,8 @@ void appendtemporary(temporaryfile& file, const std::vector<recordorigin>& origi
                      const std::function<std::string(int i)>& line);
 
 // Reads the first n lines of a temporary file on channel 2. After each line k, calls use with its fields and, for
-// reports, the location of its record in the design file from which it came. fails: as openinput, readrecord and use;
-// the file then stays open.
+// reports, the location of its record in the design file from which it came, or in the temporary file if that is
+// unknown. fails: as openinput, readrecord and use; the file then stays open.
 void readtemporary(
     const temporaryfile& file, int n, recordcolumns columns,
     const std::function<void(int k, const std::vector<value>& fields, const textinput& in, fieldlocation record)>& use);
