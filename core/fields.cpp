@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <charconv>
 #include <cstdint>
-#include <cstdlib>
 
 namespace tessaly {
 
@@ -80,7 +79,7 @@ struct scanner {
         const char *const start = in.bytes.data() + in.position, *const fileend = in.bytes.data() + in.bytes.size();
         std::int64_t whole = 0;
         const auto [end, error] = std::from_chars(start, fileend, whole);
-        if (error != std::errc() || std::abs(whole) >= limit || !isseparator(*end)) return std::nullopt;
+        if (error != std::errc() || whole <= -limit || whole >= limit || !isseparator(*end)) return std::nullopt;
         if (whole == 0 && *start == '-') return std::nullopt;  // -0
         in.position += static_cast<std::size_t>(end - start);
         takeseparator();
