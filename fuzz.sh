@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
-# ./fuzz.sh TARGET SECONDS [ARGUMENT...]: installs missing packages, builds the fuzz program with the sanitizers and runs
-# it. The targets are the .play files of fuzz/. The other arguments are passed to libFuzzer.
-# The first inputs of a run are shipped files of its kind, fuzz/seeds/TARGET, and the inputs that earlier runs gathered
-# in build-fuzz/gathered/TARGET. A run ends at the first failure and saves its input in build-fuzz, as crash-*,
-# timeout-* or oom-*. When you have fixed the fault, add that file to the seeds.
+# ./fuzz.sh TARGET SECONDS [ARGUMENT...]: installs missing packages, builds the fuzz program with the sanitizers and
+# runs it. The targets are the .play files of fuzz/. The other arguments are passed to libFuzzer.
+# The first inputs of a run are the shipped files that suit the target, the files in fuzz/seeds/TARGET, and the inputs
+# that earlier runs gathered in build-fuzz/gathered/TARGET. A run ends at the first failure and saves its input in
+# build-fuzz, as crash-*, timeout-* or oom-*. When you have fixed the fault, add that file to the seeds.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")"
 . tools/setup.sh

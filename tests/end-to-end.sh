@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
-# Plays end-to-end.play in the real program, by mouse and keyboard, on several desktops: a plain one, one with a dark theme
-# and large letters, one with a locale that writes a decimal comma, a small screen, screens of 200 % and 150 % density.
-# Plays it again through the accessibility interface, on a separate session bus. Each time, viewport must show the pixels
-# that the player draws, and the folder must contain the files that the player writes. On desktops of normal density,
-# windows must look as on the plain desktop; on all, they must be completely on the screen. Saves pictures of the windows
-# in walk/ of the build folder.
+# Plays end-to-end.play in the real program, by mouse and keyboard, on several desktops: a plain one, one with a dark
+# theme and large letters, one with a locale that writes a decimal comma, a small screen, and screens of 200 % and 150 %
+# density. Plays it again through the accessibility interface, on a separate session bus. Each time, viewport must show
+# the pixels that the player draws, except at 150 %, and the folder must contain the files that the player writes. On
+# desktops of normal density, windows must look as on the plain desktop. By mouse and keyboard, each window that opens
+# must be completely on the screen. Saves pictures of the windows in walk/ of the build folder.
 set -euo pipefail
 [ -n "${DBUS_OF_THIS_TEST:-}" ] || DBUS_OF_THIS_TEST=yes exec dbus-run-session -- "$0"
 . "$(dirname "${BASH_SOURCE[0]}")/shared.sh"
@@ -17,8 +17,8 @@ workingfolder "$scratch/player"
 mkdir "$scratch/drawn"
 mv "$scratch"/player/*.png "$scratch/drawn"
 
-# drawn NAME: succeeds if viewport shows this picture of the player, scaled by the density. Always succeeds if the density
-# is not a whole number, because the screen then blends pixels.
+# drawn NAME: succeeds if viewport shows this picture of the player, scaled by the density. Always succeeds if the
+# density is not a whole multiple of 100 %, because the screen then blends pixels.
 drawn() {
     [ $((density % 100)) -eq 0 ] || return 0
     import -window "$main" -crop "$((896 * density / 100))x$((580 * density / 100))+$((120 * density / 100))+0" +repage \

@@ -2,11 +2,11 @@
 # Checks that every machine draws the same pixels. Builds the engine without Qt, plays buildings and views, and compares
 # checksums after each step with everymachine.txt: of the picture, the lines, and the numbers that they were computed
 # from. Reports the first step that differs; build-everymachine/*/tools/everymachine lists its lines and numbers.
-#   tests/everymachine.sh                  two compilers, without and with full optimization, a 64-bit ARM processor, and
-#                                          Windows. Also checks that it notices a build with contracted arithmetic
+#   tests/everymachine.sh                  two compilers, without and with full optimization, a 64-bit ARM processor
+#                                          and Windows; also checks that a build with contracted arithmetic is noticed
 #   tests/everymachine.sh all              also clang's standard library, a 32-bit and a big-endian processor; installs
 #                                          about 200 MB more, including wine to run the Windows programs
-#   tests/everymachine.sh "c++ -O3"...     these compilers with these options; needs only them and cmake
+#   tests/everymachine.sh "c++ -O3"...     the given compilers and options; needs only these compilers and cmake
 # Without wine, Windows programs are built and not run.
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1

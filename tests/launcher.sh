@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
-# Tests the launcher with a stand-in for the program, which only records its working folder and arguments: what the first
-# start creates, what later starts change and add, and that the program is not started without a usable working folder.
+# Tests the launcher with a stand-in for the program, which only records its working folder and arguments. Checks what
+# the first start creates, what later starts change and add, and that the program is not started without a usable
+# working folder.
 set -euo pipefail
 . "$(dirname "${BASH_SOURCE[0]}")/shared.sh"
 

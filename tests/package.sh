@@ -15,7 +15,7 @@ for wanted in 'Package: tessaly$' 'Maintainer: .*@' 'Description: .' 'Depends: .
 done
 apt-get -qq --simulate install "$package" >/dev/null || fail "a dependency of the package is not available"
 
-hardened=hardening-no-bindnow,hardening-no-fortify-functions # these two are only of informational level
+hardened=hardening-no-bindnow,hardening-no-fortify-functions # lintian ranks these two as information only
 said=$(lintian --allow-root "$package" 2>&1 && lintian --allow-root --display-info --tags $hardened "$package" 2>&1) &&
     [ -z "$said" ] || fail "lintian: $said"
 

@@ -1,5 +1,5 @@
-# Shared by the scripts of this folder, which source it: a temporary folder, a virtual screen for the real program, and a
-# user who plays a script by mouse and keyboard. Procedures wait for an expected state, not for a fixed time.
+# Shared by the scripts of this folder, which source it: a temporary folder, a virtual screen for the real program, and
+# procedures that play a script by mouse and keyboard. They wait for an expected state, not for a fixed time.
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
 . "$root/tools/workingfolder.sh"
@@ -30,7 +30,7 @@ trap 'stopscreen; rm -rf "$scratch"' EXIT
 waitfor() {
     local what=$1 deadline=$((SECONDS + 20))
     until "${@:2}"; do
-        [ $SECONDS -lt $deadline ] || fail "waited in vain for $what"
+        [ $SECONDS -lt $deadline ] || fail "timed out while waiting for $what"
         sleep 0.05
     done
 }
@@ -62,8 +62,8 @@ programended() {
     [ "$status" -eq "$1" ] || fail "the program ended with status $status, not $1"
 }
 
-# shown MINWIDTH TITLE: succeeds if the screen shows a window with this title that is wide enough. Sets window to its id,
-# and X, Y, WIDTH and HEIGHT to its bounds.
+# shown MINWIDTH TITLE: succeeds if the screen shows a window with this title that is wide enough. Sets window to its
+# id, and X, Y, WIDTH and HEIGHT to its bounds.
 shown() {
     local WINDOW SCREEN id
     for id in $(xdotool search --onlyvisible --name "^$2\$" 2>/dev/null); do
@@ -88,9 +88,9 @@ clickon() {
 }
 
 # playbymouse: plays the lines of a player's script from standard input by mouse and keyboard, starting at the start
-# window. A comment after a line gives more: "# X Y" is a position in the window that was opened last; "# opens MINWIDTH
-# TITLE" is a window that the line opens, which must be completely on the screen, with one pixel allowed for rounding.
-# For the lines "picture NAME.png" and the comment "# look NAME" it calls pictured and looked of the sourcing script.
+# window. A comment after a line adds details: "# X Y" is a position in the window that was opened last; "# opens
+# MINWIDTH TITLE" is a window that the line opens, which must be completely on the screen, with one pixel allowed for
+# rounding. For a line "picture NAME.png" and a comment "# look NAME", calls pictured and looked of the sourcing script.
 playbymouse() {
     local action hint command name text x y title X Y WIDTH HEIGHT
     waitfor "the start window" shown 800 "Tessaly Girder and Panel"

@@ -113,8 +113,8 @@ tower() {
     echo "click exitbtn"
 }
 
-# samples NAME: plays NAME and moves its design files to FOLDER, as girdNAM1.txt, paneNA1.txt and roofN1.txt. The readers
-# expect the first four letters and the floor digit (0 for the tenth floor) in these positions.
+# samples NAME: plays NAME and moves its design files to FOLDER, as girdNAM1.txt, paneNA1.txt and roofN1.txt. The
+# readers expect the first four letters and the floor digit (0 for the tenth floor) in these positions.
 samples() {
     local name=$1 scratch file floor
     scratch=$(mktemp -d)

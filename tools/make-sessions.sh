@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# tools/make-sessions.sh NAME... | --all: plays these sessions of tests/sessions and writes their expected records again.
-# Shows how each record differs: review every line, because users see these changes. Refuses to replace a record that
-# has uncommitted changes.
+# tools/make-sessions.sh NAME... | --all: plays these sessions of tests/sessions, or all, and writes their expected
+# records again. Shows how each record differs: review every line, because users see these changes. Refuses to replace
+# a record that has uncommitted changes.
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 . tools/setup.sh

@@ -48,8 +48,8 @@ wantpackages() {
 
 export CMAKE_GENERATOR=${CMAKE_GENERATOR:-Ninja} # used for new build folders only
 
-# build PRESET TARGET...: configures with a preset of CMakePresets.json, which is quick if nothing has changed, and builds
-# the targets, or those of the preset if none is given, on all cores.
+# build PRESET TARGET...: configures with a preset of CMakePresets.json, which is quick if nothing has changed, and
+# builds the targets, or those of the preset if none is given, on all cores.
 build() {
     local preset=$1 targets=() version
     shift
