@@ -1,4 +1,4 @@
-// F6: the list of its replays, and the state after it compared with the state after the same picks by hand.
+// The key F6: which files it replays in which order, and whether it has the same effect as picking them in the lists.
 #include "building/wholebuilding.h"
 #include "core/viewvalues.h"
 #include "tests/session.h"
@@ -11,7 +11,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// Returns "girders1.txt:5 roofs1.txt" as files with 5 records and with 1.
+// Returns the files of a text such as "girders1.txt:5 roofs1.txt": the first has 5 records, the second has 1.
 std::vector<countedfile> countedfiles(const std::string& words) {
     std::vector<countedfile> files;
     std::istringstream all(words);
@@ -22,18 +22,18 @@ std::vector<countedfile> countedfiles(const std::string& words) {
     return files;
 }
 
-// Returns replays as "girders1.txt+panels1.txt roofs1.txt": of a pair, then of a single file.
-std::string textof(const std::vector<replaystep>& steps) {
+// Returns replays as a text. "girders1.txt+panels1.txt roofs1.txt": two files together, then a single file.
+std::string replaystext(const std::vector<replaystep>& steps) {
     std::string text;
     for (const replaystep& s : steps)
         text += (text.empty() ? "" : " ") + s.first + (s.second.empty() ? "" : "+" + s.second);
     return text;
 }
 
-// Returns the script that picks such replays by hand; the names are without endings.
-std::string picks(const std::string& steps) {
+// Returns the script that picks the files of such a text in the lists; its names lack the extension.
+std::string pickscript(const std::string& replays) {
     std::string script;
-    std::istringstream words(steps);
+    std::istringstream words(replays);
     for (std::string word; words >> word;) {
         const std::size_t plus = word.find('+');
         script += plus == std::string::npos ? "click autosolidsingle\npick autofile5 \"" + word + ".txt\"\n"
@@ -43,12 +43,12 @@ std::string picks(const std::string& steps) {
     return script;
 }
 
-// Copies the samples of the house (h) or the tower (t) to designs, starts the program and plays a script. Returns the
-// state after it.
-std::string stateafter(const std::string& samples, const std::string& script) {
+// Copies samples to designs: those of the house if buildings contains "h", those of the tower if it contains "t", the
+// fifth letter of their names. Then starts the program and plays a script. Returns the state after it.
+std::string stateafter(const std::string& buildings, const std::string& script) {
     session s;
     for (const auto& file : fs::directory_iterator(TESSALY_SOURCE_DIR "/samples"))
-        if (samples.find(file.path().filename().string()[4]) != std::string::npos) fs::copy(file.path(), "designs");
+        if (buildings.find(file.path().filename().string()[4]) != std::string::npos) fs::copy(file.path(), "designs");
     viewportsurface = &playedsurface;
     progresssurface = &playedstrip;
     playedsurface.image.clear();
@@ -61,9 +61,9 @@ std::string stateafter(const std::string& samples, const std::string& script) {
     return state;
 }
 
-void expectsamebyhand(const std::string& samples, const std::string& before, const std::string& steps) {
-    EXPECT_EQ(stateafter(samples, before + "key F6\n"),
-              stateafter(samples, before + "click fillscreen\n" + picks(steps)))
+void expectsameaspicks(const std::string& buildings, const std::string& before, const std::string& replays) {
+    EXPECT_EQ(stateafter(buildings, before + "key F6\n"),
+              stateafter(buildings, before + "click fillscreen\n" + pickscript(replays)))
         << before;
 }
 
@@ -71,20 +71,20 @@ void expectsamebyhand(const std::string& samples, const std::string& before, con
 
 // NOT-BUGS: F6 pairs the wrong girders with my panels
 // NOT-BUGS: F6 draws the panels of a floor over its girders
-TEST(wholebuilding, listsItsReplaysWithoutDrawing) {
+TEST(wholebuilding, ordersAndPairsTheFiles) {
     const struct {
-        const char *files, *steps;
+        const char *files, *replays;
     } rows[] = {
         {"", ""},
         {"girders1.txt:0 panels1.txt:0", ""},
         {"girders1.txt", "girders1.txt"},
         {"roofs1.txt panels1.txt girders1.txt", "girders1.txt+panels1.txt roofs1.txt"},
-        // pairs of a floor in the order of their names, then single files, then roofs
+        // on a floor, first the girders and panels by name, in pairs while there are both, then the roofs
         {"girdersa.txt girdera1.txt girders1.txt panels1.txt roofb1.txt roofa1.txt",
          "girdera1.txt+panels1.txt girders1.txt roofa1.txt roofb1.txt"},
         {"girders1.txt panela1.txt panelb1.txt", "girders1.txt+panela1.txt panelb1.txt"},
         {"girdera1.txt:0 girders1.txt panels1.txt", "girders1.txt+panels1.txt"},  // an empty file is not paired
-        // floors 1 to 9, then 10: a name with the digit 0, or one of three names
+        // floor 10 is the last: the files with the digit 0, and girders10.txt, panels10.txt and roofs10.txt
         {"girders2.txt girder10.txt girders9.txt panels1.txt", "panels1.txt girders2.txt girders9.txt girder10.txt"},
         {"girders10.txt panels10.txt roofs10.txt girders1.txt panels1.txt roofs1.txt",
          "girders1.txt+panels1.txt roofs1.txt girders10.txt+panels10.txt roofs10.txt"},
@@ -99,26 +99,26 @@ TEST(wholebuilding, listsItsReplaysWithoutDrawing) {
         {"Girders1.txt girdersx.txt house1.txt gird roof notes panels.txt", ""},
         {"gird5 roof4 pane1s3.txt girde\u00e9s3.txt", "girde\u00e9s3.txt+pane1s3.txt roof4 gird5"},
     };
-    for (const auto& row : rows) EXPECT_EQ(textof(replaysteps(countedfiles(row.files))), row.steps) << row.files;
+    for (const auto& row : rows) EXPECT_EQ(replaystext(replaysteps(countedfiles(row.files))), row.replays) << row.files;
 }
 
-TEST(wholebuilding, leavesWhatThePicksByHandLeave) {
-    const char* const set =
+TEST(wholebuilding, hasTheSameEffectAsPickingTheFiles) {
+    const char* const typedview =
         "click shopfm\ntype perptxtx \"1500\"\ntype perptxtz \"1200\"\ntype magtxt \".04\"\nclick cventerbtn\n";
     const std::string house = "girdhou1+paneho1 roofh1 girdhou2+paneho2 roofh2";
     for (const char* view :
          {"", "click vertperpplusbtn\n", "click vertfocusminusbtn\n", "click magplusbtn\nclick magplusbtn\n",
           "click vertinc\nclick horizdec\n", "click defaultviewbtn\n", "click groupbtn\n",
           "click activateleftbtn\nclick rotleftbtn\nclick rotleftbtn\n",
-          "click fastchange\nclick perpx0y1800\nclick cventerbtn\n", set,
+          "click fastchange\nclick perpx0y1800\nclick cventerbtn\n", typedview,
           "click screencapbtn\ntype capbox \"a.bmp\"\nclick screencapenter\nclick vertinc\nclick retrieveimagetbtn\n"
           "pick bmplistbox \"a.bmp\"\nclick displayimagebtn\n"})
-        expectsamebyhand("h", view, house);
-    // with files of a click, and a list that is open
-    expectsamebyhand("h", "click yellow2btn\nclick pan0x0y0\nclick roofbtn\nclick roofx0y0\nclick autosolidsingle\n",
-                     "girdhou1+paneho1 panels1 roofh1 roofs1 girdhou2+paneho2 roofh2");
-    expectsamebyhand("ht", set,
-                     "girdhou1+paneho1 girdtow1+paneto1 roofh1 girdhou2+paneho2 girdtow2+paneto2 roofh2 "
-                     "girdtow3+paneto3 girdtow4+paneto4 girdtow5+paneto5 girdtow6+paneto6 girdtow7+paneto7 "
-                     "girdtow8+paneto8 girdtow9+paneto9 girdtow0+paneto0 rooft0");
+        expectsameaspicks("h", view, house);
+    // with files that clicks recorded, while a list is open
+    expectsameaspicks("h", "click yellow2btn\nclick pan0x0y0\nclick roofbtn\nclick roofx0y0\nclick autosolidsingle\n",
+                      "girdhou1+paneho1 panels1 roofh1 roofs1 girdhou2+paneho2 roofh2");
+    expectsameaspicks("ht", typedview,
+                      "girdhou1+paneho1 girdtow1+paneto1 roofh1 girdhou2+paneho2 girdtow2+paneto2 roofh2 "
+                      "girdtow3+paneto3 girdtow4+paneto4 girdtow5+paneto5 girdtow6+paneto6 girdtow7+paneto7 "
+                      "girdtow8+paneto8 girdtow9+paneto9 girdtow0+paneto0 rooft0");
 }

@@ -1,4 +1,5 @@
-// The keyboard in the real windows: where the focus goes, and what Return, Escape, Tab, the arrows and F keys do.
+// The keyboard in the real windows: where the focus goes, and what Return, Escape, Tab, arrow keys and F5 do. The words
+// that keys() plays are explained in tests/windowsession.h.
 
 #include "core/viewvalues.h"
 #include "core/world.h"
@@ -12,8 +13,8 @@ namespace tessaly {
 
 using windows_keys = windowsession;
 
-// A control that hides itself gives the focus to the control that opened it, where the next key does no harm.
-TEST_F(windows_keys, theFocusGoesBackToWhatOpenedAControlThatHidesItself) {
+// If the next key went to some other control instead, it could click that.
+TEST_F(windows_keys, aControlThatHidesItselfGivesTheFocusToItsOpener) {
     keys(R"(postbeambtn Return =layoutgirder Right Return
         floorbtn Return =floorlist Return =floorbtn
         incrementbtn Return =incrementlist Return =incrementbtn
@@ -30,11 +31,11 @@ TEST_F(windows_keys, theFocusGoesBackToWhatOpenedAControlThatHidesItself) {
         displayfilelistbtn Return =designfileslist closefilelistbtn Return =displayfilelistbtn
         Return =designfileslist Return killfilebtn Return =displayfilelistbtn
         rotleftbtn)");
-    runevent([] { clickcontrol(defaultviewbtn); });  // which hides it and the control that opened it
+    runevent([] { clickcontrol(defaultviewbtn); });  // hides the focused rotleftbtn, whose opener is already hidden
     keys("=vistaplan");
 }
 
-TEST_F(windows_keys, escapeClosesWhatIsOpenAndNothingElse) {
+TEST_F(windows_keys, escapeClosesOnlyTheWindowOrListInUse) {
     keys(R"(autosolidsingle Return =autofile5 Escape =autosolidsingle
         retrieveimagetbtn Return =bmplistbox capbox Return bmplistbox Escape =retrieveimagetbtn
         postbeambtn Return =layoutgirder Escape -layoutgirder
@@ -50,18 +51,18 @@ TEST_F(windows_keys, escapeClosesWhatIsOpenAndNothingElse) {
     EXPECT_TRUE(std::filesystem::is_empty("bmps"));
 }
 
-// Escape closes the list or prompt that the focused control belongs to, whatever else is open.
-TEST_F(windows_keys, escapeOnEachControlClosesWhatItBelongsTo) {
+// Escape closes the list or dialog to which the focused control belongs, even if all others are open.
+TEST_F(windows_keys, escapeClosesTheListOfTheFocusedControl) {
     session::write("designs/girders1.txt", "");
     session::write("bmps/house.bmp", "");
-    const std::vector<std::vector<control*>> groups{
+    const std::vector<std::vector<control*>> closedtogether{
         {&capescapebtn, &capbox, &screencapenter},
         {&escapefilelistbtn, &autofile, &autofile1, &autofile3, &autofile5},
         {&closefilelistbtn, &designfileslist, &killfilebtn},
         {&closebmpbtn, &bmplistbox, &displayimagebtn, &delbmpbtn},
     };
-    for (const auto& group : groups)
-        for (const control* focused : group) {
+    for (const auto& these : closedtogether)
+        for (const control* focused : these) {
             SCOPED_TRACE(focused->name);
             runevent([] {
                 for (control* opener : {&screencapbtn, &autowiresingle, &autosolidsingle, &autowirebtn, &autosolidbtn,
@@ -71,13 +72,13 @@ TEST_F(windows_keys, escapeOnEachControlClosesWhatItBelongsTo) {
             });
             widgetof(*focused)->setFocus();
             QTest::keyClick(widgetof(*focused), Qt::Key_Escape);
-            for (const auto& other : groups)
-                EXPECT_EQ(other.front()->shown && other.back()->shown, other != group) << other.front()->name;
+            for (const auto& others : closedtogether)
+                EXPECT_EQ(others.front()->shown && others.back()->shown, others != these) << others.front()->name;
         }
 }
 
-// The arrow keys reach every position of a plan, and first the nearest in their direction.
-TEST_F(windows_keys, arrowsWalkThePlans) {
+// An arrow key moves the focus to the nearest position button in its direction. The arrow keys reach every button.
+TEST_F(windows_keys, arrowKeysReachEveryPosition) {
     keys(R"(postbeambtn Return postx0y16 Right =beamx0y16 postx0y16 Down =vbeamx16y16
         beamx0y16 Down =beamx192y16
         orange1btn Return pan270x0y208 Down =pan90x16y0 pan0x0y192 Right =pan180x208y208
@@ -103,7 +104,7 @@ TEST_F(windows_keys, arrowsWalkThePlans) {
     }
 }
 
-TEST_F(windows_keys, tabGoesThroughTheBoxesOfTheViewAndF5SetsThem) {
+TEST_F(windows_keys, tabVisitsTheBoxesOfTheViewAndF5AppliesThem) {
     keys(R"(postbeambtn Return =layoutgirder Right Return Down Down Return Escape
         orange1btn Space =layoutpanels panelsnipper Down pan270x0y208 Return
         autosolidbtn Return =autofile3 Return =autofile4 Down Return =autosolidbtn
@@ -115,10 +116,10 @@ TEST_F(windows_keys, tabGoesThroughTheBoxesOfTheViewAndF5SetsThem) {
     EXPECT_EQ(perptxtx.text + " " + perptxty.text, "0.1 1800");
 }
 
-// A held key presses once; only buttons that step repeat.
-TEST_F(windows_keys, aHeldKeyIsOnePressButForSteps) {
-    // p: press, R: repeat that Qt marks, u: release. On X11 Qt may not mark a repeat, a release and a press at one
-    // time.
+// A held key clicks a button only once, unless it is a stepping button.
+TEST_F(windows_keys, onlySteppingButtonsRepeatWhileAKeyIsHeld) {
+    // p: a press, R: a press that Qt marks as a repeat, u: a release. On X11, a repeat is a release and a press with
+    // the same time, which Qt may not mark.
     const auto hold = [](const control& c, Qt::Key key) {
         widgetof(c)->setFocus();
         quint64 time = 1000;  // ms
@@ -130,19 +131,19 @@ TEST_F(windows_keys, aHeldKeyIsOnePressButForSteps) {
             QApplication::sendEvent(widgetof(c), &event);
         }
     };
-    const auto records = [] {
+    const auto recordcount = [] {
         const std::string file = session::file("designs/girders1.txt");
         return std::count(file.begin(), file.end(), '\n');
     };
     keys("postbeambtn Return =layoutgirder");
     hold(*findcontrol("postx0y16"), Qt::Key_Return);
-    EXPECT_EQ(records(), 1);
+    EXPECT_EQ(recordcount(), 1);
     hold(*findcontrol("postx0y16"), Qt::Key_Space);
-    EXPECT_EQ(records(), 2);
+    EXPECT_EQ(recordcount(), 2);
     QTest::mousePress(widgetof(*findcontrol("postx0y16")), Qt::LeftButton);
-    QTest::qWait(700);
+    QTest::qWait(700);  // longer than the delay of a repeating button
     QTest::mouseRelease(widgetof(*findcontrol("postx0y16")), Qt::LeftButton);
-    EXPECT_EQ(records(), 3);
+    EXPECT_EQ(recordcount(), 3);
     hold(*findcontrol("postx0y16"), Qt::Key_Escape);
     keys("-layoutgirder =postbeambtn");
     hold(autosolidsingle, Qt::Key_Return);
@@ -153,7 +154,7 @@ TEST_F(windows_keys, aHeldKeyIsOnePressButForSteps) {
     keys("magplusbtn");
     const double before = mag;
     hold(magplusbtn, Qt::Key_Return);
-    EXPECT_NEAR(mag - before, 7 * 0.01, 1e-9);
+    EXPECT_NEAR(mag - before, 7 * 0.01, 1e-9);  // four presses and three marked repeats
     QTest::mousePress(widgetof(magminusbtn), Qt::LeftButton);
     EXPECT_TRUE(QTest::qWaitFor([&] { return mag < before; }));
     QTest::mouseRelease(widgetof(magminusbtn), Qt::LeftButton);

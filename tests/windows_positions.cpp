@@ -1,4 +1,4 @@
-// Every window after its start: positions as in the tables, captions complete, no control over another.
+// The bounds, captions and overlaps of the controls in every window, and where windows and help pages open.
 
 #include "tests/windowsession.h"
 #include "windows/helppages.h"
@@ -16,12 +16,13 @@ using windows_positions = windowsession;
 
 namespace {
 
-constexpr int minpixels = 10;  // of readable letters
+constexpr int readablepixels = 10;  // smallest size of letters
 
-bool hasbounds(const control& c, const QRect& seen) {
+// Allows a difference of a pixel, because twips are rounded.
+bool hasbounds(const control& c, const QRect& actual) {
     const QRect bounds(c.bounds.left / twipsperpixel, c.bounds.top / twipsperpixel, c.bounds.width / twipsperpixel,
                        c.bounds.height / twipsperpixel);
-    return bounds.adjusted(-1, -1, 1, 1).contains(seen) && seen.adjusted(-1, -1, 1, 1).contains(bounds);
+    return bounds.adjusted(-1, -1, 1, 1).contains(actual) && actual.adjusted(-1, -1, 1, 1).contains(bounds);
 }
 
 bool captionfits(const control& c, const QWidget& widget) {
@@ -30,14 +31,15 @@ bool captionfits(const control& c, const QWidget& widget) {
     if (c.kind != controlkind::button || c.text.empty()) return true;
     const captionlayout caption =
         layoutcaption(QString::fromStdString(c.text).simplified(), widget.size(), widget.font());
-    return caption.fits && caption.font.pixelSize() >= minpixels;
+    return caption.fits && caption.font.pixelSize() >= readablepixels;
 }
 
-// Positions that meet, as a beam and its posts or the panels around a corner, share their rims by design.
-bool covers(const control& a, const control& b) {
+// Neighbouring position buttons, such as those of a beam and its posts, overlap a little by design.
+bool overlap(const control& a, const control& b) {
     if (!a.shown || !b.shown || b.kind == controlkind::frame) return false;
     const QRect shared = widgetof(a)->geometry() & widgetof(b)->geometry();
-    return std::min(shared.width(), shared.height()) > (a.elementnumber && b.elementnumber ? 5 : 0);
+    const int allowed = a.elementnumber && b.elementnumber ? 5 : 0;  // pixels
+    return std::min(shared.width(), shared.height()) > allowed;
 }
 
 }  // namespace
@@ -60,7 +62,7 @@ TEST_F(windows_positions, controlsAreAtTheirPositionsAndCompletelyVisible) {
             if (c->kind == controlkind::frame) continue;
             EXPECT_FALSE(widget.accessibleName().isEmpty());  // what a screen reader says
             EXPECT_TRUE(c->accessiblename.empty() || widget.accessibleName().toStdString() == c->accessiblename);
-            for (const control* other : w->controls) EXPECT_FALSE(other != c && covers(*c, *other)) << other->name;
+            for (const control* other : w->controls) EXPECT_FALSE(other != c && overlap(*c, *other)) << other->name;
         }
     EXPECT_EQ(widgetof(viewport)->geometry(), QRect(120, 0, 897, 581));
     EXPECT_EQ(widgetof(*findcontrol("beamx192y400"))->geometry(), QRect(208, 112, 65, 17));
@@ -74,9 +76,9 @@ TEST_F(windows_positions, controlsAreAtTheirPositionsAndCompletelyVisible) {
     }
 }
 
-// At the right of the screen, in front of the main window, and completely on the screen.
+// A window opens at the right of the screen, in front of the main window, and does not extend beyond the screen.
 TEST_F(windows_positions, windowsOpenAtTheRightAndOnTheScreen) {
-    constexpr int border = 2;  // pixels: by which the desktop moves the interior
+    constexpr int border = 2;  // pixels by which a window border shifts the interior
     const QRect screen = frameof(vistaplan)->screen()->availableGeometry().adjusted(0, 0, border, border);
     EXPECT_TRUE(screen.contains(frameof(vistaplan)->geometry()));
     int previoustop = -1;
@@ -100,18 +102,18 @@ TEST_F(windows_positions, windowsOpenAtTheRightAndOnTheScreen) {
     EXPECT_TRUE(frameof(layoutgirder)->isVisible());
 }
 
-TEST_F(windows_positions, helpPagesOpenAtTheirTopAndTheirRegionStaysMarked) {
+TEST_F(windows_positions, helpPagesOpenAtTheirTopAndTheirButtonStaysMarked) {
     keys("=vistaplan F1 =instructions");
     QScrollBar& bar = *frameof(instructions)->verticalScrollBar();
-    control* const regions[] = {&elementsbtn, &filereaderbtn, &displaybtn, &viewcontrolbtn, &capturesbtn};
-    for (control* region : regions) {
-        keys(region->name);  // by Tab, wherever it is
-        const QRect seen = widgetof(*region)->visibleRegion().boundingRect();
-        EXPECT_GT(seen.height(), 100) << region->name;
+    control* const pagebuttons[] = {&elementsbtn, &filereaderbtn, &displaybtn, &viewcontrolbtn, &capturesbtn};
+    for (control* pagebutton : pagebuttons) {
+        keys(pagebutton->name);  // by Tab, from wherever the focus is
+        const QRect visible = widgetof(*pagebutton)->visibleRegion().boundingRect();
+        EXPECT_GT(visible.height(), 100) << pagebutton->name;
         bar.setValue(bar.maximum());
         keys("Return");
         EXPECT_EQ(bar.value(), 0);
-        for (const control* other : regions) EXPECT_EQ(other->chosen, other == region) << other->name;
+        for (const control* other : pagebuttons) EXPECT_EQ(other->chosen, other == pagebutton) << other->name;
     }
 }
 
