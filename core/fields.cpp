@@ -1,4 +1,4 @@
-// The field rules, in one scanner over the bytes of an open file.
+// The scanner that splits the bytes of an open file into fields.
 
 #include "core/fields.h"
 
@@ -17,43 +17,43 @@ bool isseparator(char c) { return c == ',' || islineend(c); }
 
 struct scanner {
     textinput& in;
-    const char* role;  // of the field, for reports
+    const char* role;  // as in fields.h
 
     bool atend() const { return in.position >= in.bytes.size(); }
-    char next() const { return in.bytes[in.position]; }  // 0 at the end of the file
+    char peek() const { return in.bytes[in.position]; }  // 0 at the end of the file
     std::string location() const { return in.location() + " (" + role + ")"; }
 
-    // Returns the bytes before the next one for which ends is true, or before the end of the file.
+    // Returns the bytes before the first one for which isend is true, or before the end of the file.
     template <class predicate>
-    std::string_view upto(predicate ends) const {
+    std::string_view bytesbefore(predicate isend) const {
         const char *const start = in.bytes.data() + in.position, *const fileend = in.bytes.data() + in.bytes.size();
-        return {start, static_cast<std::size_t>(std::find_if(start, fileend, ends) - start)};
+        return {start, static_cast<std::size_t>(std::find_if(start, fileend, isend) - start)};
     }
     void skipblanks() {
-        while (isblank(next())) ++in.position;
+        while (isblank(peek())) ++in.position;
     }
     // A carriage return and a line feed count as one line end.
     void takelineend() {
-        if (next() == '\r' && in.bytes[in.position + 1] == '\n') ++in.position;
+        if (peek() == '\r' && in.bytes[in.position + 1] == '\n') ++in.position;
         ++in.position;
         ++in.nextlocation.line;
         in.nextlocation.field = 1;
     }
-    // Ends a field. After a number that a blank ends, no separator need follow.
+    // Skips the separator after a field. A number that ends at a blank may have none.
     void takeseparator() {
         if (atend()) return;
-        if (islineend(next())) return takelineend();
-        if (next() == ',') ++in.position;
+        if (islineend(peek())) return takelineend();
+        if (peek() == ',') ++in.position;
         ++in.nextlocation.field;
     }
-    // Skips blank lines, and the line end after the comma of a row that continues.
+    // Skips blank lines, and a line end after a comma, where a row continues on the next line.
     void skiplineends() {
-        for (skipblanks(); islineend(next()); skipblanks()) takelineend();
+        for (skipblanks(); islineend(peek()); skipblanks()) takelineend();
     }
-    // Skips the line end after the comma of a row that continues.
+    // Skips a line end after a comma, where a row continues on the next line.
     void skipcontinuation() {
         skipblanks();
-        if (in.nextlocation.field > 1 && islineend(next())) takelineend();
+        if (in.nextlocation.field > 1 && islineend(peek())) takelineend();
         skipblanks();
     }
     // Takes a text, in quotes or up to the comma or line end, and the separator after it. Quotes may contain line ends.
@@ -61,9 +61,9 @@ struct scanner {
         if (atend())
             throw failure(failurekind::inputpastend, std::string("the file ends while looking for ") + role,
                           in.location());
-        const bool quoted = next() == '"';
+        const bool quoted = peek() == '"';
         if (quoted) ++in.position;
-        const std::string_view text = upto([quoted](char c) { return quoted ? c == '"' : isseparator(c); });
+        const std::string_view text = bytesbefore([quoted](char c) { return quoted ? c == '"' : isseparator(c); });
         in.position += text.size();
         if (quoted) {
             in.nextlocation.line += static_cast<int>(std::count(text.begin(), text.end(), '\n'));
@@ -74,7 +74,7 @@ struct scanner {
         return text;
     }
     // Takes a whole number of up to fifteen digits if a separator follows it. Most fields are such numbers.
-    std::optional<double> takewhole() {
+    std::optional<double> takewholenumber() {
         constexpr std::int64_t limit = 1'000'000'000'000'000;
         const char *const start = in.bytes.data() + in.position, *const fileend = in.bytes.data() + in.bytes.size();
         std::int64_t whole = 0;
@@ -87,8 +87,8 @@ struct scanner {
     }
     std::optional<double> takenumber() {
         if (!noshortcuts)
-            if (const auto whole = takewhole()) return whole;
-        const std::string_view text = upto([](char c) { return isblank(c) || isseparator(c); });
+            if (const auto whole = takewholenumber()) return whole;
+        const std::string_view text = bytesbefore([](char c) { return isblank(c) || isseparator(c); });
         try {
             const auto number = strictnumber(text);
             if (!number) return std::nullopt;
@@ -103,7 +103,7 @@ struct scanner {
     }
     // Takes the field that starts here, after its blanks.
     value takevalue() {
-        const bool quoted = next() == '"';
+        const bool quoted = peek() == '"';
         if (!quoted)
             if (const auto number = takenumber()) return *number;
         const std::string origin = location();
@@ -153,7 +153,7 @@ void findkey(textinput& in, const char* key) {
         s.skipcontinuation();
         if (s.atend())
             throw failure(failurekind::inputpastend,
-                          "the key " + std::string(key) + " is missing from line " + std::to_string(firstline) + " on",
+                          "there is no key " + std::string(key) + " in line " + std::to_string(firstline) + " or later",
                           shortpath(in.path));
         if (s.taketext() == key) return;
     }
