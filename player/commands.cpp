@@ -25,7 +25,7 @@ namespace tessaly {
 namespace {
 
 std::string readname(scriptline& line) {
-    std::string name(line.word());
+    std::string name(line.takeword());
     if (name.empty()) throw scripterror("a name was expected");
     return name;
 }
@@ -49,7 +49,7 @@ void click(scriptline& line) {
 
 void pick(scriptline& line) {
     control& c = reachablecontrol(line, {controlkind::list, controlkind::filelist, controlkind::combobox}, "a list");
-    const std::string text = line.quoted();
+    const std::string text = line.takequoted();
     line.expectend();
     const auto item = std::find(c.items.begin(), c.items.end(), text);
     if (item == c.items.end()) throw scripterror(c.name + " has no entry " + inquotes(text));
@@ -58,7 +58,7 @@ void pick(scriptline& line) {
 
 void type(scriptline& line) {
     control& c = reachablecontrol(line, {controlkind::textbox, controlkind::combobox}, "a box to type into");
-    const std::string text = line.quoted();
+    const std::string text = line.takequoted();
     line.expectend();
     c.text = text;
 }
@@ -111,12 +111,12 @@ void showstate(scriptline& line) {
 void lines(scriptline& line) {
     if (!playedsurface.endlog()) throw scripterror("the file of the drawn lines cannot be written");
     if (line.atend()) return;
-    const std::string path = line.filename();
+    const std::string path = line.takefilename();
     if (!playedsurface.startlog(path)) throw scripterror("the file " + path + " cannot be written");
 }
 
 void picture(scriptline& line) {
-    const std::string path = line.filename();
+    const std::string path = line.takefilename();
     try {
         savepicture(playedsurface.image, path);
     } catch (const failure& f) {
@@ -125,7 +125,7 @@ void picture(scriptline& line) {
 }
 
 // Returns the path of a file that scripts may change: one in the working folder.
-std::filesystem::path ownfile(const std::string& name) {
+std::filesystem::path scratchfile(const std::string& name) {
     std::filesystem::path path = std::filesystem::path(name).lexically_normal();
     if (path.empty() || path.is_absolute() || *path.begin() == "..")
         throw scripterror(name + " is not in the working folder");
@@ -147,13 +147,13 @@ struct editedfile {
     std::string before;
 };
 
-// Reads FILE "TEXT" "OTHER" and replaces the first TEXT in the file with OTHER, or the complete file if TEXT is empty.
+// Reads FILE "TEXT" "NEW" and replaces the first TEXT in the file with NEW, or the complete file if TEXT is empty.
 editedfile editfile(scriptline& line) {
-    const auto path = ownfile(readname(line));
-    const std::string text = line.quoted(), other = line.quoted(), before = readfile(path);
+    const auto path = scratchfile(readname(line));
+    const std::string text = line.takequoted(), replacement = line.takequoted(), before = readfile(path);
     const std::size_t at = before.find(text);
     if (at == std::string::npos) throw scripterror(path.string() + " has no " + inquotes(text));
-    writefile(path, text.empty() ? other : std::string(before).replace(at, text.size(), other));
+    writefile(path, text.empty() ? replacement : std::string(before).replace(at, text.size(), replacement));
     return {path, before};
 }
 
@@ -163,7 +163,7 @@ void edit(scriptline& line) {
 }
 
 void deletefile(scriptline& line) {
-    const auto path = ownfile(line.filename());
+    const auto path = scratchfile(line.takefilename());
     std::error_code failed;
     if (!std::filesystem::remove(path, failed)) throw scripterror(path.string() + " cannot be deleted");
 }
@@ -173,7 +173,7 @@ void playline(std::string_view text, std::string_view recorded);
 // Plays the rest of the line. Throws scripterror unless it ends the program with a failure.
 void playfailing(scriptline& line) {
     try {
-        playline(line.rest(), line.text());
+        playline(line.takerest(), line.text());
     } catch (const failure&) {
         return;
     }
@@ -206,7 +206,7 @@ void start(scriptline& line) {
 }
 
 std::size_t readindex(scriptline& line) {
-    const std::string_view word = line.word();
+    const std::string_view word = line.takeword();
     std::size_t index = 0;
     const auto read = std::from_chars(word.data(), word.data() + word.size(), index);
     if (word.empty() || read.ptr != word.data() + word.size() || read.ec != std::errc())
@@ -230,11 +230,11 @@ void layout(scriptline& line) {
 }
 
 void record(scriptline& line) {
-    const std::string path = line.filename();
+    const std::string path = line.takefilename();
     if (!startrecord(path)) throw scripterror("the file " + path + " cannot be written");
 }
 
-void say(scriptline& line) { writeline(std::string(line.rest())); }
+void say(scriptline& line) { writeline(std::string(line.takerest())); }
 
 struct command {
     std::string_view name;
@@ -248,9 +248,9 @@ constexpr command commands[] = {
     {"type",    type,       recordstep},
     {"close",   close,      recordstep},
     {"key",     key,        recordstep},
-    {"start",   start,      recordunseen},
-    {"edit",    edit,       recordunseen},
-    {"delete",  deletefile, recordunseen},
+    {"start",   start,      recordwithoutchanges},
+    {"edit",    edit,       recordwithoutchanges},
+    {"delete",  deletefile, recordwithoutchanges},
     {"fails",   fails,      nullptr},
     {"mistake", mistake,    nullptr},
     {"show",    showstate,  nullptr},
@@ -266,7 +266,7 @@ constexpr command commands[] = {
 // Plays a line. recorded is the line that the record shows for it.
 void playline(std::string_view text, std::string_view recorded) {
     scriptline line(text);
-    const std::string_view name = line.word();
+    const std::string_view name = line.takeword();
     if (name.empty() || name.front() == '#') return;
     const auto known =
         std::find_if(std::begin(commands), std::end(commands), [name](const command& c) { return c.name == name; });

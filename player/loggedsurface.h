@@ -44,10 +44,10 @@ class loggedsurface : public surface {
   private:
     bool needseachline() const { return log != nullptr || tally; }
 
-    struct closing {
+    struct filecloser {
         void operator()(std::FILE* file) const { std::fclose(file); }
     };
-    std::unique_ptr<std::FILE, closing> log;
+    std::unique_ptr<std::FILE, filecloser> log;
     std::optional<linetally> tally;
 };
 

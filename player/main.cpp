@@ -1,8 +1,8 @@
 // The program without its windows: plays a script of user actions in the working folder.
 //   play SCRIPT        "-" is standard input
-// The exit status is 0 if the script was played to its end or to exitbtn, 1 if the program failed, and 2 if the script
-// cannot be read, asks for something that no user could do, or its output cannot be written.
-// All output is flushed after each line of the script, so that another program can send a line and wait for its answer.
+// The exit status is 0 if the script was played to its end or until exitbtn was clicked, 1 if the program failed, and 2
+// if the script cannot be read, a line of it is wrong or no user could do what it says, or output cannot be written.
+// All output is flushed after each line of the script, so that another program can send a line and wait for its output.
 
 #include "core/controls.h"
 #include "core/failure.h"
@@ -19,37 +19,37 @@ namespace {
 
 using namespace tessaly;
 
-constexpr int programfailed = 1, scriptfailed = 2;
+constexpr int programfailed = 1, scriptfailed = 2;  // exit statuses
 
 void flushall() {
     if (std::fflush(stdout) != 0 || std::ferror(stdout) != 0) throw scripterror("standard output cannot be written");
     if (!playedsurface.flushlog()) throw scripterror("the file of the drawn lines cannot be written");
 }
 
-// Plays the script until it or the program ends. Sets number to the number of the line being played.
-void playscript(std::istream& script, int& number) {
+// Plays the script until it or the program ends. Sets linenumber to that of the line being played.
+void playscript(std::istream& script, int& linenumber) {
     for (std::string line; !programended && std::getline(script, line);) {
-        ++number;
+        ++linenumber;
         playline(line);
         flushall();
     }
-    // The stream reports a failed read of standard input as the end of the input, for example if it is a folder.
+    // If standard input cannot be read, for example because it is a folder, std::cin only reports the end of input.
     if (script.bad() || std::ferror(stdin) != 0) throw scripterror("the script cannot be read");
     if (!playedsurface.endlog()) throw scripterror("the file of the drawn lines cannot be written");
 }
 
-int play(std::istream& script, const std::string& name) {
+int play(std::istream& script, const std::string& scriptname) {
     usepicturefiles();
     viewportsurface = &playedsurface;
     progresssurface = &playedstrip;
-    int number = 0;
+    int linenumber = 0;
     try {
         startprogram();
-        playscript(script, number);
+        playscript(script, linenumber);
         return 0;
     } catch (const scripterror& error) {
         std::fflush(stdout);
-        std::fprintf(stderr, "%s, line %d: %s\n", name.c_str(), number, error.what());
+        std::fprintf(stderr, "%s, line %d: %s\n", scriptname.c_str(), linenumber, error.what());
         return scriptfailed;
     } catch (...) {
         const std::string report = reportof([] { throw; });
@@ -61,17 +61,17 @@ int play(std::istream& script, const std::string& name) {
 
 }  // namespace
 
-int main(int count, char** words) {
-    if (count != 2) {
+int main(int argc, char** argv) {
+    if (argc != 2) {
         std::fputs("usage: play SCRIPT    (- reads the script from standard input)\n", stderr);
         return scriptfailed;
     }
-    const std::string name = words[1];
-    if (name == "-") return play(std::cin, "standard input");
-    std::ifstream script(name);
+    const std::string scriptname = argv[1];
+    if (scriptname == "-") return play(std::cin, "standard input");
+    std::ifstream script(scriptname);
     if (!script) {
-        std::fprintf(stderr, "the script %s cannot be read\n", name.c_str());
+        std::fprintf(stderr, "the script %s cannot be read\n", scriptname.c_str());
         return scriptfailed;
     }
-    return play(script, name);
+    return play(script, scriptname);
 }

@@ -14,53 +14,53 @@ constexpr std::string_view blanks = " \t";
 
 scriptline::scriptline(std::string_view line) {
     while (!line.empty() && (line.back() == '\n' || line.back() == '\r')) line.remove_suffix(1);
-    all = left = line;
+    complete = remaining = line;
 }
 
 bool scriptline::atend() {
-    left.remove_prefix(std::min(left.find_first_not_of(blanks), left.size()));
-    return left.empty();
+    remaining.remove_prefix(std::min(remaining.find_first_not_of(blanks), remaining.size()));
+    return remaining.empty();
 }
 
-std::string_view scriptline::word() {
+std::string_view scriptline::takeword() {
     if (atend()) return {};
-    const std::string_view found = left.substr(0, left.find_first_of(blanks));
-    left.remove_prefix(found.size());
+    const std::string_view found = remaining.substr(0, remaining.find_first_of(blanks));
+    remaining.remove_prefix(found.size());
     return found;
 }
 
-std::string_view scriptline::rest() {
-    std::string_view found = left;
+std::string_view scriptline::takerest() {
+    std::string_view found = remaining;
     if (!found.empty()) found.remove_prefix(1);
-    left = {};
+    remaining = {};
     return found;
 }
 
-std::string scriptline::filename() {
+std::string scriptline::takefilename() {
     if (atend()) throw scripterror("a file name was expected");
-    if (left.front() == '"') {
-        std::string name = quoted();
+    if (remaining.front() == '"') {
+        std::string name = takequoted();
         expectend();
         return name;
     }
-    const std::string_view found = left.substr(0, left.find_last_not_of(blanks) + 1);
-    left = {};
+    const std::string_view found = remaining.substr(0, remaining.find_last_not_of(blanks) + 1);
+    remaining = {};
     return std::string(found);
 }
 
-std::string scriptline::quoted() {
-    if (atend() || left.front() != '"') throw scripterror("a text in double quotes was expected");
+std::string scriptline::takequoted() {
+    if (atend() || remaining.front() != '"') throw scripterror("a text in double quotes was expected");
     std::string text;
-    for (std::size_t at = 1; at < left.size(); ++at) {
-        if (left[at] == '"') {
-            left.remove_prefix(at + 1);
+    for (std::size_t at = 1; at < remaining.size(); ++at) {
+        if (remaining[at] == '"') {
+            remaining.remove_prefix(at + 1);
             return text;
         }
-        if (left[at] != '\\') {
-            text += left[at];
+        if (remaining[at] != '\\') {
+            text += remaining[at];
             continue;
         }
-        switch (++at < left.size() ? left[at] : '\0') {
+        switch (++at < remaining.size() ? remaining[at] : '\0') {
         case '"': text += '"'; break;
         case '\\': text += '\\'; break;
         case 'r': text += '\r'; break;
@@ -72,7 +72,7 @@ std::string scriptline::quoted() {
 }
 
 void scriptline::expectend() {
-    if (!atend()) throw scripterror("nothing more was expected, but this follows: " + std::string(left));
+    if (!atend()) throw scripterror("nothing more was expected, but this follows: " + std::string(remaining));
 }
 
 std::string inquotes(std::string_view text) {

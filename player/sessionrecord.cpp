@@ -134,7 +134,7 @@ void recordrestart() {
     before = takesnapshot();
 }
 
-bool recordunseen(std::string_view step) {
+bool recordwithoutchanges(std::string_view step) {
     if (!record.is_open()) return true;
     record << step << '\n';
     recordrestart();

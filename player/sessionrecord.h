@@ -27,13 +27,13 @@ bool startrecord(const std::string& path);
 // Writes a line under the step played last.
 bool recordnote(std::string_view line);
 
-// Write a step: recordstep with its changes, recordunseen without them, recordfailure with the lines, files and report
-// of a step that ended the program.
+// Write a step: recordstep with its changes, recordwithoutchanges without them, recordfailure with the lines, files and
+// report of a step that ended the program.
 bool recordstep(std::string_view step);
-bool recordunseen(std::string_view step);
+bool recordwithoutchanges(std::string_view step);
 bool recordfailure(std::string_view step, std::string_view report);
 
-// Takes the current state as the one with which the next step is compared. Call it after restarting the program.
+// Makes the current state the one with which the next step is compared. Call it after restarting the program.
 void recordrestart();
 
 }  // namespace tessaly
