@@ -11,7 +11,7 @@ namespace tessaly {
 void addclicks() {
     for (const buttonfamily& f : allbuttonfamilies()) {
         const auto middle = [&f](const buttonposition& p) {
-            return p.family == &f && p.number == f.firstnumber + f.cols * f.rows / 2;
+            return p.family == &f && p.number == f.firstnumber + f.countx * f.county / 2;
         };
         const auto& positions = allbuttonpositions();
         const std::string name = positionname(*std::find_if(positions.begin(), positions.end(), middle));

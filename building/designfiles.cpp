@@ -1,5 +1,4 @@
-// Writes design records. Also restores the values that a click had set, from the codes of records and the names of
-// files.
+// Writes the records of clicks, and sets the values of a click again from a record's code and a file's name.
 
 #include "building/designfiles.h"
 
@@ -43,7 +42,7 @@ void elementfileforcode(const value& kind, const value& code) {
     const double number = codenumber(code);
     for (const buttonfamily& f : allbuttonfamilies()) {
         if (!kind.is(f.files.kind) || (&f.files == &girderfiles && f.code != number)) continue;
-        placemode = f.mode;
+        placemode = f.placemode;
         if (*f.datafile) datafile = f.datafile;
     }
     if (kind.is(panelfiles.kind)) setpanelfile(number);

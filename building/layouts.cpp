@@ -18,10 +18,10 @@ constexpr int exceptionalpanel = 155, itsrecordedy = 784;
 std::vector<buttonposition> computebuttonpositions() {
     std::vector<buttonposition> all;
     for (const buttonfamily& f : allbuttonfamilies())
-        for (int i = 0; i < f.cols; ++i)
-            for (int j = 0; j < f.rows; ++j) {
-                const int x = f.x0 + layoutbay * i, y = f.y0 + layoutbay * j;
-                buttonposition p{&f, f.firstnumber + f.rows * i + j, x, y, x + f.dx, y + f.dy};
+        for (int i = 0; i < f.countx; ++i)
+            for (int j = 0; j < f.county; ++j) {
+                const int x = f.x0 + bayside * i, y = f.y0 + bayside * j;
+                buttonposition p{&f, f.firstnumber + f.county * i + j, x, y, x + f.dx, y + f.dy};
                 if (f.layout == &layoutpanels && p.number == exceptionalpanel) p.middley = itsrecordedy;
                 all.push_back(p);
             }
@@ -49,7 +49,7 @@ void setplacement(const buttonposition& p) {
     elementkind = f.files.kind;
     rotx = f.rotx;
     rotz = f.rotz;
-    placemode = f.mode;
+    placemode = f.placemode;
     placex = p.x;
     placey = p.y;
     facecode = f.facecode;
@@ -70,7 +70,7 @@ std::string positionname(const buttonposition& p) {
 void addlayoutbuttons() {
     for (const buttonposition& p : allbuttonpositions()) {
         const buttonfamily& f = *p.family;
-        const int i = (p.x - f.x0) / layoutbay, j = (p.y - f.y0) / layoutbay;
+        const int i = (p.x - f.x0) / bayside, j = (p.y - f.y0) / bayside;
         const std::string element = ", element " + std::to_string(p.number);
         addcontrol({.parent = f.layout,
                     .kind = controlkind::button,

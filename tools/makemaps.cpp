@@ -104,11 +104,11 @@ void drawaxes(QPainter& p, const window& w, const scale& s) {
     axislabels across, inneracross, down;
     for (const buttonfamily& f : allbuttonfamilies()) {
         if (f.layout != &w) continue;
-        for (int j = 0; j < f.rows; ++j)
+        for (int j = 0; j < f.county; ++j)
             addcoordinate(f.width > f.height ? inneracross : across,
-                          s.rect({f.left0 + f.pitch * j, 0, f.width, 0}).center().x(), f.y0 + 192 * j);
-        for (int i = 0; i < f.cols; ++i)
-            addcoordinate(down, s.rect({0, f.top0 + f.pitch * i, 0, f.height}).center().y(), f.x0 + 192 * i);
+                          s.rect({f.left0 + f.pitch * j, 0, f.width, 0}).center().x(), f.y0 + bayside * j);
+        for (int i = 0; i < f.countx; ++i)
+            addcoordinate(down, s.rect({0, f.top0 + f.pitch * i, 0, f.height}).center().y(), f.x0 + bayside * i);
     }
     p.setFont(font(17));
     p.setPen(Qt::black);
@@ -132,7 +132,7 @@ void drawlegend(QPainter& p, const window& w) {
         p.drawRect(QRectF(planleft, y, f.width >= f.height ? 44 : 18, f.height >= f.width ? 30 : 18));
         p.setPen(Qt::black);
         p.setFont(font(21));
-        const int last = f.firstnumber + f.cols * f.rows - 1;
+        const int last = f.firstnumber + f.countx * f.county - 1;
         p.drawText(QRectF(planleft + 64, y - 4, 1400, 34), Qt::AlignLeft | Qt::AlignVCenter,
                    QString("%1 to %2   %3   (buttons %4..y..)")
                        .arg(f.firstnumber)
@@ -184,5 +184,5 @@ void makeall(const std::filesystem::path& folder) {
 int main(int argc, char** argv) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication application(argc, argv);
-    return tessaly::generate(argc, "makemaps FOLDER", [argv] { tessaly::makeall(argv[1]); });
+    return tessaly::rungenerator(argc, "makemaps FOLDER", [argv] { tessaly::makeall(argv[1]); });
 }

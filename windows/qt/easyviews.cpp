@@ -21,7 +21,7 @@ QPointF middleof(std::string_view name) { return QRectF(widgetof(*findcontrol(na
 void drawgrid(QPainter& painter) {
     const QRectF grid(pointat(3120, 3240), pointat(3120 + 3375, 3240 + 2415));
     const buttonfamily& posts = allbuttonfamilies().front();  // at the corners of the bays
-    const int baysacross = posts.rows - 1, baysdown = posts.cols - 1;
+    const int baysacross = posts.county - 1, baysdown = posts.countx - 1;
     painter.setPen(linecolour);
     painter.setBrush(gridcolour);
     painter.drawRect(grid);

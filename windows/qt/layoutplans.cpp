@@ -45,12 +45,12 @@ struct grid {
 // Returns the grid of a layout window, centred behind its position buttons.
 grid gridof(const window& layout) {
     const buttonfamily& posts = allbuttonfamilies().front();
-    grid g{0, 0, 0, posts.rows, posts.cols};
+    grid g{0, 0, 0, posts.county, posts.countx};
     QRect buttons;
     for (const buttonfamily& f : allbuttonfamilies()) {
         if (f.layout != &layout) continue;
         g.pitch = f.pitch;
-        buttons |= QRect(f.left0, f.top0, f.pitch * (f.rows - 1) + f.width, f.pitch * (f.cols - 1) + f.height);
+        buttons |= QRect(f.left0, f.top0, f.pitch * (f.county - 1) + f.width, f.pitch * (f.countx - 1) + f.height);
     }
     g.left0 = buttons.center().x() - g.pitch * (g.columns - 1) / 2;
     g.top0 = buttons.center().y() - g.pitch * (g.rows - 1) / 2;
