@@ -1,4 +1,4 @@
-// Shared by the generators. A generator either creates all its files or reports on standard error why it cannot.
+// Functions for the generators, which report failures on standard error.
 #pragma once
 
 #include "core/failure.h"
@@ -11,15 +11,15 @@
 
 namespace tessaly {
 
-// Runs a generator and returns its exit status: 1 after an exception, 2 after wrong arguments, both reported. usage is
-// the name of the generator and those of its arguments, separated by blanks.
+// Runs a generator and returns its exit status: 0, 1 after an exception, or 2 if the number of arguments is wrong.
+// Reports the exception or the usage. usage: the names of the generator and of its arguments, separated by blanks.
 template <class procedure>
-int generate(int argc, const std::string& usage, procedure make) {
+int rungenerator(int argc, const std::string& usage, procedure generate) {
     if (argc != 1 + std::count(usage.begin(), usage.end(), ' ')) {
         std::fprintf(stderr, "usage: %s\n", usage.c_str());
         return 2;
     }
-    const std::string report = reportof(make);
+    const std::string report = reportof(generate);
     if (report.empty()) return 0;
     std::fprintf(stderr, "%s: %s\n", usage.substr(0, usage.find(' ')).c_str(), report.c_str());
     return 1;

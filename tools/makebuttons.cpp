@@ -157,7 +157,7 @@ void makeall(const std::filesystem::path& folder) {
 }  // namespace tessaly
 
 int main(int argc, char** argv) {
-    return tessaly::generate(argc, "makebuttons WORKINGFOLDER FOLDER", [argv] {
+    return tessaly::rungenerator(argc, "makebuttons WORKINGFOLDER FOLDER", [argv] {
         const std::filesystem::path folder = std::filesystem::absolute(argv[2]);
         std::filesystem::current_path(argv[1]);
         tessaly::makeall(folder);

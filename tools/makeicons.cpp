@@ -29,7 +29,7 @@ void makeicon(QSvgRenderer& drawing, int size, const std::filesystem::path& fold
 }  // namespace
 
 int main(int argc, char** argv) {
-    return tessaly::generate(argc, "makeicons SVG FOLDER", [argv] {
+    return tessaly::rungenerator(argc, "makeicons SVG FOLDER", [argv] {
         QSvgRenderer drawing(QString::fromLocal8Bit(argv[1]));
         if (!drawing.isValid()) throw std::runtime_error(std::string(argv[1]) + " is not a drawing");
         for (const int size : sizes) makeicon(drawing, size, argv[2]);

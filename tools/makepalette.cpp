@@ -45,5 +45,5 @@ void make(const std::filesystem::path& list, const std::filesystem::path& folder
 }  // namespace
 
 int main(int argc, char** argv) {
-    return tessaly::generate(argc, "makepalette LIST FOLDER", [argv] { make(argv[1], argv[2]); });
+    return tessaly::rungenerator(argc, "makepalette LIST FOLDER", [argv] { make(argv[1], argv[2]); });
 }

@@ -269,5 +269,5 @@ void makeall(const std::string& folder) {
 }  // namespace tessaly
 
 int main(int argc, char** argv) {
-    return tessaly::generate(argc, "makepanels FOLDER", [argv] { tessaly::makeall(argv[1]); });
+    return tessaly::rungenerator(argc, "makepanels FOLDER", [argv] { tessaly::makeall(argv[1]); });
 }

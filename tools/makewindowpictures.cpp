@@ -206,7 +206,7 @@ int main(int argc, char** argv) {
     std::setlocale(LC_NUMERIC, "C");
     tessaly::setstyle();
     tessaly::usepicturefiles();
-    return tessaly::generate(argc, "makewindowpictures ROOT HELPFOLDER DOCFOLDER", [argv] {
+    return tessaly::rungenerator(argc, "makewindowpictures ROOT HELPFOLDER DOCFOLDER", [argv] {
         const fs::path root = fs::absolute(argv[1]), help = fs::absolute(argv[2]), documents = fs::absolute(argv[3]);
         const tessaly::workingfolder scratch(root);
         tessaly::copysamples(root / "samples", "designs");
