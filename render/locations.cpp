@@ -40,7 +40,7 @@ std::string locationofcubecolour(int face) {
 
 }  // namespace
 
-std::string locationofend(int group, int row, int end) {
+std::string locationoflineend(int group, int row, int end) {
     return inrow("LINEG" + std::to_string(group) + ":", row, end);
 }
 

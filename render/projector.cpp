@@ -123,7 +123,7 @@ int lineend(const linetable& ends, int line, int end) {
     const int group = static_cast<int>(double(curgroup)), row = line - static_cast<int>(double(groupfirst[group])) + 1;
     throw failure(failurekind::subscript,
                   "point " + plaintext(number) + ", a point 0.." + std::to_string(lastpoint) + " was expected",
-                  locationofend(group, row, end));
+                  locationoflineend(group, row, end));
 }
 
 bool samenumber(const value& focus, const value& eye) { return double(eye) == double(focus); }

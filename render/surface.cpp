@@ -1,4 +1,4 @@
-// The surface's compound operations, drawn line by line.
+// Draws rectangles and faces line by line.
 
 #include "render/surface.h"
 
