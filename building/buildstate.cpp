@@ -18,7 +18,7 @@ void openlayout(window& layout) {
     showwindow(layout);
 }
 
-// Returns a number that is a floor, otherwise 0.
+// Returns the number if it is that of a floor, otherwise 0.
 int floorof(double number) {
     const bool isfloor = number >= lowestfloor && number <= highestfloor && number == std::floor(number);
     return isfloor ? static_cast<int>(number) : 0;
@@ -26,14 +26,14 @@ int floorof(double number) {
 
 // Return the warning for the text of a box; nullptr: no warning.
 const char* floorwarning(const std::string& text) {
-    return floorof(Val(text)) != 0 ? nullptr : "no known floor, clicks build on the one before";
+    return floorof(Val(text)) != 0 ? nullptr : "unknown floor, clicks build on the previous one";
 }
 const char* drawmodewarning(const std::string& text) {
-    return text == "solid" || text == "wireframe" ? nullptr : "no known mode, the one before stays in force";
+    return text == "solid" || text == "wireframe" ? nullptr : "unknown mode, the previous one still applies";
 }
 const char* recordmodewarning(const std::string& text) {
     if (text == "off") return "clicks are not recorded now";
-    return text == "on" ? nullptr : "no known mode, the one before stays in force";
+    return text == "on" ? nullptr : "unknown mode, the previous one still applies";
 }
 
 // Replaces one of two texts with the other; any third text is unchanged.

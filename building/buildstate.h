@@ -8,10 +8,9 @@ namespace tessaly {
 
 struct control;
 
-// Reads record mode, draw mode and floor from their boxes. If a box holds no known mode or floor, the mode or floor is
-// unchanged.
-// reads: writefilebox, wiresolid, floor; writes: recordtext, recordmode, drawtext, drawmode, floornum, floorname,
-// placez.
+// Reads record mode, draw mode and floor from their boxes. If the text of a box is not a mode or floor, the mode or
+// floor is unchanged. reads: writefilebox, wiresolid, floor; writes: recordtext, recordmode, drawtext, drawmode,
+// floornum, floorname, placez.
 void readbuildstate();
 
 // Sets floorname and placez for a floor number 1..10. For any other number they are unchanged.
@@ -23,7 +22,8 @@ value nextfloorname();
 // Returns the button of the panel type that the next click on the panel layout places, nullptr before the first choice.
 const control* nextpanelbutton();
 
-// Makes the boxes that readbuildstate reads warn of an unknown text. writefilebox also warns if recording is off.
+// Makes the boxes that readbuildstate reads show a warning for an unknown text. writefilebox also shows one if
+// recording is off.
 void setboxwarnings();
 
 // Open a layout window. clickpanelbtn, which all eight panel buttons run, also sets panelprefix. reads: usedcontrol.

@@ -31,7 +31,7 @@ void pickautofile2();
 // then remain.
 void pickautofile4();
 
-// Replays two files solid, as the two picks do, without changing the lists and prompts.
+// Replays two files solid, as picking them in autofile3 and autofile4 does, without changing the lists and prompts.
 void replaypairsolid(const replayfile& first, const replayfile& second);
 
 // Returns whether a first file has been picked and the list for the second file is shown.

@@ -33,10 +33,10 @@ void elementfileforcode(const value& kind, const value& code);
 // name starts with other letters or that character is not a digit.
 int floordigit(const std::string& name);
 
-// A design file to replay. Its digit is that of its name, except for the files of floor 10 in wholebuilding.
+// A design file to replay.
 struct replayfile {
     std::string name;
-    int digit;  // of its floor, 0 for floor 10; -1: none
+    int digit;  // floordigit(name), except that wholebuilding sets 0 for the files that clicks on floor 10 write
 };
 
 // Returns the file picked in a list.

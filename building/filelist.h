@@ -1,23 +1,24 @@
-// The list of design files, in which a picked file can be deleted. Also the button that closes the file lists of the
+// The list of design files, in which the user can delete a file, and the button that closes the lists of the two file
 // readers.
 #pragma once
 
 namespace tessaly {
 
-// Refreshes and shows designfileslist and the button that closes it.
+// Refreshes designfileslist, shows it and closefilelistbtn, and hides killfilebtn.
 void clickdisplayfilelistbtn();
 
 // Shows killfilebtn.
 void pickdesignfileslist();
 
-// Hides the list and its buttons.
+// Hides designfileslist, killfilebtn and closefilelistbtn.
 void clickclosefilelistbtn();
 
-// Deletes the picked design file without asking and closes the list. writes: firstfilename, which the painter reads;
-// fails: file not found, file access error.
+// Deletes the picked design file without asking and hides the list and its buttons. writes: firstfilename, whose first
+// letters the painter reads; fails: file not found, file access error.
 void clickkillfilebtn();
 
-// Hides the lists of both readers, except those for a second file, their prompts and the button itself.
+// Hides the lists of both file readers except those for a second file, selectgirderfile, autohintbox and
+// escapefilelistbtn.
 void clickescapefilelistbtn();
 
 }  // namespace tessaly

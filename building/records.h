@@ -30,7 +30,7 @@ std::string recordline(const std::vector<value>& fields);
 std::string formatrecord(const value& first, recordcolumns columns, const value& r, const value& last);
 
 // Reads a record and returns its fields. Also stores each field in the scalar of its column. If the file ends within
-// the record, the scalars of the fields before stay set. fails: input past end of file, overflow.
+// the record, the scalars of the fields before its end are set. fails: input past end of file, overflow.
 std::vector<value> readrecord(textinput& in, recordcolumns columns);
 
 // Stores the fields of record i in the tables of its columns.

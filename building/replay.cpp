@@ -41,7 +41,7 @@ void drawprogress(int n) {
     progresssurface->flush();
 }
 
-// Draws the red row of record k, four rows above that of the record before. Rows above the strip are not visible.
+// Draws the red row of record k, four rows above that of the previous record. Rows above the strip are not visible.
 void stepprogress(int k) {
     drawstriprow(stripbottom - rowsperrecord * k, donecolour);
     progresssurface->flush();
@@ -110,7 +110,9 @@ void readtemporary(const temporaryfile& file, int n, recordcolumns columns,
                    const std::function<void(int k, const std::vector<value>& fields, const textinput& in,
                                             fieldlocation record)>& use) {
     const int firstfield =
-        recordlength + 1 - static_cast<int>(columns.size());  // its number in the record; 0: precedes it
+        recordlength + 1 -
+        static_cast<int>(
+            columns.size());  // number of a line's first field in the record; 0: it is not part of the record
     textinput& in = openinput(2, file.path, "temporary file");
     for (std::size_t i = 0; i < static_cast<std::size_t>(n); ++i) {
         const bool known = i < file.origins.size() && !file.origins[i].path.empty();

@@ -13,15 +13,15 @@
 
 namespace tessaly {
 
-// The location in a design file from which the record in a line of a temporary file came, for reports.
+// The line of a design file from which a record of a temporary file was read, for reports.
 struct recordorigin {
     std::string path;  // of the design file; "": unknown
     int line;
 };
 
-// A temporary file of a replay, deleted at the end. Records are appended to it: those left by an interrupted replay, or
-// after a first file was picked without a second one, come before the new records and are replayed instead of them.
-// This is intended.
+// A temporary file of a replay, which is deleted when the replay ends. New records are appended to it. If an
+// interrupted replay left records in it, or the user picked a first file without a second one, these come before the
+// new records and are replayed instead of them. This is intended.
 struct temporaryfile {
     const char* path;
     bool created = false;  // by this run of the program; otherwise the origins of its lines are unknown
@@ -71,10 +71,10 @@ void loadrecordelement(const value& kind, const value& code, const textinput& in
 // Paints the records 1..n of the tables, those with the largest plan distance from the eye first, and advances the
 // progress strip. Records with number 0 and records at most 1 unit from the eye are not sorted; the slots of rdorder
 // that they leave at its end are unchanged from an earlier sort.
-// file: stores the sorted records and is deleted at the end; columns: of a line of the file, starting with its place in
-// the order; numbers: the element numbers; kind, code: scalars or constants that select the element of the line that
-// was just read; origins: of the records. reads: focusx.., the record tables; writes: perpx.. (absolute until the next
-// plotgroups), rdx, rdy (world units), rdorder, quaddist, as readelements and paintsolids; draws on viewport and
+// file: stores the sorted records and is deleted at the end; columns: of a line of the file, the first for its
+// rank in the order; numbers: the element numbers; kind, code: scalars or constants that select the element of the line
+// that was just read; origins: of the records. reads: focusx.., the record tables; writes: perpx.. (absolute until the
+// next plotgroups), rdx, rdy (world units), rdorder, quaddist, as readelements and paintsolids; draws on viewport and
 // progressbar; fails: type mismatch, as appendtemporary, readelements and paintsolids.
 void paintsorted(temporaryfile& file, int n, recordcolumns columns, const recordtable& numbers, const value& kind,
                  const value& code, const std::vector<recordorigin>& origins);

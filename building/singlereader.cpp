@@ -63,8 +63,8 @@ void replaysolid(const replayfile& file) {
     for (int i = 1; i <= lastrecord; ++i) c.numbers.set(i, 0);
     std::vector<recordcolumn> columns = columnsof(c);
     const std::vector<recordorigin> records = loaddesignfile(2, secondfilename, columns);
-    // In the temporary file the place in the order replaces the kind. The trailer of a roof, which is not stored, is
-    // replaced by the one that an earlier file left.
+    // In the temporary file, the rank in the order replaces the kind. The trailer of a roof, which is not stored, is
+    // replaced by the one that an earlier file left in the table.
     columns.front() = {};
     columns.back().stored = &rdtrailer;
     paintsorted(tempfile, static_cast<int>(records.size()), columns, c.numbers, c.kind, c.code, records);
