@@ -7,7 +7,7 @@
 
 namespace tessaly {
 
-// Opens the dialog on the main window and moves the keyboard focus to the name box, which keeps its text.
+// Opens the dialog on the main window and moves the keyboard focus to the name box, whose text is unchanged.
 void clickscreencapbtn();
 
 // Closes the dialog and empties the name box. Writes no file.

@@ -53,7 +53,7 @@ constexpr std::string_view focuscopyingbutton = "perpx0ym1800";
 
 constexpr int buttonsize = 255;  // twips
 
-// Returns a name made of the numbers that the button writes: "Eye at X 1800, Y 0", "Focus at Z 850".
+// Returns a name with the numbers that the button writes, such as "Eye at X 1800, Y 0", "Focus at Z 850".
 std::string accessiblenameof(const quickview& q) {
     const std::string first = std::to_string(q.numbers[0]), second = std::to_string(q.numbers[1]);
     return std::string(q.kind.accessiblename) + " at " +
@@ -86,7 +86,7 @@ void addquickviewbuttons() {
                     .bounds = {q.left, q.top, buttonsize, buttonsize},
                     .shown = true,
                     .background = q.kind.background,
-                    .tooltip = accessiblenameof(q) + ": SET takes it (F5)",
+                    .tooltip = accessiblenameof(q) + ": SET applies it (F5)",
                     .accessiblename = accessiblenameof(q),
                     .run = [&q] { clickquickview(q); }});
 }

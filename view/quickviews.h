@@ -1,4 +1,4 @@
-// Quick view change: the easyviews window with 30 buttons. Each button stands for a fixed X and Y, or a fixed Z, of the
+// Quick view change: the easyviews window with 30 buttons. Each button has a fixed X and Y, or a fixed Z, of the
 // eye or the focus. A click only writes numbers into boxes; SET changes the view.
 #pragma once
 
@@ -8,7 +8,7 @@
 
 namespace tessaly {
 
-// What the buttons for the same view values share.
+// The properties shared by the buttons for the same view values.
 struct quickviewkind {
     viewvaluespan values;  // X and Y, or Z, of the eye or the focus
     colour background;

@@ -56,7 +56,7 @@ void step(const side& s, double rotinc) {
 // Moves the eye along the current side by one step. If the limit of the side is reached before or after the step,
 // continues with the next side. The loop ends because a step is shorter than a side.
 void walk(int side::*next) {
-    const double rotinc = pickedincrement(rotincbox, usualrotation);
+    const double rotinc = pickedincrement(rotincbox, defaultrotation);
     readeyeboxes();
     for (;;) {
         const side& s = currentside();

@@ -27,7 +27,7 @@ void stepfocus(int sign, double increment) {
 }
 
 // Moves the eye down or up.
-void stepperp(int sign, double increment) {
+void stepeye(int sign, double increment) {
     focusstep = increment;
     perpz = perpz + sign * focusstep;
     perprelz = perpz;
@@ -49,9 +49,9 @@ void stepmag(int sign, double increment) {
 // Returns the number in the first five characters of a shift; its other characters are lost. If they end within an
 // exponent, returns the number before the exponent. fails: type mismatch if neither they nor the shift are a number.
 double cutshift(const value& shift) {
-    const std::string front = (shift.isnumber() ? plaindigits(shift) : shift.text()).substr(0, 5);
-    if (!strictnumber(front)) static_cast<void>(double(shift));  // fails for a text that is not a number
-    return Val(front);
+    const std::string digits = (shift.isnumber() ? plaindigits(shift) : shift.text()).substr(0, 5);
+    if (!strictnumber(digits)) static_cast<void>(double(shift));  // fails for a text that is not a number
+    return Val(digits);
 }
 
 void stepshift(int sign, double increment, const viewvalue& shift) {
@@ -65,21 +65,21 @@ void stepshift(int sign, double increment, const viewvalue& shift) {
 // A pair of buttons, the list in which their increment is picked, and the button that shows the list.
 struct steppair {
     control &down, &up, &list, &listbutton;
-    double usualincrement;  // without a pick: model units, units of magtxt, viewport pixels
+    double defaultincrement;  // without a pick: model units, units of magtxt, viewport pixels
     void (*step)(int sign, double increment);
 };
 const steppair pairs[] = {
     // clang-format off
     {vertfocusminusbtn, vertfocusplusbtn, incrementlist, incrementbtn, 50,        stepfocus},
-    {vertperpminusbtn,  vertperpplusbtn,  incrementlist, incrementbtn, 100,       stepperp},
+    {vertperpminusbtn,  vertperpplusbtn,  incrementlist, incrementbtn, 100,       stepeye},
     {magminusbtn,       magplusbtn,       magincbox,     magincbtn,    0.001,     stepmag},
     {vertdec,           vertinc,          incrementlist, incrementbtn, 50,        [](int sign, double increment) { stepshift(sign, increment, shiftvalues[0]); }},
     {horizdec,          horizinc,         incrementlist, incrementbtn, 50,        [](int sign, double increment) { stepshift(sign, increment, shiftvalues[1]); }},
-    {rotleftbtn,        rotrightbtn,      rotincbox,     rotincbtn,    usualrotation, nullptr},  // view/rotation has the procedures
+    {rotleftbtn,        rotrightbtn,      rotincbox,     rotincbtn,    defaultrotation, nullptr},  // view/rotation has the procedures
     // clang-format on
 };
 
-double pickedincrement(const steppair& p) { return pickedincrement(p.list, p.usualincrement); }
+double pickedincrement(const steppair& p) { return pickedincrement(p.list, p.defaultincrement); }
 
 // Adds each increment to the tooltips of its buttons. If it was picked, also adds the caption of the button that shows
 // its list.
@@ -108,9 +108,9 @@ void preparesteps() {
     settooltips();
 }
 
-double pickedincrement(const control& list, double usual) {
+double pickedincrement(const control& list, double defaultincrement) {
     const double increment = Val(selectedtext(list));
-    return increment == 0 ? usual : increment;
+    return increment == 0 ? defaultincrement : increment;
 }
 
 }  // namespace tessaly

@@ -94,7 +94,7 @@ void clickexitbtn() {
 // The procedures of the named controls. CLICK(x) is the row of control x with the procedure clickx, PICK(x) that of
 // list x with the procedure pickx.
 struct handler {
-    control* handled;
+    control* target;
     void (*run)();
 };
 // clang-format off
@@ -144,7 +144,7 @@ constexpr programkey keys[] = {
      }},
 };
 
-// The buttons that the Escape key clicks. Controls belong to each button: if one of them has the focus, Escape clicks
+// A button that the Escape key clicks, and the controls that belong to it: if one of them has the focus, Escape clicks
 // this button.
 struct closingbutton {
     control* button;
@@ -180,7 +180,7 @@ void startprogram() {
     addquickviewbuttons();
     setboxwarnings();
     preparesteps();
-    for (const handler& h : handlers) h.handled->run = h.run;
+    for (const handler& h : handlers) h.target->run = h.run;
     for (const helppage& p : helppages) p.page.text = p.text;
     for (const sniptype& s : sniptypes) panelsnipper.items.push_back(s.text);
     showwindow(startform);

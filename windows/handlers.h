@@ -1,5 +1,5 @@
-// The start of the program, which connects every control to its procedure, and the closing of windows. No Qt here: the
-// windows and the player run the same procedures on the same controls.
+// Starts the program, connects every control to its procedure, and closes windows. Uses no Qt: the windows and the
+// player run the same procedures on the same controls.
 #pragma once
 
 #include "core/controls.h"
@@ -8,11 +8,11 @@
 
 namespace tessaly {
 
-// Resets the program to its first state: all controls have their procedures, startform is shown, no file has been read.
-// The caller must have set viewportsurface and progresssurface.
+// Resets the program to its initial state: all controls have their procedures, startform is shown, no file has been
+// read. The caller must have set viewportsurface and progresssurface.
 void startprogram();
 
-// The keys that act in any window once the main window has been opened, with their procedures.
+// A key that acts in any window once the main window has been opened.
 struct programkey {
     const char* name;
     void (*press)();

@@ -12,7 +12,8 @@ namespace {
 
 constexpr const char* roleproperty = "accessiblerole";
 
-// Gives a combination box its accessible name; Qt would give it its text as its name.
+// Reports the accessible name of a combination box as its name, and its text as its value. Qt would report the text as
+// the name.
 class namedcombobox : public QAccessibleWidget {
   public:
     explicit namedcombobox(QComboBox* itsbox) : QAccessibleWidget(itsbox, QAccessible::ComboBox), box(itsbox) {}

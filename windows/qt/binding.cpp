@@ -52,7 +52,7 @@ bool ending = false;   // the program is ending
 
 // ---- creating widgets ---------------------------------------------------------------------------------------
 
-// Runs the control's procedure when the user clicks its widget or picks an item.
+// Connects a widget, so that a click on it or a pick of an item runs its control's procedure.
 void connectevents(QWidget* widget, control& c) {
     const auto click = [&c] { runevent([&c] { clickcontrol(c); }); };
     const auto pick = [&c](int item) { runevent([&c, item] { pickitem(c, item); }); };
@@ -76,10 +76,10 @@ void createwindow(window& w, boundwindow& bound) {
         if (auto* button = qobject_cast<QPushButton*>(bound.controls.back().widget)) buttons->addButton(button);
     }
     // Widgets overlap in the order of their kinds, not in that of the table.
-    std::vector<control*> fromback = w.controls;
-    std::stable_sort(fromback.begin(), fromback.end(),
+    std::vector<control*> backtofront = w.controls;
+    std::stable_sort(backtofront.begin(), backtofront.end(),
                      [](const control* a, const control* b) { return a->kind < b->kind; });
-    for (const control* c : fromback) widgetof(*c)->raise();
+    for (const control* c : backtofront) widgetof(*c)->raise();
     decoratewindow(*bound.frame);
 }
 
@@ -137,10 +137,10 @@ void copytowindow(window& w) {
 }
 
 void copytowidgets() {
-    std::vector<window*> fromback = allwindows();
-    std::sort(fromback.begin(), fromback.end(),
+    std::vector<window*> backtofront = allwindows();
+    std::sort(backtofront.begin(), backtofront.end(),
               [](const window* a, const window* b) { return a->raiseorder < b->raiseorder; });
-    for (window* w : fromback) copytowindow(*w);
+    for (window* w : backtofront) copytowindow(*w);
     repaintmainwindow();
     if (QWidget* focused = wantedfocus ? widgetof(*wantedfocus) : nullptr) focused->setFocus();
     wantedfocus = nullptr;

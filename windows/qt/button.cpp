@@ -1,4 +1,4 @@
-// Paints the buttons. The smallest are so low that the desktop style would cut their captions.
+// Paints the buttons. Qt's style would cut the captions of the lowest ones.
 
 #include "windows/qt/button.h"
 
@@ -14,7 +14,7 @@ namespace tessaly {
 namespace {
 
 const QColor ringcolour(36, 84, 150), black(0, 0, 0), white(255, 255, 255);
-constexpr int minpixels = 8;  // of letters
+constexpr int minpixels = 8;  // size of letters
 constexpr int captionflags = Qt::AlignCenter | Qt::TextWordWrap;
 
 // Returns a colour mixed with the given percentage of another one.

@@ -19,7 +19,7 @@ captionlayout layoutcaption(const QString& caption, QSize size, QFont font);
 class button : public QPushButton {
   public:
     button(const QColor& itsbackground, QWidget* parent);
-    void setchosen(bool on);  // sets whether the button looks pressed all the time
+    void setchosen(bool on);  // sets whether the button looks pressed even while it is not
     void setmarked(bool on);  // sets whether the button has a mark in the middle
 
   protected:

@@ -99,7 +99,7 @@ class list : public QListWidget {
             QListWidget::keyPressEvent(event);
     }
 
-    // Qt makes the first row current. Keeps it only for a user of the keyboard, so that Return picks it.
+    // Qt makes the first row current, so that Return picks it. Undoes this if the user works with the mouse.
     void focusInEvent(QFocusEvent* event) override {
         const bool hadrow = currentRow() >= 0;
         QListWidget::focusInEvent(event);
@@ -237,7 +237,7 @@ QWidget* makeframe(QWidget* content) {
     return frame;
 }
 
-QWidget* makeofkind(const control& c, QWidget* content) {
+QWidget* makeunnamed(const control& c, QWidget* content) {
     switch (c.kind) {
     case controlkind::button:
     case controlkind::picturebutton: return makebutton(c, content);
@@ -256,7 +256,7 @@ QWidget* makeofkind(const control& c, QWidget* content) {
 }  // namespace
 
 QWidget* makewidget(const control& c, QWidget* content) {
-    QWidget* widget = makeofkind(c, content);
+    QWidget* widget = makeunnamed(c, content);
     if (c.kind == controlkind::picturebox) setrole(*widget, QAccessible::Graphic);
     if (c.kind == controlkind::frame) setrole(*widget, QAccessible::Grouping);
     const QString caption = QString::fromStdString(c.text).simplified();

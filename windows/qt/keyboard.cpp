@@ -25,17 +25,17 @@ bool mustnotrepeat(int key) {
     }
 }
 
-bool waskey = false;  // the last press
+bool keypressedlast = false;  // not a mouse button
 
 class keyfilter : public QObject {
   public:
     using QObject::QObject;
 
     bool eventFilter(QObject*, QEvent* event) override {
-        if (event->type() == QEvent::MouseButtonPress) waskey = false;
+        if (event->type() == QEvent::MouseButtonPress) keypressedlast = false;
         if (event->type() == QEvent::KeyRelease) release(*static_cast<QKeyEvent*>(event));
         if (event->type() != QEvent::KeyPress && event->type() != QEvent::ShortcutOverride) return false;
-        waskey = true;
+        keypressedlast = true;
         const auto& press = *static_cast<QKeyEvent*>(event);
         if (!repeated(press) || !mustnotrepeat(press.key())) return false;
         event->accept();  // an accepted ShortcutOverride is followed by a KeyPress, which is dropped here, too
@@ -44,15 +44,16 @@ class keyfilter : public QObject {
 
   private:
     void release(const QKeyEvent& event) {
-        key = event.key();
-        time = event.timestamp();
+        releasedkey = event.key();
+        releasetime = event.timestamp();
     }
     bool repeated(const QKeyEvent& press) const {
-        return press.isAutoRepeat() || (time != 0 && press.key() == key && press.timestamp() == time);
+        return press.isAutoRepeat() ||
+               (releasetime != 0 && press.key() == releasedkey && press.timestamp() == releasetime);
     }
 
-    int key = 0;       // released last
-    quint64 time = 0;  // of its release, ms; 0: unknown
+    int releasedkey = 0;      // the last one
+    quint64 releasetime = 0;  // ms; 0: unknown
 };
 
 }  // namespace
@@ -62,6 +63,6 @@ void filterkeys() {
     qApp->installEventFilter(filter);
 }
 
-bool lastpresswaskey() { return waskey; }
+bool lastpresswaskey() { return keypressedlast; }
 
 }  // namespace tessaly

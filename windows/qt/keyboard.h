@@ -1,6 +1,6 @@
-// Drops the repeats of a held key, which would record, replay or delete again and again. They reach only the text in
-// boxes, the keys that move the focus or the cursor, and the buttons that repeat. Also determines whether the user
-// works with the keyboard or with the mouse.
+// Drops repeats of a held key that would click a button, pick an item or run a program key again and again. Repeats
+// that type text, move the focus or the cursor, or press a stepping button are not dropped. Also determines whether the
+// user works with the keyboard or with the mouse.
 #pragma once
 
 namespace tessaly {

@@ -69,7 +69,7 @@ QFont pagefont() {
 QIcon pictureof(const std::string& name) {
     const QString path = ":/pictures/" + QString::fromStdString(name);
     QIcon picture;
-    for (const char* ending : {".png", "@2x.png"}) picture.addPixmap(QPixmap(path + ending));
+    for (const char* suffix : {".png", "@2x.png"}) picture.addPixmap(QPixmap(path + suffix));
     if (!QFile::exists(path + ".svg")) return picture;
     // Draw it at the sizes that desktops use. QIcon could read SVG only with a plugin that may not be installed.
     QSvgRenderer drawing(path + ".svg");

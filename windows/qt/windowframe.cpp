@@ -67,7 +67,7 @@ void windowframe::changeEvent(QEvent* event) {
 }
 
 void windowframe::closeEvent(QCloseEvent* event) {
-    event->ignore();  // the event hides the window
+    event->ignore();  // the next line hides the window
     runevent([this] { closewindow(definition); });
 }
 

@@ -20,9 +20,9 @@ constexpr int titlebar = 30, border = 4;  // pixels reserved for the title bar a
 // Returns the part of the screen that is available for the interior of a window.
 QRect availablefor(const windowframe& f) { return f.screen()->availableGeometry().adjusted(0, titlebar, 0, 0); }
 
-// Returns the first size of a window: that of its content, at most the available one. If the content is too high or too
-// wide, the window has room for the scroll bar beside it.
-QSize firstsize(const windowframe& f) {
+// Returns the initial size of a window: that of its content, but at most the available size. If the content is too
+// high, the window is wider by a scroll bar; if it is too wide, the window is higher by one.
+QSize initialsize(const windowframe& f) {
     const QRect available = availablefor(f);
     const QSize designed = f.content()->size();
     const int bar = f.style()->pixelMetric(QStyle::PM_ScrollBarExtent);
@@ -43,7 +43,7 @@ int distancefromtop(const tessaly::window& w) {
 // Returns the bounds of a window at the right of the picture, moved left or up if it would extend beyond the screen.
 QRect besidepicture(const windowframe& f) {
     const QRect available = availablefor(f);
-    const QSize size = firstsize(f);
+    const QSize size = initialsize(f);
     const QWidget& picture = *widgetof(viewport);
     const QPoint wanted = picture.mapToGlobal(QPoint(picture.width() + border, distancefromtop(f.definition)));
     const QPoint maximum = QPoint(available.right() + 1 - size.width(), available.bottom() + 1 - size.height());
@@ -55,11 +55,11 @@ QRect besidepicture(const windowframe& f) {
 }  // namespace
 
 void openincentre(windowframe& f) {
-    f.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, firstsize(f), availablefor(f)));
+    f.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, initialsize(f), availablefor(f)));
 }
 
 void openmaximised(windowframe& f) {
-    f.resize(firstsize(f));  // its size if no window manager maximises it, and after the user restores it
+    f.resize(initialsize(f));  // its size if no window manager maximises it, and after the user restores it
     f.setWindowState(f.windowState() | Qt::WindowMaximized);
 }
 
