@@ -109,10 +109,8 @@ void appendtemporary(temporaryfile& file, const std::vector<recordorigin>& origi
 void readtemporary(const temporaryfile& file, int n, recordcolumns columns,
                    const std::function<void(int k, const std::vector<value>& fields, const textinput& in,
                                             fieldlocation record)>& use) {
-    const int firstfield =
-        recordlength + 1 -
-        static_cast<int>(
-            columns.size());  // number of a line's first field in the record; 0: it is not part of the record
+    // The number of a line's first field in the record; 0: it is not part of the record.
+    const int firstfield = recordlength + 1 - static_cast<int>(columns.size());
     textinput& in = openinput(2, file.path, "temporary file");
     for (std::size_t i = 0; i < static_cast<std::size_t>(n); ++i) {
         const bool known = i < file.origins.size() && !file.origins[i].path.empty();
