@@ -2,7 +2,7 @@
 //   click BUTTON, pick LIST "ENTRY", type BOX "TEXT", close WINDOW      as with mouse and keyboard
 //   key F6                                   a key that acts in any window: F1, F5 or F6
 //   start                                    clicks startprogrambtn; the session's record does not show what it does
-//   edit FILE "TEXT" "NEW", delete FILE      replaces the first TEXT in a file, "" for the complete file; deletes a file
+//   edit FILE "TEXT" "NEW", delete FILE      replaces the first TEXT, "" for the complete file; deletes
 //   fails STEP                               a step that must end the program with a report; then starts it again
 //   mistake FILE "TEXT" "NEW" STEP           the same, with the file edited in that way during the step
 //   show, layout, table NAME FROM TO         write windows, controls and scalars; the look of windows; part of a table
