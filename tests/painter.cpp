@@ -1,4 +1,4 @@
-// The painter: random faces compared with their geometry, line by line.
+// The projector and the painter: random lines and faces compared with the geometry of the picture plane.
 #include "render/painter.h"
 
 #include "data/pointtransforms.h"
@@ -18,10 +18,10 @@ struct face {
 };
 
 using faces = std::map<int, face>;  // by slot
+constexpr int edgecolour = 50;
 
-// Gives each face four points that no other face uses, and two lines between them, which bring its corners to the
-// screen.
-void setfaces(const faces& all) {
+// Gives each face four points that no other face uses. Draws two of its edges, which brings its corners to the screen.
+void drawedges(const faces& all) {
     resetworld();
     int p = 0;
     for (const auto& [q, f] : all) {
@@ -36,7 +36,8 @@ void setfaces(const faces& all) {
         framing2.set(q, f.framing2);
     }
     ptcount1 = p;
-    linecount1 = p / 2;
+    linecount[linegroups] = p / 2 - 1;  // the last group has one line more
+    wirecolour[linegroups] = edgecolour;
     plotgroups();
 }
 
@@ -56,21 +57,23 @@ struct expectedline {
     int colour;
 };
 
+// Returns a point of the model in viewport pixels.
+vec onviewport(const vec& p) { return lens().at(p - vec{focusx, focusy, focusz}); }
+
 // Adds the lines of a face. They fill it between edges 1-2 and 3-4, then between 1-3 and 2-4, and end at equal parts of
 // these edges on the screen. Framing lines end at equal parts in the model, so that they are in perspective; the
 // closing edge comes before them.
 void addface(std::vector<expectedline>& lines, const face& f, int divisions, int colour) {
-    const lens l;
-    const auto at = [&](const vec& p) { return l.at(p - vec{focusx, focusy, focusz}); };
     const auto part = [](const vec& from, const vec& to, double share) { return from + share * (to - from); };
     const auto& [a, b, c, d] = f.corners;
-    for (const auto& [edge, other] : {std::pair(at(b), at(c)), std::pair(at(c), at(b))})
+    const vec first = onviewport(a), last = onviewport(d);
+    for (const auto& [edge, other] : {std::pair(onviewport(b), onviewport(c)), std::pair(onviewport(c), onviewport(b))})
         for (double i = 0; i <= divisions; ++i)
-            lines.push_back({part(at(a), edge, i / divisions), part(other, at(d), i / divisions), colour});
+            lines.push_back({part(first, edge, i / divisions), part(other, last, i / divisions), colour});
     for (const auto& [count, edge, other] : {std::tuple(f.framing1, b, c), std::tuple(f.framing2, c, b)}) {
-        if (count > 0) lines.push_back({at(d), at(edge), colour + 1});
+        if (count > 0) lines.push_back({last, onviewport(edge), colour + 1});
         for (double i = 0; i < count; ++i)
-            lines.push_back({at(part(a, edge, i / count)), at(part(other, d, i / count)), colour + 1});
+            lines.push_back({onviewport(part(a, edge, i / count)), onviewport(part(other, d, i / count)), colour + 1});
     }
 }
 
@@ -91,10 +94,19 @@ std::vector<expectedline> expectedlines(const faces& all, int divisions, int col
     return lines;
 }
 
+void expectdrawn(const std::vector<drawnline>& drawn, const std::vector<expectedline>& expected) {
+    ASSERT_EQ(drawn.size(), expected.size());
+    for (std::size_t i = 0; i < expected.size(); ++i) {
+        ASSERT_TRUE(isat(expected[i].from, drawn[i].x1, drawn[i].y1)) << i << ' ' << drawn[i];
+        ASSERT_TRUE(isat(expected[i].to, drawn[i].x2, drawn[i].y2)) << i << ' ' << drawn[i];
+        ASSERT_EQ(drawn[i].c, testcolour(expected[i].colour)) << i;
+    }
+}
+
 }  // namespace
 
-// Catches a surplus face or one at the wrong position of the order, a wrong density, a line off its edge, and a colour
-// that does not change when its element is rotated.
+// Catches a wrong factor or sign of the projection, a surplus face or one at the wrong position of the order, a wrong
+// density, a line off its edge, and a colour that does not change when its element is rotated.
 // NOT-BUGS: Large faces look like a net
 TEST(painter, paintsWhatTheGeometrySays) {
     const struct {
@@ -111,22 +123,22 @@ TEST(painter, paintsWhatTheGeometrySays) {
     randomnumbers random;
     for (const double rotated : {0.0, 90.0, 180.0, 270.0, 90.5})
         for (const auto& c : cases) {
-            setview(random.real(900, 2000), random.real(-2000, -900), random.within(1000));
+            const double away = random.real(1500, 3000), angle = random.real(0, 6.28);
+            setview(away * std::cos(angle), away * std::sin(angle), random.within(away), random.real(0.1, 0.6));
+            horizshift = random.within(300);
+            vertshift = random.within(300);
             std::tie(panelcode, firstfilename, secondfilename, elementkind) =
                 std::tie(c.code, c.first, c.second, c.kind);
             std::tie(focusx, focusy, focusz) = std::tuple_cat(randompoint(random, 90));
             rotz = rotated;
             const faces all = randomfaces(random);
-            setfaces(all);
-            s.takelines();
+            drawedges(all);
+            std::vector<expectedline> edges;
+            for (const auto& [q, f] : all)
+                for (const std::size_t i : {0U, 2U})
+                    edges.push_back({onviewport(f.corners[i]), onviewport(f.corners[i + 1]), edgecolour});
+            expectdrawn(s.takelines(), edges);
             paintsolids();
-            const auto expected = expectedlines(all, c.divisions, rotated == 90 || rotated == 270);
-            ASSERT_EQ(s.lines().size(), expected.size());
-            for (std::size_t i = 0; i < expected.size(); ++i) {
-                const drawnline& drawn = s.lines()[i];
-                ASSERT_TRUE(isat(expected[i].from, drawn.x1, drawn.y1)) << i << ' ' << drawn;
-                ASSERT_TRUE(isat(expected[i].to, drawn.x2, drawn.y2)) << i << ' ' << drawn;
-                ASSERT_EQ(drawn.c, testcolour(expected[i].colour)) << i;
-            }
+            expectdrawn(s.takelines(), expectedlines(all, c.divisions, rotated == 90 || rotated == 270));
         }
 }
