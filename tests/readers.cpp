@@ -23,16 +23,20 @@ std::string rows(int count, const std::string& row) {
 
 }  // namespace
 
-// The row after the last one that fits is free text, and so is the end row after it.
-TEST(readers, sectionsWithoutAnEndRowStopAtTheirLimit) {
+// The row after the last one that fits is free text, and so is the end row after it. The next element clears 1..7000
+// (700 of cubecolour) and the counts.
+TEST(readers, sectionsStopAtTheirLimitAndAreCleared) {
     session s(inownfolder);
     setview(1850, -1850, 550);
     const std::string cubes = rows(201, "1,10,20,30,11,21,31,0,5\n");
     readfile(elementtext{.cubes400 = cubes, .cubes600 = cubes, .planes = rows(7001, "1,1,1,1,1,1,5\n")}, 3);
     EXPECT_EQ(joined(ptcount3, linecount6, ptcount4, linecount7), "2000 2400 2000 2400");
     EXPECT_EQ(joined(quad1[7000], quad1[7001]), "1 7001");
+    for (const int i : {0, 700, 701}) cubecolour.set(i, 5);
     readfile(elementtext{.points = rows(10001, "1,0,0,0\n"), .lines = {rows(20001, "1,2\n")}}, 3);
-    EXPECT_EQ(joined(ptcount1, linecount1, drawset), "0 0 1");
+    EXPECT_EQ(joined(ptcount1, ptcount3, linecount1, linecount7, drawset), "0 0 0 0 1");
+    EXPECT_EQ(joined(quad1[1], quad1[7000], quad1[7001]), "0 0 7001");
+    EXPECT_EQ(joined(cubecolour[0], cubecolour[700], cubecolour[701]), "5 0 5");
 }
 
 TEST(readers, fieldsBeforeAFailureStayInTheTables) {
@@ -59,20 +63,15 @@ TEST(readers, unusualPlacements) {
 
 // An axis-cube file that is not part of the scene: its script runs, and all four blocks are drawn.
 TEST(readers, cubesOutsideTheScene) {
-    std::string cubes = "WIRECOLORS:\n6,7,8,9\n";
-    for (const char* key : {"000:", "100:", "200:", "300:", "400:", "500:"})
-        cubes += std::string("AUTOCUBE") + key + "\n1,2,3,5,7,9,10," + key[0] + "00,4,60\n";
-    cubes += "AUTOCUBE600:\n9999,0,0,0,0,0,0,0,0\nAUTOFRAMING1:\n1,21,4\n0,0,9999\nAUTOFRAMING2:\n0,0,9999\n"
-             "TRAN\nTRANSLATE:\n1,1,10,0,0\n9999,0,0,0,0\nTRAN\nSTOP\n";
-    session s(inownfolder);
+    session s;
     setview(1850, -1850, 550);
-    focusx = focusy = focusz = 0.5;
+    s.write("datah/az-test.txt",
+            replaced(s.file("datah/az-cube.txt"), "TRAN\n", "TRAN\nTRANSLATE:\n1,1,10,0,0\n9999,0,0,0,0\nTRAN\n"));
     datafile = "az-test.txt";
-    s.write("datah/az-test.txt", cubes);
     for (const auto readcubes : {readcubex, readcubey, readcubez}) {
         drawset = 1;
         readcubes();
-        EXPECT_EQ(joined(basex[1], drawset, ptz[2009]), "11 2 -0.5");
+        EXPECT_EQ(joined(basex[1], drawset), "-478 2");
     }
 }
 

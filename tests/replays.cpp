@@ -9,14 +9,14 @@ TEST(replays, haveALimitOfRecords) {
     const std::string post = "\"girder\",1,960,312,41,90,0,952,320,4,64\r\n";
     const struct {
         std::size_t records;
-        const char *button, *list, *secondlist, *secondfile;
+        const char *button, *list, *secondpick;
         std::size_t drawn;
     } rows[] = {
-        {10001, "autowiresingle", "autofile", "", "", 10000},
-        {10001, "autosolidsingle", "autofile5", "", "", 1000},
-        {1001, "autowirebtn", "autofile1", "autofile2", "girders1.txt", 2000},
-        {1001, "autosolidbtn", "autofile3", "autofile4", "roofs1.txt", 1000},  // 1000 in both files together
-        {1001, "autosolidbtn", "autofile3", "autofile4", "girders2.txt", 0},
+        {10001, "autowiresingle", "autofile", "", 10000},
+        {10001, "autosolidsingle", "autofile5", "", 1000},
+        {1001, "autowirebtn", "autofile1", "pick autofile2 \"girders1.txt\"", 2000},
+        {1001, "autosolidbtn", "autofile3", "pick autofile4 \"roofs1.txt\"", 1000},  // 1000 in both files together
+        {1001, "autosolidbtn", "autofile3", "pick autofile4 \"girders2.txt\"", 0},
     };
     session s;
     s.write("datah/st-post.txt", elementtext{.points = "1,0,0,0\n2,16,100,30\n", .lines = {"1,2\n"}});
@@ -31,7 +31,7 @@ TEST(replays, haveALimitOfRecords) {
         const auto failed = failureof([&] {
             s.click(row.button);
             s.pick(row.list, "girders1.txt");
-            if (*row.secondlist) s.pick(row.secondlist, row.secondfile);
+            playline(row.secondpick);
         });
         EXPECT_EQ(failed ? kindname(failed->kind) : "", row.drawn ? "" : "subscript out of range") << row.button;
         EXPECT_EQ(s.lines().size(), row.drawn) << row.button;
