@@ -63,16 +63,10 @@ void startanew() {
 // there.
 bool leavesfolder(const std::string& text) { return text.find("..") != text.npos || text.find('/') != text.npos; }
 
-std::string nextline(std::istream& input) {
-    std::string line;
-    std::getline(input, line);
-    return leavesfolder(line) ? "" : line;
-}
-
 void played(std::istream& input) {
-    while (!programended && input) {
+    for (std::string line; !programended && std::getline(input, line);) {
         try {
-            playline(nextline(input));
+            if (!leavesfolder(line)) playline(line);
         } catch (const scripterror&) {
         }
     }

@@ -1,26 +1,20 @@
 // A design survives the death of the program at any moment.
-// TESSALY_KILLS sets how often the program is killed, 60 by default.
 #include "building/layouts.h"
 #include "tests/commandline.h"
+#include "tests/random.h"
 #include "tests/session.h"
 
 #include <algorithm>
 #include <chrono>
-#include <random>
 
 using namespace tessaly;
 namespace fs = std::filesystem;
-
-namespace {
-
-constexpr const char *girders = "designs/girders1.txt", *panels = "designs/panels2.txt";
-
-}  // namespace
 
 // Catches an element that is drawn but not recorded, half a record, a record written twice, and a replay that changes
 // the file that it replays.
 TEST(interrupted, aDesignOutlivesTheProgramsDeathAtAnyMoment) {
     const session s;
+    constexpr const char *girders = "designs/girders1.txt", *panels = "designs/panels2.txt";
     std::string script = "click startprogrambtn\nclick wiresolidbtn\nclick postbeambtn\n", all, walls;
     int clicks = 0;
     for (const buttonposition& p : allbuttonpositions()) {
@@ -36,15 +30,13 @@ TEST(interrupted, aDesignOutlivesTheProgramsDeathAtAnyMoment) {
     session::write("script.play", script);
     session::write(panels, walls);
     const auto written = fs::last_write_time(panels);
-    const char* const setting = std::getenv("TESSALY_KILLS");
-    const int kills = setting ? std::atoi(setting) : 60;
+    constexpr int kills = 60;
     const unsigned seed = std::random_device{}();
-    std::mt19937 random(seed);
-    std::uniform_real_distribution<double> share(0, 1);
+    randomnumbers random(seed);
     double complete = 60;  // seconds that a play takes; the first one is not killed
     int killed = 0;
     for (int k = 0; k <= kills && !HasFailure(); ++k) {
-        const std::string seconds = std::to_string(k == 0 ? complete : complete * share(random));
+        const std::string seconds = std::to_string(k == 0 ? complete : random.real(0, complete));
         SCOPED_TRACE("seed " + std::to_string(seed) + ", killed after " + seconds + " s");
         for (const char* left : {girders, "nonuser/temp.txt", "nonuser/temp2.txt"}) fs::remove(left);
         const auto begin = std::chrono::steady_clock::now();

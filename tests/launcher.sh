@@ -21,7 +21,7 @@ unset TESSALY_HOME DISPLAY WAYLAND_DISPLAY
 work=$HOME/Tessaly
 mkdir -p "$HOME" "$prefix"/{bin,libexec/tessaly} "$share"/{datah,pals,samples,el-numbers}
 cp "$build/packaging/tessaly" "$launcher"
-printf '#!/bin/sh\n{ pwd; printf "<%%s>" "$@"; } >"$STARTED"\nexit 3\n' >"$prefix/libexec/tessaly/tessaly"
+printf '#!/bin/sh\nprintf "<%%s>" "$(pwd)" "$@" >"$STARTED"\nexit 3\n' >"$prefix/libexec/tessaly/tessaly"
 printf '#!/bin/sh\nprintf "%%s" "$@" >"$REPORTED"\n' >"$prefix/libexec/tessaly/report"
 printf '#!/bin/sh\nfor to; do :; done\necho half >"$to"\nkill -9 $PPID\n' >"$scratch/cp"
 chmod +x "$prefix"/libexec/tessaly/* "$scratch/cp"
@@ -41,8 +41,7 @@ start() {
 
 # The first start.
 start 3 "$launcher" -style "two words"
-holds "$work
-<-style><two words>" "$STARTED"
+holds "<$work><-style><two words>" "$STARTED"
 holds shipped "${shipped[@]/#/$work/}"
 [ "$(find "$work" | wc -l)" -eq 13 ] && [ -d "$work/designs" ] && [ -d "$work/bmps" ] && [ -d "$work/nonuser" ] ||
     fail "the working folder has other contents: $(find "$work")"
@@ -63,13 +62,11 @@ holds "" "$scratch/errors"
 
 # Other folders, given by a relative path.
 mkdir -p "$scratch/elsewhere/here"
-start 3 env CDPATH="$scratch/elsewhere" TESSALY_HOME=here "$launcher"
-holds newer "$scratch/here/datah/post.txt"
-holds "$scratch/here
-<>" "$STARTED"
-start 3 env OLDPWD="$scratch/elsewhere" TESSALY_HOME=- "$launcher"
-holds "$scratch/-
-<>" "$STARTED"
+for folder in here -; do
+    start 3 env CDPATH="$scratch/elsewhere" OLDPWD="$scratch/elsewhere" TESSALY_HOME=$folder "$launcher"
+    holds newer "$scratch/$folder/datah/post.txt"
+    holds "<$scratch/$folder>" "$STARTED"
+done
 
 # A start is killed during its first copy: the next start completes the files and removes the partial copy.
 export TESSALY_HOME=$scratch/killed

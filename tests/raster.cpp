@@ -92,11 +92,12 @@ TEST(raster, facesColourThePixelsOfTheirLines) {
     for (int i = 0; i < 40000; ++i) {
         double corners[8];
         for (double& corner : corners)
-            corner = random.oncein(20)  ? std::ldexp(random.within(1), 26)
-                     : random.oncein(2) ? random.whole(-9, 60) / 2.0
-                                        : random.within(40);
+            corner = i == 0              ? 0  // all in the corner of the image
+                     : random.oncein(20) ? std::ldexp(random.within(1), 26)
+                     : random.oncein(2)  ? random.whole(-9, 60) / 2.0
+                                         : random.within(40);
         for (const std::size_t end : {2U, 3U, 6U, 7U}) {
-            if (random.oncein(2)) continue;
+            if (i == 0 || random.oncein(2)) continue;
             corners[end] =
                 corners[end - 2] + std::ldexp(random.within(1), -random.whole(0, random.oncein(9) ? 1070 : 25));
             if (random.oncein(2)) std::swap(corners[end], corners[end - 2]);
@@ -109,11 +110,4 @@ TEST(raster, facesColourThePixelsOfTheirLines) {
         plain.surface::drawbetween(f, divisions, {255, 0, 0});
         ASSERT_EQ(fast.pixels, plain.pixels) << "face " << i << ", " << divisions << " divisions";
     }
-}
-
-// Catches a first line that is compared with the pixels 0, 0 instead of always being drawn.
-TEST(raster, aFaceMayBeThePixelInTheCorner) {
-    raster r(9, 9);
-    r.fillface({}, 7, {255, 0, 0});
-    EXPECT_EQ(r.pixels[0], 0xffff0000);
 }
