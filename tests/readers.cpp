@@ -23,8 +23,8 @@ std::string rows(int count, const std::string& row) {
 
 }  // namespace
 
-// The row after the last one that fits is free text, and so is the end row after it. The next element clears 1..7000
-// (700 of cubecolour) and the counts.
+// The row after the last one that fits is free text, and so is the end row after it. resetworld clears 1..7000 (700
+// of cubecolour) and the counts.
 TEST(readers, sectionsStopAtTheirLimitAndAreCleared) {
     session s(inownfolder);
     setview(1850, -1850, 550);
@@ -33,10 +33,12 @@ TEST(readers, sectionsStopAtTheirLimitAndAreCleared) {
     EXPECT_EQ(joined(ptcount3, linecount6, ptcount4, linecount7), "2000 2400 2000 2400");
     EXPECT_EQ(joined(quad1[7000], quad1[7001]), "1 7001");
     for (const int i : {0, 700, 701}) cubecolour.set(i, 5);
+    for (const int i : {0, 7000, 7001}) basex.set(i, 5);
+    resetworld();
+    EXPECT_EQ(joined(quad1[7000], basex[7000], cubecolour[700], linecount7, ptcount3), "0 0 0 0 0");
+    EXPECT_EQ(joined(quad1[7001], basex[0], basex[7001], cubecolour[0], cubecolour[701]), "7001 5 5 5 5");
     readfile(elementtext{.points = rows(10001, "1,0,0,0\n"), .lines = {rows(20001, "1,2\n")}}, 3);
-    EXPECT_EQ(joined(ptcount1, ptcount3, linecount1, linecount7, drawset), "0 0 0 0 1");
-    EXPECT_EQ(joined(quad1[1], quad1[7000], quad1[7001]), "0 0 7001");
-    EXPECT_EQ(joined(cubecolour[0], cubecolour[700], cubecolour[701]), "5 0 5");
+    EXPECT_EQ(joined(ptcount1, linecount1, drawset), "0 0 1");
 }
 
 TEST(readers, fieldsBeforeAFailureStayInTheTables) {
