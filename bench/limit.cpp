@@ -44,7 +44,7 @@ class limitcollector : public nosurface {
     // The first wire after the faces of an element belongs to the next element.
     void startelement() {
         afterfaces = false;
-        files.push_back(shapefile.text());
+        files.push_back(loadedfile.text());
     }
     void collectpixels(const facecorners& f, std::uint32_t pixel) {
         const auto [left, right] = std::minmax({f.x1, f.x2, f.x3, f.x4});

@@ -96,7 +96,8 @@ void replaycombined() {
     deletetemporary(tempfile);
 }
 
-// Paints the first combinedcount records of tempfile, farthest first. Fails with subscript at record 1001.
+// Paints the first combinedcount records of tempfile, farthest first. Fails with subscript out of range at record
+// 1001.
 void replaycombinedsolid() {
     const int n = static_cast<int>(combinedcount);
     readtemporary(tempfile, n, solidcolumns, [](int k, const std::vector<value>& fields, const auto&, auto) {

@@ -26,9 +26,9 @@ void pickautofile3();
 void pickautofile2();
 
 // Appends the records of the second file to tempfile and paints the first combinedcount records of tempfile, farthest
-// first. More than 1000 records fail with subscript. writes: as pickautofile2, quaddist, perpx.. (absolute until the
-// next plotgroups); draws on viewport and progressbar; fails: as pickautofile2 and paintsolids; the temporary files
-// then remain.
+// first. writes: as pickautofile2, quaddist, perpx.. (absolute until the next plotgroups); draws on viewport and
+// progressbar; fails: as pickautofile2 and paintsolids, and subscript out of range if there are more than 1000 records;
+// the temporary files then remain.
 void pickautofile4();
 
 // Replays two files solid, as picking them in autofile3 and autofile4 does, without changing the lists and prompts.

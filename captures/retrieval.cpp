@@ -49,7 +49,7 @@ void restorecapture() {
     perprelative = 0;
     restorepoints();
     auto field = fields.begin();
-    for (const viewvalue& v : viewvalues) v.number = *field++;
+    for (const viewvalue& v : viewvalues) v.variable = *field++;
     storeeye();
     // Other clears draw more rows, but these also cover the complete picture, except row 0 and column 0.
     viewportsurface->fillrows(1, 1125, 1, 829, backgroundcolour());

@@ -1,4 +1,4 @@
-// The windows and the named controls, their first state, and the operations on them.
+// The windows and the named controls with their initial state, and the operations on them.
 
 #include "core/controls.h"
 
@@ -65,8 +65,8 @@ void resetcontrols() {
         w->controls.clear();
         w->openedby = nullptr;
     }
-    const auto resetcontrol = [](control& c, control first) {
-        c = std::move(first);
+    const auto resetcontrol = [](control& c, control initial) {
+        c = std::move(initial);
         c.parent->controls.push_back(&c);
     };
     // clang-format off

@@ -21,7 +21,7 @@ struct twips {  // bounds on the window's design grid; 15 twips are one pixel
 };
 constexpr int twipsperpixel = 15;
 
-// The tint of a box: none, the text has not been applied yet, or the text needs attention.
+// The tint of a box: none, text that has not been applied yet, or text that needs attention.
 enum class boxtint { none, edited, warning };
 
 struct control;
@@ -70,7 +70,7 @@ const std::vector<window*>& allwindows();
 #include "core/controls.def"
 #undef CONTROL
 
-// The control whose event runs or ran last.
+// The control whose event is running, or was the last one to run.
 inline control* usedcontrol = nullptr;
 
 // The control that gets the keyboard focus after this event; nullptr: the focus does not move.
@@ -82,7 +82,7 @@ inline std::function<void()> repaintmainwindow;
 // Set by exitbtn: the program ends with status 0 after the event.
 inline bool programended = false;
 
-// Resets windows and controls: all windows are hidden, and each window's list holds its named controls in their first
+// Resets windows and controls: all windows are hidden, and each window's list holds its named controls in their initial
 // state. Controls that addcontrol added are gone.
 void resetcontrols();
 
@@ -111,8 +111,8 @@ inline void hidewindow(window& w) { w.shown = false; }
 // Returns whether a window is shown that was last opened by this button.
 bool opensshownwindow(const control& c);
 
-// Show and hide a control. show also stores the control whose event runs in openedby, and requests the keyboard focus
-// for c if c is a list.
+// Show and hide a control. show also sets openedby to the control whose event is running, and requests the keyboard
+// focus for c if c is a list.
 void show(control& c);
 inline void hide(control& c) { c.shown = false; }
 
@@ -127,7 +127,8 @@ void clickcontrol(control& c);
 // Selects an item of a list, file list or combination box, then runs its procedure. fails: as the procedure does.
 void pickitem(control& c, int item);
 
-// Writes a number of the program to a box of the view. Any other text in the box is tinted as not applied yet.
+// Writes a number of the program to a box of the view. The box is tinted while it contains any other text, which has
+// not been applied yet.
 void writebox(control& box, std::string text);
 
 // setfolder sets the folder of a file list and reads it; refresh reads it again. The items are the names of its

@@ -1,5 +1,5 @@
-// The power series of sine and cosine, summed in pairs of doubles with about 31 significant digits. The rounding to a
-// double is wrong only if a result lies so close to the midpoint of two doubles that these digits cannot decide.
+// The power series of sine and cosine, summed in pairs of doubles with about 31 significant digits. The rounding of a
+// result to a double can be wrong only if it is so close to the midpoint of two doubles that more digits would decide.
 
 #include "core/sine.h"
 
@@ -28,8 +28,8 @@ double upperhalf(double a) {
 }
 
 pair exactproduct(double a, double b) {
-    const double product = a * b, a1 = upperhalf(a), b1 = upperhalf(b), a2 = a - a1, b2 = b - b1;
-    return {product, ((a1 * b1 - product) + a1 * b2 + a2 * b1) + a2 * b2};
+    const double product = a * b, ahigh = upperhalf(a), bhigh = upperhalf(b), alow = a - ahigh, blow = b - bhigh;
+    return {product, ((ahigh * bhigh - product) + ahigh * blow + alow * bhigh) + alow * blow};
 }
 
 pair operator+(pair a, pair b) {
@@ -61,12 +61,12 @@ double series(pair first, pair x, double n) {
 }
 
 // Returns the sine of angle + quarterturns * pi / 2. First reduces the angle to its difference from the nearest
-// multiple of pi / 2.
+// multiple of pi / 2. Then quadrant is the number of quarter turns, modulo 4.
 double shiftedsine(double angle, double quarterturns) {
-    constexpr double quarterturn[] = {0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54, -0x1.f1976b7ed8fbcp-110};  // pi / 2
-    const double nearest = std::floor(angle / quarterturn[0] + 0.5);
+    constexpr double halfpi[] = {0x1.921fb54442d18p+0, 0x1.1a62633145c07p-54, -0x1.f1976b7ed8fbcp-110};  // its parts
+    const double nearest = std::floor(angle / halfpi[0] + 0.5);
     pair remainder{angle, 0};
-    for (const double part : quarterturn) remainder = remainder + exactproduct(-nearest, part);
+    for (const double part : halfpi) remainder = remainder + exactproduct(-nearest, part);
     const double signedquadrant = std::fmod(nearest + quarterturns, 4);
     const double quadrant = signedquadrant < 0 ? signedquadrant + 4 : signedquadrant;
     const bool odd = quadrant == 1 || quadrant == 3;

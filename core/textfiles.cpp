@@ -122,8 +122,8 @@ std::string filebytes(std::string_view path, const char* role) {
     const std::size_t foundbytes = std::max(size, bytes.size());
     if (foundbytes <= maxbytes) return bytes;
     throw failure(failurekind::fileaccess,
-                  "the file has " + std::to_string(foundbytes) + " bytes, " + std::to_string(maxbytes) +
-                      " at most were expected",
+                  "the file has " + std::to_string(foundbytes) + " bytes, at most " + std::to_string(maxbytes) +
+                      " were expected",
                   filelocation(name, role), "move it away, or split it");
 }
 

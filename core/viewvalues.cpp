@@ -1,4 +1,4 @@
-// The boxes of the view values.
+// Reads and writes the boxes of the view values.
 
 #include "core/viewvalues.h"
 
@@ -13,7 +13,7 @@ void writecut(control& box, const value& number, std::size_t cut) {
 }  // namespace
 
 void readbox(const viewvalue& v) {
-    v.number = value(v.box.text, std::string("the box \"") + (v.tag ? v.tag : v.name) + '"');
+    v.variable = value(v.box.text, std::string("the box \"") + (v.tag ? v.tag : v.name) + '"');
 }
 
 void writeviewboxes(const boxcuts& cuts, const value& shownmag) {
@@ -23,9 +23,9 @@ void writeviewboxes(const boxcuts& cuts, const value& shownmag) {
         perpsumz = perpz + focusz;
     }
     for (std::size_t i = 0; i < 3; ++i) writecut(eyevalues[i].box, *cuts.eyesource[i], cuts.eye);
-    for (const viewvalue& v : focusvalues) writecut(v.box, v.number, cuts.focus);
+    for (const viewvalue& v : focusvalues) writecut(v.box, v.variable, cuts.focus);
     writecut(magtxt, shownmag, cuts.mag);
-    for (const viewvalue& v : shiftvalues) writecut(v.box, v.number, cuts.shifts);
+    for (const viewvalue& v : shiftvalues) writecut(v.box, v.variable, cuts.shifts);
 }
 
 void copytoeasyviews(const viewvalue& v) {

@@ -1,5 +1,5 @@
 // The nine values of a view, each with its box on the main window, and the one procedure that writes the boxes. Boxes
-// hold texts: a writer cuts its numbers to a few characters, and SET reads back what is left of them.
+// hold texts: numbers are cut to a few characters when they are written, and SET reads back what is left of them.
 #pragma once
 
 #include "core/controls.h"
@@ -10,11 +10,11 @@
 namespace tessaly {
 
 struct viewvalue {
-    value& number;
+    value& variable;
     control& box;
-    control* easyviewsbox;  // its copy on easyviews; nullptr: none
+    control* easyviewsbox;  // its copy on easyviews; nullptr if it has none
     const char* name;       // for reports
-    const char* tag;        // shown in the box; nullptr: a label is beside it
+    const char* tag;        // shown in the box; nullptr if a label is beside it
 };
 // In the order of SET, of view records and of the start file.
 inline constexpr viewvalue viewvalues[] = {
@@ -45,7 +45,7 @@ void readbox(const viewvalue& v);
 inline constexpr const value* absoluteeye[] = {&perpabsx, &perpabsy, &perpabsz};
 inline constexpr const value* summedeye[] = {&perpsumx, &perpsumy, &perpsumz};
 
-// The number of characters to which each number is cut; 0: these boxes are not written. The differences are intended:
+// The number of characters to which each number is cut; 0 if these boxes are not written. The differences are intended:
 // SET with a shift of -1270 leaves "-127" in its box, and the next SET reads that.
 struct boxcuts {
     const value* const* eyesource;
@@ -64,8 +64,8 @@ inline constexpr boxcuts
     magstepcuts        { summedeye,   0,     0,     6,     0 };
 // clang-format on
 
-// Writes the nine boxes with these cuts; magtxt gets shownmag. writes: perpsumx.. if the cuts name them; fails: type
-// mismatch.
+// Writes the nine boxes with these cuts; magtxt gets shownmag. writes: perpsumx.. if eyesource is summedeye; fails:
+// type mismatch.
 void writeviewboxes(const boxcuts& cuts, const value& shownmag = magshown);
 
 // Copies the text of a box to its copy on easyviews.

@@ -1,5 +1,5 @@
-// Replacing a file. The temporary name is short and always the same: every folder accepts it, and a file that a killed
-// process left is found.
+// The temporary name is short and always the same, so that every folder accepts it and a file that a killed process
+// left is found.
 
 #include "core/wholefile.h"
 

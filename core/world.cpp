@@ -1,4 +1,4 @@
-// Defines the tables of the world, lists the scalars, and clears both. All tables are defined in this file, group after
+// Defines the tables of the world, lists the scalars, and resets both. All tables are defined in this file, group after
 // group, because their addresses decide which cache lines they share.
 
 #include "core/world.h"
@@ -53,7 +53,7 @@ std::span<const scalar> scalars() {
         RECORDED(ptcount1), RECORDED(ptcount2), RECORDED(ptcount3), RECORDED(ptcount4),
         UNRECORDED(wirecolour1), UNRECORDED(wirecolour2), UNRECORDED(wirecolour3), UNRECORDED(wirecolour4),
         UNRECORDED(wirecolour5), UNRECORDED(wirecolour6), UNRECORDED(wirecolour7), UNRECORDED(wirecolour8),
-        UNRECORDED(wirecolour9), UNRECORDED(wirecolour10), UNRECORDED(shapefile), UNRECORDED(rowgrade),
+        UNRECORDED(wirecolour9), UNRECORDED(wirecolour10), UNRECORDED(loadedfile), UNRECORDED(rowgrade),
         UNRECORDED(rowcolour), UNRECORDED(backred), UNRECORDED(backgreen), UNRECORDED(backblue),
         UNRECORDED(curwirecolour), UNRECORDED(recordtext), UNRECORDED(drawtext), UNRECORDED(girdercode),
         UNRECORDED(roofcode), UNRECORDED(anycode), UNRECORDED(startgroup1), UNRECORDED(startgroup2),

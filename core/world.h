@@ -42,13 +42,13 @@ extern table<value, lastpoint> savex, savey, savez;      // copies of ptx.., fro
 extern table<double, lastpoint> planex, planey, planez;  // model units: intersection of sight line and picture plane
 extern table<double, lastpoint> planeup, planeside;      // model units on the picture plane
 extern table<double, lastpoint> screenx, screeny;        // viewport pixels, y down; screeny 9999: not projected
-inline value ptcount[5];                                 // points in use of blocks 1..4
+inline value ptcount[5];                                 // number of points in blocks 1..4
 inline value &ptcount1 = ptcount[1], &ptcount2 = ptcount[2], &ptcount3 = ptcount[3], &ptcount4 = ptcount[4];
 inline value drawset;  // 2: all four blocks are projected; anything else: blocks 1, 3 and 4
 
 // ---- lines: group after group without gaps --------------------------------------------------------------
-extern linetable lineend1, lineend2;                   // point index of each end; valid up to the counts
-inline value linecount[linegroups + 1];                // lines of groups 1..10
+extern linetable lineend1, lineend2;                   // point indexes of the ends; valid up to the counts
+inline value linecount[linegroups + 1];                // number of lines in groups 1..10
 inline value wirecolour[linegroups + 1];               // palette index of groups 1..10; that of group 10 is never set
 extern table<value, lastgroup> groupfirst, grouplast;  // first and last line of a group; group 11: framing
 inline value &linecount1 = linecount[1], &linecount2 = linecount[2], &linecount3 = linecount[3],
@@ -60,9 +60,9 @@ inline value &wirecolour1 = wirecolour[1], &wirecolour2 = wirecolour[2], &wireco
              &wirecolour7 = wirecolour[7], &wirecolour8 = wirecolour[8], &wirecolour9 = wirecolour[9],
              &wirecolour10 = wirecolour[10];
 
-// ---- quads: flat four-cornered faces; going around gives 1, 2, 4, 3 --------------------------------------
-// The rails are the edges 1-2 and 3-4; quad3 is opposite quad1.
-// AUTOPLANE: faces start at 1, AUTOCUBE400: faces at 4001, AUTOCUBE600: faces at 6001, ten slots a cube.
+// ---- quads: flat four-cornered faces ---------------------------------------------------------------------
+// Around a quad, its corners are 1, 2, 4, 3. The rails are the edges 1-2 and 3-4.
+// AUTOPLANE: faces start at 1, AUTOCUBE400: faces at 4001, AUTOCUBE600: faces at 6001; a cube takes ten slots.
 extern quadtable quad1, quad2, quad3, quad4;  // point indexes
 extern quadtable quadcolour;                  // palette index; the painter increases it if rotz is 90 or 270
 extern quadtable framing1, framing2;          // number of framing lines of each direction; 0: none
@@ -127,8 +127,8 @@ inline value panelprefix;                    // first part of the panel file's n
 inline value panelcode;                      // code of the panel last chosen or replayed; the painter reads it
 inline value girdercode, roofcode, anycode;  // codes of the record being replayed
 inline value firstfilename, secondfilename;  // names last picked in file lists or deleted; the painter reads them
-inline value shapefile;                      // path of the data file last read into the tables, for reports
-inline value preopened;                      // 1..4: the reader of that number finds its file open on channel 1
+inline value loadedfile;                     // path of the data file last read into the tables, for reports
+inline value preopened;                      // 1..4: the file for the reader of this number is already open
 
 // ---- start-up --------------------------------------------------------------------------------------------
 inline value startgroup1, startgroup2, startgroup3;  // file names without folder and extension
@@ -164,8 +164,8 @@ inline value capname, capsidecar;                             // names of bitmap
 inline value bmpfile, bmpstem, bmpext, bmpimage, bmpsidecar;  // names of an image retrieval
 
 // ---- written and never read ------------------------------------------------------------------------------
-// Numbers read or computed by a step that no later step uses. They are stored because the world shows all of a step,
-// and no number of a data file is lost.
+// Numbers read or computed by a step that no later step uses. They are stored so that the world contains each result of
+// a step and each number of a data file.
 extern table<double, lastpoint> planedist;  // model units: distance of the intersection from the plane's centre
 extern table<double, lastpoint> planecos;   // cosine of the angle between intersection and up reference
 extern quadtable quadface, quadgrade;       // face number; grade of a cube's faces 1..4
@@ -176,13 +176,13 @@ inline value anynumber;                     // number of the record being replay
 inline value focussign;                     // direction of the vertical focus step
 inline value framesecond;                   // 1 while the first of two framing directions is drawn
 
-// A scalar that is a value, by name.
+// A scalar of the type value, and its name.
 struct scalar {
     std::string name;
     value* variable;
     bool recorded;  // part of the state that sessions record
 };
-// Returns all of them. The recorded ones come first, in the order of the records.
+// Returns all scalars of that type. The recorded ones come first, in the order of the records.
 std::span<const scalar> scalars();
 
 // Sets a point's working coordinates.

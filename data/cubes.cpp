@@ -1,6 +1,6 @@
 // An axis-cube file has six sections with a row of cubes each and a section of single cubes. Each section has its own
 // range of points and quads. The six are read in pairs; a pair shares a line group. A row of more than a hundred cubes
-// continues into the range of the next section and overwrites it without notice.
+// continues into the range of the next section and overwrites it silently.
 
 #include "data/cubes.h"
 
@@ -84,9 +84,9 @@ void readcubesections(textinput& in) {
 template <axis stepaxis>
 void readcube() {
     constexpr int readernumber = 2 + static_cast<int>(stepaxis);
-    if (!readshape(readernumber, "axis-cube file", readcubesections<stepaxis>)) return;
+    if (!loadtables(readernumber, "axis-cube file", readcubesections<stepaxis>)) return;
     runtransforms();
-    plotshape(2);
+    closeandplot(2);
 }
 
 }  // namespace

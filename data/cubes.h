@@ -4,7 +4,7 @@
 namespace tessaly {
 
 // Read the file "datah\" + datafile, run its transformation script and plot the result. If preopened is the number of
-// the reader (2 for x, 3 for y, 4 for z), the file is already open on channel 1; the reader then only reads its
+// the reader (2 for x, 3 for y, 4 for z), the file is already open on channel 1. The reader then only reads its
 // sections and leaves it open. reads: datafile, preopened; writes: the world tables, rowgrade, rowcolour, drawset, as
 // runtransforms; draws on viewport; fails: as readelements.
 void readcubex();

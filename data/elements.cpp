@@ -1,5 +1,5 @@
 // Reads the sections of an element file in their fixed order, expands cubes and places the element. The end row of a
-// STANDARD:, LINEG or AUTOPLANE: section is also stored, in the slot after the last real row.
+// STANDARD:, LINEG or AUTOPLANE: section is also stored, in the slot after the last row of data.
 
 #include "data/elements.h"
 
@@ -115,7 +115,7 @@ bool tryplace() {
 
 void readelements() {
     // Without a placement the file stays open on channel 1, so that the next element fails. This is intended.
-    if (readshape(1, "element file", readelementsections) && tryplace()) plotshape(1);
+    if (loadtables(1, "element file", readelementsections) && tryplace()) closeandplot(1);
 }
 
 void rotzplace() {
@@ -134,16 +134,16 @@ void shiftplace() {
     shiftpoints(1, lastplacedpoint, 1);
 }
 
-bool readshape(int readernumber, const char* role, void (*readsections)(textinput& in)) {
+bool loadtables(int readernumber, const char* role, void (*readsections)(textinput& in)) {
     resetworld();
     const bool opened = preopened == readernumber;
     textinput& in = opened ? channelinput(1) : openinput(1, "datah\\" + datafile.text(), role);
-    shapefile = in.path;
+    loadedfile = in.path;
     withsubscriptlocation([&in] { return in.location(); }, [&] { readsections(in); });
     return !opened;
 }
 
-void plotshape(int newdrawset) {
+void closeandplot(int newdrawset) {
     channelinput(1).close();
     drawset = newdrawset;
     plotgroups();

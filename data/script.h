@@ -4,7 +4,7 @@
 namespace tessaly {
 
 // Runs the script of the file open on channel 1 up to STOP and leaves the file open. writes: ptx.., basex.., placex..,
-// rotx, rotz; fails: input past end of file, subscript, type mismatch, overflow.
+// rotx, rotz; fails: input past end of file, subscript out of range, type mismatch, overflow.
 void runtransforms();
 
 }  // namespace tessaly

@@ -1,5 +1,5 @@
-// The start-up display does not set drawset. At the first start drawset is empty, so that block 2 of an axis-cube group
-// is not rebased on the focus. This is intended.
+// Shows each start group with the reader of its file. drawset is not set here: it is empty when the program has just
+// started, so block 2 of an axis-cube file is not made relative to the focus. This is intended.
 
 #include "data/startdisplay.h"
 
@@ -22,10 +22,10 @@ constexpr int viewvaluecount = std::size(viewvalues);
 
 void readdefaultview(textinput& in) {
     findkey(in, "DEFAULTVIEW:");
-    for (const viewvalue& v : viewvalues) v.number = readvalue(in, "a number of DEFAULTVIEW:");
+    for (const viewvalue& v : viewvalues) v.variable = readvalue(in, "a number of DEFAULTVIEW:");
 }
 
-// Reads a preset into viewpreset, starting at index first. Its eye is stored relative to its focus.
+// Reads a preset into viewpreset, starting at index first. Stores its eye relative to its focus.
 void readpreset(textinput& in, const char* key, int first) {
     findkey(in, key);
     for (int i = 0; i < viewvaluecount; ++i) viewpreset.set(first + i, readvalue(in, "a number of a view preset"));
@@ -50,22 +50,22 @@ void readstartfile() {
     in.close();
 }
 
-// Reads a start group with the reader that its prefix selects, and shows it. If the prefix selects no reader, only the
-// group's script runs.
-void showgroup(const value& name, int step) {
+// Reads the file of a start group with the reader that its prefix selects, and shows it. If the prefix selects no
+// reader, only runs the script of the file. groupindex: 0..2.
+void showgroup(const value& name, int groupindex) {
     struct reader {
         const char* prefix;
-        int preopened;
+        int readernumber;  // value of preopened
         void (*read)();
     };
     static constexpr reader readers[] = {
         {"st", 1, readelements}, {"ax", 2, readcubex}, {"ay", 3, readcubey}, {"az", 4, readcubez}};
     openinput(1, "datah\\" + name.text() + ".txt", "start group");
     startprefix = name.text().substr(0, 2);
-    startstep = step;
+    startstep = groupindex;
     for (const reader& r : readers) {
         if (!startprefix.is(r.prefix)) continue;
-        preopened = r.preopened;
+        preopened = r.readernumber;
         r.read();
     }
     showscene();
@@ -78,8 +78,8 @@ void startdisplay() {
         readstartfile();
         clearpicture();
     }
-    int step = 0;
-    for (const value* name : {&startgroup1, &startgroup2, &startgroup3}) showgroup(*name, step++);
+    int groupindex = 0;
+    for (const value* name : {&startgroup1, &startgroup2, &startgroup3}) showgroup(*name, groupindex++);
 }
 
 }  // namespace tessaly

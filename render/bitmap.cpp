@@ -1,4 +1,5 @@
-// In the file the lowest row comes first, blue before green before red; rows are padded to a multiple of four bytes.
+// The first row of a bitmap file is the lowest. The bytes of a pixel are blue, green and red. Rows are padded to a
+// multiple of four bytes.
 
 #include "render/bitmap.h"
 
@@ -14,10 +15,11 @@ namespace tessaly {
 
 namespace {
 
-constexpr std::uint32_t headbytes = 54, infobytes = 40;
+constexpr std::uint32_t headerbytes = 54, infobytes = 40;  // of the complete header, and of its second part
 constexpr int pixelbytes = 3;
 constexpr std::size_t maxside = 65535;  // pixels
-constexpr std::size_t startat = 10, infoat = 14, widthat = 18, heightat = 22, depthat = 28, packedat = 30;
+// Offsets of numbers in the header.
+constexpr std::size_t startat = 10, infoat = 14, widthat = 18, heightat = 22, depthat = 28, compressionat = 30;
 constexpr std::uint32_t dotspermetre = 3780;  // 96 per inch
 
 std::size_t rowbytes(std::size_t width) { return (width * pixelbytes + 3) / 4 * 4; }
@@ -37,12 +39,12 @@ std::string bytesof(const bitmap& picture) {
     const auto width = static_cast<std::uint32_t>(picture.width), height = static_cast<std::uint32_t>(picture.height);
     const auto pixels = static_cast<std::uint32_t>(rowbytes(width)) * height;
     std::string bytes = "BM";
-    for (const std::uint32_t number : {headbytes + pixels, 0U, headbytes, infobytes, width, height})
+    for (const std::uint32_t number : {headerbytes + pixels, 0U, headerbytes, infobytes, width, height})
         addnumber(bytes, number, 4);
     addnumber(bytes, 1, 2);  // planes
     addnumber(bytes, 8 * pixelbytes, 2);
     for (const std::uint32_t number : {0U, pixels, dotspermetre, dotspermetre, 0U, 0U}) addnumber(bytes, number, 4);
-    bytes.reserve(headbytes + pixels);
+    bytes.reserve(headerbytes + pixels);
     for (int y = picture.height - 1; y >= 0; --y) {
         const std::uint32_t* row = picture.pixels.data() + static_cast<std::ptrdiff_t>(y) * picture.width;
         std::for_each(row, row + width, [&](std::uint32_t pixel) { addnumber(bytes, pixel, pixelbytes); });
@@ -58,12 +60,12 @@ void writebitmap(const bitmap& picture, const std::string& path) { replacefile(p
 bitmap readbitmap(const std::string& path) {
     const std::string bytes = filebytes(path, "picture");
     const auto number = [&](std::size_t offset, int count) { return numberat(bytes, offset, count); };
-    if (bytes.size() < headbytes || !bytes.starts_with("BM") || number(infoat, 4) != infobytes ||
-        number(depthat, 2) != 8 * pixelbytes || number(packedat, 4) != 0)
+    if (bytes.size() < headerbytes || !bytes.starts_with("BM") || number(infoat, 4) != infobytes ||
+        number(depthat, 2) != 8 * pixelbytes || number(compressionat, 4) != 0)
         throw failure(failurekind::invalidcall, "a bitmap of 24 bits per pixel was expected",
                       shortpath(path) + " (picture)");
     const std::size_t width = number(widthat, 4), height = number(heightat, 4), start = number(startat, 4);
-    // Divides, because a product could overflow with 32 bits.
+    // Divides, because the product could overflow a size of 32 bits.
     if (std::max(width, height) > maxside || start > bytes.size() ||
         (height > 0 && rowbytes(width) > (bytes.size() - start) / height))
         throw failure(failurekind::invalidcall, "the file is not complete", shortpath(path) + " (picture)");

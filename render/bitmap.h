@@ -1,5 +1,5 @@
-// Bitmap files, the format captures are saved in: 24 bits per pixel, uncompressed, 96 dots per inch. A picture gives
-// the same bytes on every machine, whatever the screen's resolution.
+// Bitmap files, the format in which captures are saved: 24 bits per pixel, uncompressed, 96 dots per inch. The bytes of
+// a picture's file are the same on every machine, whatever the resolution of the screen.
 #pragma once
 
 #include <cstdint>
@@ -14,12 +14,12 @@ struct bitmap {
     std::vector<std::uint32_t> pixels;  // row by row from the top, 0xffRRGGBB
 };
 
-// Writes the picture as a file. An existing file is replaced only when the new one is complete, see core/wholefile.
-// Fails with file access error, also if the folder is missing or takes no new name.
+// Writes the picture to a file, with replacefile of core/wholefile. Fails with file access error, also if the folder is
+// missing.
 void writebitmap(const bitmap& picture, const std::string& path);
 
-// Reads such a file. Fails with file not found, with file access error if it cannot be read, is no regular file or has
-// more than 64 MB, and with invalid call if it is not a bitmap of this format or is truncated.
+// Reads a file of this format. Fails with file not found, with file access error if it cannot be read, is not a regular
+// file or has more than 64 MB, and with invalid call if it does not have this format or is truncated.
 bitmap readbitmap(const std::string& path);
 
 }  // namespace tessaly

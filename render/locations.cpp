@@ -1,5 +1,5 @@
-// Computes rows from the order in which the readers stored them. Element files and axis-cube files differ in their
-// sections.
+// Computes rows from the order in which the readers stored them. The painter paints only element files, but wires are
+// also drawn for axis-cube files.
 
 #include "render/locations.h"
 
@@ -13,29 +13,19 @@ namespace tessaly {
 
 namespace {
 
-constexpr int planefields = 7, cubefields = 9, cuberowfields = 10;
-constexpr int facesofcube = 10;
-constexpr int firstcubeface = 4001, firstlastface = 6001;  // of AUTOCUBE400: and AUTOCUBE600: in an element file
+constexpr int planefields = 7;       // of a row of AUTOPLANE:
+constexpr int firstcubeface = 4001;  // in an element file
 
-// Whether the tables hold an axis-cube file: the start of its name determines its reader.
-bool holdscubes() {
-    const std::string name = shapefile.text();
+// Returns whether the tables hold an axis-cube file. The start of a file's name determines its reader.
+bool holdaxiscubes() {
+    const std::string name = loadedfile.text();
     return name.starts_with("datah\\ax") || name.starts_with("datah\\ay") || name.starts_with("datah\\az");
 }
 
-std::string insection(const std::string& section) { return shortpath(shapefile.text()) + ", " + section; }
+std::string infile(const std::string& part) { return shortpath(loadedfile.text()) + ", " + part; }
 
 std::string inrow(const std::string& section, int row, int number) {
-    return numberlocation(insection(section) + ", row " + std::to_string(row), number);
-}
-
-// Returns the location of the last number in a cube's row.
-std::string locationofcubecolour(int face) {
-    if (holdscubes() && face < firstlastface)
-        return numberlocation(insection("AUTOCUBE" + std::to_string((face - 1) / 1000) + "00:"), cuberowfields);
-    const bool lastsection = face >= firstlastface;
-    const int row = (face - (lastsection ? firstlastface : firstcubeface)) / facesofcube + 1;
-    return inrow(lastsection ? "AUTOCUBE600:" : "AUTOCUBE400:", row, cubefields);
+    return numberlocation(infile(section) + ", row " + std::to_string(row), number);
 }
 
 }  // namespace
@@ -45,7 +35,7 @@ std::string locationoflineend(int group, int row, int end) {
 }
 
 std::string locationofwirecolour(int group) {
-    return numberlocation(insection("WIRECOLORS:"), group - (holdscubes() ? 5 : 0));
+    return numberlocation(infile("WIRECOLORS:"), group - (holdaxiscubes() ? 5 : 0));
 }
 
 std::string locationofbadcorner(int face) {
@@ -56,11 +46,11 @@ std::string locationofbadcorner(int face) {
 }
 
 std::string locationofcolour(int face) {
-    return holdscubes() || face >= firstcubeface ? locationofcubecolour(face) : inrow("AUTOPLANE:", face, planefields);
+    return face < firstcubeface ? inrow("AUTOPLANE:", face, planefields) : infile("the colour of a cube");
 }
 
 std::string locationofframing(int face, int direction) {
-    return insection("AUTOFRAMING" + std::to_string(direction) + ":, face " + std::to_string(face));
+    return infile("AUTOFRAMING" + std::to_string(direction) + ":, face " + std::to_string(face));
 }
 
 }  // namespace tessaly

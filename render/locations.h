@@ -9,8 +9,8 @@ namespace tessaly {
 
 std::string locationoflineend(int group, int row, int end);  // end: 1 or 2
 std::string locationofwirecolour(int group);
-std::string locationofbadcorner(int face);  // of the first corner whose number is not that of a point
-std::string locationofcolour(int face);
+std::string locationofbadcorner(int face);               // of the first corner whose number is not that of a point
+std::string locationofcolour(int face);                  // without the row for a face of a cube
 std::string locationofframing(int face, int direction);  // names the face, because framing rows come in any order
 
 }  // namespace tessaly

@@ -20,7 +20,7 @@ constexpr int maxpainted = 100;  // the nearest quads
 
 bool isroof(const value& filename) { return classofname(filename.text()) == &rooffiles; }
 
-// A two-door panel cut on both sides gets the 200 of the other panels. This is intended.
+// A two-door panel cut at both ends is filled with the 200 divisions of the other panels. This is intended.
 bool istwodoorpanel() {
     const auto& codes = twodoorpanel.codes;
     return panelcode.isnumber() && (panelcode == codes[0] || panelcode == codes[1] || panelcode == codes[2]);
@@ -39,9 +39,9 @@ void fillface(int q) {
     viewportsurface->fillface(f, divisions, palettecolour(facecolour));
 }
 
-// Builds one rail of a framing direction: count points at s / count of its length for s = 0..count - 1, and line ends
-// at them. The points are in model space, so the lines have the right perspective. The closing edge is drawn
-// separately.
+// Builds one rail of a framing direction: count points at s / count of its length for s = 0..count - 1, and the line
+// ends at these points. The points are in model space, so the lines have the right perspective. framedirection draws
+// the last line, at the end of the rails.
 void buildrail(const value& start, const value& end, int firstpoint, int count, linetable& ends) {
     for (int s = 0; s < count; ++s) {
         const double fraction = static_cast<double>(s) / count;

@@ -6,8 +6,9 @@ namespace tessaly {
 
 // Paints the element that readelements has just drawn.
 // reads: quads, framing counts, rotz, panelcode, firstfilename, secondfilename, elementkind, eye, ptx.., screenx..;
-// writes: quaddist, quadcornerdist1..4, quadorder, quadcolour on turned elements, scratch points and lines from 7001,
-// group 11; draws on viewport; fails: as projectdraw does, and subscript for a framing count beyond the tables.
+// writes: quaddist, quadcornerdist1..4, quadorder, quadcolour if rotz is 90 or 270, scratch points and lines from 7001,
+// group 11; draws on viewport; fails: as projectdraw does, and subscript out of range for a framing count beyond the
+// tables.
 void paintsolids();
 
 }  // namespace tessaly

@@ -1,4 +1,4 @@
-// The palette file and the colours that drawing uses.
+// Reads palette files and converts their numbers to drawing colours.
 
 #include "render/palette.h"
 
@@ -23,7 +23,7 @@ int numberat(const std::string& bytes, std::size_t offset) {
     return static_cast<std::int16_t>(low | (high << 8));
 }
 
-// Returns a component as a byte. fails: as palettecolour does, with location().
+// Returns a component as a byte. Fails as palettecolour does, with location().
 template <class locator>
 std::uint8_t component(const value& number, locator location) {
     const double rounded = nearestwhole(number);

@@ -85,9 +85,9 @@ void restoreposition(const sight& s, int p) {
     setpoint(p, basex[p] - s.focusx, basey[p] - s.focusy, basez[p] - s.focusz);
 }
 
-// Moves p along its line towards o, from the saved position, until it is on the far side of the plane. Returns false if
-// the moves left, which both ends of a line share, are used up; screeny[p] then marks the end.
-bool walktofarside(const sight& s, int p, int o) {
+// Moves p along its line towards the other end, from the saved position, until it is on the far side of the plane. Both
+// ends of a line share the remaining steps. Returns false if they are used up; screeny[p] then marks the end as failed.
+bool walktofarside(const sight& s, int p, int other) {
     while (nearside(s, p)) {
         --walkcount;
         if (walkcount == 0) {
@@ -97,22 +97,22 @@ bool walktofarside(const sight& s, int p, int o) {
             return false;
         }
         const double fraction = static_cast<double>(walkcount) / fullwalk;
-        setpoint(p, fraction * (savex[p] - ptx[o]) + ptx[o], fraction * (savey[p] - pty[o]) + pty[o],
-                 fraction * (savez[p] - ptz[o]) + ptz[o]);
+        setpoint(p, fraction * (savex[p] - ptx[other]) + ptx[other], fraction * (savey[p] - pty[other]) + pty[other],
+                 fraction * (savez[p] - ptz[other]) + ptz[other]);
     }
     return true;
 }
 
-bool projectend(const sight& s, int p, int o) {
-    if (!walktofarside(s, p, o)) return false;
+bool projectend(const sight& s, int p, int other) {
+    if (!walktofarside(s, p, other)) return false;
     projectpoint(s, p);
     restoreposition(s, p);
     return true;
 }
 
-void mapend(int e, double scale, double shiftright, double shiftup) {
-    screenx.set(e, ((scale * mappingscale) * planeside[e] + mappingx) + shiftright);
-    screeny.set(e, ((scale * -mappingscale) * planeup[e] + mappingy) - shiftup);
+void mapend(int p, double scale, double shiftright, double shiftup) {
+    screenx.set(p, ((scale * mappingscale) * planeside[p] + mappingx) + shiftright);
+    screeny.set(p, ((scale * -mappingscale) * planeup[p] + mappingy) - shiftup);
 }
 
 // Returns a line end as a point index. A report names the row that contains it.

@@ -40,7 +40,7 @@ void measurequad(int i) {
 
 // Returns the slots that may hold quads, ascending.
 std::vector<int> writtenslots() {
-    writtenpages pages = quad1.written();
+    pageset pages = quad1.written();
     for (const auto* corner : {&quad2, &quad3, &quad4}) pages |= corner->written();
     if (quad4[0] != 0) pages.set();  // then measurequad treats no slot as empty
     std::vector<int> slots;

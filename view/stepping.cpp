@@ -56,10 +56,10 @@ double cutshift(const value& shift) {
 
 void stepshift(int sign, double increment, const viewvalue& shift) {
     shiftinc = increment;
-    shift.number = cutshift(shift.number) + sign * shiftinc;
+    shift.variable = cutshift(shift.variable) + sign * shiftinc;
     settle();
     replot();
-    writebox(shift.box, boxtext(shift.number, 5));
+    writebox(shift.box, boxtext(shift.variable, 5));
 }
 
 // A pair of buttons, the list in which their increment is picked, and the button that shows the list.
