@@ -1,5 +1,5 @@
-// Picture files through Qt Gui. The contents of a file determine its kind, not its name. Kinds that can contain
-// instructions or refer to other files, such as SVG, are never passed to Qt.
+// Reads and writes picture files with Qt Gui. The contents of a file determine its kind, not its name. Kinds that can
+// contain instructions or refer to other files, such as SVG, are never passed to Qt.
 
 #include "picturefiles/picturefile.h"
 
@@ -19,7 +19,8 @@ namespace tessaly {
 
 namespace {
 
-constexpr int maxmegabytes = 64;  // of a picture in memory, at four bytes per pixel
+constexpr int maxmegabytes = 64;                  // of a picture in memory
+constexpr qint64 maxpixels = maxmegabytes << 18;  // at four bytes per pixel
 
 // Returns a BMP unchanged. Fails if it has fewer bytes than its header says: Qt would show the missing rows in black.
 std::string completebmp(std::string bytes) {
@@ -29,13 +30,13 @@ std::string completebmp(std::string bytes) {
     throw failure(failurekind::invalidcall, "the file is not complete");
 }
 
-// Returns a PNG without its ancillary chunks: a few megabytes of compressed texts can expand to gigabytes.
+// Returns a PNG without its ancillary chunks: a few megabytes of compressed text can expand to gigabytes.
 std::string criticalchunks(std::string bytes) {
-    constexpr std::size_t signaturesize = 8, typeoffset = 4, emptychunk = 12;
+    constexpr std::size_t signaturesize = 8, typeoffset = 4, emptychunksize = 12;
     constexpr char ancillary = 0x20;
     std::string critical = bytes.substr(0, signaturesize);
-    for (std::size_t at = signaturesize; at + emptychunk <= bytes.size();) {
-        const quint64 length = quint64{qFromBigEndian<quint32>(bytes.data() + at)} + emptychunk;
+    for (std::size_t at = signaturesize; at + emptychunksize <= bytes.size();) {
+        const quint64 length = quint64{qFromBigEndian<quint32>(bytes.data() + at)} + emptychunksize;
         const auto available = static_cast<std::size_t>(std::min<quint64>(length, bytes.size() - at));
         if (!(bytes[at + typeoffset] & ancillary)) critical.append(bytes, at, available);
         at += available;
@@ -50,8 +51,8 @@ std::string limitedscans(std::string bytes) {
     int scans = 0;
     for (std::size_t at = 0; (at = bytes.find("\xFF\xDA", at)) != std::string::npos; ++at) ++scans;
     if (scans <= maxscans) return bytes;
-    throw failure(failurekind::invalidcall, "the picture has " + std::to_string(scans) + " scans, " +
-                                                std::to_string(maxscans) + " at most were expected");
+    throw failure(failurekind::invalidcall, "the picture has " + std::to_string(scans) + " scans, at most " +
+                                                std::to_string(maxscans) + " were expected");
 }
 
 std::string unchanged(std::string bytes) { return bytes; }
@@ -63,10 +64,10 @@ struct picturekind {
 };
 constexpr picturekind kinds[] = {
     // clang-format off
-    {"bmp",  "BM",                    completebmp},
+    {"bmp",  "BM",                 completebmp},
     {"png",  "\x89PNG\r\n\x1A\n", criticalchunks},
     {"jpeg", "\xFF\xD8\xFF",       limitedscans},
-    {"gif",  "GIF8",                  unchanged},
+    {"gif",  "GIF8",               unchanged},
     // clang-format on
 };
 
@@ -78,17 +79,17 @@ void writepng(const raster& image, const std::string& path) {
     replacefile(path, {bytes.constData(), static_cast<std::size_t>(bytes.size())}, "picture");
 }
 
-// Decodes the upper left part of a picture, at most the size of viewport.
+// Decodes the upper left part of a picture, at most as large as viewport.
 QImage decode(const picturekind& kind, const std::string& bytes) {
     QByteArray contents = QByteArray::fromRawData(bytes.data(), static_cast<qsizetype>(bytes.size()));
     QBuffer buffer(&contents);
     QImageReader reader(&buffer, kind.qtformat);
     reader.setAutoDetectImageFormat(false);
     const QSize size = reader.size();
-    if (qint64{size.width()} * size.height() > (qint64{maxmegabytes} << 20) / 4)
-        throw failure(failurekind::invalidcall, std::to_string(size.width()) + " x " + std::to_string(size.height()) +
-                                                    " pixels, " + std::to_string(maxmegabytes) +
-                                                    " MB at most were expected");
+    if (qint64{size.width()} * size.height() > maxpixels)
+        throw failure(failurekind::invalidcall, "the picture has " + std::to_string(size.width()) + " x " +
+                                                    std::to_string(size.height()) + " pixels, at most " +
+                                                    std::to_string(maxpixels) + " were expected");
     reader.setClipRect(QRect(0, 0, viewportwidth, viewportheight).intersected(QRect(QPoint(), size)));
     const QImage picture = reader.read().convertToFormat(QImage::Format_RGB32);
     if (picture.isNull()) throw failure(failurekind::invalidcall, reader.errorString().toStdString());
@@ -109,18 +110,19 @@ bitmap readimage(const std::string& path) {
         f.addlocation(path + " (picture)");
         throw;
     }
-    bitmap read{picture.width(), picture.height(), {}};
-    for (int y = 0; y < read.height; ++y) {
+    bitmap image{picture.width(), picture.height(), {}};
+    for (int y = 0; y < image.height; ++y) {
         const auto* row = reinterpret_cast<const std::uint32_t*>(picture.constScanLine(y));
-        std::transform(row, row + read.width, std::back_inserter(read.pixels),
+        std::transform(row, row + image.width, std::back_inserter(image.pixels),
                        [](std::uint32_t pixel) { return pixel | 0xff000000U; });
     }
-    return read;
+    return image;
 }
 
-bool endswithnocase(const std::string& path, const std::string& ending) {
-    return path.size() >= ending.size() &&
-           std::equal(ending.rbegin(), ending.rend(), path.rbegin(), [](char a, char b) { return a == (b | 0x20); });
+// Returns whether path ends with an extension in lower-case or upper-case letters. extension is in lower case.
+bool hasextension(const std::string& path, const std::string& extension) {
+    return path.size() >= extension.size() && std::equal(extension.rbegin(), extension.rend(), path.rbegin(),
+                                                         [](char a, char b) { return a == (b | 0x20); });
 }
 
 }  // namespace
@@ -131,8 +133,8 @@ void usepicturefiles() {
 }
 
 void savepicture(const raster& image, const std::string& path) {
-    if (endswithnocase(path, ".png")) return writepng(image, path);
-    if (endswithnocase(path, ".bmp")) return writebitmap(image, path);
+    if (hasextension(path, ".png")) return writepng(image, path);
+    if (hasextension(path, ".bmp")) return writebitmap(image, path);
     throw failure(failurekind::fileaccess, "a name that ends in .png or .bmp was expected", shortpath(path));
 }
 
