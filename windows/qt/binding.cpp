@@ -189,7 +189,7 @@ void openwindows() {
         if (QWidget* picture = widgetof(viewport)) picture->update();
     };
     installaccessibility();
-    filterkeys();
+    droprepeats();
     ending = false;
     runevent(startprogram);
 }

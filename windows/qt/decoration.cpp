@@ -15,7 +15,7 @@ struct decorator {
 };
 const decorator decorators[] = {
     // clang-format off
-    {&startform,    decoratestartform,    openincentre},
+    {&startform,    decoratestartform,    opencentred},
     {&vistaplan,    decoratevistaplan,    openmaximised},
     {&layoutgirder, decoratelayout,       openbesidemain},
     {&layoutpanels, decoratelayout,       openbesidemain},

@@ -58,7 +58,7 @@ class keyfilter : public QObject {
 
 }  // namespace
 
-void filterkeys() {
+void droprepeats() {
     static keyfilter* const filter = new keyfilter(qApp);
     qApp->installEventFilter(filter);
 }

@@ -5,10 +5,10 @@
 
 namespace tessaly {
 
-// Installs the filter. Call it after the QApplication was created.
-void filterkeys();
+// Drops these repeats from now on. Call it after the QApplication has been created.
+void droprepeats();
 
-// Returns whether the user's last press was that of a key, not of a mouse button.
+// Returns whether the user last pressed a key, not a mouse button.
 bool lastpresswaskey();
 
 }  // namespace tessaly

@@ -40,7 +40,7 @@ int distancefromtop(const tessaly::window& w) {
     return found == std::end(layouts) ? 0 : increment * static_cast<int>(found - layouts);
 }
 
-// Returns the bounds of a window at the right of the picture, moved left or up if it would extend beyond the screen.
+// Returns the bounds of a window to the right of the picture, moved left or up if it would extend beyond the screen.
 QRect besidepicture(const windowframe& f) {
     const QRect available = availablefor(f);
     const QSize size = initialsize(f);
@@ -54,7 +54,7 @@ QRect besidepicture(const windowframe& f) {
 
 }  // namespace
 
-void openincentre(windowframe& f) {
+void opencentred(windowframe& f) {
     f.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter, initialsize(f), availablefor(f)));
 }
 
