@@ -112,7 +112,8 @@ std::string shape::text() const {
     std::string out = title + "\n" + note + "\n";
     out += "Seen from outside X runs to the right; the outside looks towards minus Y; Z is up.\n";
     out += "\nColours of the seven line groups, by palette entry\nWIRECOLORS:\n";
-    out += formatted("%d, %d, %d, %d, %d, 0, 0\n\n", wires[0], wires[1], wires[2], wires[3], wires[4]);
+    out += formatted("%d, %d, %d, %d, %d, 0, 0\n\n", wirecolours[0], wirecolours[1], wirecolours[2], wirecolours[3],
+                     wirecolours[4]);
     out += pointrows(*this) + linerows(*this);
     out += "No cubes\nAUTOCUBE400:\n9999, 0, 0, 0, 0, 0, 0, 0, 0\nAUTOCUBE600:\n9999, 0, 0, 0, 0, 0, 0, 0, 0\n\n";
     out += quadrows(*this);
