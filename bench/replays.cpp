@@ -7,7 +7,7 @@ namespace tessaly {
 namespace {
 
 constexpr int floors = 10;
-constexpr int storeygirders = 130, storeypanels = 100;  // a girder at each position of the plan, and panels
+constexpr int storeygirders = 130, storeypanels = 100;  // one girder at each of the 130 positions
 
 void replaystorey(int onfloor) {
     replaycombined(girdersfile(storeygirders, onfloor), panelsfile(storeypanels, onfloor));

@@ -23,7 +23,7 @@ drawn() {
     [ $((density % 100)) -eq 0 ] || return 0
     import -window "$main" -crop "$((896 * density / 100))x$((580 * density / 100))+$((120 * density / 100))+0" +repage \
         "$scratch/seen.png"
-    [ "$(differing "$scratch/seen.png" "$scratch/$1.png")" = 0 ]
+    [ "$(differentpixels "$scratch/seen.png" "$scratch/$1.png")" = 0 ]
 }
 
 # rests NAME: saves a picture of the window, and succeeds if the window no longer changes.
@@ -31,7 +31,7 @@ rests() {
     import -window "$window" "$scratch/earlier.png"
     sleep 0.1
     import -window "$window" "$pictures/$desktop-$1.png"
-    [ "$(differing "$scratch/earlier.png" "$pictures/$desktop-$1.png")" = 0 ]
+    [ "$(differentpixels "$scratch/earlier.png" "$pictures/$desktop-$1.png")" = 0 ]
 }
 
 # alike NAME: succeeds if the window looks as it does on the plain desktop. Skips the help on the small screen, where it
@@ -39,22 +39,22 @@ rests() {
 alike() {
     [ "$desktop$1" != smallhelp ] && [ "$desktop$1" != smallhelppages ] || return 0
     import -window "$window" "$pictures/$desktop-$1.png"
-    [ "$(differing "$pictures/plain-$1.png[1022x707+0+0]" "$pictures/$desktop-$1.png[1022x707+0+0]")" = 0 ]
+    [ "$(differentpixels "$pictures/plain-$1.png[1022x707+0+0]" "$pictures/$desktop-$1.png[1022x707+0+0]")" = 0 ]
 }
 
-# pictured NAME: waits until viewport shows the picture. looked NAME: waits until the window looks as it should.
-pictured() {
+# expectpicture NAME: waits until viewport shows the picture. expectlook NAME: waits until the window looks as it should.
+expectpicture() {
     xdotool windowraise "$main" mousemove "$width" "$height"
     waitfor "$desktop: the picture $1" drawn "$1"
-    looked "$1"
+    expectlook "$1"
 }
-looked() {
+expectlook() {
     xdotool windowraise "$window" mousemove "$width" "$height" # away from tooltips
     waitfor "$desktop: the expected look of $1" $look "$1"
 }
 
 # on DESKTOP LOOK WIDTH HEIGHT VARIABLE=VALUE...: plays the script on a screen of this size, with these environment
-# variables. LOOK is the procedure that checks the look of a window.
+# variables. LOOK is the function that checks the look of a window.
 on() {
     local desktop=$1 look=$2
     mogrify -path "$scratch" -crop 896x580+0+0 +repage -sample "$density%" "$scratch"/drawn/*.png
@@ -66,7 +66,7 @@ on() {
     else
         playbymouse <"$script"
     fi
-    programended 0
+    expectend 0
     stopscreen
     diff -r "$scratch/player" "$scratch/$desktop" || fail "$desktop: the folder has other files"
 }

@@ -67,7 +67,7 @@ click postbeambtn       # opens 600 Layout Girders
 click postx0y16         # 40 40
 click exitbtn
 SCRIPT
-programended 0
+expectend 0
 for folder in datah pals el-numbers samples; do
     diff -r "$root/$folder" "$work/$folder" || fail "$folder/ differs from the shipped folder"
 done
@@ -79,7 +79,7 @@ echo "in the way" >"$scratch/file"
 startprogram / env TESSALY_HOME="$scratch/file" "$installed/bin/tessaly"
 waitfor "the launcher's report" shown 200 Tessaly
 xdotool windowfocus "$window" key Return
-programended 1
+expectend 1
 
 packages --purge tessaly
 [ -z "$(find "$scratch/root/usr" ! -type d 2>/dev/null)" ] || fail "the package left files: $(find "$scratch/root/usr" ! -type d)"

@@ -1,5 +1,5 @@
 // The projector: single lines that no session draws. tests/painter.cpp compares random lines with the geometry of the
-// picture plane; lines that reach behind the plane are in the session first-steps.
+// picture plane; lines that reach the near side of the plane are in the session first-steps.
 #include "render/projector.h"
 
 #include "data/pointtransforms.h"
@@ -23,12 +23,12 @@ void drawoneline(const vec& eye, const vec& from, const vec& to) {
 
 }  // namespace
 
-// A point in the plane is not moved. A near end is moved to 1/299 of its line if necessary.
-TEST(projector, nearEndsAreMovedBehindThePlane) {
-    for (const auto& [x, movesleft] : {std::pair(940, 299), std::pair(1059, 1)}) {
+// A point in the plane is not moved. An end on the near side is moved up to 298 times, until 1/299 of its line remains.
+TEST(projector, nearEndsAreMovedToTheFarSide) {
+    for (const auto& [x, stepsleft] : {std::pair(940, 299), std::pair(1059, 1)}) {
         session s(inownfolder);
         drawoneline({1000, 0, 0}, {double(x), 40, 16}, {939.5, 1, 1});
-        EXPECT_EQ(joined(planecentrex, walkcount, s.lines().size()), joined(940, movesleft, 1)) << x;
+        EXPECT_EQ(joined(planecentrex, walkcount, s.lines().size()), joined(940, stepsleft, 1)) << x;
     }
 }
 

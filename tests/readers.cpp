@@ -58,7 +58,7 @@ TEST(readers, unusualPlacements) {
                                   "3,6\nTRAN\nTRANSLATE:\n1,1,10,0,0\n" + rows(7000, "4,4,1,0,0\n") + "TRAN\nSTOP\n"};
     readfile(e, 0);  // runs the script
     EXPECT_EQ(joined(basex[1], basex[3], basex[4], s.takelines().size()), "11 5 6999 1");
-    readfile(e, 6);  // is unknown: the file stays open
+    readfile(e, 6);  // an unknown placement: the file stays open
     EXPECT_TRUE(s.lines().empty());
     EXPECT_EQ(failureof([&] { readfile(e, 3); })->kind, failurekind::filealreadyopen);
 }

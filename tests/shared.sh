@@ -53,8 +53,8 @@ startprogram() {
     programpid=$!
 }
 
-# programended STATUS: waits for the end of the program and checks its exit status.
-programended() {
+# expectend STATUS: waits for the end of the program and checks its exit status.
+expectend() {
     local status=0
     waitfor "the program's end" sh -c "! kill -0 $programpid 2>/dev/null"
     wait "$programpid" || status=$?
@@ -76,13 +76,14 @@ shown() {
 }
 
 # clickon CONTROL [X Y]: clicks a control with the left button, at X, Y of $window in window pixels, or in the middle of
-# the bounds in the table of controls (15 twips per pixel).
+# the bounds in the table of controls (15 twips per pixel). A control of the table is in the main window, or in the window
+# that was found last.
 clickon() {
-    local in= x y
-    read -r in x y < <(awk -F '[(, ]+' -v name="$1" '/^CONTROL/ && $4 == name {
+    local owner= x y
+    read -r owner x y < <(awk -F '[(, ]+' -v name="$1" '/^CONTROL/ && $4 == name {
         print $2, int(($5 + $7 / 2) / 15), int(($6 + $8 / 2) / 15) }' "$root/core/controls.def") || [ -n "${2:-}" ] ||
         fail "no control $1 in the table"
-    [ "$in" != vistaplan ] || window=$main
+    [ "$owner" != vistaplan ] || window=$main
     [ -z "${2:-}" ] || x=$2 y=$3
     xdotool windowraise "$window" mousemove --window "$window" $((x * density / 100)) $((y * density / 100)) click 1
 }
@@ -90,7 +91,7 @@ clickon() {
 # playbymouse: plays the lines of a player's script from standard input by mouse and keyboard, starting at the start
 # window. A comment after a line adds details: "# X Y" is a position in the window that was opened last; "# opens
 # MINWIDTH TITLE" is a window that the line opens, which must be completely on the screen, with one pixel allowed for
-# rounding. For a line "picture NAME.png" and a comment "# look NAME", calls pictured and looked of the sourcing script.
+# rounding. For a line "picture NAME.png" and a comment "# look NAME", calls expectpicture and expectlook.
 playbymouse() {
     local action hint command name text x y title X Y WIDTH HEIGHT
     waitfor "the start window" shown 800 "Tessaly Girder and Panel"
@@ -99,9 +100,9 @@ playbymouse() {
         read -r x y title <<<"$hint"
         case $command in
         click | pick | type) clickon "$name" "${x#opens}" "$y" ;;
-        picture) pictured "${name%.png}" ;;
+        picture) expectpicture "${name%.png}" ;;
         esac
-        [ "$x" != look ] || looked "$y"
+        [ "$x" != look ] || expectlook "$y"
         [ "$command" != type ] || xdotool key ctrl+a type "${text//\"/}"
         [ "$x" = opens ] || continue
         waitfor "the window $title" shown "$y" "$title"
@@ -111,7 +112,7 @@ playbymouse() {
     done
 }
 
-# differing FILE FILE: writes the number of pixels that differ.
-differing() {
+# differentpixels FILE FILE: writes the number of pixels that differ.
+differentpixels() {
     compare -metric AE "$1" "$2" null: 2>&1 | awk '{ printf "%d\n", $1 }'
 }
