@@ -33,12 +33,11 @@ def descendants(parent):
 
 def waitfor(what, look):
     deadline = time.monotonic() + 20
-    while time.monotonic() < deadline:
-        found = look()
-        if found:
-            return found
+    while not (found := look()):
+        if time.monotonic() > deadline:
+            sys.exit(f"waited in vain for {what}")
         time.sleep(0.05)
-    sys.exit(f"waited in vain for {what}")
+    return found
 
 
 def program():
@@ -59,8 +58,7 @@ def check(control, window):
     readonly = has(control, Atspi.StateType.READ_ONLY)
     for wrong, fault in (
             (role not in roles, "has a role that no control has"),
-            (not name, "has no name"),
-            (name.lower() in description.lower(), f"has a description that repeats its name: {description}"),
+            (name.lower() in description.lower(), f"has no name or repeats it in its description: {description}"),
             (name.startswith("Prompt") and not readonly, "can be typed into"),
             (role in acting and not readonly and not control.get_n_actions(), "has no action")):
         if wrong:

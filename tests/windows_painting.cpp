@@ -17,18 +17,16 @@ namespace {
 // Returns what a window paints behind its controls.
 QImage backgroundof(const window& w) {
     QImage image(frameof(w)->content()->size(), QImage::Format_RGB32);
-    image.fill(screencolour(w.background));
-    QPainter painter(&image);
-    frameof(w)->paintbackground(painter);
+    frameof(w)->content()->render(&image, {}, {}, QWidget::DrawWindowBackground);
     return image;
 }
 
 // Returns whether a line crosses this rectangle.
 bool hasink(const QImage& image, const QRect& where) {
     const QImage part = image.copy(where);
-    for (int i = 0; i < part.width() * part.height(); ++i)
-        if (std::abs(qGray(part.pixel(i % part.width(), i / part.width())) - qGray(image.pixel(0, 0))) > 8) return true;
-    return false;
+    QImage plain = part;
+    plain.fill(image.pixel(0, 0));
+    return part != plain;
 }
 
 // What the screen shows of a widget: not what it would paint now, so that a missing update is noticed. The screen of
@@ -37,16 +35,13 @@ QImage onscreen(QWidget& widget) {
     if (widget.devicePixelRatioF() > 1) return widget.grab().toImage();
     QTest::qWait(20);
     const QRect bounds(widget.mapTo(widget.window(), QPoint()), widget.size());
-    return widget.screen()
-        ->grabWindow(widget.window()->winId(), bounds.x(), bounds.y(), bounds.width(), bounds.height())
-        .toImage();
+    return widget.screen()->grabWindow(widget.window()->winId()).copy(bounds).toImage();
 }
 
 // The lightness of a button without a picture or caption at this position, in pixels of the design grid.
 int lightnessat(const control& c, int x, int y) {
     const QImage seen = onscreen(*widgetof(c));
-    return seen.pixelColor(seen.width() * x / widgetof(c)->width(), seen.height() * y / widgetof(c)->height())
-        .lightness();
+    return seen.pixelColor(QPoint(x, y) * seen.devicePixelRatio()).lightness();
 }
 
 // The tooltip of a position button, which is read out as well. The button has a white mark if its element is built.
@@ -58,19 +53,27 @@ std::string tipof(const char* name) {
     return tip.toStdString();
 }
 
+// Counts how often a widget is painted.
+class paintcounter : public QObject {
+  public:
+    explicit paintcounter(QWidget* counted) { counted->installEventFilter(this); }
+    bool eventFilter(QObject*, QEvent* event) override {
+        paints += event->type() == QEvent::Paint;
+        return false;
+    }
+    int paints = 0;
+};
+
 }  // namespace
 
-// The plans have 8 x 6 grid points, with the buttons around their middle.
-TEST_F(windows_painting, gridsAreBehindTheirButtons) {
-    for (control* opener : {&postbeambtn, &orange1btn, &roofbtn}) click(*opener);
-    for (const window* layout : {&layoutgirder, &layoutpanels, &layoutroof}) {
+// The plans have 8 x 6 grid points, with the buttons around their middle. Each height has a tick on its scale.
+TEST_F(windows_painting, gridsAndScalesAreBehindTheirButtons) {
+    for (control* opener : {&postbeambtn, &orange1btn, &roofbtn, &fastchange}) click(*opener);
+    const std::map<const window*, int> pitches{{&layoutgirder, 80}, {&layoutpanels, 64}, {&layoutroof, 56}};  // pixels
+    for (const auto& [layout, pitch] : pitches) {
         QRect buttons;
-        double pitch = 0;  // pixels
-        for (const buttonposition& p : allbuttonpositions()) {
-            if (p.family->layout != layout) continue;
-            buttons |= widgetof(*findcontrol(positionname(p)))->geometry();
-            pitch = p.family->pitch / double{twipsperpixel};
-        }
+        for (const control* c : layout->controls)
+            if (c->elementnumber > 0) buttons |= widgetof(*c)->geometry();
         const QImage seen = backgroundof(*layout);
         for (int n = 0; n < 8; ++n) {
             SCOPED_TRACE(layout->name + std::to_string(n));
@@ -79,14 +82,9 @@ TEST_F(windows_painting, gridsAreBehindTheirButtons) {
             EXPECT_FALSE(hasink(seen, {point.x() - 5, buttons.top() - 11, 3, 4}));
             if (n > 5) continue;
             EXPECT_TRUE(hasink(seen, {buttons.left() - 11, point.y() - 1, 4, 3}));
-            EXPECT_FALSE(hasink(seen, {buttons.left() - 11, point.y() - 5, 4, 3}));
             EXPECT_EQ(hasink(seen, {point.x() + 2, point.y() + 2, 1, 1}), layout != &layoutgirder);  // a post
         }
     }
-}
-
-TEST_F(windows_painting, eachHeightHasATickOnItsScale) {
-    click(fastchange);
     const QImage seen = backgroundof(easyviews);
     for (const control* c : easyviews.controls) {
         if (!c->name.starts_with("perpz") && !c->name.starts_with("focusz")) continue;
@@ -112,11 +110,9 @@ TEST_F(windows_painting, buttonsShowTheirState) {
         qobject_cast<QPushButton*>(widgetof(*c))->setDown(false);
         EXPECT_GT(std::abs(lightnessat(*c, 8, 1) - lightnessat(*c, 8, 4)), 80);  // the ring of the keyboard
     }
-    const QImage exit = widgetof(exitbtn)->grab().toImage();
-    int brightest = 0;
-    for (int x = 0; x < exit.width(); ++x)
-        brightest = std::max(brightest, exit.pixelColor(x, exit.height() / 2).lightness());
-    EXPECT_GT(brightest, 200);  // white letters on red
+    const QImage exit = widgetof(exitbtn)->grab().toImage().convertToFormat(QImage::Format_Grayscale8);
+    const uchar* const row = exit.constScanLine(exit.height() / 2);
+    EXPECT_GT(*std::max_element(row, row + exit.width()), 200);  // white letters on red
 }
 
 // Catches a button that looks pressed without its window, and a window whose last button does not.
@@ -163,19 +159,34 @@ TEST_F(windows_painting, plansShowWhatIsBuilt) {
 // Catches a picture that is blurred, moved, or of half the density.
 TEST_F(windows_painting, picturesAreShownPixelByPixel) {
     click(orange1btn);
-    const QString density = widgetof(orange1btn)->devicePixelRatioF() == 2 ? "@2x" : "";
     for (const control* c : {&orange2btn, &door2btn, &roofbtn, &snipleftbtn, &snipbothbtn}) {
-        const QImage picture(":/pictures/" + QString::fromStdString(c->name) + density + ".png");
         const QImage seen = widgetof(*c)->grab().toImage();
-        const QPoint corner((seen.width() - picture.width()) / 2, (seen.height() - picture.height()) / 2);
-        ASSERT_FALSE(picture.isNull());
-        int differ = 0;
-        for (int i = 0; i < picture.width() * picture.height(); ++i) {
-            const QPoint at(i % picture.width(), i / picture.width());
-            differ += qAlpha(picture.pixel(at)) == 255 && seen.pixel(corner + at) != picture.pixel(at);
-        }
-        EXPECT_EQ(differ, 0) << c->name;
+        const QString density = seen.devicePixelRatio() == 2 ? "@2x.png" : ".png";
+        QImage picture(":/pictures/" + QString::fromStdString(c->name) + density);
+        picture.setDevicePixelRatio(seen.devicePixelRatio());
+        qobject_cast<QPushButton*>(widgetof(*c))->setIcon(QPixmap(1, 1));
+        QImage expected = widgetof(*c)->grab().toImage();
+        const QSize rims = (seen.size() - picture.size()) / 2 / seen.devicePixelRatio();
+        QPainter(&expected).drawImage(QPoint(rims.width(), rims.height()), picture);
+        EXPECT_EQ(seen, expected) << c->name;
     }
+}
+
+// NOT-BUGS: Nothing seems to happen, then the whole solid picture appears
+TEST_F(windows_painting, theProgressStripMovesWhileThePictureWaits) {
+    QTest::qWait(20);
+    paintcounter strip(widgetof(progressbar)), picture(widgetof(viewport));
+    runevent([&] {
+        show(progressbar);
+        viewportsurface->line(1, 1, 50, 50, {255, 0, 0});
+        progresssurface->line(1, 700, 17, 700, {250, 50, 50});
+        progresssurface->flush();
+        EXPECT_EQ(strip.paints, 1);
+        EXPECT_EQ(picture.paints, 0);
+        hide(progressbar);
+    });
+    QTest::qWait(20);
+    EXPECT_EQ(picture.paints, 1);
 }
 
 }  // namespace tessaly

@@ -16,25 +16,21 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <sstream>
 
 namespace tessaly {
 
-inline void startapplication() {
-    static int argc = 1;
-    static char name[] = "windowtests", *argv[] = {name, nullptr};
-    if (qApp) return;
-    QApplication::setDesktopSettingsAware(false);
-    new QApplication(argc, argv);
-    setstyle();
-    usepicturefiles();
-}
-
 class windowsession : public testing::Test {
   protected:
     windowsession() {
-        startapplication();
+        static int argc = 1;
+        static char name[] = "windowtests", *argv[] = {name, nullptr};
+        if (!qApp) {
+            QApplication::setDesktopSettingsAware(false);
+            new QApplication(argc, argv);
+            setstyle();
+            usepicturefiles();
+        }
         messagereader.callOnTimeout([this] {
             auto* const box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
             if (!box) return;
@@ -43,17 +39,9 @@ class windowsession : public testing::Test {
             box->accept();
         });
         messagereader.start(5);
-    }
-
-    void SetUp() override {
-        folder.emplace(TESSALY_SOURCE_DIR);
         start();
     }
-
-    void TearDown() override {
-        destroywindows();
-        folder.reset();
-    }
+    ~windowsession() override { destroywindows(); }
 
     static void click(const control& c) {
         ASSERT_TRUE(widgetof(c) && widgetof(c)->isVisible()) << c.name;
@@ -75,36 +63,24 @@ class windowsession : public testing::Test {
         std::istringstream all(words);
         for (std::string word; all >> word && !HasFatalFailure();) {
             SCOPED_TRACE(word);
+            QWidget* const focused = frameof(*activewindow)->focusWidget();
             if (const auto key = QKeySequence(word.c_str())[0].key(); key != Qt::Key_unknown)
-                press(key);
+                QTest::keyClick(focused, key);
             else if (word.front() == '"')
-                type(word.substr(1, word.size() - 2));
+                QTest::keyClicks(focused, word.substr(1, word.size() - 2).c_str());
             else
-                gotoorcheck(word.front(), word.find_first_of("=-") == 0 ? word.substr(1) : word);
+                gotoorcheck(word.front(), word.substr(word.find_first_not_of("=-")));
         }
     }
 
-    std::optional<workingfolder> folder;
+    workingfolder folder{TESSALY_SOURCE_DIR};
     std::string report;  // of a failure, read on the screen and closed
 
   private:
-    void type(const std::string& text) {
-        ASSERT_TRUE(frameof(*activewindow)->focusWidget()) << "nothing has the focus in " << activewindow->name;
-        QTest::keyClicks(frameof(*activewindow)->focusWidget(), text.c_str());
-    }
-
-    void press(Qt::Key key) {
-        ASSERT_TRUE(frameof(*activewindow)->focusWidget()) << "nothing has the focus in " << activewindow->name;
-        QTest::keyClick(frameof(*activewindow)->focusWidget(), key);
-        const auto* line = qobject_cast<QLineEdit*>(frameof(*activewindow)->focusWidget());
-        EXPECT_TRUE(key != Qt::Key_Tab || !line || line->selectedText() == line->text());  // to be typed over
-    }
-
     void gotoorcheck(char mark, const std::string& name) {
         const control* const c = findcontrol(name);
         const window* const w = c ? c->parent : findwindow(name);
-        ASSERT_TRUE(w) << "no control and no window";
-        ASSERT_TRUE(frameof(*w)) << w->name << " was not opened";
+        ASSERT_TRUE(w && frameof(*w)) << "no such control or window, or it was not opened";
         if (mark == '-') {
             EXPECT_FALSE(c ? widgetof(*c)->isVisible() : frameof(*w)->isVisible());
             return;
@@ -112,11 +88,14 @@ class windowsession : public testing::Test {
         activewindow = w;
         frameof(*w)->activateWindow();
         ASSERT_TRUE(QTest::qWaitFor([w] { return QApplication::activeWindow() == frameof(*w); }));
-        for (int tabs = 0; mark != '=' && focusedcontrol(*w) != c && tabs < 400; ++tabs) press(Qt::Key_Tab);
-        const QWidget *const focused = frameof(*w)->focusWidget(), *const wanted =
-                                                                       c ? widgetof(*c) : frameof(*w)->content();
-        EXPECT_TRUE(focused == wanted) << "the focus is on "
-                                       << (focused ? qPrintable(focused->objectName()) : "nothing");
+        for (int tabs = 0; mark != '=' && focusedcontrol(*w) != c && tabs < 400; ++tabs) {
+            QTest::keyClick(frameof(*w)->focusWidget(), Qt::Key_Tab);
+            const auto* line = qobject_cast<QLineEdit*>(frameof(*w)->focusWidget());
+            EXPECT_TRUE(!line || line->selectedText() == line->text());  // to be typed over
+        }
+        const QWidget* const focused = frameof(*w)->focusWidget();
+        EXPECT_EQ(focused, c ? widgetof(*c) : frameof(*w)->content())
+            << "the focus is on " << (focused ? qPrintable(focused->objectName()) : "nothing");
     }
 
     const window* activewindow = &vistaplan;  // to which the desktop sends keys
