@@ -53,9 +53,9 @@ TEST(value, textMeetsArithmetic) {
         {"", "box", "box: this is empty: a number such as 12.5 belongs here (type mismatch)"},
         {"1e400", "box", "box: the number 1e400 is too large: correct the number (overflow)"},
         {std::string("a\r\n\x1B[31m\0b\xE2\x80\xAE"
-                     "c\xC3\xA9",
-                     16),
-         "", "\"a???[31m?b?c\xC3\xA9\" is not a number: a number such as 12.5 belongs here (type mismatch)"},
+                     "c\xD8\x9C\xC3\xA9",
+                     18),
+         "", "\"a???[31m?b?c?\xC3\xA9\" is not a number: a number such as 12.5 belongs here (type mismatch)"},
         {std::string(1000000, 'x'), "",
          "\"" + std::string(60, 'x') +
              "... (1000000 characters)\" is not a number: a number such as 12.5 belongs here (type mismatch)"}};

@@ -53,7 +53,11 @@ extern "C" {
 int open(const char* path, int flags, ...) {
     return call<int>("open", path, {EMFILE, EIO, EINTR, ENOSPC, EACCES}, path, flags, 0666);
 }
-int close(int handle) { return call<int>("close", pathof(handle), {EIO, EINTR}, handle); }
+int close(int handle) {
+    const bool written = (fcntl(handle, F_GETFL) & O_ACCMODE) != O_RDONLY;
+    if (fails(written ? "close written" : "close", pathof(handle), {EIO, EINTR})) return -1;
+    return call<int>("close", "/", {}, handle);
+}
 ssize_t read(int handle, void* bytes, size_t count) {
     return call<ssize_t>("read", pathof(handle), {EIO, EINTR}, handle, bytes, count);
 }
