@@ -88,11 +88,12 @@ class windows_randomuser : public windowsession, public testing::WithParamInterf
     // Types into a box, and often sets the view then.
     const control* type() {
         static const std::vector<const char*> numbers{"0", "1", "2.5", "-270", "1850", "-1850.5", ".07", "100", "10"},
-            words{"3x", "4", "10", "solid", "wireframe", "on", "off", "a.bmp", "b.bmp", "snip both sides", "Snip"};
+            words{"3x", "4", "10", "solid", "wireframe", "on", "off", "a.bmp", "b.bmp"},
+            snips{"snip both sides", "Snip", "Full panel"};
         control* const c = anycontrol({controlkind::textbox, controlkind::combobox});
         if (!c || widgetof(*c)->focusPolicy() == Qt::NoFocus) return nullptr;
         const bool word = c->warningof || c == &capbox || c == &panelsnipper;
-        const char* const text = anyof(word ? words : numbers);
+        const char* const text = anyof(c == &panelsnipper ? snips : word ? words : numbers);
         script += "type " + c->name + " \"" + text + "\"\n";
         widgetof(*c)->setFocus(Qt::TabFocusReason);
         QTest::keyClick(widgetof(*c), Qt::Key_A, Qt::ControlModifier);
