@@ -37,9 +37,9 @@ class checksum {
         std::snprintf(digits, sizeof digits, "%016llx", static_cast<unsigned long long>(sum));
         return digits;
     }
-    std::string shorttext() const {  // eight: enough to notice a change
-        char digits[9];
-        std::snprintf(digits, sizeof digits, "%08x", static_cast<unsigned>(sum ^ sum >> 32));
+    std::string shorttext() const {  // six: enough to notice a change
+        char digits[7];
+        std::snprintf(digits, sizeof digits, "%06x", static_cast<unsigned>(sum ^ sum >> 32) >> 8);
         return digits;
     }
 

@@ -13,8 +13,8 @@ namespace tessaly {
 
 namespace {
 
-constexpr int planefields = 7;       // of a row of AUTOPLANE:
-constexpr int firstcubeface = 4001;  // in an element file
+constexpr int planefields = 7, cubefields = 9, facesofcube = 10;
+constexpr int firstcubeface = 4001, firstlastcubeface = 6001;  // of AUTOCUBE400: and AUTOCUBE600: in an element file
 
 // Returns whether the tables hold an axis-cube file. The start of a file's name determines its reader.
 bool holdaxiscubes() {
@@ -46,7 +46,10 @@ std::string locationofbadcorner(int face) {
 }
 
 std::string locationofcolour(int face) {
-    return face < firstcubeface ? inrow("AUTOPLANE:", face, planefields) : infile("the colour of a cube");
+    if (face < firstcubeface) return inrow("AUTOPLANE:", face, planefields);
+    const bool isfirst = face < firstlastcubeface;
+    const int row = (face - (isfirst ? firstcubeface : firstlastcubeface)) / facesofcube + 1;
+    return inrow(isfirst ? "AUTOCUBE400:" : "AUTOCUBE600:", row, cubefields);
 }
 
 std::string locationofframing(int face, int direction) {
