@@ -1,4 +1,5 @@
-// The projector and the painter: random lines and faces compared with the geometry of the picture plane.
+// The projector and the painter: random lines and faces compared with the geometry of the picture plane, and single
+// lines that no session draws. Lines that reach the near side of the plane are in the session first-steps.
 #include "render/painter.h"
 
 #include "data/pointtransforms.h"
@@ -103,6 +104,12 @@ void expectdrawn(const std::vector<drawnline>& drawn, const std::vector<expected
     }
 }
 
+// Draws the same line twice, as two edges of a face.
+void drawtwice(const vec& eye, const vec& from, const vec& to) {
+    setview(eye[0], eye[1], eye[2]);
+    drawedges({{1, {{from, to, from, to}, 1, 0, 0}}});
+}
+
 }  // namespace
 
 // Catches a wrong factor or sign of the projection, a surplus face or one at the wrong position of the order, a wrong
@@ -141,4 +148,27 @@ TEST(painter, paintsWhatTheGeometrySays) {
             paintsolids();
             expectdrawn(s.takelines(), expectedlines(all, c.divisions, rotated == 90 || rotated == 270));
         }
+}
+
+// A point in the plane is not moved. An end on the near side is moved up to 298 times, until 1/299 of its line remains.
+TEST(painter, nearEndsAreMovedToTheFarSide) {
+    for (const auto& [x, stepsleft] : {std::pair(940, 299), std::pair(1059, 1)}) {
+        session s(inownfolder);
+        drawtwice({1000, 0, 0}, {double(x), 40, 16}, {939.5, 1, 1});
+        EXPECT_EQ(joined(planecentrex, walkcount, s.takelines().size()), joined(940, stepsleft, 2)) << x;
+    }
+}
+
+TEST(painter, zeroDivisorsAreFailures) {
+    const struct {
+        vec eye, point;
+        const char* report;
+    } cases[] = {{{1850, -1850, 550}, {0, 0, 0}, "a point lies on the line from the eye to the focus"},
+                 {{0, 0, 0}, {5, 5, 5}, "the eye is at the focus"},
+                 {{0, 0, 1024}, {5, 5, 5}, "the eye is straight above"}};
+    for (const auto& c : cases) {
+        session s(inownfolder);
+        const auto failed = failureof([&c] { drawtwice(c.eye, c.point, {1, 2, 3}); });
+        expectfailure(failed, failurekind::divisionbyzero, c.report);
+    }
 }
