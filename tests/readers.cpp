@@ -15,21 +15,15 @@ void readfile(const elementtext& e, int mode) {
     readelements();
 }
 
-std::string rows(int count, const std::string& row) {
-    std::string all;
-    for (; count > 0; --count) all += row;
-    return all;
-}
-
 }  // namespace
 
 // The row after the last one that fits is free text, and so is the end row after it. resetworld clears 1..7000 (700
-// of cubecolour) and the counts.
+// of cubecolour) and the counts. The fields before a failure stay in the tables.
 TEST(readers, sectionsStopAtTheirLimitAndAreCleared) {
     session s(inownfolder);
     setview(1850, -1850, 550);
-    const std::string cubes = rows(201, "1,10,20,30,11,21,31,0,5\n");
-    readfile(elementtext{.cubes400 = cubes, .cubes600 = cubes, .planes = rows(7001, "1,1,1,1,1,1,5\n")}, 3);
+    const std::string cubes = repeated(201, "1,10,20,30,11,21,31,0,5\n");
+    readfile(elementtext{.cubes400 = cubes, .cubes600 = cubes, .planes = repeated(7001, "1,1,1,1,1,1,5\n")}, 3);
     EXPECT_EQ(joined(ptcount3, linecount6, ptcount4, linecount7), "2000 2400 2000 2400");
     EXPECT_EQ(joined(quad1[7000], quad1[7001]), "1 7001");
     for (const int i : {0, 700, 701}) cubecolour.set(i, 5);
@@ -37,14 +31,9 @@ TEST(readers, sectionsStopAtTheirLimitAndAreCleared) {
     resetworld();
     EXPECT_EQ(joined(quad1[7000], basex[7000], cubecolour[700], linecount7, ptcount3), "0 0 0 0 0");
     EXPECT_EQ(joined(quad1[7001], basex[0], basex[7001], cubecolour[0], cubecolour[701]), "7001 5 5 5 5");
-    readfile(elementtext{.points = rows(10001, "1,0,0,0\n"), .lines = {rows(20001, "1,2\n")}}, 3);
+    readfile(elementtext{.points = repeated(10001, "1,0,0,0\n"), .lines = {repeated(20001, "1,2\n")}}, 3);
     EXPECT_EQ(joined(ptcount1, linecount1, drawset), "0 0 1");
-}
-
-TEST(readers, fieldsBeforeAFailureStayInTheTables) {
-    session s(inownfolder);
     session::write("datah/st-test.txt", "WIRECOLORS:\n1,2,3,4,5,6,7\nSTANDARD:\n1,20,30\n");
-    datafile = "st-test.txt";
     EXPECT_EQ(failureof(readelements)->kind, failurekind::inputpastend);
     EXPECT_EQ(joined(ptx[1], pty[1], basex[1]), "20 30 0");
 }
@@ -54,12 +43,13 @@ TEST(readers, unusualPlacements) {
     setview(1850, -1850, 550);
     const elementtext e{.points = "1,1,2,3\n2,50,60,70\n",
                         .lines = {"1,2\n"},
-                        .script = "TRAN\nXTRANSFORMATIONS:\n" + rows(10000, "3,5\n") +
-                                  "3,6\nTRAN\nTRANSLATE:\n1,1,10,0,0\n" + rows(7000, "4,4,1,0,0\n") + "TRAN\nSTOP\n"};
+                        .script = "TRAN\nXTRANSFORMATIONS:\n" + repeated(10000, "3,5\n") +
+                                  "3,6\nTRAN\nTRANSLATE:\n1,1,10,0,0\n" + repeated(7000, "4,4,1,0,0\n") +
+                                  "TRAN\nSTOP\n"};
     readfile(e, 0);  // runs the script
     EXPECT_EQ(joined(basex[1], basex[3], basex[4], s.takelines().size()), "11 5 6999 1");
     readfile(e, 6);  // an unknown placement: the file stays open
-    EXPECT_TRUE(s.lines().empty());
+    EXPECT_TRUE(s.takelines().empty());
     EXPECT_EQ(failureof([&] { readfile(e, 3); })->kind, failurekind::filealreadyopen);
 }
 
@@ -77,15 +67,14 @@ TEST(readers, cubesOutsideTheScene) {
     }
 }
 
-// A start in a wrong or damaged folder: the load of the main window fails with a report before anything is drawn.
+// A start in a wrong or damaged folder: the load of the main window fails with a report before anything is drawn. The
+// session missing-folders shows other reports.
 TEST(readers, foldersMustExist) {
     const struct {
         const char* damage;
         failurekind kind;
         const char* report;
     } rows[] = {
-        {"rm -r designs", failurekind::filenotfound, "the folder designs is missing: make it"},
-        {"rm -r bmps", failurekind::filenotfound, "the folder bmps is missing: make it"},
         {"rm -r designs; ln -s designs designs", failurekind::fileaccess, "designs\\ (folder)"},
         {"rm -r designs datah", failurekind::filenotfound, "is not a working folder: start the program with ./run.sh"},
         {"rm -r \"$PWD\"", failurekind::filenotfound, "the working folder was deleted"},
@@ -94,6 +83,6 @@ TEST(readers, foldersMustExist) {
         session s;
         ASSERT_EQ(std::system(row.damage), 0);
         expectfailure(failureof([&] { s.start(); }), row.kind, row.report);
-        EXPECT_TRUE(s.lines().empty());
+        EXPECT_TRUE(s.takelines().empty());
     }
 }

@@ -1,5 +1,5 @@
-// A temporary working folder with the program started in it, and a surface that stores every drawn line. Tests click,
-// pick and type like a user, or set the tables themselves and call one procedure.
+// A temporary working folder with the program started in it, and a surface that stores every drawn line. Tests play
+// lines of scripts, or set the tables themselves and call one procedure.
 #pragma once
 
 #include "core/controls.h"
@@ -29,7 +29,6 @@ namespace tessaly {
 struct drawnline {
     float x1, y1, x2, y2;
     colour c;
-    bool operator==(const drawnline&) const = default;
 };
 
 inline std::ostream& operator<<(std::ostream& out, const drawnline& l) {
@@ -45,15 +44,13 @@ class linestore : public surface {
     std::vector<drawnline> drawn;
 };
 
-using filesbypath = std::map<std::string, std::string>;
-inline const filesbypath inownfolder{
-    {"datah/.own", ""}};  // for a session without shipped data: the test writes its files
+// For a session without shipped data: the test writes its files.
+inline const std::filesystem::path inownfolder;
 
 class session {
   public:
-    // Creates a working folder with the shipped data or, if files are given, with only these.
-    explicit session(const filesbypath& files = {}) : folder(files.empty() ? TESSALY_SOURCE_DIR : "") {
-        for (const auto& [path, bytes] : files) write(path, bytes);
+    // Creates a working folder with the data files of another folder.
+    explicit session(const std::filesystem::path& data = TESSALY_SOURCE_DIR) : folder(data) {
         viewportsurface = &viewport;
         progresssurface = &progress;
         startprogram();
@@ -64,11 +61,8 @@ class session {
     // ---- actions of a user; using a hidden control is an error of the test ----
     void start() { click("startprogrambtn"); }
     void click(const std::string& name) { playline("click " + name); }
-    void type(const std::string& name, const std::string& text) { playline("type " + name + ' ' + inquotes(text)); }
-    void pick(const std::string& name, const std::string& item) { playline("pick " + name + ' ' + inquotes(item)); }
 
     // ---- results ----
-    const std::vector<drawnline>& lines() const { return viewport.drawn; }
     std::vector<drawnline> takelines() { return std::exchange(viewport.drawn, {}); }
     // Returns the bytes of a file in the working folder; "(none)" if it does not exist.
     static std::string file(const std::string& path) {
@@ -128,6 +122,13 @@ inline std::string replaced(std::string text, const std::string& old, const std:
     const std::size_t at = text.find(old);
     if (at == std::string::npos) throw std::logic_error("there is no " + old);
     return text.replace(at, old.size(), fresh);
+}
+
+// Returns the text that many times.
+inline std::string repeated(std::size_t times, const std::string& text) {
+    std::string all;
+    for (; times > 0; --times) all += text;
+    return all;
 }
 
 // An element file section by section. A section that a test does not set has only its end row.

@@ -61,8 +61,7 @@ TEST(value, textMeetsArithmetic) {
              "... (1000000 characters)\" is not a number: a number such as 12.5 belongs here (type mismatch)"}};
     for (const auto& [text, origin, report] : mistakes)
         EXPECT_EQ(failureof([text = text, origin = origin] { return value(text, origin) + 1; })->what(), report);
-    std::string name;  // a character of two bytes is not cut
-    for (int i = 0; i < 100; ++i) name += "\xC3\xA9";
+    const std::string name = repeated(100, "\xC3\xA9");  // a character of two bytes is not cut
     EXPECT_EQ(excerpt(name), name.substr(0, 120) + "... (100 characters)");
     EXPECT_EQ(shortpath("designs\\" + name + ".txt"),
               "designs\\" + name.substr(0, 44) + "..." + name.substr(0, 52) + ".txt");
