@@ -22,8 +22,6 @@ class playedsession : public testing::Test {
 
     void TestBody() override {
         const std::string script = sessions / (name + ".play"), expected = sessions / (name + ".txt");
-        ASSERT_TRUE(fs::exists(script)) << "a record or a folder without a script";
-        ASSERT_TRUE(fs::exists(expected)) << "no record: tools/make-sessions.sh " << name;
         session s;
         const fs::path files = sessions / name;
         if (fs::exists(files)) fs::copy(files, ".", fs::copy_options::recursive | fs::copy_options::overwrite_existing);
