@@ -11,7 +11,7 @@
 set -uo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.." || exit 1
 . tools/setup.sh
-root=$PWD
+export root=$PWD
 expected=$root/tests/everymachine.txt
 export WINEPREFIX=$root/build-everymachine/wine WINEDEBUG=-all
 
@@ -40,10 +40,7 @@ play() {
     cannotrun "$1" || $emulator "$folder/tools/$program" "$root" | tr -d '\r' >"$folder/checksums"
 }
 
-if [ "${1:-}" = --play ]; then
-    play "$2"
-    exit
-fi
+export -f folderof cannotrun play
 contracted="aarch64-linux-gnu-g++ -O2 -ffp-contract=fast"
 if [ $# -eq 0 ] || [ "$1" = all ]; then
     more=()
@@ -55,7 +52,7 @@ if [ $# -eq 0 ] || [ "$1" = all ]; then
     set -- "g++ -O2" "clang++ -O2" "g++ -O3 -march=native" "clang++ -O3 -march=native" "aarch64-linux-gnu-g++ -O2" \
         "$contracted" "g++ -O0" "clang++ -O0" "x86_64-w64-mingw32-g++-posix -O2" "${more[@]}"
 fi
-printf '%s\0' "$@" | xargs -0 -P "$(nproc)" -I '{}' "${BASH_SOURCE[0]}" --play '{}' || { echo "A build failed." >&2; exit 1; }
+printf '%s\0' "$@" | xargs -0 -P "$(nproc)" -I '{}' bash -o pipefail -c 'play "$0"' '{}' || { echo "A build failed." >&2; exit 1; }
 
 failed=0
 for build in "$@"; do
