@@ -35,7 +35,7 @@ class ratios : public benchmark::ConsoleReporter {
         for (const method m : {method::plain, method::qpainter})
             print(std::string("  times faster than ") + nameof(m), replay + nameof(m), program);
         print("  of the time is not spent drawing", replay + nameof(method::nodrawing), program);
-        print("  times the time of 100 records for 1000", program,
+        print("  times as long for 1000 records as for 100", program,
               std::string(tenthofreplay) + "/" + nameof(method::program));
         print("  times the limit", program, limitofreplay);
     }

@@ -20,7 +20,7 @@ constexpr int topfloor = 10;
 using rankedfiles = std::vector<countedfile>;  // files of one class and floor, in the order of their names
 
 // Returns a file with the digit of its floor. The files that clicks on floor 10 write, such as "girders10.txt", belong
-// to floor 10 here, although a reader in which they are picked draws them on floor 1.
+// to floor 10 here, although the readers draw them on floor 1 when a user picks them.
 replayfile replayfileof(const std::string& name) {
     const fileclass* const found = classofname(name);
     if (found && name == recordfile(*found, topfloor)) return {name, 0};
@@ -44,7 +44,8 @@ std::vector<countedfile> countfiles() {
     return files;
 }
 
-// Deletes the temporary files of an interrupted replay. Otherwise their records would be replayed instead of others.
+// Deletes the temporary files of an interrupted replay. Otherwise the next replay would draw their records instead of
+// its own.
 void deletetemporaryfiles() {
     for (temporaryfile* file : {&tempfile, &sortedtempfile}) {
         std::error_code ignored;

@@ -1,6 +1,6 @@
 // An axis-cube file has six sections with a row of cubes each and a section of single cubes. Each section has its own
 // range of points and quads. The six are read in pairs; a pair shares a line group. A row of more than a hundred cubes
-// continues into the range of the next section and overwrites it silently.
+// continues into the range of the next section, which then overwrites the excess cubes silently.
 
 #include "data/cubes.h"
 

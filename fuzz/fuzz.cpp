@@ -1,9 +1,9 @@
 // Runs the program with random inputs. A play file of this folder, named by the environment variable TESSALY_FUZZ,
-// defines the target: each of its paragraphs is a variant of using an input, and the input's length selects one. The
-// program plays the lines of the paragraph; these lines use the input:
+// defines the target. Each of its paragraphs uses the input in another way, and the input's length selects one. The
+// program plays the lines of the paragraph. These lines use the input:
 //   # input FILE     writes the input to this file
-//   # script FILE    appends the input, as the script of this element file, to its sections
-//   # played         plays the input's lines, except those that no user could carry out
+//   # script FILE    appends the input to the sections of this element file, as its script
+//   # played         plays the input's lines, except those that no user could carry out or that name another folder
 // Every input may end in a failure. Anything else is a finding: a crash, a sanitizer's report, another exception, or
 // more than two seconds of work.
 
@@ -52,7 +52,7 @@ void startanew() {
         fs::create_directory(folder);
     }
     for (const auto& [path, bytes] : files) write(path, bytes);
-    static raster picture(90, 58);  // a tenth as wide and high as viewport, which took half of the time to clear
+    static raster picture(90, 58);  // a tenth as wide and high as viewport: clearing that took half of each run
     picture.clear();
     viewportsurface = &picture;
     progresssurface = &playedstrip;
@@ -60,10 +60,10 @@ void startanew() {
 }
 
 // Returns whether a text, as part of a file name, could lead out of the working folder. Inputs must change nothing
-// there.
+// outside it.
 bool leavesfolder(const std::string& text) { return text.find("..") != text.npos || text.find('/') != text.npos; }
 
-void played(std::istream& input) {
+void playinput(std::istream& input) {
     for (std::string line; !programended && std::getline(input, line);) {
         try {
             if (!leavesfolder(line)) playline(line);
@@ -82,7 +82,7 @@ void play(const std::string& variant, const std::string& input) {
         if (!line.starts_with('#')) playline(line);
         if (line.starts_with("# input")) write(name, input);
         if (line.starts_with("# script")) write(name, sections(filebytes(name, "element")) + input);
-        if (line == "# played") played(inputlines);
+        if (line == "# played") playinput(inputlines);
     }
 }
 
@@ -110,6 +110,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
         play(variants[size % variants.size()], std::string(bytes, bytes + size));
     } catch (const failure&) {
     }
-    if (std::clock() - before > maxwork) throw std::runtime_error("an input was more than 2 s of work");
+    if (std::clock() - before > maxwork) throw std::runtime_error("an input took more than 2 s of processor time");
     return 0;
 }

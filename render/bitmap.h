@@ -14,8 +14,8 @@ struct bitmap {
     std::vector<std::uint32_t> pixels;  // row by row from the top, 0xffRRGGBB
 };
 
-// Writes the picture to a file, with replacefile of core/wholefile. Fails with file access error, also if the folder is
-// missing.
+// Writes the picture to a file, with replacefile of core/wholefile. Fails with file access error, for
+// example if the folder is missing.
 void writebitmap(const bitmap& picture, const std::string& path);
 
 // Reads a file of this format. Fails with file not found, with file access error if it cannot be read, is not a regular

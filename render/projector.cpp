@@ -1,6 +1,5 @@
 // Sums and products are evaluated in the written order, so that all machines draw the same pixels.
-// E is the eye, D the seed of the picture plane, C its centre, P a point, R the reference point's hit; all relative to
-// the focus.
+// E is the eye, D the seed of the picture plane, C its centre, P a point; all relative to the focus.
 
 #include "render/projector.h"
 
@@ -17,7 +16,7 @@ namespace tessaly {
 
 namespace {
 
-constexpr int fullwalk = 299;  // steps into which a near-side walk divides a line
+constexpr int fullwalk = 299;  // steps of a line, by which a near end is moved until it is behind the picture plane
 constexpr double mappingscale = 15.2, mappingx = 730, mappingy = 490;  // viewport pixels
 
 // Eye, plane and focus as plain numbers, converted once per pass. Conversion fails for a text that is not a number.
@@ -41,21 +40,21 @@ sight takesight() {
 void hitplane(const sight& s, int p) {
     const double px = ptx[p], py = pty[p], pz = ptz[p];
     const double ex = s.ex, ey = s.ey, ez = s.ez, dx = s.dx, dy = s.dy, dz = s.dz;
-    const double t = ex * ex + ey * ey + ez * ez - ex * px - ey * py - ez * pz;
-    if (t == 0) throw failure(failurekind::divisionbyzero, "a sight line runs along the picture plane");
+    const double divisor = ex * ex + ey * ey + ez * ez - ex * px - ey * py - ez * pz;
+    if (divisor == 0) throw failure(failurekind::divisionbyzero, "a sight line runs along the picture plane");
     planex.set(p, ((ex * dx) * (ex - px) + (ey * ey) * px + (ez * ez) * px - (ey * px) * py - (ez * px) * pz +
                    (ey * dy) * (ex - px) + (ez * dz) * (ex - px) - (ey * py) * (ex - px) - (ez * pz) * (ex - px)) /
-                      t);
+                      divisor);
     planey.set(p, ((ey * dy) * (ey - py) + (ex * ex) * py + (ez * ez) * py - (ex * py) * px - (ez * py) * pz +
                    (ex * dx) * (ey - py) + (ez * dz) * (ey - py) - (ex * px) * (ey - py) - (ez * pz) * (ey - py)) /
-                      t);
+                      divisor);
     planez.set(p, ((ez * dz) * (ez - pz) + (ex * ex) * pz + (ey * ey) * pz - (ex * pz) * px - (ey * pz) * py +
                    (ex * dx) * (ez - pz) + (ey * dy) * (ez - pz) - (ex * px) * (ez - pz) - (ey * py) * (ez - pz)) /
-                      t);
+                      divisor);
 }
 
-// Projects point p onto the picture plane: its hit, then its distance, cosine, up and side from the centre of the
-// plane.
+// Projects point p onto the picture plane: sets its intersection with the plane, then planedist, planecos, planeup and
+// planeside, which are relative to the centre of the plane.
 void projectpoint(const sight& s, int p) {
     hitplane(s, p);
     const double hx = planex[p] - s.cx, hy = planey[p] - s.cy, hz = planez[p] - s.cz;
@@ -115,7 +114,7 @@ void mapend(int p, double scale, double shiftright, double shiftup) {
     screeny.set(p, ((scale * -mappingscale) * planeup[p] + mappingy) - shiftup);
 }
 
-// Returns a line end as a point index. A report names the row that contains it.
+// Returns a line end as a point index. Reports a bad one with the row that contains it.
 int lineend(const linetable& ends, int line, int end) {
     const value& number = ends[line];
     const double whole = nearestwhole(number);
@@ -208,7 +207,7 @@ void setplane() {
 
 void referencepass() {
     if (refready != 0) return;
-    projectpoint(takesight(), referencepoint);  // its hit is also the reference
+    projectpoint(takesight(), referencepoint);  // also sets the direction to which planecos refers
     refready = 1;
 }
 

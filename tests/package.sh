@@ -82,4 +82,4 @@ expectend 1
 packages --purge tessaly
 [ -z "$(find "$scratch/root/usr" ! -type d 2>/dev/null)" ] || fail "the package left files: $(find "$scratch/root/usr" ! -type d)"
 [ -f "$work/designs/girders1.txt" ] || fail "removing the package deleted the user's building"
-echo "$(basename "$package"): installed, started and removed. The working folder was left as it is."
+echo "$(basename "$package"): installed, started and removed. The working folder is unchanged."

@@ -15,7 +15,7 @@ constexpr int width = 31, height = 19;
 
 using pixels = std::vector<bool>;  // whether each is coloured
 
-// Returns the pixels of a line, computed from the end that is nearer to the corner. A mantissa of 64 bits makes this
+// Returns the pixels of a line, computed from the end that is nearer to pixel 0, 0. A mantissa of 64 bits makes this
 // exact for ends up to 2^29.
 pixels reference(float x1, float y1, float x2, float y2) {
     using number = long double;
@@ -44,7 +44,7 @@ pixels drawn(float x1, float y1, float x2, float y2) {
     return result;
 }
 
-// Returns a coordinate of any size that is drawn exactly, often with half a pixel.
+// Returns a coordinate of any size that is drawn exactly. Often it is a multiple of half a pixel.
 float anysize(randomnumbers& random) {
     if (random.oncein(4)) return static_cast<float>(random.whole(-40, 80)) / 2;
     return static_cast<float>(std::ldexp(random.within(1), random.whole(0, random.oncein(2) ? 12 : 29)));
@@ -63,8 +63,8 @@ TEST(raster, linesColourTheNearestPixels) {
     }
 }
 
-// A line with one end far away may differ in a pixel now and then. A line with two such ends draws anything but does
-// not crash, and a line with an end that is not finite draws nothing.
+// A line with one end far away may differ in a pixel now and then. A line with two such ends may draw any pixels, but
+// does not crash. A line with an end that is not finite draws nothing.
 TEST(raster, linesFromFarAway) {
     randomnumbers random;
     int differing = 0;
@@ -79,9 +79,9 @@ TEST(raster, linesFromFarAway) {
             drawn(x(far), y(far), other, y(far));
     }
     EXPECT_LT(differing, 5);
-    for (const float none : {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity()}) {
-        EXPECT_EQ(drawn(none, 1, 5, 5), pixels(width * height));
-        EXPECT_EQ(drawn(1, 1, 5, -none), pixels(width * height));
+    for (const float notfinite : {std::numeric_limits<float>::quiet_NaN(), std::numeric_limits<float>::infinity()}) {
+        EXPECT_EQ(drawn(notfinite, 1, 5, 5), pixels(width * height));
+        EXPECT_EQ(drawn(1, 1, 5, -notfinite), pixels(width * height));
     }
 }
 
@@ -90,20 +90,20 @@ TEST(raster, linesFromFarAway) {
 TEST(raster, facesColourThePixelsOfTheirLines) {
     randomnumbers random;
     for (int i = 0; i < 40000; ++i) {
-        double corners[8];
-        for (double& corner : corners)
-            corner = i == 0              ? 0  // all in the corner of the image
-                     : random.oncein(20) ? std::ldexp(random.within(1), 26)
-                     : random.oncein(2)  ? random.whole(-9, 60) / 2.0
-                                         : random.within(40);
+        double coordinates[8];
+        for (double& coordinate : coordinates)
+            coordinate = i == 0              ? 0  // all in the corner of the image
+                         : random.oncein(20) ? std::ldexp(random.within(1), 26)
+                         : random.oncein(2)  ? random.whole(-9, 60) / 2.0
+                                             : random.within(40);
         for (const std::size_t end : {2U, 3U, 6U, 7U}) {
             if (i == 0 || random.oncein(2)) continue;
-            corners[end] =
-                corners[end - 2] + std::ldexp(random.within(1), -random.whole(0, random.oncein(9) ? 1070 : 25));
-            if (random.oncein(2)) std::swap(corners[end], corners[end - 2]);
+            coordinates[end] =
+                coordinates[end - 2] + std::ldexp(random.within(1), -random.whole(0, random.oncein(9) ? 1070 : 25));
+            if (random.oncein(2)) std::swap(coordinates[end], coordinates[end - 2]);
         }
-        const facecorners f{corners[0], corners[1], corners[2], corners[3],
-                            corners[4], corners[5], corners[6], corners[7]};
+        const facecorners f{coordinates[0], coordinates[1], coordinates[2], coordinates[3],
+                            coordinates[4], coordinates[5], coordinates[6], coordinates[7]};
         const int divisions = random.whole(1, random.oncein(2) ? 300 : 20);
         raster fast(width, height), plain(width, height);
         fast.drawbetween(f, divisions, {255, 0, 0});

@@ -110,14 +110,14 @@ void shape::splitlines() {
 
 std::string shape::text() const {
     std::string out = title + "\n" + note + "\n";
-    out += "Seen from outside X runs to the right; the outside looks towards minus Y; Z is up.\n";
+    out += "Seen from outside, X runs to the right, Y away from the viewer and Z up.\n";
     out += "\nColours of the seven line groups, by palette entry\nWIRECOLORS:\n";
     out += formatted("%d, %d, %d, %d, %d, 0, 0\n\n", wirecolours[0], wirecolours[1], wirecolours[2], wirecolours[3],
                      wirecolours[4]);
     out += pointrows(*this) + linerows(*this);
     out += "No cubes\nAUTOCUBE400:\n9999, 0, 0, 0, 0, 0, 0, 0, 0\nAUTOCUBE600:\n9999, 0, 0, 0, 0, 0, 0, 0, 0\n\n";
     out += quadrows(*this);
-    out += "Framing lines on a face: face number; parts of its edge 1-2 (below: of its edge 1-3)\n";
+    out += "Framing lines of a face: face number; number of parts of its edge 1-2 (second section: 1-3)\n";
     out += framingrows(*this, "AUTOFRAMING1:", &quad::columns) + framingrows(*this, "AUTOFRAMING2:", &quad::rows);
     return out + "\nNothing is moved\nTRAN\nSTOP\n";
 }

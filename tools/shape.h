@@ -32,8 +32,8 @@ struct shape {
     void addline(int group, corner a, corner b);  // group 1..5; adds nothing if any group already has the line
     // Adds a quad with its corners in the painter's order, and its edges as lines of the group.
     void addface(int group, int colour, const std::array<corner, 4>& corners, int columns, int rows);
-    // Splits each line at the points on it, so that no two lines overlap. A part of lines of several groups becomes a
-    // line of the group with the lowest number.
+    // Splits each line at the points on it, so that no two lines overlap. Where lines of
+    // several groups overlap, the group with the lowest number gets the part.
     void splitlines();
 
     std::string text() const;  // returns the text of the element file

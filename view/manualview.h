@@ -18,9 +18,9 @@ void clickdefaultviewbtn();
 void clickhidpfm();
 void clickshopfm();
 
-// Draws the view and writes the nine boxes, for Default view and the start of the rotation, which set the eye relative
-// to the focus. reads: perpx.., focusx.., mag, vertshift, horizshift; writes: perprelx.., perpabsx.., perpsumx.. and as
-// projectdraw; fails: as projectdraw.
+// Draws the view and writes the nine boxes. Default view and the start of the rotation call it after they have set the
+// eye relative to the focus. reads: perpx.., focusx.., mag, vertshift, horizshift; writes: perprelx.., perpabsx..,
+// perpsumx.. and as projectdraw; fails: as projectdraw.
 void drawrelativeview();
 
 }  // namespace tessaly
