@@ -17,6 +17,15 @@ if ! { [ -d "$temporary" ] && [ -w "$temporary" ]; }; then
     exit 1
 fi
 
+# CMake cannot use a path that contains # or a double quote. Work through a symbolic link then.
+case $PWD in
+*[\#\"]*)
+    link=$temporary/tessaly-$(printf %s "$PWD" | cksum | cut -d ' ' -f 1)
+    ln -sfn "$PWD" "$link"
+    cd "$link"
+    ;;
+esac
+
 # wantpackages LIST...: installs missing packages. If it cannot, it reports what is needed and returns 1.
 # TESSALY_SKIP_SETUP=1 skips this, for systems whose tools were installed in another way.
 wantpackages() {
