@@ -67,6 +67,9 @@ void connectevents(QWidget* widget, control& c) {
 
 void createwindow(window& w, boundwindow& bound) {
     bound.frame = std::make_unique<windowframe>(w);
+    bound.frame->onactivation = [] { runevent([] {}); };  // the user may have edited files before returning
+    bound.frame->onclose = [&w] { runevent([&w] { closewindow(w); }); };
+    bound.frame->onescape = [&w] { runevent([&w] { pressescape(w, focusedcontrol(w)); }); };
     QWidget* const content = bound.frame->content();
     auto* const buttons = new QButtonGroup(content);  // in a group, arrow keys move the focus to the nearest button
     buttons->setExclusive(false);

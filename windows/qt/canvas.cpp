@@ -4,10 +4,10 @@
 
 #include "core/controls.h"
 #include "picturefiles/rasterview.h"
-#include "windows/qt/binding.h"
 
 #include <QElapsedTimer>
 #include <QPainter>
+#include <QPointer>
 
 #include <cmath>
 
@@ -15,6 +15,7 @@ namespace tessaly {
 
 namespace {
 
+QPointer<QWidget> strip;              // the widget of progressbar, while it exists
 constexpr qint64 flushinterval = 15;  // ms; repainting more often would only slow a replay
 
 // Repaints its widget at each flush. viewport, behind the strip, is repainted at the end of the event.
@@ -23,7 +24,6 @@ class progressraster : public raster {
     using raster::raster;
 
     void flush() override {
-        QWidget* const strip = widgetof(progressbar);
         if (!strip || (sinceflush.isValid() && sinceflush.elapsed() < flushinterval)) return;
         sinceflush.start();
         strip->setVisible(progressbar.shown);
@@ -39,6 +39,7 @@ class progressraster : public raster {
 
 canvas::canvas(const raster& itsimage, QWidget* parent) : QWidget(parent), image(itsimage) {
     setAttribute(Qt::WA_OpaquePaintEvent);
+    if (&image == &progressimage()) strip = this;
 }
 
 void canvas::paintEvent(QPaintEvent*) {

@@ -2,9 +2,7 @@
 
 #include "windows/qt/windowframe.h"
 
-#include "windows/handlers.h"
 #include "windows/qt/accessibility.h"
-#include "windows/qt/binding.h"
 #include "windows/qt/style.h"
 
 #include <QCloseEvent>
@@ -62,18 +60,17 @@ windowframe::windowframe(tessaly::window& itsdefinition) : definition(itsdefinit
 
 void windowframe::changeEvent(QEvent* event) {
     QScrollArea::changeEvent(event);
-    // The user may have edited files before returning to the window.
-    if (event->type() == QEvent::ActivationChange && isActiveWindow()) runevent([] {});
+    if (event->type() == QEvent::ActivationChange && isActiveWindow()) onactivation();
 }
 
 void windowframe::closeEvent(QCloseEvent* event) {
-    event->ignore();  // the next line hides the window
-    runevent([this] { closewindow(definition); });
+    event->ignore();  // onclose hides the window
+    onclose();
 }
 
 void windowframe::keyPressEvent(QKeyEvent* event) {
     if (event->key() == Qt::Key_Escape)
-        runevent([this] { pressescape(definition, focusedcontrol(definition)); });
+        onescape();
     else
         QScrollArea::keyPressEvent(event);
 }

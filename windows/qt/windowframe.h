@@ -18,6 +18,8 @@ class windowframe : public QScrollArea {
 
     // Paints the background of the content, in content coordinates; may be empty.
     std::function<void(QPainter&)> paintbackground;
+    // Run when the user returns to the window, closes it, or presses Escape in it.
+    std::function<void()> onactivation, onclose, onescape;
     // Updates what depends on files or on state outside the window's controls. Called at the end of each event while
     // the window is shown, before its controls are copied to the widgets; may be empty.
     std::function<void()> refreshcontent;
