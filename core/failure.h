@@ -26,7 +26,7 @@ std::string_view kindname(failurekind kind);
 
 class failure : public std::exception {
   public:
-    // An empty remedy stands for the usual remedy of the kind.
+    // If the remedy is empty, the report gives the usual one of the kind.
     failure(failurekind itskind, std::string itsdetail, std::string itslocation = {}, std::string itsremedy = {});
 
     // Sets the location if it is empty.
